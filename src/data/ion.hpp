@@ -1,0 +1,57 @@
+#pragma once
+
+#include <string>
+
+// A common ion: a row of `ion`, or one built by hand.
+class Ion
+{
+public:
+    // English, as the questions print it: "iron(III)", "sulphate".
+    std::string name;
+    // True for an anion.
+    bool negative = false;
+    // Without charge and brackets: "Fe", "SO4".
+    std::string formula;
+    // Size of the charge, 1 to 3 in the table; the sign is `negative`.
+    short charge = 1;
+    // A group of atoms, which takes brackets where it occurs more than once.
+    bool polyatomic = false;
+    // First word of the acid's name, "sulphuric"; empty where no acid is asked about.
+    std::string acidName;
+
+    Ion() = default;
+
+    // The order of the arguments is not the order of the fields: the formula comes second.
+    Ion(std::string ionName, std::string ionFormula, bool isNegative, short chargeSize,
+        bool isPolyatomic, std::string nameOfAcid);
+
+    // How often this ion occurs in the neutral compound with `partner`: the partner's charge
+    // crossed over, 1 for equal charges. Kept: only 2 and 3 cross over, and a charge of 4 against
+    // 2 is reduced to 1; partners of any other charge give 1.
+    //   aluminium.getSubscript(oxide) -> 2    oxide.getSubscript(aluminium) -> 3
+    int getSubscript(Ion partner) const;
+
+    // The formula with the charge: "Na+", "SO42-". Charges other than 2 and 3 write no digit.
+    std::string makeFormula() const;
+
+    // Grades a typed formula of this ion with its charge; see grading/grading.hpp.
+    int getResponse(std::string answer) const;
+};
+
+// The neutral compound of two ions, normally the cation first. No signs, no blanks.
+//   sodium, chloride -> "NaCl"    aluminium, sulphate -> "Al2(SO4)3"    ammonium, oxide ->
+//   "(NH4)2O"
+std::string makeFormula(Ion first, Ion second);
+
+// Appends the 39 compiled-in ions to `ion`, whatever it already holds.
+void initIons();
+
+// A row of `ion` by one `rand()` value, which is drawn again while it is a multiple of the number
+// of rows. Every row but the last one can come. Fills an empty table first, as do the two below.
+Ion randomIon();
+
+// The first anion that `randomIon` gives: any of the 13 before bicarbonate.
+Ion randomNeg();
+
+// The first cation that `randomIon` gives: any of the 25.
+Ion randomPos();
