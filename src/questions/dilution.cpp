@@ -1,0 +1,169 @@
+#include "questions/dilution.hpp"
+
+#include <cstdlib>
+#include <iomanip>
+#include <sstream>
+
+#include "questions/acid_base.hpp"
+#include "questions/quantities.hpp"
+
+using std::setprecision;
+
+namespace
+{
+
+// Kept: `random` never gives 1 for these bounds, so that the second choice never comes.
+bool drawSecondChoice()
+{
+    return random(0, 1) > 0.5f;
+}
+
+bool isHydrate(const Soluble& compound)
+{
+    return compound.name.substr(compound.name.size() - 7) == "hydrate";
+}
+
+std::string drawSubstance()
+{
+    if (drawSecondChoice()) {
+        const Ion acidAnion = drawAcidAnion();
+        return acidDesignation(acidAnion, drawSecondChoice());
+    }
+    const Soluble compound = drawAnhydrousCompound();
+    return compoundDesignation(compound, drawSecondChoice());
+}
+
+// The products are taken in double precision but for C1, and then rounded to single.
+Dilution drawDilution()
+{
+    Dilution dilution;
+    dilution.substance = drawSubstance();
+    dilution.V1 = static_cast<float>(static_cast<double>(random(1, 50)) * 0.01);
+    const float steps = random(leastFinalVolume(dilution.V1), 40);
+    dilution.V2 = static_cast<float>(static_cast<double>(steps) * 0.05);
+    dilution.C1 = random(1, 60) * 0.1f;
+    dilution.C2 = dilution.C1 * dilution.V1 / dilution.V2;
+    return dilution;
+}
+
+std::string volume(float litres)
+{
+    return volumeFormat(litres, 3);
+}
+
+} // namespace
+
+QandA dilutionQuestion()
+{
+    const Dilution dilution = drawDilution();
+    const int draw = std::rand();
+    // Kept: all three thresholds are 0 and no draw is below, so that the last variant always comes.
+    if (draw < 0) {
+        return newConcentration(dilution);
+    }
+    if (draw < 0) {
+        return volumeToDilute(dilution);
+    }
+    if (draw < 0) {
+        return originalConcentration(dilution);
+    }
+    return waterToAdd(dilution);
+}
+
+QandA newConcentration(const Dilution& dilution)
+{
+    const auto& [substance, V1, V2, C1, C2] = dilution;
+
+    std::ostringstream question;
+    question << setprecision(3);
+    question << volume(V1) << " of " << C1 << " mol/L " << substance << " is added to "
+             << volume(V2 - V1) << " of water. What is the new concentration?\n";
+
+    std::ostringstream answer;
+    answer << setprecision(3);
+    answer << "V1 = " << V1 << " L   C1 = " << C1 << " mol/L   V2 = " << V1 << " + " << V2 - V1
+           << " = " << V2 << " L   C2 = ?\n";
+    answer << "C1V1 = C2V2\n";
+    answer << "C2 = C1V1/V2 = " << C1 << "x" << V1 << "/" << V2 << " = " << C2 << " mol/L\n";
+    return {question.str(), answer.str()};
+}
+
+QandA volumeToDilute(const Dilution& dilution)
+{
+    const auto& [substance, V1, V2, C1, C2] = dilution;
+
+    std::ostringstream question;
+    question << setprecision(3);
+    question << "How much " << C1 << " mol/L " << substance
+             << " needs to be diluted (added to water) to make " << volume(V2) << " of " << C2
+             << " mol/L " << substance << "?\n";
+
+    std::ostringstream answer;
+    answer << setprecision(3);
+    answer << "V1 = ?   C1 = " << C1 << " mol/L   V2 = " << V2 << " L   C2 = " << C2 << " mol/L\n";
+    answer << "C1V1 = C2V2\n";
+    answer << "V1 = C2V2/C1 = " << C2 << "x" << V2 << "/" << C1 << " = " << V1 << " L\n";
+    return {question.str(), answer.str()};
+}
+
+QandA originalConcentration(const Dilution& dilution)
+{
+    const auto& [substance, V1, V2, C1, C2] = dilution;
+
+    std::ostringstream question;
+    question << setprecision(3);
+    question << "What was the original concentration of " << substance << " if there was "
+             << volume(V1) << " before dilution and " << volume(V2) << " of " << C2 << " mol/L "
+             << substance << " afterwards?\n";
+
+    std::ostringstream answer;
+    answer << setprecision(3);
+    // Kept: the line tells C1 although it is asked for, and does not tell C2.
+    answer << "C1 = " << C1 << " mol/L   V1 = " << V1 << " L   V2 = " << V2 << " L   C1 = ?\n";
+    answer << "C1V1 = C2V2\n";
+    answer << "C1 = C2V2/V1 = " << C2 << "x" << V2 << "/" << V1 << " = " << C1 << " mol/L\n";
+    return {question.str(), answer.str()};
+}
+
+QandA waterToAdd(const Dilution& dilution)
+{
+    const auto& [substance, V1, V2, C1, C2] = dilution;
+
+    std::ostringstream question;
+    question << setprecision(3);
+    question << "To dilute " << volume(V1) << " of " << C1 << " mol/L " << substance << " to " << C2
+             << " mol/L, how much water does it need to be added to?\n";
+
+    std::ostringstream answer;
+    answer << setprecision(3);
+    answer << "V1 = " << V1 << " L   C1 = " << C1 << " mol/L   C2 = " << C2 << " mol/L   V2 = ?\n";
+    answer << "C1V1 = C2V2\n";
+    answer << "V2 = C1V1/C2 = " << C1 << "x" << V1 << "/" << C2 << " = " << V2 << " L\n";
+    answer << "V2 - V1 = " << V2 << " - " << V1 << " = " << V2 - V1 << " L\n";
+    answer << "So add it to " << V2 - V1 << " L of water\n";
+    return {question.str(), answer.str()};
+}
+
+std::string acidDesignation(const Ion& acidAnion, bool byName)
+{
+    return byName ? acidName(acidAnion) : acidFormula(acidAnion);
+}
+
+std::string compoundDesignation(const Soluble& compound, bool byName)
+{
+    return byName ? compound.name : compound.formula;
+}
+
+Soluble drawAnhydrousCompound()
+{
+    Soluble drawn = randomSoluble();
+    while (isHydrate(drawn)) {
+        drawn = randomSoluble();
+    }
+    return drawn;
+}
+
+int leastFinalVolume(float V1)
+{
+    return static_cast<int>(1.0f + V1 * 20.0f);
+}
