@@ -1,0 +1,124 @@
+#include "questions/titration.hpp"
+
+#include <cstdlib>
+#include <iomanip>
+#include <sstream>
+#include <utility>
+
+#include "chem/balance.hpp"
+#include "questions/quantities.hpp"
+
+using std::setprecision;
+
+namespace
+{
+
+struct Solution {
+    std::string name;
+    std::string formula;
+    float volume; // L
+};
+
+struct Titration {
+    Solution known;
+    Solution unknown;
+    float concentration; // of the known solution, mol/L
+    std::string verb;    // what the unknown solution does or suffers
+};
+
+// In L.
+float drawAliquot()
+{
+    return std::rand() < quarterOfDraws ? 0.025f : 0.02f;
+}
+
+// In L, multiplied in double precision; 500 to 4000 stand for 5 to 40 mL.
+float drawTitre()
+{
+    return static_cast<float>(static_cast<double>(random(500, 4000)) * 0.00001);
+}
+
+// In mol/L; 1 to 100 stand for 0.01 to 1 mol/L.
+float drawConcentration()
+{
+    return 0.01f * random(1, 100);
+}
+
+Titration drawTitration(const AcidAndBase& pair)
+{
+    const float aliquot = drawAliquot();
+    const float titre = drawTitre();
+    const float concentration = drawConcentration();
+    const bool baseIsKnown = std::rand() < halfOfDraws;
+    const bool titreIsUnknown = std::rand() < halfOfDraws;
+
+    Titration titration = {{acidName(pair.acidAnion), acidFormula(pair.acidAnion), titre},
+                           {baseName(pair), baseFormula(pair), aliquot},
+                           concentration,
+                           " of it is neutralised by "};
+    if (baseIsKnown) {
+        std::swap(titration.known.name, titration.unknown.name);
+        std::swap(titration.known.formula, titration.unknown.formula);
+    }
+    if (titreIsUnknown) {
+        std::swap(titration.known.volume, titration.unknown.volume);
+        titration.verb = " of it neutralises ";
+    }
+    return titration;
+}
+
+std::string questionText(const Titration& titration)
+{
+    const Solution& known = titration.known;
+    const Solution& unknown = titration.unknown;
+    std::ostringstream text;
+    text << "Calculate the concentration of " << unknown.name << " if "
+         << volumeFormat(unknown.volume, 3) << titration.verb << volumeFormat(known.volume, 3)
+         << " of " << titration.concentration << " mol/L " << known.name << ".\n";
+    return text.str();
+}
+
+std::string answerText(const Titration& titration, const AcidAndBase& pair)
+{
+    const std::string& known = titration.known.formula;
+    const std::string& unknown = titration.unknown.formula;
+    const float knownV = titration.known.volume;
+    const float unknownV = titration.unknown.volume;
+    const float knownC = titration.concentration;
+    const float knownN = knownC * knownV;
+    const std::string equation =
+        equationLine(pair, "Computer had trouble with balancing, answer may be wrong.");
+    // Kept: base over acid whichever of them is known. Where the acid is the unknown and the
+    // coefficients differ, its amount comes out inverted.
+    const float unknownN = static_cast<float>(nbase) * knownN / static_cast<float>(nacid);
+    const float unknownC = unknownN / unknownV;
+
+    std::ostringstream text;
+    text << setprecision(3);
+    text << "Solution of known concentration is " << known << ", unknown is " << unknown << "\n";
+    text << "V(" << unknown << ") = " << unknownV << " L   V(" << known << ") = " << knownV
+         << " L   C(" << known << ") = " << knownC << " mol/L   C(" << unknown << ") = ?\n";
+    text << "n(" << known << ") = C(" << known << ") x V(" << known << ") = " << knownC << "x"
+         << knownV << " = " << knownN << " mol\n";
+    text << equation;
+    text << "Mole ratio n(" << acidFormula(pair.acidAnion) << ") : n(" << baseFormula(pair)
+         << ")  is " << nacid << ":" << nbase << "\n";
+    text << "n(" << unknown << ") = " << knownN << " x " << nbase << "/" << nacid << " = "
+         << unknownN << " mol\n";
+    text << "C(" << unknown << ") = n(" << unknown << ") / V(" << unknown << ") = " << unknownN
+         << " / " << unknownV << " = " << unknownC << " mol/L\n";
+    return text.str();
+}
+
+} // namespace
+
+QandA titrationQuestion()
+{
+    return titrationQuestion(drawAcidAndBase());
+}
+
+QandA titrationQuestion(const AcidAndBase& pair)
+{
+    const Titration titration = drawTitration(pair);
+    return {questionText(titration), answerText(titration, pair)};
+}
