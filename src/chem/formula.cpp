@@ -1,5 +1,6 @@
 #include "chem/formula.hpp"
 
+#include <cctype>
 #include <cstdlib>
 #include <iostream>
 #include <vector>
@@ -61,11 +62,20 @@ float readCount(const std::string& text, std::size_t& at)
     return count;
 }
 
+bool isLowerCase(char c)
+{
+    return std::islower(static_cast<unsigned char>(c)) != 0;
+}
+
 // The mass of the element at `at` times its count; `at` moves past both.
 float readElement(const std::string& formula, std::size_t& at)
 {
-    std::string symbol = formula.substr(at, 2);
-    float mass = getAtomicMass(symbol);
+    std::string symbol = formula.substr(at, 1);
+    float mass = 0.0f;
+    if (isLowerCase(formula[at + 1])) { // Nothing else can be the second letter of a symbol.
+        symbol += formula[at + 1];
+        mass = getAtomicMass(symbol);
+    }
     if (mass == 0.0f) {
         symbol.resize(1);
         mass = getAtomicMass(symbol);

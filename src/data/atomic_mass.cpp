@@ -153,6 +153,7 @@ bool atomicMass::operator==(const atomicMass& other) const
 
 void initMasses()
 {
+    aMasses.reserve(aMasses.size() + std::size(elementRows));
     for (const ElementRow& row : elementRows) {
         aMasses.push_back(atomicMass(row.symbol, row.mass));
     }

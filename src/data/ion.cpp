@@ -98,19 +98,27 @@ std::string share(const Ion& own, const Ion& partner)
     return (bracketed ? "(" + own.formula + ")" : own.formula) + digit(partner.charge);
 }
 
-Ion drawWithSign(bool negative)
-{
-    Ion drawn = randomIon();
-    while (drawn.negative != negative) {
-        drawn = randomIon();
-    }
-    return drawn;
-}
-
-void fillIfEmpty()
+// The row that a draw gives. Kept: a remainder of 0 is drawn again and a remainder of 1 is the
+// first row, so that the last row never comes.
+const Ion& drawRow()
 {
     if (ion.empty()) {
         initIons();
+    }
+    std::size_t row = 0;
+    while (row == 0) {
+        row = static_cast<std::size_t>(std::rand()) % ion.size();
+    }
+    return ion[row - 1];
+}
+
+Ion drawWithSign(bool negative)
+{
+    for (;;) {
+        const Ion& drawn = drawRow();
+        if (drawn.negative == negative) {
+            return drawn;
+        }
     }
 }
 
@@ -157,14 +165,7 @@ void initIons()
 
 Ion randomIon()
 {
-    fillIfEmpty();
-    // Kept: a remainder of 0 is drawn again and remainder 1 is the first row, so the last row never
-    // comes.
-    std::size_t row = 0;
-    while (row == 0) {
-        row = static_cast<std::size_t>(std::rand()) % ion.size();
-    }
-    return ion[row - 1];
+    return drawRow();
 }
 
 Ion randomNeg()

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
 #include "chem/balance.hpp"
 
@@ -10,7 +11,7 @@ namespace
 
 bool isBaseAnion(const Ion& candidate)
 {
-    const char* const names[] = {"hydroxide", "carbonate", "oxide", "bicarbonate"};
+    constexpr std::string_view names[] = {"hydroxide", "carbonate", "oxide", "bicarbonate"};
     return std::find(std::begin(names), std::end(names), candidate.name) != std::end(names);
 }
 
@@ -29,12 +30,29 @@ std::string unlessOne(int number)
     return number > 1 ? std::to_string(number) : "";
 }
 
-std::string term(int coefficient, const std::string& formula)
+} // namespace
+
+Neutralisation neutralisationOf(const Ion& acidAnion, const Ion& baseCation, const Ion& baseAnion)
 {
-    return unlessOne(coefficient) + formula;
+    Neutralisation reaction;
+    reaction.acidAnion = acidAnion;
+    reaction.baseCation = baseCation;
+    reaction.baseAnion = baseAnion;
+    reaction.acidName = acidNameOf(acidAnion);
+    reaction.acidFormula = acidFormulaOf(acidAnion);
+    reaction.baseName = baseCation.name + " " + baseAnion.name;
+    reaction.baseFormula = makeFormula(baseCation, baseAnion);
+    reaction.saltFormula = makeFormula(baseCation, acidAnion);
+    return reaction;
 }
 
-} // namespace
+Neutralisation drawNeutralisation()
+{
+    const Ion acidAnion = drawAcidAnion();
+    const Ion baseCation = randomPos();
+    const Ion baseAnion = drawBaseAnion();
+    return neutralisationOf(acidAnion, baseCation, baseAnion);
+}
 
 Ion drawAcidAnion()
 {
@@ -45,46 +63,27 @@ Ion drawAcidAnion()
     return drawn;
 }
 
-AcidAndBase drawAcidAndBase()
-{
-    AcidAndBase pair;
-    pair.acidAnion = drawAcidAnion();
-    pair.baseCation = randomPos();
-    pair.baseAnion = drawBaseAnion();
-    return pair;
-}
-
-std::string acidName(const Ion& acidAnion)
+std::string acidNameOf(const Ion& acidAnion)
 {
     return acidAnion.acidName + " acid";
 }
 
-std::string acidFormula(const Ion& acidAnion)
+std::string acidFormulaOf(const Ion& acidAnion)
 {
     return "H" + unlessOne(acidAnion.charge) + acidAnion.formula;
 }
 
-std::string baseName(const AcidAndBase& pair)
+void writeEquation(Text& text, const Neutralisation& reaction, std::string_view excuse)
 {
-    return pair.baseCation.name + " " + pair.baseAnion.name;
-}
-
-std::string baseFormula(const AcidAndBase& pair)
-{
-    return makeFormula(pair.baseCation, pair.baseAnion);
-}
-
-std::string equationLine(const AcidAndBase& pair, const std::string& excuse)
-{
-    if (!balance(pair.acidAnion, pair.baseCation, pair.baseAnion)) {
-        return excuse + "\n";
+    if (!balance(reaction.acidAnion, reaction.baseCation, reaction.baseAnion)) {
+        text << excuse << "\n";
+        return;
     }
-    const std::string saltFormula = makeFormula(pair.baseCation, pair.acidAnion);
-    std::string line = term(nacid, acidFormula(pair.acidAnion)) + " + " +
-                       term(nbase, baseFormula(pair)) + " -> " + term(nsalt, saltFormula) + " + " +
-                       term(nH2O, "H2O");
+    text << unlessOne(nacid) << reaction.acidFormula << " + " << unlessOne(nbase)
+         << reaction.baseFormula << " -> " << unlessOne(nsalt) << reaction.saltFormula << " + "
+         << unlessOne(nH2O) << "H2O";
     if (nCO2 > 0) {
-        line += " + " + term(nCO2, "CO2");
+        text << " + " << unlessOne(nCO2) << "CO2";
     }
-    return line + "\n";
+    text << "\n";
 }

@@ -1,35 +1,43 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "data/ion.hpp"
+#include "questions/text.hpp"
 
 // What the questions about an acid and a base share.
 
-// An acid, told by its anion, and the base that it reacts with.
-struct AcidAndBase {
+// An acid and a base that neutralise each other.
+struct Neutralisation {
     Ion acidAnion;
     Ion baseCation;
     Ion baseAnion;
+    std::string acidName;    // "sulphuric acid"
+    std::string acidFormula; // "H2SO4"
+    std::string baseName;    // "iron(III) hydroxide"
+    std::string baseFormula; // "Fe(OH)3"
+    std::string saltFormula; // "Fe2(SO4)3"
 };
 
-// An anion whose acid has a name: the first such one of repeated `randomNeg` draws.
-Ion drawAcidAnion();
+// Names and formulas for the three ions.
+Neutralisation neutralisationOf(const Ion& acidAnion, const Ion& baseCation, const Ion& baseAnion);
 
 // Draws the acid anion, the base cation and the base anion, in this order. The base anion is the
 // first hydroxide, carbonate, oxide or bicarbonate of repeated `randomNeg` draws, which never give
 // the last one.
-AcidAndBase drawAcidAndBase();
+Neutralisation drawNeutralisation();
 
-// "hydrochloric acid", "H2SO4"; no brackets, whatever the anion.
-std::string acidName(const Ion& acidAnion);
-std::string acidFormula(const Ion& acidAnion);
+// An anion whose acid has a name: the first such one of repeated `randomNeg` draws.
+Ion drawAcidAnion();
 
-// "iron(III) hydroxide", "Fe(OH)3".
-std::string baseName(const AcidAndBase& pair);
-std::string baseFormula(const AcidAndBase& pair);
+// "nitric acid".
+std::string acidNameOf(const Ion& acidAnion);
 
-// Balances the reaction, which leaves its coefficients in the five globals of `balance`, and writes
-// it as a line: "2HCl + Na2CO3 -> 2NaCl + H2O + CO2\n". A coefficient of 1 is not written. If the
-// reaction cannot be balanced the line is `excuse`.
-std::string equationLine(const AcidAndBase& pair, const std::string& excuse);
+// "HNO3", "H2SO4"; no brackets, whatever the anion.
+std::string acidFormulaOf(const Ion& acidAnion);
+
+// Balances the reaction, which leaves its coefficients in the five globals of `balance`, and puts
+// it into the text as a line: "2HCl + Na2CO3 -> 2NaCl + H2O + CO2\n". A coefficient of 1 is not
+// written. If the reaction cannot be balanced the line is `excuse`.
+void writeEquation(Text& text, const Neutralisation& reaction, std::string_view excuse);

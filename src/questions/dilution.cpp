@@ -1,13 +1,11 @@
 #include "questions/dilution.hpp"
 
 #include <cstdlib>
-#include <iomanip>
-#include <sstream>
+#include <utility>
 
 #include "questions/acid_base.hpp"
 #include "questions/quantities.hpp"
-
-using std::setprecision;
+#include "questions/text.hpp"
 
 namespace
 {
@@ -74,79 +72,79 @@ QandA newConcentration(const Dilution& dilution)
 {
     const auto& [substance, V1, V2, C1, C2] = dilution;
 
-    std::ostringstream question;
-    question << setprecision(3);
+    Text question;
+    question << Digits{3};
     question << volume(V1) << " of " << C1 << " mol/L " << substance << " is added to "
              << volume(V2 - V1) << " of water. What is the new concentration?\n";
 
-    std::ostringstream answer;
-    answer << setprecision(3);
+    Text answer;
+    answer << Digits{3};
     answer << "V1 = " << V1 << " L   C1 = " << C1 << " mol/L   V2 = " << V1 << " + " << V2 - V1
            << " = " << V2 << " L   C2 = ?\n";
     answer << "C1V1 = C2V2\n";
     answer << "C2 = C1V1/V2 = " << C1 << "x" << V1 << "/" << V2 << " = " << C2 << " mol/L\n";
-    return {question.str(), answer.str()};
+    return {std::move(question.str), std::move(answer.str)};
 }
 
 QandA volumeToDilute(const Dilution& dilution)
 {
     const auto& [substance, V1, V2, C1, C2] = dilution;
 
-    std::ostringstream question;
-    question << setprecision(3);
+    Text question;
+    question << Digits{3};
     question << "How much " << C1 << " mol/L " << substance
              << " needs to be diluted (added to water) to make " << volume(V2) << " of " << C2
              << " mol/L " << substance << "?\n";
 
-    std::ostringstream answer;
-    answer << setprecision(3);
+    Text answer;
+    answer << Digits{3};
     answer << "V1 = ?   C1 = " << C1 << " mol/L   V2 = " << V2 << " L   C2 = " << C2 << " mol/L\n";
     answer << "C1V1 = C2V2\n";
     answer << "V1 = C2V2/C1 = " << C2 << "x" << V2 << "/" << C1 << " = " << V1 << " L\n";
-    return {question.str(), answer.str()};
+    return {std::move(question.str), std::move(answer.str)};
 }
 
 QandA originalConcentration(const Dilution& dilution)
 {
     const auto& [substance, V1, V2, C1, C2] = dilution;
 
-    std::ostringstream question;
-    question << setprecision(3);
+    Text question;
+    question << Digits{3};
     question << "What was the original concentration of " << substance << " if there was "
              << volume(V1) << " before dilution and " << volume(V2) << " of " << C2 << " mol/L "
              << substance << " afterwards?\n";
 
-    std::ostringstream answer;
-    answer << setprecision(3);
+    Text answer;
+    answer << Digits{3};
     // Kept: the line tells C1 although it is asked for, and does not tell C2.
     answer << "C1 = " << C1 << " mol/L   V1 = " << V1 << " L   V2 = " << V2 << " L   C1 = ?\n";
     answer << "C1V1 = C2V2\n";
     answer << "C1 = C2V2/V1 = " << C2 << "x" << V2 << "/" << V1 << " = " << C1 << " mol/L\n";
-    return {question.str(), answer.str()};
+    return {std::move(question.str), std::move(answer.str)};
 }
 
 QandA waterToAdd(const Dilution& dilution)
 {
     const auto& [substance, V1, V2, C1, C2] = dilution;
 
-    std::ostringstream question;
-    question << setprecision(3);
+    Text question;
+    question << Digits{3};
     question << "To dilute " << volume(V1) << " of " << C1 << " mol/L " << substance << " to " << C2
              << " mol/L, how much water does it need to be added to?\n";
 
-    std::ostringstream answer;
-    answer << setprecision(3);
+    Text answer;
+    answer << Digits{3};
     answer << "V1 = " << V1 << " L   C1 = " << C1 << " mol/L   C2 = " << C2 << " mol/L   V2 = ?\n";
     answer << "C1V1 = C2V2\n";
     answer << "V2 = C1V1/C2 = " << C1 << "x" << V1 << "/" << C2 << " = " << V2 << " L\n";
     answer << "V2 - V1 = " << V2 << " - " << V1 << " = " << V2 - V1 << " L\n";
     answer << "So add it to " << V2 - V1 << " L of water\n";
-    return {question.str(), answer.str()};
+    return {std::move(question.str), std::move(answer.str)};
 }
 
 std::string acidDesignation(const Ion& acidAnion, bool byName)
 {
-    return byName ? acidName(acidAnion) : acidFormula(acidAnion);
+    return byName ? acidNameOf(acidAnion) : acidFormulaOf(acidAnion);
 }
 
 std::string compoundDesignation(const Soluble& compound, bool byName)

@@ -1,12 +1,10 @@
 #include "questions/mass_concentration.hpp"
 
 #include <cstdlib>
-#include <iomanip>
-#include <sstream>
+#include <utility>
 
 #include "questions/quantities.hpp"
-
-using std::setprecision;
+#include "questions/text.hpp"
 
 namespace
 {
@@ -41,17 +39,17 @@ QandA concentrationFromMass(const Soluble& compound)
     const float n = m / M;
     const float C = n / V;
 
-    std::ostringstream question;
+    Text question;
     question << "Calculate the concentration (in mol/L) if " << m << " g of " << compound.name
              << " is dissolved in " << millilitres << " mL of water.\n";
 
-    std::ostringstream answer;
+    Text answer;
     answer << "m = " << m << " g   V = " << V << " L   C = ?\n";
     answer << "Formula is " << compound.formula << "  so M = " << M << " g/mol\n";
-    answer << setprecision(3);
+    answer << Digits{3};
     answer << "n = m/M = " << m << "/" << M << " = " << n << " mol\n";
     answer << "C = n/V = " << n << "/" << V << " = " << C << " mol/L\n";
-    return {question.str(), answer.str()};
+    return {std::move(question.str), std::move(answer.str)};
 }
 
 QandA massForConcentration(const Soluble& compound)
@@ -63,16 +61,15 @@ QandA massForConcentration(const Soluble& compound)
     const float C = n / V;
     const float millilitres = V * 1000.0f;
 
-    std::ostringstream question;
+    Text question;
     question << "Calculate the mass (in g) of " << compound.name << " needed to make up "
-             << millilitres << " mL of " << setprecision(2) << C << " mol/L solution.\n";
+             << millilitres << " mL of " << Digits{2} << C << " mol/L solution.\n";
 
-    std::ostringstream answer;
-    answer << "m = ?   V = " << V << " L   C = " << setprecision(2) << C << " mol/L\n";
-    answer << "n = CV = " << C << "x" << setprecision(3) << V << " = " << n << " mol\n";
-    answer << "Formula is " << compound.formula << "  so M = " << setprecision(4) << M
-           << " g/mol\n";
-    answer << "m = nM = " << setprecision(3) << n << "x" << setprecision(4) << M << " = "
-           << setprecision(3) << m << " g\n";
-    return {question.str(), answer.str()};
+    Text answer;
+    answer << "m = ?   V = " << V << " L   C = " << Digits{2} << C << " mol/L\n";
+    answer << "n = CV = " << C << "x" << Digits{3} << V << " = " << n << " mol\n";
+    answer << "Formula is " << compound.formula << "  so M = " << Digits{4} << M << " g/mol\n";
+    answer << "m = nM = " << Digits{3} << n << "x" << Digits{4} << M << " = " << Digits{3} << m
+           << " g\n";
+    return {std::move(question.str), std::move(answer.str)};
 }

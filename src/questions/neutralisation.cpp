@@ -1,15 +1,19 @@
 #include "questions/neutralisation.hpp"
 
+#include <utility>
+
 QandA neutralisationQuestion()
 {
-    return neutralisationQuestion(drawAcidAndBase());
+    return neutralisationQuestion(drawNeutralisation());
 }
 
-QandA neutralisationQuestion(const AcidAndBase& pair)
+QandA neutralisationQuestion(const Neutralisation& reaction)
 {
-    QandA result;
-    result.question = "Write a balanced equation for " + acidName(pair.acidAnion) + " plus " +
-                      baseName(pair) + ".\n";
-    result.answer = equationLine(pair, "Computer does not have the answer for this question.");
-    return result;
+    Text question;
+    question << "Write a balanced equation for " << reaction.acidName << " plus "
+             << reaction.baseName << ".\n";
+
+    Text answer;
+    writeEquation(answer, reaction, "Computer does not have the answer for this question.");
+    return {std::move(question.str), std::move(answer.str)};
 }

@@ -6,5 +6,5 @@
 // Asks for the balanced equation of an acid and a base that it draws.
 QandA neutralisationQuestion();
 
-// The same for a given pair. A pair that cannot be balanced has an apology for its answer.
-QandA neutralisationQuestion(const AcidAndBase& pair);
+// The same for a given reaction. One that cannot be balanced has an apology for its answer.
+QandA neutralisationQuestion(const Neutralisation& reaction);

@@ -2,10 +2,9 @@
 
 #include <cstdint>
 #include <cstdlib>
-#include <iomanip>
-#include <sstream>
 
 #include "data/platform.hpp"
+#include "questions/text.hpp"
 
 float random(int low, int high)
 {
@@ -18,12 +17,12 @@ float random(int low, int high)
 
 std::string volumeFormat(float litres, unsigned int precision)
 {
-    std::ostringstream text;
-    text << std::setprecision(static_cast<int>(precision));
+    Text text;
+    text << Digits{static_cast<int>(precision)};
     if (litres <= 1.0f) {
         text << litres * 1000.0f << " mL";
     } else {
         text << litres << " L";
     }
-    return text.str();
+    return text.str;
 }

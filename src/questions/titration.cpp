@@ -1,14 +1,11 @@
 #include "questions/titration.hpp"
 
 #include <cstdlib>
-#include <iomanip>
-#include <sstream>
 #include <utility>
 
 #include "chem/balance.hpp"
 #include "questions/quantities.hpp"
-
-using std::setprecision;
+#include "questions/text.hpp"
 
 namespace
 {
@@ -44,7 +41,7 @@ float drawConcentration()
     return 0.01f * random(1, 100);
 }
 
-Titration drawTitration(const AcidAndBase& pair)
+Titration drawTitration(const Neutralisation& reaction)
 {
     const float aliquot = drawAliquot();
     const float titre = drawTitre();
@@ -52,8 +49,8 @@ Titration drawTitration(const AcidAndBase& pair)
     const bool baseIsKnown = std::rand() < halfOfDraws;
     const bool titreIsUnknown = std::rand() < halfOfDraws;
 
-    Titration titration = {{acidName(pair.acidAnion), acidFormula(pair.acidAnion), titre},
-                           {baseName(pair), baseFormula(pair), aliquot},
+    Titration titration = {{reaction.acidName, reaction.acidFormula, titre},
+                           {reaction.baseName, reaction.baseFormula, aliquot},
                            concentration,
                            " of it is neutralised by "};
     if (baseIsKnown) {
@@ -71,14 +68,14 @@ std::string questionText(const Titration& titration)
 {
     const Solution& known = titration.known;
     const Solution& unknown = titration.unknown;
-    std::ostringstream text;
+    Text text;
     text << "Calculate the concentration of " << unknown.name << " if "
          << volumeFormat(unknown.volume, 3) << titration.verb << volumeFormat(known.volume, 3)
          << " of " << titration.concentration << " mol/L " << known.name << ".\n";
-    return text.str();
+    return text.str;
 }
 
-std::string answerText(const Titration& titration, const AcidAndBase& pair)
+std::string answerText(const Titration& titration, const Neutralisation& reaction)
 {
     const std::string& known = titration.known.formula;
     const std::string& unknown = titration.unknown.formula;
@@ -86,39 +83,38 @@ std::string answerText(const Titration& titration, const AcidAndBase& pair)
     const float unknownV = titration.unknown.volume;
     const float knownC = titration.concentration;
     const float knownN = knownC * knownV;
-    const std::string equation =
-        equationLine(pair, "Computer had trouble with balancing, answer may be wrong.");
-    // Kept: base over acid whichever of them is known. Where the acid is the unknown and the
-    // coefficients differ, its amount comes out inverted.
-    const float unknownN = static_cast<float>(nbase) * knownN / static_cast<float>(nacid);
-    const float unknownC = unknownN / unknownV;
 
-    std::ostringstream text;
-    text << setprecision(3);
+    Text text;
+    text << Digits{3};
     text << "Solution of known concentration is " << known << ", unknown is " << unknown << "\n";
     text << "V(" << unknown << ") = " << unknownV << " L   V(" << known << ") = " << knownV
          << " L   C(" << known << ") = " << knownC << " mol/L   C(" << unknown << ") = ?\n";
     text << "n(" << known << ") = C(" << known << ") x V(" << known << ") = " << knownC << "x"
          << knownV << " = " << knownN << " mol\n";
-    text << equation;
-    text << "Mole ratio n(" << acidFormula(pair.acidAnion) << ") : n(" << baseFormula(pair)
-         << ")  is " << nacid << ":" << nbase << "\n";
+    writeEquation(text, reaction, "Computer had trouble with balancing, answer may be wrong.");
+    text << "Mole ratio n(" << reaction.acidFormula << ") : n(" << reaction.baseFormula << ")  is "
+         << nacid << ":" << nbase << "\n";
+
+    // Kept: base over acid whichever of them is known. Where the acid is the unknown and the
+    // coefficients differ, its amount comes out inverted.
+    const float unknownN = static_cast<float>(nbase) * knownN / static_cast<float>(nacid);
+    const float unknownC = unknownN / unknownV;
     text << "n(" << unknown << ") = " << knownN << " x " << nbase << "/" << nacid << " = "
          << unknownN << " mol\n";
     text << "C(" << unknown << ") = n(" << unknown << ") / V(" << unknown << ") = " << unknownN
          << " / " << unknownV << " = " << unknownC << " mol/L\n";
-    return text.str();
+    return text.str;
 }
 
 } // namespace
 
 QandA titrationQuestion()
 {
-    return titrationQuestion(drawAcidAndBase());
+    return titrationQuestion(drawNeutralisation());
 }
 
-QandA titrationQuestion(const AcidAndBase& pair)
+QandA titrationQuestion(const Neutralisation& reaction)
 {
-    const Titration titration = drawTitration(pair);
-    return {questionText(titration), answerText(titration, pair)};
+    const Titration titration = drawTitration(reaction);
+    return {questionText(titration), answerText(titration, reaction)};
 }

@@ -8,6 +8,6 @@
 // the two is known, and which of the two volumes belongs to it.
 QandA titrationQuestion();
 
-// The same for a given acid and base. A pair that cannot be balanced has a warning in place of the
+// The same for a given reaction. One that cannot be balanced has a warning in place of the
 // equation, and goes on with the coefficients as `balance` left them.
-QandA titrationQuestion(const AcidAndBase& pair);
+QandA titrationQuestion(const Neutralisation& reaction);
