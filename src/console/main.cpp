@@ -1,3 +1,4 @@
+#include <csignal>
 #include <cstdlib>
 #include <ctime>
 
@@ -7,6 +8,10 @@
 
 int main()
 {
+    // A parent may have these ignored; then nothing would end the loop when its reader is gone.
+    std::signal(SIGPIPE, SIG_DFL);
+    std::signal(SIGHUP, SIG_DFL);
+
     std::srand(static_cast<unsigned int>(std::time(nullptr)));
     initSolubles();
     printMenu();

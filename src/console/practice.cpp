@@ -1,9 +1,27 @@
 #include "console/practice.hpp"
 
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <iostream>
 
 #include "questions/question.hpp"
+
+namespace
+{
+
+// A terminal that goes away sends a hang-up only to the processes that it controls. Any other would
+// go on for nobody, without a pause, and ends itself in the same way.
+void endIfTerminalIsGone()
+{
+    if (!std::cout && isatty(STDOUT_FILENO) == 0 && errno == EIO) {
+        std::raise(SIGHUP);
+    }
+}
+
+} // namespace
 
 void practise(QuestionType kind)
 {
@@ -13,6 +31,7 @@ void practise(QuestionType kind)
     waitForKey();
     std::cout << "ANSWER:" << std::endl;
     std::cout << current.answer << std::endl;
+    endIfTerminalIsGone();
 }
 
 void waitForKey()
