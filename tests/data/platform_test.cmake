@@ -1,0 +1,30 @@
+# The promises of data/platform.hpp, each broken in turn for the compiler that builds the program.
+
+separate_arguments(CHEMPRACTICE_FLAGS NATIVE_COMMAND "${CMAKE_CXX_FLAGS}")
+set(COMPILE_PLATFORM_TEST
+    ${CMAKE_CXX_COMPILER} ${CHEMPRACTICE_FLAGS}
+    $<TARGET_PROPERTY:chempractice_core,INTERFACE_COMPILE_OPTIONS>
+    -std=c++17 -fsyntax-only -I ${PROJECT_SOURCE_DIR}/src
+    ${CMAKE_CURRENT_LIST_DIR}/platform_test.cpp)
+
+add_test(NAME PlatformTest.ThisPlatformKeepsEveryPromise
+         COMMAND ${COMPILE_PLATFORM_TEST} COMMAND_EXPAND_LISTS)
+
+# The reason has to stand in an error; a compiler that stays silent or complains of something else
+# fails the test.
+function(add_refusal_test name flag reason)
+  add_test(NAME PlatformTest.${name} COMMAND ${COMPILE_PLATFORM_TEST} ${flag} COMMAND_EXPAND_LISTS)
+  set_tests_properties(PlatformTest.${name}
+                       PROPERTIES PASS_REGULAR_EXPRESSION "error: [^\n]*${reason}")
+endfunction()
+
+add_refusal_test(RefusesAnotherRangeOfRand -DOTHER_RAND_MAX=32767
+                 "the question thresholds need a rand\\(\\) that draws from 0 to 2147483647")
+add_refusal_test(RefusesAnotherWidthOfInt -DOTHER_INT_MAX=32767
+                 "draws wrap around in 32 bits")
+add_refusal_test(RefusesAnotherFloat -DOTHER_FLT_MANT_DIG=53
+                 "quantities are IEEE single-precision numbers")
+add_refusal_test(RefusesWiderEvaluation -DOTHER_FLT_EVAL_METHOD=2
+                 "every operation on a float has to be rounded to single precision")
+add_refusal_test(RefusesFastMath -ffast-math
+                 "fast-math arithmetic changes the printed digits")
