@@ -1,6 +1,6 @@
 #include "support/reader.hpp"
 
-#include <cstdio>
+#include <cmath>
 #include <cstdlib>
 #include <stdexcept>
 #include <utility>
@@ -8,17 +8,13 @@
 namespace
 {
 
-// The place of the first digit: 2 for 345, -2 for 0.0345.
-int exponentOf(double number)
+// What a 1 in the last of so many significant digits stands for: 0.1 of 58.4 at three digits.
+double unitOf(double number, int digits)
 {
-    char shown[40];
-    std::snprintf(shown, sizeof shown, "%.14e", number);
-    return std::atoi(std::string(shown).substr(std::string(shown).find('e') + 1).c_str());
-}
-
-double powerOfTen(int exponent)
-{
-    return std::strtod(("1e" + std::to_string(exponent)).c_str(), nullptr);
+    // A power of ten is on the line, and its logarithm may be a bit below; no number of six digits
+    // comes so close.
+    const double exponent = std::floor(std::log10(number) + 1e-9);
+    return std::pow(10.0, exponent - digits + 1);
 }
 
 // Digits from the first that is not 0 to the last, without the point.
@@ -62,7 +58,7 @@ Range exactly(double number)
 
 Range within(Shown number)
 {
-    const double half = 0.5 * powerOfTen(exponentOf(number.value) - number.digits + 1);
+    const double half = unitOf(number.value, number.digits) / 2;
     return {number.value - half, number.value + half};
 }
 

@@ -44,6 +44,10 @@ TEST(ReaderTest, ANumberAgreesWithWhatItMayHaveBeenRoundedFrom)
     EXPECT_FALSE(agree(number, exactly(0.3414)));
     EXPECT_FALSE(agree(number, exactly(0.3426)));
     EXPECT_FALSE(agree({1, 3}, exactly(1.006)));
+    for (const double power : {1e-5, 1e-4, 1e-3, 0.01, 0.1, 1.0, 10.0, 100.0, 1000.0}) {
+        EXPECT_TRUE(agree({power, 3}, exactly(1.004 * power))) << power;
+        EXPECT_FALSE(agree({power, 3}, exactly(1.006 * power))) << power;
+    }
     EXPECT_FALSE(agree({58.44, 6}, exactly(58.4401)));
     EXPECT_TRUE(agree({1, 3}, within({0.0171, 3}) * exactly(58.44)));
     EXPECT_FALSE(agree({1, 3}, within({0.0173, 3}) * exactly(58.44)));
