@@ -179,6 +179,7 @@ struct MassAndVolume {
 
 MassAndVolume readConcentrationFromMass(const QandA& made, const Compound& compound)
 {
+    SCOPED_TRACE(made.question + made.answer);
     const std::string name = compound.name;
     const std::string formula = compound.formula;
 
@@ -222,6 +223,7 @@ MassAndVolume readConcentrationFromMass(const QandA& made, const Compound& compo
 // one from which it was made: both ways have to agree.
 MassAndVolume readMassForConcentration(const QandA& made, const Compound& compound)
 {
+    SCOPED_TRACE(made.question + made.answer);
     const std::string name = compound.name;
     const std::string formula = compound.formula;
 
@@ -271,7 +273,6 @@ using MassVisitor = std::function<void(const QandA&, const MassAndVolume&)>;
 void walkMassAndConcentration(const MassVisitor& visit)
 {
     for (const Compound& compound : compounds) {
-        SCOPED_TRACE(compound.name);
         const int drawn = drawOfCompound(compound.row);
         const QandA first = ask(massConcentrationKind, {drawn, below, 0, 0});
         visit(first, readConcentrationFromMass(first, compound));
@@ -321,6 +322,7 @@ struct Volumes {
 
 Volumes readDilution(const QandA& made, const std::string& formula)
 {
+    SCOPED_TRACE(made.question + made.answer);
     Reader question(made.question);
     question.expect("To dilute ");
     const Shown V1 = question.volume(3);
@@ -374,7 +376,6 @@ void walkDilutions(const DilutionVisitor& visit)
 {
     for (const Compound& compound : compounds) {
         if (!isHydrate(compound)) {
-            SCOPED_TRACE(compound.name);
             const QandA made =
                 ask(dilutionKind, {0, drawOfCompound(compound.row), 0, 0, 0, 0, above});
             visit(made, readDilution(made, compound.formula));
@@ -573,6 +574,7 @@ struct Sides {
 
 ReadTitration readTitration(const QandA& made, const Reaction& reaction, const Sides& sides)
 {
+    SCOPED_TRACE(made.question + made.answer);
     const std::string knownName = sides.baseIsKnown ? baseName(reaction) : reaction.acid.name;
     const std::string unknownName = sides.baseIsKnown ? reaction.acid.name : baseName(reaction);
 
