@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cmath>
+#include <cstring>
+#include <string>
+
+#include "support.hpp"
+
+// What a formula parser returns and prints.
+struct Outcome {
+    float mass;
+    std::string messages;
+};
+
+inline Outcome outcomeOf(float (*parser)(std::string), const std::string& formula)
+{
+    const CapturedCout output;
+    const float mass = parser(formula);
+    return {mass, output.text()};
+}
+
+// The same bits, but for NaNs, whose bits mean nothing.
+inline bool sameMass(float a, float b)
+{
+    return std::memcmp(&a, &b, sizeof a) == 0 || (std::isnan(a) && std::isnan(b));
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+#include <sstream>
+#include <streambuf>
+#include <string>
+
+// What the fuzz targets share.
+
+inline std::string textOf(const std::uint8_t* data, std::size_t size)
+{
+    return std::string(reinterpret_cast<const char*>(data), size);
+}
+
+// Ends the run, which the fuzzer reports as a finding, unless `holds`.
+inline void require(bool holds, const char* what)
+{
+    if (!holds) {
+        std::fprintf(stderr, "does not hold: %s\n", what);
+        std::abort();
+    }
+}
+
+// Collects what is written to std::cout while it lives.
+class CapturedCout
+{
+public:
+    CapturedCout() : own(std::cout.rdbuf(&captured)) {}
+
+    ~CapturedCout()
+    {
+        std::cout.rdbuf(own);
+    }
+
+    CapturedCout(const CapturedCout&) = delete;
+    CapturedCout& operator=(const CapturedCout&) = delete;
+
+    std::string text() const
+    {
+        return captured.str();
+    }
+
+private:
+    std::stringbuf captured;
+    std::streambuf* own;
+};
