@@ -21,7 +21,7 @@ std::string contentOf(const std::filesystem::path& file)
 } // namespace
 
 // The fuzzer's seeds, without the fuzzer: this runs with every compiler and on every platform.
-TEST(FormulaTest, AgreesWithTheLiteralParserOnEveryFuzzSeed)
+TEST(FormulaSeedTest, AgreesWithTheLiteralParserOnEveryFuzzSeed)
 {
     int seeds = 0;
     for (const auto& seed : std::filesystem::directory_iterator(FORMULA_SEEDS)) {
