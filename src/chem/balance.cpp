@@ -132,11 +132,10 @@ void adjustHydrogen(const Units& units)
     }
 }
 
+// Carbon never falls short on the left: base and carbon dioxide start even, and only the base is
+// raised alone.
 void adjustCarbon(const Units& units)
 {
-    while (carbonOnLeft(units) < ConRight()) {
-        ++nbase;
-    }
     while (carbonOnLeft(units) > ConRight()) {
         ++nCO2;
     }
@@ -144,9 +143,8 @@ void adjustCarbon(const Units& units)
 
 void reduce()
 {
-    // A 0 among the elements would hide a common divisor.
-    const int divisor =
-        nCO2 > 0 ? hcm(nH2O, nacid, nbase, nsalt, nCO2) : hcm(nH2O, nacid, nbase, nsalt);
+    // Where there is carbon dioxide there is as much of it as water, so that it shares any divisor.
+    const int divisor = hcm(nH2O, nacid, nbase, nsalt);
     nH2O /= divisor;
     nacid /= divisor;
     nbase /= divisor;

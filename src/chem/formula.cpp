@@ -62,17 +62,13 @@ float readCount(const std::string& text, std::size_t& at)
     return count;
 }
 
-bool isLowerCase(char c)
-{
-    return std::islower(static_cast<unsigned char>(c)) != 0;
-}
-
 // The mass of the element at `at` times its count; `at` moves past both.
 float readElement(const std::string& formula, std::size_t& at)
 {
     std::string symbol = formula.substr(at, 1);
     float mass = 0.0f;
-    if (isLowerCase(formula[at + 1])) { // Nothing else can be the second letter of a symbol.
+    // Nothing else can be the second letter of a symbol.
+    if (std::islower(static_cast<unsigned char>(formula[at + 1]))) {
         symbol += formula[at + 1];
         mass = getAtomicMass(symbol);
     }

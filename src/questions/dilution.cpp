@@ -56,13 +56,14 @@ QandA dilutionQuestion()
     const Dilution dilution = drawDilution();
     const int draw = std::rand();
     // Kept: all three thresholds are 0 and no draw is below, so that the last variant always comes.
-    if (draw < 0) {
+    constexpr int threshold = 0;
+    if (draw < threshold) {
         return newConcentration(dilution);
     }
-    if (draw < 0) {
+    if (draw < threshold) {
         return volumeToDilute(dilution);
     }
-    if (draw < 0) {
+    if (draw < threshold) {
         return originalConcentration(dilution);
     }
     return waterToAdd(dilution);
