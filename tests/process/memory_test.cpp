@@ -26,6 +26,9 @@ TEST_P(MemoryTest, DoesNotGrowFromQuestionToQuestion)
     if (!memoryIsTheProgramsOwn || hasLauncher()) {
         GTEST_SKIP() << "another program's memory would be measured with it";
     }
+    if (!tellsOfProcesses()) {
+        GTEST_SKIP() << "no /proc here";
+    }
     PipedProgram program(FIXED_PROGRAM);
     program.type(GetParam());
     program.input.close();

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <memory>
 #include <string>
 
 #include "process/dialogue.hpp"
@@ -17,9 +18,33 @@ const std::string interrupt = "signal " + std::to_string(SIGINT);
 const std::string controlC = "\x03";
 const std::string controlD = "\x04";
 
+class LostTerminalTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        if (!hasTerminals()) {
+            GTEST_SKIP() << "no pseudo-terminals here";
+        }
+    }
+};
+
 class TerminalTest : public testing::Test
 {
 protected:
+    void SetUp() override
+    {
+        if (!hasTerminals()) {
+            GTEST_SKIP() << "no pseudo-terminals here";
+        }
+        terminal = makeTerminal();
+        const int side = terminal.program.number();
+        child = std::make_unique<ChildProcess>(PROGRAM, Surroundings{side, side, true});
+        terminal.program.close();
+        screen = std::make_unique<Output>(terminal.person);
+        screen->until("0. Random\r\n");
+    }
+
     void type(const std::string& keys)
     {
         writeAll(terminal.person.number(), keys);
@@ -27,19 +52,13 @@ protected:
 
     void expectKeyIsAwaited()
     {
-        child.waitForSleep();
-        EXPECT_FALSE(screen.hasMore());
+        child->waitForSleep();
+        EXPECT_FALSE(screen->hasMore());
     }
 
-    Terminal terminal = makeTerminal();
-    Output screen{terminal.person};
-    ChildProcess child{PROGRAM, {terminal.program.number(), terminal.program.number(), true}};
-
-    void SetUp() override
-    {
-        terminal.program.close();
-        screen.until("0. Random\r\n");
-    }
+    Terminal terminal;
+    std::unique_ptr<ChildProcess> child;
+    std::unique_ptr<Output> screen;
 };
 
 } // namespace
@@ -47,11 +66,11 @@ protected:
 TEST_F(TerminalTest, FirstAnswerComesAtOnceAndLaterOnesOnEnter)
 {
     type("4\n");
-    EXPECT_EQ(count(screen.until(terminalPrompt, 2), "ANSWER:\r\n"), 1);
+    EXPECT_EQ(count(screen->until(terminalPrompt, 2), "ANSWER:\r\n"), 1);
     for (int i = 0; i < 3; ++i) {
         expectKeyIsAwaited();
         type("\n");
-        EXPECT_EQ(count(screen.until(terminalPrompt), "ANSWER:\r\n"), 1);
+        EXPECT_EQ(count(screen->until(terminalPrompt), "ANSWER:\r\n"), 1);
     }
     expectKeyIsAwaited();
 }
@@ -59,9 +78,9 @@ TEST_F(TerminalTest, FirstAnswerComesAtOnceAndLaterOnesOnEnter)
 TEST_F(TerminalTest, LettersBeforeEnterReleaseAnAnswerEach)
 {
     type("4\n");
-    screen.until(terminalPrompt, 2);
+    screen->until(terminalPrompt, 2);
     type("ab\n");
-    screen.until(terminalPrompt, 3);
+    screen->until(terminalPrompt, 3);
     expectKeyIsAwaited();
 }
 
@@ -69,57 +88,57 @@ TEST_F(TerminalTest, InterruptEndsItAtTheMenu)
 {
     expectKeyIsAwaited();
     type(controlC);
-    EXPECT_EQ(child.waitForEnd(), interrupt);
-    EXPECT_EQ(child.errors(), "");
+    EXPECT_EQ(child->waitForEnd(), interrupt);
+    EXPECT_EQ(child->errors(), "");
 }
 
 TEST_F(TerminalTest, InterruptEndsItAtAWait)
 {
     type("1\n");
-    screen.until(terminalPrompt, 2);
+    screen->until(terminalPrompt, 2);
     expectKeyIsAwaited();
     type(controlC);
-    EXPECT_EQ(child.waitForEnd(), interrupt);
-    EXPECT_EQ(child.errors(), "");
+    EXPECT_EQ(child->waitForEnd(), interrupt);
+    EXPECT_EQ(child->errors(), "");
 }
 
 TEST_F(TerminalTest, InterruptEndsItWhilePrinting)
 {
     type(controlD);
-    screen.until(terminalPrompt, 100);
+    screen->until(terminalPrompt, 100);
     type(controlC);
-    EXPECT_EQ(child.waitForEnd(), interrupt);
-    EXPECT_EQ(child.errors(), "");
+    EXPECT_EQ(child->waitForEnd(), interrupt);
+    EXPECT_EQ(child->errors(), "");
 }
 
 TEST_F(TerminalTest, HangUpEndsItAtTheMenu)
 {
     expectKeyIsAwaited();
     terminal.person.close();
-    EXPECT_EQ(child.waitForEnd(), hangUp);
-    EXPECT_EQ(child.errors(), "");
+    EXPECT_EQ(child->waitForEnd(), hangUp);
+    EXPECT_EQ(child->errors(), "");
 }
 
 TEST_F(TerminalTest, HangUpEndsItAtAWait)
 {
     type("3\n");
-    screen.until(terminalPrompt, 2);
+    screen->until(terminalPrompt, 2);
     expectKeyIsAwaited();
     terminal.person.close();
-    EXPECT_EQ(child.waitForEnd(), hangUp);
-    EXPECT_EQ(child.errors(), "");
+    EXPECT_EQ(child->waitForEnd(), hangUp);
+    EXPECT_EQ(child->errors(), "");
 }
 
 TEST_F(TerminalTest, HangUpEndsItWhilePrinting)
 {
     type(controlD);
-    screen.until(terminalPrompt, 100);
+    screen->until(terminalPrompt, 100);
     terminal.person.close();
-    EXPECT_EQ(child.waitForEnd(), hangUp);
-    EXPECT_EQ(child.errors(), "");
+    EXPECT_EQ(child->waitForEnd(), hangUp);
+    EXPECT_EQ(child->errors(), "");
 }
 
-TEST(LostTerminalTest, HangUpEndsItUnderAParentThatIgnoresTheSignal)
+TEST_F(LostTerminalTest, HangUpEndsItUnderAParentThatIgnoresTheSignal)
 {
     Terminal terminal = makeTerminal();
     const int side = terminal.program.number();
@@ -132,7 +151,7 @@ TEST(LostTerminalTest, HangUpEndsItUnderAParentThatIgnoresTheSignal)
 }
 
 // A terminal that does not control the program sends it no signal when it goes away.
-TEST(LostTerminalTest, TerminalOfOthersEndsItLikeAHangUpAtTheMenu)
+TEST_F(LostTerminalTest, TerminalOfOthersEndsItLikeAHangUpAtTheMenu)
 {
     Terminal terminal = makeTerminal();
     const int side = terminal.program.number();
@@ -145,7 +164,7 @@ TEST(LostTerminalTest, TerminalOfOthersEndsItLikeAHangUpAtTheMenu)
     EXPECT_EQ(child.errors(), "");
 }
 
-TEST(LostTerminalTest, TerminalOfOthersEndsItLikeAHangUpAtAWait)
+TEST_F(LostTerminalTest, TerminalOfOthersEndsItLikeAHangUpAtAWait)
 {
     Terminal terminal = makeTerminal();
     const int side = terminal.program.number();
@@ -159,7 +178,7 @@ TEST(LostTerminalTest, TerminalOfOthersEndsItLikeAHangUpAtAWait)
     EXPECT_EQ(child.errors(), "");
 }
 
-TEST(LostTerminalTest, TerminalOfOthersEndsItLikeAHangUpWhilePrinting)
+TEST_F(LostTerminalTest, TerminalOfOthersEndsItLikeAHangUpWhilePrinting)
 {
     Terminal terminal = makeTerminal();
     ChildProcess child(PROGRAM, {-1, terminal.program.number()});
@@ -170,7 +189,7 @@ TEST(LostTerminalTest, TerminalOfOthersEndsItLikeAHangUpWhilePrinting)
     EXPECT_EQ(child.errors(), "");
 }
 
-TEST(LostTerminalTest, InputFromALostTerminalIsTheEndOfTheInput)
+TEST_F(LostTerminalTest, InputFromALostTerminalIsTheEndOfTheInput)
 {
     Terminal terminal = makeTerminal();
     Pipe text = makePipe();

@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <limits>
@@ -113,12 +114,11 @@ void placeStream(int source, int stream)
     _exit(127);
 }
 
-// The state letter of a process: R for running, S for sleeping, T for stopped, ...
-char stateOf(pid_t process)
+bool isAsleep(pid_t process)
 {
     std::ifstream file("/proc/" + std::to_string(process) + "/stat");
     const std::string text(std::istreambuf_iterator<char>(file), {});
-    return text.at(text.rfind(')') + 2);
+    return text.compare(text.rfind(')') + 2, 1, "S") == 0;
 }
 
 } // namespace
@@ -218,12 +218,18 @@ std::string ChildProcess::waitForEnd()
 
 void ChildProcess::waitForStop() const
 {
-    waitUntil([&] { return stateOf(process) == 'T'; }, "stop");
+    const auto id = static_cast<id_t>(process);
+    siginfo_t report{};
+    waitUntil(
+        [&] { return waitid(P_PID, id, &report, WSTOPPED | WNOHANG) == 0 && report.si_pid > 0; },
+        "stop");
 }
 
 void ChildProcess::waitForSleep() const
 {
-    waitUntil([&] { return stateOf(process) == 'S'; }, "wait");
+    if (tellsOfProcesses()) {
+        waitUntil([&] { return isAsleep(process); }, "wait");
+    }
 }
 
 std::string ChildProcess::errors() const
@@ -243,7 +249,7 @@ long ChildProcess::peakMemory() const
     }
     long kibibytes = 0;
     if (!(file >> kibibytes)) {
-        throw std::runtime_error("the system does not tell the memory of a process");
+        throw std::runtime_error("the memory of the program is not known");
     }
     return kibibytes;
 }
@@ -298,6 +304,16 @@ void Output::receive()
     if (!readMore(descriptor, buffer)) {
         throw std::runtime_error("the output ended with: " + buffer);
     }
+}
+
+bool tellsOfProcesses()
+{
+    return access("/proc/self/stat", R_OK) == 0;
+}
+
+bool hasTerminals()
+{
+    return Descriptor(posix_openpt(O_RDWR | O_NOCTTY)).number() >= 0;
 }
 
 bool hasLauncher()

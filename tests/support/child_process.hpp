@@ -59,7 +59,7 @@ public:
     void waitForStop() const;
 
     // Until it is asleep, as it is when it reads what nobody has typed yet or writes what nobody
-    // has read yet.
+    // has read yet. Not at all on a system that does not tell.
     void waitForSleep() const;
 
     // What it wrote to standard error until it ended.
@@ -96,6 +96,10 @@ private:
     int descriptor;
     std::string buffer;
 };
+
+// What a bare change of root lacks: /proc, and pseudo-terminals.
+bool tellsOfProcesses();
+bool hasTerminals();
 
 // Whether the tests start programs through a launcher.
 bool hasLauncher();
