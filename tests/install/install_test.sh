@@ -25,9 +25,13 @@ END
 
 # expect_installed FOLDER WHERE: FOLDER below WHERE holds all files that WHERE holds.
 expect_installed() {
-    diff <(cd "$place" && expected | sed "s|^|$1/|" | sort) <(cd "$place" && find "$2" -type f | sort)
-    diff <(echo 'Chemical calculations practice') \
-        <({ "${launcher[@]}" "$place/$1/bin/chempractice" || true; } </dev/null 2>&1 | head -n 1)
+    expected | sed "s|^|$1/|" | sort >"$place/expected"
+    (cd "$place" && find "$2" -type f | sort) >"$place/found"
+    diff "$place/expected" "$place/found"
+
+    echo 'Chemical calculations practice' >"$place/expected"
+    { "${launcher[@]}" "$place/$1/bin/chempractice" || true; } </dev/null 2>&1 | head -n 1 >"$place/found"
+    diff "$place/expected" "$place/found"
 }
 
 cmake --install "$build" --prefix "$place/own" >/dev/null
