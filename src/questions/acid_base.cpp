@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <string_view>
+#include <utility>
 
 #include "chem/balance.hpp"
 
@@ -24,34 +25,28 @@ Ion drawBaseAnion()
     return drawn;
 }
 
-// A number as formulas and equations show it: a 1 is not written.
-std::string unlessOne(int number)
-{
-    return number > 1 ? std::to_string(number) : "";
-}
-
 } // namespace
 
-Neutralisation neutralisationOf(const Ion& acidAnion, const Ion& baseCation, const Ion& baseAnion)
+Neutralisation neutralisationOf(Ion acidAnion, Ion baseCation, Ion baseAnion)
 {
     Neutralisation reaction;
-    reaction.acidAnion = acidAnion;
-    reaction.baseCation = baseCation;
-    reaction.baseAnion = baseAnion;
     reaction.acidName = acidNameOf(acidAnion);
     reaction.acidFormula = acidFormulaOf(acidAnion);
     reaction.baseName = baseCation.name + " " + baseAnion.name;
     reaction.baseFormula = makeFormula(baseCation, baseAnion);
     reaction.saltFormula = makeFormula(baseCation, acidAnion);
+    reaction.acidAnion = std::move(acidAnion);
+    reaction.baseCation = std::move(baseCation);
+    reaction.baseAnion = std::move(baseAnion);
     return reaction;
 }
 
 Neutralisation drawNeutralisation()
 {
-    const Ion acidAnion = drawAcidAnion();
-    const Ion baseCation = randomPos();
-    const Ion baseAnion = drawBaseAnion();
-    return neutralisationOf(acidAnion, baseCation, baseAnion);
+    Ion acidAnion = drawAcidAnion();
+    Ion baseCation = randomPos();
+    Ion baseAnion = drawBaseAnion();
+    return neutralisationOf(std::move(acidAnion), std::move(baseCation), std::move(baseAnion));
 }
 
 Ion drawAcidAnion()
@@ -70,7 +65,9 @@ std::string acidNameOf(const Ion& acidAnion)
 
 std::string acidFormulaOf(const Ion& acidAnion)
 {
-    return "H" + unlessOne(acidAnion.charge) + acidAnion.formula;
+    Text formula;
+    formula << "H" << Coefficient{acidAnion.charge} << acidAnion.formula;
+    return std::move(formula.str);
 }
 
 void writeEquation(Text& text, const Neutralisation& reaction, std::string_view excuse)
@@ -79,11 +76,11 @@ void writeEquation(Text& text, const Neutralisation& reaction, std::string_view 
         text << excuse << "\n";
         return;
     }
-    text << unlessOne(nacid) << reaction.acidFormula << " + " << unlessOne(nbase)
-         << reaction.baseFormula << " -> " << unlessOne(nsalt) << reaction.saltFormula << " + "
-         << unlessOne(nH2O) << "H2O";
+    text << Coefficient{nacid} << reaction.acidFormula << " + " << Coefficient{nbase}
+         << reaction.baseFormula << " -> " << Coefficient{nsalt} << reaction.saltFormula << " + "
+         << Coefficient{nH2O} << "H2O";
     if (nCO2 > 0) {
-        text << " + " << unlessOne(nCO2) << "CO2";
+        text << " + " << Coefficient{nCO2} << "CO2";
     }
     text << "\n";
 }

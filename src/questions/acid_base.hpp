@@ -21,7 +21,7 @@ struct Neutralisation {
 };
 
 // Names and formulas for the three ions.
-Neutralisation neutralisationOf(const Ion& acidAnion, const Ion& baseCation, const Ion& baseAnion);
+Neutralisation neutralisationOf(Ion acidAnion, Ion baseCation, Ion baseAnion);
 
 // Draws the acid anion, the base cation and the base anion, in this order. The base anion is the
 // first hydroxide, carbonate, oxide or bicarbonate of repeated `randomNeg` draws, which never give

@@ -17,12 +17,7 @@ float random(int low, int high)
 
 std::string volumeFormat(float litres, unsigned int precision)
 {
-    Text text;
-    text << Digits{static_cast<int>(precision)};
-    if (litres <= 1.0f) {
-        text << litres * 1000.0f << " mL";
-    } else {
-        text << litres << " L";
-    }
-    return text.str;
+    const int digits = static_cast<int>(precision);
+    return litres <= 1.0f ? general(litres * 1000.0f, digits) + " mL"
+                          : general(litres, digits) + " L";
 }

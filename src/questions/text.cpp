@@ -3,6 +3,15 @@
 #include <charconv>
 #include <iterator>
 
+std::string general(float number, int digits)
+{
+    // The longest single-precision number has 112 significant digits.
+    char shown[160];
+    const std::to_chars_result end = std::to_chars(std::begin(shown), std::end(shown), number,
+                                                   std::chars_format::general, digits);
+    return std::string(shown, end.ptr);
+}
+
 Text& operator<<(Text& text, int number)
 {
     text.str += std::to_string(number);
@@ -11,11 +20,14 @@ Text& operator<<(Text& text, int number)
 
 Text& operator<<(Text& text, float number)
 {
-    // The longest single-precision number has 112 significant digits.
-    char shown[160];
-    const std::to_chars_result end = std::to_chars(std::begin(shown), std::end(shown), number,
-                                                   std::chars_format::general, text.digits);
-    text.str.append(shown, end.ptr);
+    return text << general(number, text.digits);
+}
+
+Text& operator<<(Text& text, Coefficient coefficient)
+{
+    if (coefficient.number > 1) {
+        text << coefficient.number;
+    }
     return text;
 }
 

@@ -1,6 +1,7 @@
 #include "questions/titration.hpp"
 
 #include <cstdlib>
+#include <string_view>
 #include <utility>
 
 #include "chem/balance.hpp"
@@ -11,16 +12,17 @@ namespace
 {
 
 struct Solution {
-    std::string name;
-    std::string formula;
+    std::string_view name;
+    std::string_view formula;
     float volume; // L
 };
 
+// Its names and formulas are those of the reaction that it was drawn for.
 struct Titration {
     Solution known;
     Solution unknown;
-    float concentration; // of the known solution, mol/L
-    std::string verb;    // what the unknown solution does or suffers
+    float concentration;   // of the known solution, mol/L
+    std::string_view verb; // what the unknown solution does or suffers
 };
 
 // In L.
@@ -72,20 +74,20 @@ std::string questionText(const Titration& titration)
     text << "Calculate the concentration of " << unknown.name << " if "
          << volumeFormat(unknown.volume, 3) << titration.verb << volumeFormat(known.volume, 3)
          << " of " << titration.concentration << " mol/L " << known.name << ".\n";
-    return text.str;
+    return std::move(text.str);
 }
 
 std::string answerText(const Titration& titration, const Neutralisation& reaction)
 {
-    const std::string& known = titration.known.formula;
-    const std::string& unknown = titration.unknown.formula;
-    const float knownV = titration.known.volume;
-    const float unknownV = titration.unknown.volume;
-    const float knownC = titration.concentration;
-    const float knownN = knownC * knownV;
+    const std::string_view known = titration.known.formula;
+    const std::string_view unknown = titration.unknown.formula;
+    const float knownMoles = titration.concentration * titration.known.volume;
+    const std::string knownC = general(titration.concentration, 3);
+    const std::string knownV = general(titration.known.volume, 3);
+    const std::string knownN = general(knownMoles, 3);
+    const std::string unknownV = general(titration.unknown.volume, 3);
 
     Text text;
-    text << Digits{3};
     text << "Solution of known concentration is " << known << ", unknown is " << unknown << "\n";
     text << "V(" << unknown << ") = " << unknownV << " L   V(" << known << ") = " << knownV
          << " L   C(" << known << ") = " << knownC << " mol/L   C(" << unknown << ") = ?\n";
@@ -97,13 +99,14 @@ std::string answerText(const Titration& titration, const Neutralisation& reactio
 
     // Kept: base over acid whichever of them is known. Where the acid is the unknown and the
     // coefficients differ, its amount comes out inverted.
-    const float unknownN = static_cast<float>(nbase) * knownN / static_cast<float>(nacid);
-    const float unknownC = unknownN / unknownV;
+    const float unknownMoles = static_cast<float>(nbase) * knownMoles / static_cast<float>(nacid);
+    const std::string unknownN = general(unknownMoles, 3);
+    const std::string unknownC = general(unknownMoles / titration.unknown.volume, 3);
     text << "n(" << unknown << ") = " << knownN << " x " << nbase << "/" << nacid << " = "
          << unknownN << " mol\n";
     text << "C(" << unknown << ") = n(" << unknown << ") / V(" << unknown << ") = " << unknownN
          << " / " << unknownV << " = " << unknownC << " mol/L\n";
-    return text.str;
+    return std::move(text.str);
 }
 
 } // namespace
