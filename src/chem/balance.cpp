@@ -123,17 +123,15 @@ void adjustHydrogen(const Units& units)
     }
     fillUpWater(units);
     if (hydrogenOnLeft(units) < HonRight()) { // An odd count: twice of it is even.
-        nH2O = 0;
         nacid *= 2;
         nbase *= 2;
         nsalt *= 2;
-        nCO2 *= 2;
         fillUpWater(units);
     }
 }
 
-// Carbon never falls short on the left: base and carbon dioxide start even, and only the base is
-// raised alone.
+// Carbon never falls short on the left: the carbon dioxide is only ever raised to what the base
+// has.
 void adjustCarbon(const Units& units)
 {
     while (carbonOnLeft(units) > ConRight()) {
@@ -160,7 +158,7 @@ bool balance(Ion acidAnion, Ion baseCation, Ion baseAnion)
     nbase = 1;
     nsalt = 1;
     nH2O = 1;
-    nCO2 = baseAnion.name == "carbonate" || baseAnion.name == "bicarbonate" ? 1 : 0;
+    nCO2 = 0;
 
     const Units units = countUnits(acidAnion, baseCation, baseAnion);
     for (int pass = 0; pass < mostPasses && !isBalanced(units); ++pass) {
