@@ -174,6 +174,24 @@ TEST_F(FormulaTest, ElementsWithCounts)
     });
 }
 
+// To three decimals, as a chemist adds them up.
+TEST_F(FormulaTest, KnownMolarMasses)
+{
+    const struct {
+        const char* formula;
+        double molarMass;
+    } cases[] = {
+        {"H2O", 18.016},         {"NaCl", 58.44},          {"CO", 28.01},
+        {"Co", 58.93},           {"C60", 720.6},           {"(OH)2", 34.016},
+        {"((OH)2)3", 102.048},   {"Fe2(SO4)3", 399.88},    {"Ca(CH3COO)2", 158.168},
+        {"CuSO4.5H2O", 249.69},  {"CuSO4.5H2O.2", 249.69}, {"CuSO4.H2O", 159.61},
+        {"CoCl2.6H2O", 237.926}, {"Na2CO3.10H2O", 286.15},
+    };
+    for (const auto& [formula, molarMass] : cases) {
+        EXPECT_NEAR(static_cast<double>(calculateMM(formula)), molarMass, 0.0005) << formula;
+    }
+}
+
 TEST_F(FormulaTest, CountOf0CountsAs1)
 {
     expectCases({
