@@ -29,7 +29,7 @@ char isSolubleChar(Ion cation, Ion anion)
     };
     const auto anionIs = [&anion](Formulas formulas) { return isOneOf(formulas, anion.formula); };
 
-    // Compounds of the alkali metals, hydrogen and ammonium are soluble.
+    // Compounds of these alkali metals, of hydrogen and of ammonium are soluble.
     if (isOneOf({"K", "H", "Na", "Li", "NH4"}, cation.formula)) {
         return 'Y';
     }

@@ -7,7 +7,7 @@
 // Graders of typed answers, for a front end that asks for them; the practice dialogue does not.
 // Each prints its verdict as a line on the standard output of the C library and returns 1 for a
 // correct answer, else 0. "Close" means that only the case of letters is wrong, and returns 0.
-// The third formula grader is `Ion::getResponse`, for one ion with its charge.
+// A third grader, for the formula of one ion with its charge, is `Ion::getResponse`.
 
 // Grades the formula of the compound of two ions.
 //   sodium, chloride, "nacl" -> 0 and "Close; correct answer is NaCl"
