@@ -1,5 +1,7 @@
 #include "chem/balance.hpp"
 
+#include <algorithm>
+
 // The method: count hydrogen, oxygen, carbon, base cations and acid anions on both sides; while a
 // count differs, raise coefficients in a fixed order, pass after pass; at last divide by the
 // greatest common divisor. Oxygen is never adjusted: it comes right with the others or not at all.
@@ -199,22 +201,12 @@ int hcm(int a, int b, int c, int d, int e)
 
 bool lessthanall(int x, std::vector<int> v)
 {
-    for (const int element : v) {
-        if (element <= x) {
-            return false;
-        }
-    }
-    return true;
+    return std::all_of(v.begin(), v.end(), [x](int element) { return x < element; });
 }
 
 bool alldivisible(int x, std::vector<int> v)
 {
-    for (const int element : v) {
-        if (element % x != 0) {
-            return false;
-        }
-    }
-    return true;
+    return std::all_of(v.begin(), v.end(), [x](int element) { return element % x == 0; });
 }
 
 int HonLeft(Ion acidAnion, Ion baseCation, Ion baseAnion)

@@ -155,7 +155,7 @@ void initMasses()
 {
     aMasses.reserve(aMasses.size() + std::size(elementRows));
     for (const ElementRow& row : elementRows) {
-        aMasses.push_back(atomicMass(row.symbol, row.mass));
+        aMasses.emplace_back(row.symbol, row.mass);
     }
 }
 

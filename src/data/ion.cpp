@@ -158,8 +158,8 @@ std::string makeFormula(Ion first, Ion second)
 void initIons()
 {
     for (const IonRow& row : ionRows) {
-        ion.push_back(
-            Ion(row.name, row.formula, row.negative, row.charge, row.polyatomic, row.acidName));
+        ion.emplace_back(row.name, row.formula, row.negative, row.charge, row.polyatomic,
+                         row.acidName);
     }
 }
 

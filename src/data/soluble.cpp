@@ -49,7 +49,7 @@ Soluble::Soluble(std::string compoundName, std::string compoundFormula)
 void initSolubles()
 {
     for (const CompoundRow& row : compoundRows) {
-        dissolvable.push_back(Soluble(row.name, row.formula));
+        dissolvable.emplace_back(row.name, row.formula);
     }
 }
 

@@ -34,14 +34,12 @@ std::string drawSubstance()
 // The products are taken in double precision but for C1, and then rounded to single.
 Dilution drawDilution()
 {
-    Dilution dilution;
-    dilution.substance = drawSubstance();
-    dilution.V1 = static_cast<float>(static_cast<double>(random(1, 50)) * 0.01);
-    const float steps = random(leastFinalVolume(dilution.V1), 40);
-    dilution.V2 = static_cast<float>(static_cast<double>(steps) * 0.05);
-    dilution.C1 = random(1, 60) * 0.1f;
-    dilution.C2 = dilution.C1 * dilution.V1 / dilution.V2;
-    return dilution;
+    std::string substance = drawSubstance();
+    const auto V1 = static_cast<float>(static_cast<double>(random(1, 50)) * 0.01);
+    const float steps = random(leastFinalVolume(V1), 40);
+    const auto V2 = static_cast<float>(static_cast<double>(steps) * 0.05);
+    const float C1 = random(1, 60) * 0.1f;
+    return {std::move(substance), V1, V2, C1, C1 * V1 / V2};
 }
 
 std::string volume(float litres)
