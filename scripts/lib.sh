@@ -5,6 +5,8 @@
 #   jobs                     how many jobs a build may run at once, set here
 #   need_packages NAME...    makes sure of these Debian packages: installs the missing ones where
 #                            there is apt-get, elsewhere says what is missing and fails
+#   build_and_test PRESET    configures, builds and runs all tests by a workflow of
+#                            CMakePresets.json
 #
 # A NAME is a package, or SIGN:PACKAGE with the command or the header that shows that it is there,
 # so that other systems are asked for the thing itself:
@@ -23,6 +25,10 @@ need_packages() {
     done
     [ ${#missing[@]} -eq 0 ] || install_packages "${missing[@]}"
 } </dev/null >&2
+
+build_and_test() {
+    CMAKE_BUILD_PARALLEL_LEVEL=$jobs CTEST_PARALLEL_LEVEL=$jobs cmake --workflow --preset "$1"
+}
 
 is_there() {
     case $1 in
