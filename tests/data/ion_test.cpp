@@ -304,8 +304,7 @@ TEST_F(IonTest, EveryPairIsNeutralInLowestTermsWithBracketsOnlyWhereNeeded)
 
 TEST_F(IonTest, FirstDrawFillsTheTableAndLaterDrawsDoNot)
 {
-    Ion (*const drawings[])() = {randomIon, randomNeg, randomPos};
-    for (const auto draw : drawings) {
+    for (const auto draw : {randomIon, randomNeg, randomPos}) {
         ion.clear();
         {
             const ScriptedDraws draws({draw == randomPos ? 2 : 1});

@@ -33,7 +33,7 @@ std::string shown(float number, int digits)
 
 float numberOfBits(std::uint32_t bits)
 {
-    float number;
+    float number = 0.0f;
     std::memcpy(&number, &bits, sizeof number);
     return number;
 }
