@@ -7,7 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 # shellcheck disable=SC2016 # The backticks are Markdown's.
 shown() {
     sed -n '/^```text/,/^```$/ { /^```/!p }' README.md
-    sed -n 's|^<text.* xml:space="preserve">\(.*\)</text>|\1|p' docs/session.svg | sed 's/&gt;/>/g'
+    sed -n 's|^<text.* xml:space="preserve">\(.*\)</text>|\1|p' docs/dialogue.svg | sed 's/&gt;/>/g'
     sed -n '/^\$ chempractice/,/^\.Ed/ { /^\$/d; /^\.Ed/d; p }' man/chempractice.6
 }
 
