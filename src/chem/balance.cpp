@@ -34,9 +34,9 @@ Units countUnits(const Ion& acidAnion, const Ion& baseCation, const Ion& baseAni
 {
     Units units = {};
     units.hydrogenInAcid = acidAnion.charge;
-    units.cationsInBase = baseCation.getSubscript(baseAnion);
-    units.cationsInSalt = baseCation.getSubscript(acidAnion);
-    units.anionsInSalt = acidAnion.getSubscript(baseCation);
+    units.cationsInBase = subscript(baseCation.charge, baseAnion.charge);
+    units.cationsInSalt = subscript(baseCation.charge, acidAnion.charge);
+    units.anionsInSalt = subscript(acidAnion.charge, baseCation.charge);
     if (baseAnion.name == "hydroxide") {
         units.hydrogenInBase = baseCation.charge;
         units.oxygenInBase = baseCation.charge;
@@ -45,10 +45,10 @@ Units countUnits(const Ion& acidAnion, const Ion& baseCation, const Ion& baseAni
         units.oxygenInBase = 3 * baseCation.charge;
         units.carbonInBase = baseCation.charge;
     } else if (baseAnion.name == "carbonate") {
-        units.oxygenInBase = 3 * baseAnion.getSubscript(baseCation);
-        units.carbonInBase = baseAnion.getSubscript(baseCation);
+        units.oxygenInBase = 3 * subscript(baseAnion.charge, baseCation.charge);
+        units.carbonInBase = subscript(baseAnion.charge, baseCation.charge);
     } else if (baseAnion.name == "oxide") {
-        units.oxygenInBase = baseAnion.getSubscript(baseCation);
+        units.oxygenInBase = subscript(baseAnion.charge, baseCation.charge);
     }
     return units;
 }

@@ -133,21 +133,23 @@ Ion::Ion(std::string ionName, std::string ionFormula, bool isNegative, short cha
 
 int Ion::getSubscript(Ion partner) const
 {
-    if (charge == partner.charge) {
-        return 1;
-    }
-    if (charge != 4 && partner.charge == 2) {
-        return 2;
-    }
-    if (partner.charge == 3) {
-        return 3;
-    }
-    return 1;
+    return subscript(charge, partner.charge);
 }
 
 std::string Ion::makeFormula() const
 {
     return formula + digit(charge) + (negative ? "-" : "+");
+}
+
+int subscript(short ownCharge, short partnerCharge)
+{
+    if (ownCharge == partnerCharge) {
+        return 1;
+    }
+    if (ownCharge != 4 && partnerCharge == 2) {
+        return 2;
+    }
+    return partnerCharge == 3 ? 3 : 1;
 }
 
 std::string makeFormula(Ion first, Ion second)

@@ -38,6 +38,9 @@ public:
     int getResponse(std::string answer) const;
 };
 
+// The same for two ions of which the charges are enough to know.
+int subscript(short ownCharge, short partnerCharge);
+
 // The neutral compound of two ions, normally the cation first. No signs, no blanks.
 //   sodium, chloride -> "NaCl"    aluminium, sulphate -> "Al2(SO4)3"    ammonium, oxide ->
 //   "(NH4)2O"
