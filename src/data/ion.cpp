@@ -88,14 +88,18 @@ const char* digit(short number)
     }
 }
 
-// One ion's share of a neutral compound: brackets only around a group that is taken more than once.
-std::string share(const Ion& own, const Ion& partner)
+// Adds one ion's share of a neutral compound: brackets only around a group that is taken more than
+// once.
+void addShare(std::string& compound, const Ion& own, const Ion& partner)
 {
     if (own.charge == partner.charge) {
-        return own.formula;
+        compound += own.formula;
+    } else if (own.polyatomic && partner.charge > 1) {
+        compound += "(" + own.formula + ")" + digit(partner.charge);
+    } else {
+        compound += own.formula;
+        compound += digit(partner.charge);
     }
-    const bool bracketed = own.polyatomic && partner.charge > 1;
-    return (bracketed ? "(" + own.formula + ")" : own.formula) + digit(partner.charge);
 }
 
 // The row that a draw gives. Kept: a remainder of 0 is drawn again and a remainder of 1 is the
@@ -112,11 +116,13 @@ const Ion& drawRow()
     return ion[row - 1];
 }
 
-Ion drawWithSign(bool negative)
+// The first row of repeated draws that is wanted; no other one is copied.
+template <typename Wanted>
+Ion drawUntil(Wanted wanted)
 {
     for (;;) {
         const Ion& drawn = drawRow();
-        if (drawn.negative == negative) {
+        if (wanted(drawn)) {
             return drawn;
         }
     }
@@ -154,7 +160,10 @@ int subscript(short ownCharge, short partnerCharge)
 
 std::string makeFormula(Ion first, Ion second)
 {
-    return share(first, second) + share(second, first);
+    std::string compound;
+    addShare(compound, first, second);
+    addShare(compound, second, first);
+    return compound;
 }
 
 void initIons()
@@ -172,10 +181,15 @@ Ion randomIon()
 
 Ion randomNeg()
 {
-    return drawWithSign(true);
+    return drawUntil([](const Ion& drawn) { return drawn.negative; });
+}
+
+Ion randomNegWhere(bool (*wanted)(const Ion& anion))
+{
+    return drawUntil([wanted](const Ion& drawn) { return drawn.negative && wanted(drawn); });
 }
 
 Ion randomPos()
 {
-    return drawWithSign(false);
+    return drawUntil([](const Ion& drawn) { return !drawn.negative; });
 }

@@ -56,5 +56,8 @@ Ion randomIon();
 // The first anion that `randomIon` gives: any of the 13 before bicarbonate.
 Ion randomNeg();
 
+// The first one of repeated `randomNeg` draws that is wanted.
+Ion randomNegWhere(bool (*wanted)(const Ion& anion));
+
 // The first cation that `randomIon` gives: any of the 25.
 Ion randomPos();

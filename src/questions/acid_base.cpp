@@ -16,13 +16,9 @@ bool isBaseAnion(const Ion& candidate)
     return std::find(std::begin(names), std::end(names), candidate.name) != std::end(names);
 }
 
-Ion drawBaseAnion()
+bool hasAcidName(const Ion& candidate)
 {
-    Ion drawn;
-    while (!isBaseAnion(drawn)) {
-        drawn = randomNeg();
-    }
-    return drawn;
+    return !candidate.acidName.empty();
 }
 
 } // namespace
@@ -45,17 +41,13 @@ Neutralisation drawNeutralisation()
 {
     Ion acidAnion = drawAcidAnion();
     Ion baseCation = randomPos();
-    Ion baseAnion = drawBaseAnion();
+    Ion baseAnion = randomNegWhere(isBaseAnion);
     return neutralisationOf(std::move(acidAnion), std::move(baseCation), std::move(baseAnion));
 }
 
 Ion drawAcidAnion()
 {
-    Ion drawn;
-    while (drawn.acidName.empty()) {
-        drawn = randomNeg();
-    }
-    return drawn;
+    return randomNegWhere(hasAcidName);
 }
 
 std::string acidNameOf(const Ion& acidAnion)
