@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "chem/balance.hpp"
+#include "questions/text.hpp"
 
 namespace
 {
@@ -21,6 +22,12 @@ bool hasAcidName(const Ion& candidate)
     return !candidate.acidName.empty();
 }
 
+// A coefficient or a subscript as equations and formulas show it: a 1 is not written.
+std::string unlessOne(int number)
+{
+    return number > 1 ? std::to_string(number) : "";
+}
+
 } // namespace
 
 Neutralisation neutralisationOf(Ion acidAnion, Ion baseCation, Ion baseAnion)
@@ -28,7 +35,7 @@ Neutralisation neutralisationOf(Ion acidAnion, Ion baseCation, Ion baseAnion)
     Neutralisation reaction;
     reaction.acidName = acidNameOf(acidAnion);
     reaction.acidFormula = acidFormulaOf(acidAnion);
-    reaction.baseName = baseCation.name + " " + baseAnion.name;
+    reaction.baseName = joined(baseCation.name, " ", baseAnion.name);
     reaction.baseFormula = makeFormula(baseCation, baseAnion);
     reaction.saltFormula = makeFormula(baseCation, acidAnion);
     reaction.acidAnion = std::move(acidAnion);
@@ -57,22 +64,16 @@ std::string acidNameOf(const Ion& acidAnion)
 
 std::string acidFormulaOf(const Ion& acidAnion)
 {
-    Text formula;
-    formula << "H" << Coefficient{acidAnion.charge} << acidAnion.formula;
-    return std::move(formula.str);
+    return joined("H", unlessOne(acidAnion.charge), acidAnion.formula);
 }
 
-void writeEquation(Text& text, const Neutralisation& reaction, std::string_view excuse)
+std::string equationLine(const Neutralisation& reaction, std::string_view excuse)
 {
     if (!balance(reaction.acidAnion, reaction.baseCation, reaction.baseAnion)) {
-        text << excuse << "\n";
-        return;
+        return joined(excuse, "\n");
     }
-    text << Coefficient{nacid} << reaction.acidFormula << " + " << Coefficient{nbase}
-         << reaction.baseFormula << " -> " << Coefficient{nsalt} << reaction.saltFormula << " + "
-         << Coefficient{nH2O} << "H2O";
-    if (nCO2 > 0) {
-        text << " + " << Coefficient{nCO2} << "CO2";
-    }
-    text << "\n";
+    const std::string carbonDioxide = nCO2 > 0 ? joined(" + ", unlessOne(nCO2), "CO2") : "";
+    return joined(unlessOne(nacid), reaction.acidFormula, " + ", unlessOne(nbase),
+                  reaction.baseFormula, " -> ", unlessOne(nsalt), reaction.saltFormula, " + ",
+                  unlessOne(nH2O), "H2O", carbonDioxide, "\n");
 }

@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "data/ion.hpp"
-#include "questions/text.hpp"
 
 // What the questions about an acid and a base share.
 
@@ -37,7 +36,7 @@ std::string acidNameOf(const Ion& acidAnion);
 // "HNO3", "H2SO4"; no brackets, whatever the anion.
 std::string acidFormulaOf(const Ion& acidAnion);
 
-// Balances the reaction, which leaves its coefficients in the five globals of `balance`, and puts
-// it into the text as a line: "2HCl + Na2CO3 -> 2NaCl + H2O + CO2\n". A coefficient of 1 is not
-// written. If the reaction cannot be balanced the line is `excuse`.
-void writeEquation(Text& text, const Neutralisation& reaction, std::string_view excuse);
+// Balances the reaction, which leaves its coefficients in the five globals of `balance`, and gives
+// it as a line: "2HCl + Na2CO3 -> 2NaCl + H2O + CO2\n". A coefficient of 1 is not written. If the
+// reaction cannot be balanced the line is `excuse`.
+std::string equationLine(const Neutralisation& reaction, std::string_view excuse);

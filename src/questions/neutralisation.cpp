@@ -1,6 +1,6 @@
 #include "questions/neutralisation.hpp"
 
-#include <utility>
+#include "questions/text.hpp"
 
 QandA neutralisationQuestion()
 {
@@ -9,11 +9,7 @@ QandA neutralisationQuestion()
 
 QandA neutralisationQuestion(const Neutralisation& reaction)
 {
-    Text question;
-    question << "Write a balanced equation for " << reaction.acidName << " plus "
-             << reaction.baseName << ".\n";
-
-    Text answer;
-    writeEquation(answer, reaction, "Computer does not have the answer for this question.");
-    return {std::move(question.str), std::move(answer.str)};
+    return {joined("Write a balanced equation for ", reaction.acidName, " plus ", reaction.baseName,
+                   ".\n"),
+            equationLine(reaction, "Computer does not have the answer for this question.")};
 }

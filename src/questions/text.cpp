@@ -12,23 +12,9 @@ std::string general(float number, int digits)
     return std::string(shown, end.ptr);
 }
 
-Text& operator<<(Text& text, int number)
-{
-    text.str += std::to_string(number);
-    return text;
-}
-
 Text& operator<<(Text& text, float number)
 {
     return text << general(number, text.digits);
-}
-
-Text& operator<<(Text& text, Coefficient coefficient)
-{
-    if (coefficient.number > 1) {
-        text << coefficient.number;
-    }
-    return text;
 }
 
 Text& operator<<(Text& text, Digits digits)

@@ -68,45 +68,48 @@ Titration drawTitration(const Neutralisation& reaction)
 
 std::string questionText(const Titration& titration)
 {
-    const Solution& known = titration.known;
-    const Solution& unknown = titration.unknown;
-    Text text;
-    text << "Calculate the concentration of " << unknown.name << " if "
-         << volumeFormat(unknown.volume, 3) << titration.verb << volumeFormat(known.volume, 3)
-         << " of " << titration.concentration << " mol/L " << known.name << ".\n";
-    return std::move(text.str);
+    const auto& [known, unknown, concentration, verb] = titration;
+    return joined("Calculate the concentration of ", unknown.name, " if ",
+                  volumeFormat(unknown.volume, 3), verb, volumeFormat(known.volume, 3), " of ",
+                  general(concentration, 6), " mol/L ", known.name, ".\n");
 }
 
 std::string answerText(const Titration& titration, const Neutralisation& reaction)
 {
-    const std::string_view known = titration.known.formula;
-    const std::string_view unknown = titration.unknown.formula;
-    const float knownMoles = titration.concentration * titration.known.volume;
-    const std::string knownC = general(titration.concentration, 3);
-    const std::string knownV = general(titration.known.volume, 3);
-    const std::string knownN = general(knownMoles, 3);
-    const std::string unknownV = general(titration.unknown.volume, 3);
-
-    Text text;
-    text << "Solution of known concentration is " << known << ", unknown is " << unknown << "\n";
-    text << "V(" << unknown << ") = " << unknownV << " L   V(" << known << ") = " << knownV
-         << " L   C(" << known << ") = " << knownC << " mol/L   C(" << unknown << ") = ?\n";
-    text << "n(" << known << ") = C(" << known << ") x V(" << known << ") = " << knownC << "x"
-         << knownV << " = " << knownN << " mol\n";
-    writeEquation(text, reaction, "Computer had trouble with balancing, answer may be wrong.");
-    text << "Mole ratio n(" << reaction.acidFormula << ") : n(" << reaction.baseFormula << ")  is "
-         << nacid << ":" << nbase << "\n";
+    const std::string equation =
+        equationLine(reaction, "Computer had trouble with balancing, answer may be wrong.");
+    const std::string acids = std::to_string(nacid);
+    const std::string bases = std::to_string(nbase);
 
     // Kept: base over acid whichever of them is known. Where the acid is the unknown and the
     // coefficients differ, its amount comes out inverted.
+    const float knownMoles = titration.concentration * titration.known.volume;
     const float unknownMoles = static_cast<float>(nbase) * knownMoles / static_cast<float>(nacid);
+    const float concentration = unknownMoles / titration.unknown.volume;
+
+    const std::string_view known = titration.known.formula;
+    const std::string_view unknown = titration.unknown.formula;
+    const std::string knownV = general(titration.known.volume, 3);
+    const std::string unknownV = general(titration.unknown.volume, 3);
+    const std::string knownC = general(titration.concentration, 3);
+    const std::string unknownC = general(concentration, 3);
+    const std::string knownN = general(knownMoles, 3);
     const std::string unknownN = general(unknownMoles, 3);
-    const std::string unknownC = general(unknownMoles / titration.unknown.volume, 3);
-    text << "n(" << unknown << ") = " << knownN << " x " << nbase << "/" << nacid << " = "
-         << unknownN << " mol\n";
-    text << "C(" << unknown << ") = n(" << unknown << ") / V(" << unknown << ") = " << unknownN
-         << " / " << unknownV << " = " << unknownC << " mol/L\n";
-    return std::move(text.str);
+
+    // clang-format off
+    return joined(
+        "Solution of known concentration is ", known, ", unknown is ", unknown, "\n",
+        "V(", unknown, ") = ", unknownV, " L   V(", known, ") = ", knownV,
+        " L   C(", known, ") = ", knownC, " mol/L   C(", unknown, ") = ?\n",
+        "n(", known, ") = C(", known, ") x V(", known, ") = ",
+        knownC, "x", knownV, " = ", knownN, " mol\n",
+        equation,
+        "Mole ratio n(", reaction.acidFormula, ") : n(", reaction.baseFormula, ")  is ",
+        acids, ":", bases, "\n",
+        "n(", unknown, ") = ", knownN, " x ", bases, "/", acids, " = ", unknownN, " mol\n",
+        "C(", unknown, ") = n(", unknown, ") / V(", unknown, ") = ",
+        unknownN, " / ", unknownV, " = ", unknownC, " mol/L\n");
+    // clang-format on
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <string_view>
 
 namespace
 {
@@ -42,8 +43,8 @@ TEST(TextTest, PiecesFollowEachOther)
 {
     Text text;
     EXPECT_EQ(text.str, "");
-    text << "V = " << 0.5f << " L, " << 2 << "NaOH" << std::string("\n");
-    EXPECT_EQ(text.str, "V = 0.5 L, 2NaOH\n");
+    text << "V = " << 0.5f << " L of " << std::string("NaOH") << "\n";
+    EXPECT_EQ(text.str, "V = 0.5 L of NaOH\n");
 }
 
 TEST(TextTest, NumbersHaveSixDigitsUntilAnotherPrecisionIsPutIn)
@@ -59,17 +60,6 @@ TEST(TextTest, ThePrecisionStaysUntilTheNextOne)
     text << Digits{3} << 58.4412345f << "/" << 0.342231f << " " << Digits{2} << 0.342231f << " x "
          << 9.96f << " " << Digits{7} << 58.4412345f;
     EXPECT_EQ(text.str, "58.4/0.342 0.34 x 10 58.44123");
-}
-
-TEST(TextTest, WholeNumbersAreShownInFullWhateverThePrecision)
-{
-    Text text;
-    text << Digits{1};
-    for (const int number :
-         {0, 1, -1, 72, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
-        text << number << " ";
-    }
-    EXPECT_EQ(text.str, "0 1 -1 72 2147483647 -2147483648 ");
 }
 
 TEST(TextTest, GeneralNotation)
@@ -147,6 +137,35 @@ TEST(TextTest, ExtremesLookAsInAnOutputStreamAtAnyPrecision)
                 << "to " << digits << " digits";
         }
     }
+}
+
+TEST(GeneralTest, LooksAsInAText)
+{
+    EXPECT_EQ(general(0.342231f, 3), "0.342");
+    EXPECT_EQ(general(0.342231f, 6), "0.342231");
+    EXPECT_EQ(general(1000.0f, 3), "1e+03");
+    EXPECT_EQ(general(-0.04f, 1), "-0.04");
+}
+
+TEST(JoinedTest, PiecesOfAnyKindFollowEachOther)
+{
+    const std::string formula = "Fe2(SO4)3";
+    const std::string_view unit = "mol";
+    EXPECT_EQ(joined("n(", formula, ") = ", std::to_string(2), " ", unit, "\n"),
+              "n(Fe2(SO4)3) = 2 mol\n");
+    EXPECT_EQ(joined(formula), formula);
+}
+
+TEST(JoinedTest, EmptyPiecesLeaveNoTrace)
+{
+    EXPECT_EQ(joined("", std::string()), "");
+    EXPECT_EQ(joined("", "a", std::string(), "b", std::string_view()), "ab");
+}
+
+TEST(JoinedTest, LongTextsAreWhole)
+{
+    const std::string line(1000, '-');
+    EXPECT_EQ(joined(line, "|", line), line + "|" + line);
 }
 
 } // namespace
