@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <regex>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -12,6 +11,15 @@
 
 namespace
 {
+
+// 0/0 has the sign that the machine gives it: "-nan" on x86, "nan" on ARM.
+std::string withoutSignOfNan(std::string text)
+{
+    for (std::size_t at = text.find("-nan"); at != std::string::npos; at = text.find("-nan", at)) {
+        text.erase(at, 1);
+    }
+    return text;
+}
 
 class DilutionTest : public WithCompounds
 {
@@ -167,17 +175,14 @@ TEST_F(DilutionTest, NeitherVolumeMakesTheConcentrationNoNumber)
     draws.V1 = 1 << 30;
     draws.V2 = 1 << 28;
     const QandA made = questionOf(draws);
-    // 0/0 has the sign that the machine gives it: "-nan" on x86, "nan" on ARM.
-    const std::regex sign("-nan");
-    EXPECT_EQ(std::regex_replace(made.question, sign, "nan"),
+    EXPECT_EQ(withoutSignOfNan(made.question),
               "To dilute 0 mL of 0.1 mol/L NaCl to nan mol/L, how much water does it need to be "
               "added to?\n");
-    EXPECT_EQ(std::regex_replace(made.answer, sign, "nan"),
-              "V1 = 0 L   C1 = 0.1 mol/L   C2 = nan mol/L   V2 = ?\n"
-              "C1V1 = C2V2\n"
-              "V2 = C1V1/C2 = 0.1x0/nan = 0 L\n"
-              "V2 - V1 = 0 - 0 = 0 L\n"
-              "So add it to 0 L of water\n");
+    EXPECT_EQ(withoutSignOfNan(made.answer), "V1 = 0 L   C1 = 0.1 mol/L   C2 = nan mol/L   V2 = ?\n"
+                                             "C1V1 = C2V2\n"
+                                             "V2 = C1V1/C2 = 0.1x0/nan = 0 L\n"
+                                             "V2 - V1 = 0 - 0 = 0 L\n"
+                                             "So add it to 0 L of water\n");
 }
 
 TEST_F(DilutionTest, NoOtherDrawChangesAQuantity)

@@ -218,10 +218,10 @@ std::string ChildProcess::waitForEnd()
 
 void ChildProcess::waitForStop() const
 {
-    const auto id = static_cast<id_t>(process);
+    const auto child = static_cast<id_t>(process);
     siginfo_t report{};
     waitUntil(
-        [&] { return waitid(P_PID, id, &report, WSTOPPED | WNOHANG) == 0 && report.si_pid > 0; },
+        [&] { return waitid(P_PID, child, &report, WSTOPPED | WNOHANG) == 0 && report.si_pid > 0; },
         "stop");
 }
 
