@@ -89,7 +89,7 @@ const std::array<Solubility, 13> solubilities = {{
 // "soluble", "insoluble", or "" where it is not known.
 std::string solubility(const Ion& cation, const Ion& anion)
 {
-    const auto row =
+    const auto* const row =
         std::find_if(solubilities.begin(), solubilities.end() - 1,
                      [&anion](const Solubility& each) { return each.anion == anion.formula; });
     const bool excepted = row->exceptions.find(" " + cation.formula + " ") != std::string::npos;
@@ -140,7 +140,7 @@ public:
     }
 
     // What has been printed since the last call.
-    std::string take()
+    static std::string take()
     {
         std::fflush(stdout);
         const off_t size = lseek(STDOUT_FILENO, 0, SEEK_CUR);
@@ -155,9 +155,9 @@ public:
 template <class Grader>
 Verdict given(const Grader& grader)
 {
-    static CapturedStdout output;
+    static const CapturedStdout capture;
     const int points = grader();
-    return {points, output.take()};
+    return {points, CapturedStdout::take()};
 }
 
 } // namespace

@@ -22,5 +22,6 @@ inline Outcome outcomeOf(float (*parser)(std::string), const std::string& formul
 // The same bits, but for NaNs, whose bits mean nothing.
 inline bool sameMass(float a, float b)
 {
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): the bits are the point
     return std::memcmp(&a, &b, sizeof a) == 0 || (std::isnan(a) && std::isnan(b));
 }

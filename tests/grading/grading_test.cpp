@@ -232,7 +232,7 @@ std::string pipedOutputOf(Call call)
     close(ends[1]);
     std::string output;
     char buffer[256];
-    for (ssize_t got; (got = read(ends[0], buffer, sizeof buffer)) > 0;) {
+    for (ssize_t got = 0; (got = read(ends[0], buffer, sizeof buffer)) > 0;) {
         output.append(buffer, static_cast<std::size_t>(got));
     }
     close(ends[0]);

@@ -44,7 +44,7 @@ PipedProgram::PipedProgram(const std::string& path, Pipe in, Pipe out)
 {
 }
 
-void PipedProgram::type(const std::string& keys)
+void PipedProgram::type(const std::string& keys) const
 {
     writeAll(input.number(), keys);
 }
@@ -54,7 +54,7 @@ std::string PipedProgram::skipToWait(int questions)
     return output.until(prompt, questions);
 }
 
-void PipedProgram::expectsKey()
+void PipedProgram::expectsKey() const
 {
     child.waitForSleep();
     EXPECT_FALSE(output.hasMore());

@@ -30,11 +30,11 @@ std::set<int> kindsIn(const std::string& dialogue);
 struct PipedProgram {
     explicit PipedProgram(const std::string& path);
 
-    void type(const std::string& keys);
+    void type(const std::string& keys) const;
     // Reads on to the wait that is as many questions away.
     std::string skipToWait(int questions);
     // Fails the test unless the program has shown all that it has to show and waits for a key.
-    void expectsKey();
+    void expectsKey() const;
 
     Descriptor input;
     Descriptor source;

@@ -45,7 +45,7 @@ protected:
         screen->until("0. Random\r\n");
     }
 
-    void type(const std::string& keys)
+    void type(const std::string& keys) const
     {
         writeAll(terminal.person.number(), keys);
     }

@@ -172,7 +172,7 @@ Terminal makeTerminal()
 }
 
 ChildProcess::ChildProcess(const std::string& program, const Surroundings& surroundings)
-    : process(-1), errorPipe(makePipe())
+    : errorPipe(makePipe())
 {
     std::signal(SIGPIPE, SIG_IGN); // a child that ended early fails its test, not the test run
     std::vector<std::string> words = commandLine(program);
@@ -318,5 +318,5 @@ bool hasTerminals()
 
 bool hasLauncher()
 {
-    return std::string(LAUNCHER) != "";
+    return !std::string(LAUNCHER).empty();
 }

@@ -69,7 +69,7 @@ public:
     long peakMemory() const;
 
 private:
-    pid_t process;
+    pid_t process{-1};
     bool ended = false;
     Pipe errorPipe;
 };

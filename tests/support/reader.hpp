@@ -34,7 +34,7 @@ bool agree(Shown number, Range worked);
 class Reader
 {
 public:
-    explicit Reader(std::string text);
+    explicit Reader(std::string read);
 
     // Moves past the words.
     void expect(const std::string& words);
