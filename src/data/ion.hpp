@@ -38,12 +38,11 @@ public:
     int getResponse(std::string answer) const;
 };
 
-// The same for two ions of which the charges are enough to know.
+// What `getSubscript` gives for an ion and a partner with these charges.
 int subscript(short ownCharge, short partnerCharge);
 
 // The neutral compound of two ions, normally the cation first. No signs, no blanks.
-//   sodium, chloride -> "NaCl"    aluminium, sulphate -> "Al2(SO4)3"    ammonium, oxide ->
-//   "(NH4)2O"
+//   sodium, chloride -> "NaCl"    aluminium, sulphate -> "Al2(SO4)3"
 std::string makeFormula(Ion first, Ion second);
 
 // Appends the 39 compiled-in ions to `ion`, whatever it already holds.
