@@ -45,7 +45,7 @@ TEST(RandomTest, AnOddNumberOfStepsGivesTheLowerBound)
         {-7, -7, greatestDraw, -7.0f},
         {1, 15, 0, 1.0f},
         {1, 15, 1 << 30, 1.0f},
-        {1, 15, 143165577, 1.0f}, // The product is one past 2^31.
+        {1, 15, 143165577, 1.0f}, // The first product past 2^31.
         {1, 15, greatestDraw, 1.0f},
         {100, 1000, 1 << 30, 100.0f},
         {100, 1000, greatestDraw, 100.0f},
@@ -74,7 +74,7 @@ TEST(RandomTest, NegativeProductsAreCutOffTowardsZero)
 {
     expectDraws({
         {0, 1, greatestDraw, 0.0f},  // The product wraps to -2.
-        {0, 1, (1 << 30) + 1, 0.0f}, // It wraps to the second least number.
+        {0, 1, (1 << 30) + 1, 0.0f}, // It wraps to the least number plus 2.
         {0, 9, greatestDraw, 0.0f},
         {-3, 0, greatestDraw, -3.0f},
         {-3, 0, 1 << 29, -4.0f},
