@@ -33,6 +33,6 @@ std::string compoundDesignation(const Soluble& compound, bool byName);
 // std::out_of_range for a name of fewer than seven letters.
 Soluble drawAnhydrousCompound();
 
-// The least V2 for a V1, in steps of 0.05 L: at least one step more than V1.
+// The least V2 for a V1, in steps of 0.05 L: the first step that is more than V1.
 //   0.01 -> 1    0.2 -> 5    0.35 -> 8    0.5 -> 11
 int leastFinalVolume(float V1);

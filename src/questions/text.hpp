@@ -6,8 +6,7 @@
 #include <string_view>
 
 // A number in general notation: so many significant digits, no trailing zeros, an exponent where it
-// is less than -4 or not less than the digits. Fewer than 1 digit count as 1, a negative number of
-// them as 6.
+// is less than -4 or not less than the digits. 0 digits count as 1, a negative number of them as 6.
 //   general(0.342231f, 3) -> "0.342"    general(0.00005f, 3) -> "5e-05"    general(100, 3) -> "100"
 std::string general(float number, int digits);
 
