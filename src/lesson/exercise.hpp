@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -155,7 +156,7 @@ struct Exercise {
 };
 
 // The exercise of a place, always the same one.
-Exercise makeExercise(Place place);
+Exercise makeExercise(const Place& place);
 
 enum class Verdict {
     correct,
