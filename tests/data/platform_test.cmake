@@ -26,5 +26,17 @@ add_refusal_test(RefusesAnotherFloat -DOTHER_FLT_MANT_DIG=53
                  "quantities are IEEE single-precision numbers")
 add_refusal_test(RefusesWiderEvaluation -DOTHER_FLT_EVAL_METHOD=2
                  "every operation on a float has to be rounded to single precision")
-add_refusal_test(RefusesFastMath -ffast-math
-                 "fast-math arithmetic changes the printed digits")
+
+set(FAST_MATH
+    "fast-math arithmetic changes the printed digits. compile without -ffast-math and its parts")
+add_refusal_test(RefusesFastMath -ffast-math "${FAST_MATH}")
+add_refusal_test(RefusesFastMathByItsLevel -Ofast "${FAST_MATH}")
+add_refusal_test(RefusesFiniteMath -ffinite-math-only "${FAST_MATH}")
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  add_refusal_test(RefusesUnsafeMath -funsafe-math-optimizations "${FAST_MATH}")
+  add_refusal_test(RefusesReciprocals -freciprocal-math "${FAST_MATH}")
+  add_refusal_test(RefusesZerosWithoutSign -fno-signed-zeros "${FAST_MATH}")
+  add_refusal_test(RefusesNarrowConstants -fsingle-precision-constant "${FAST_MATH}")
+  add_refusal_test(RefusesSumsInAnotherOrder
+                   "-fassociative-math;-fno-signed-zeros;-fno-trapping-math" "${FAST_MATH}")
+endif()
