@@ -127,6 +127,7 @@ TEST(EndingTest, OutputClosedFromTheStartDoesNotEndIt)
 {
     Pipe keys = makePipe();
     ChildProcess child(PROGRAM, {keys.readEnd.number(), -1});
+    keys.readEnd.close();
     writeAll(keys.writeEnd.number(), "4\n" + manyKeys);
     child.send(SIGINT);
     EXPECT_EQ(child.waitForEnd(), endBySignal(SIGINT));
@@ -139,6 +140,7 @@ TEST(EndingTest, FullDeviceDoesNotEndIt)
     const Descriptor full(open("/dev/full", O_WRONLY | O_CLOEXEC));
     ASSERT_GE(full.number(), 0);
     ChildProcess child(PROGRAM, {keys.readEnd.number(), full.number()});
+    keys.readEnd.close();
     writeAll(keys.writeEnd.number(), "4\n" + manyKeys);
     child.send(SIGINT);
     EXPECT_EQ(child.waitForEnd(), endBySignal(SIGINT));
