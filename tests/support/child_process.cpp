@@ -6,6 +6,7 @@
 #include <sys/ioctl.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -111,18 +112,51 @@ void endWithParent(pid_t parent)
     }
 }
 
+// Gives the terminal of this session another foreground, which need not live, and has it refuse
+// what the background writes. No shell could stop or continue a group whose parent is of another
+// session, so the writes fail.
+void goIntoBackground(int terminal)
+{
+    termios modes{};
+    tcgetattr(terminal, &modes);
+    modes.c_lflag |= TOSTOP;
+    tcsetattr(terminal, TCSANOW, &modes);
+
+    const pid_t foreground = fork();
+    if (foreground == 0) {
+        pause();
+        _exit(0);
+    }
+    setpgid(foreground, foreground);
+    tcsetpgrp(terminal, foreground);
+    kill(foreground, SIGKILL);
+    waitpid(foreground, nullptr, 0);
+}
+
+void takePlace(const Surroundings& surroundings)
+{
+    switch (surroundings.place) {
+    case Place::besideTheTest:
+        setpgid(0, 0);
+        break;
+    case Place::onItsTerminal:
+        setsid();
+        ioctl(surroundings.input, TIOCSCTTY, 0);
+        break;
+    case Place::inTheBackground:
+        setsid();
+        ioctl(surroundings.output, TIOCSCTTY, 0);
+        goIntoBackground(surroundings.output);
+        break;
+    }
+}
+
 // Runs in the child.
 [[noreturn]] void become(const std::vector<char*>& arguments, const Surroundings& surroundings,
                          int errors, pid_t parent)
 {
     endWithParent(parent);
-    if (surroundings.ownTerminal) {
-        setsid();
-        ioctl(surroundings.input, TIOCSCTTY, 0);
-    } else {
-        // A group that can be stopped: its parent is of the same session and another group.
-        setpgid(0, 0);
-    }
+    takePlace(surroundings);
     placeStream(surroundings.input, STDIN_FILENO);
     placeStream(surroundings.output, STDOUT_FILENO);
     placeStream(errors, STDERR_FILENO);
