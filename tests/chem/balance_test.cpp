@@ -10,6 +10,7 @@
 
 #include "support/atom_count.hpp"
 #include "support/catalogue.hpp"
+#include "support/neutral_compound.hpp"
 
 namespace
 {
@@ -91,30 +92,16 @@ TEST(BalanceTest, KnownEquations)
     }
 }
 
-std::string acidOf(const Ion& acidAnion)
-{
-    const std::string hydrogen =
-        acidAnion.charge == 1 ? "H" : "H" + std::to_string(acidAnion.charge);
-    return hydrogen + acidAnion.formula;
-}
-
-void addAtoms(std::map<std::string, int>& sum, const std::string& formula, int times)
-{
-    for (const auto& [symbol, count] : countAtoms(formula)) {
-        sum[symbol] += count * times;
-    }
-}
-
 void expectEveryAtomConserved(const Ion& acidAnion, const Ion& baseCation, const Ion& baseAnion)
 {
     std::map<std::string, int> left;
-    addAtoms(left, acidOf(acidAnion), nacid);
-    addAtoms(left, makeFormula(baseCation, baseAnion), nbase);
+    addAtoms(left, nacid, acidOf(acidAnion));
+    addAtoms(left, nbase, neutralCompound(baseCation, baseAnion));
     std::map<std::string, int> right;
-    addAtoms(right, makeFormula(baseCation, acidAnion), nsalt);
-    addAtoms(right, "H2O", nH2O);
+    addAtoms(right, nsalt, neutralCompound(baseCation, acidAnion));
+    addAtoms(right, nH2O, "H2O");
     if (nCO2 > 0) {
-        addAtoms(right, "CO2", nCO2);
+        addAtoms(right, nCO2, "CO2");
     }
     EXPECT_EQ(left, right);
 }

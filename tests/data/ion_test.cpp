@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <iterator>
 #include <map>
-#include <numeric>
 #include <set>
 #include <string>
 #include <type_traits>
@@ -14,6 +13,7 @@
 #include "data/tables.hpp"
 #include "support/atom_count.hpp"
 #include "support/catalogue.hpp"
+#include "support/neutral_compound.hpp"
 #include "support/scripted_draws.hpp"
 
 namespace
@@ -237,42 +237,18 @@ TEST_F(IonTest, CompoundFormulasOfChargesOutsideTheTable)
     }
 }
 
-// How often an ion has to be taken for charges that cancel out with as few ions as possible.
-int takenTimes(const Ion& own, const Ion& partner)
-{
-    return std::lcm(own.charge, partner.charge) / own.charge;
-}
-
-std::string writtenTimes(const Ion& each, int times)
-{
-    if (times == 1) {
-        return each.formula;
-    }
-    const std::string digit = std::to_string(times);
-    return each.polyatomic ? "(" + each.formula + ")" + digit : each.formula + digit;
-}
-
-void addAtoms(std::map<std::string, int>& sum, const Ion& each, int times)
-{
-    for (const auto& [symbol, count] : countAtoms(each.formula)) {
-        sum[symbol] += count * times;
-    }
-}
-
 TEST_F(IonTest, EveryPairIsNeutralInLowestTermsWithBracketsOnlyWhereNeeded)
 {
     int pairs = 0;
     for (const Ion& first : catalogueIons()) {
         for (const Ion& second : catalogueIons()) {
-            const int firstTimes = takenTimes(first, second);
-            const int secondTimes = takenTimes(second, first);
             const std::string formula = makeFormula(first, second);
-            EXPECT_EQ(formula, writtenTimes(first, firstTimes) + writtenTimes(second, secondTimes));
-            EXPECT_EQ(first.getSubscript(second), firstTimes) << formula;
+            EXPECT_EQ(formula, neutralCompound(first, second));
+            EXPECT_EQ(first.getSubscript(second), timesIn(first, second)) << formula;
 
             std::map<std::string, int> atoms;
-            addAtoms(atoms, first, firstTimes);
-            addAtoms(atoms, second, secondTimes);
+            addAtoms(atoms, timesIn(first, second), first.formula);
+            addAtoms(atoms, timesIn(second, first), second.formula);
             EXPECT_EQ(countAtoms(formula), atoms) << formula;
             ++pairs;
         }

@@ -204,9 +204,9 @@ TEST(GradingTest, VerdictsAndQuestionsComeInTheOrderOfTheCalls)
     const Ion chloride = ionCalled("chloride");
     const Ion sulphate = ionCalled("sulphate");
     const std::string output = outputOf([&] {
-        std::cout << "Formula of sodium chloride?" << std::endl;
+        std::cout << "Formula of sodium chloride? "; // not flushed, nor are the next two
         getResponse(sodium, chloride, "NaCl");
-        std::cout << "Formula of sodium sulphate? "; // not flushed
+        std::cout << "Formula of sodium sulphate? ";
         getResponse(sodium, sulphate, "na2so4");
         std::cout << "Formula of the sulphate ion? ";
         sulphate.getResponse("SO4");
@@ -214,8 +214,7 @@ TEST(GradingTest, VerdictsAndQuestionsComeInTheOrderOfTheCalls)
         getSolResponse(sodium, chloride, "no");
         std::cout << "End." << std::endl;
     });
-    EXPECT_EQ(output, "Formula of sodium chloride?\n"
-                      "Correct.\n"
+    EXPECT_EQ(output, "Formula of sodium chloride? Correct.\n"
                       "Formula of sodium sulphate? Close; correct answer is Na2SO4\n"
                       "Formula of the sulphate ion? Incorrect; correct answer is SO42-\n"
                       "Does sodium chloride dissolve?\n"
