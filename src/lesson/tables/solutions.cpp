@@ -143,7 +143,7 @@ const std::vector<SoluteRow>& hydrates()
     return rows;
 }
 
-const std::vector<SoluteRow>& acids()
+const std::vector<SoluteRow>& acidSolutions()
 {
     static const std::vector<SoluteRow> rows = listOf(acidRows);
     return rows;
@@ -157,7 +157,7 @@ const std::vector<SoluteRow>& furtherTitrants()
 
 const SoluteRow* findSolute(std::string_view formula)
 {
-    for (const auto* const list : {&solutes(), &hydrates(), &acids(), &furtherTitrants()}) {
+    for (const auto* const list : {&solutes(), &hydrates(), &acidSolutions(), &furtherTitrants()}) {
         for (const SoluteRow& row : *list) {
             if (row.formula == formula) {
                 return &row;

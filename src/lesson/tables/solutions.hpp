@@ -22,7 +22,7 @@ const std::vector<SoluteRow>& solutes();
 // The same with water of crystallisation; each has the ceiling of its salt. For weighing only.
 const std::vector<SoluteRow>& hydrates();
 // What comes as a solution and is only diluted.
-const std::vector<SoluteRow>& acids();
+const std::vector<SoluteRow>& acidSolutions();
 // What is in titrations alone, besides some of the above.
 const std::vector<SoluteRow>& furtherTitrants();
 

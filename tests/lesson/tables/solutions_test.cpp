@@ -61,7 +61,7 @@ TEST(SolutionsTest, CeilingsAreThoseTypedOnceMore)
                          "1.00 Pb(NO3)2 Fe2(SO4)3 Na2SO4 CuSO4 NaHCO3 "
                          "0.80 Al2(SO4)3 0.60 Na3PO4 0.50 K2SO4 0.30 Cu(CH3COO)2 Ba(NO3)2 "
                          "0.20 AgNO3"));
-    EXPECT_EQ(ceilingsOf(acids()), ceilingsIn("3.00 H2SO4 6.00 HCl HNO3 CH3COOH"));
+    EXPECT_EQ(ceilingsOf(acidSolutions()), ceilingsIn("3.00 H2SO4 6.00 HCl HNO3 CH3COOH"));
     EXPECT_EQ(ceilingsOf(hydrates()),
               ceilingsIn("1.00 CuSO4.5H2O 1.50 FeSO4.7H2O Na2CO3.10H2O BaCl2.2H2O "
                          "2.00 CoCl2.6H2O MgSO4.7H2O ZnSO4.7H2O"));
@@ -69,7 +69,7 @@ TEST(SolutionsTest, CeilingsAreThoseTypedOnceMore)
 
 TEST(SolutionsTest, SilverNitrateAloneHasAGreatestMass)
 {
-    for (const auto* const list : {&solutes(), &hydrates(), &acids(), &furtherTitrants()}) {
+    for (const auto* const list : {&solutes(), &hydrates(), &acidSolutions(), &furtherTitrants()}) {
         for (const SoluteRow& row : *list) {
             EXPECT_EQ(row.greatestMass, row.formula == "AgNO3" ? 200 : 0) << row.formula;
         }
@@ -134,7 +134,7 @@ TEST(SolutionsTest, AcidsAndAmmoniaHaveTheNamesOfASchoolBoard)
         {"H2C2O4", {"ethanedioic acid", "oxalic acid"}},
         {"NH3", {"ammonia solution", ""}},
     };
-    EXPECT_EQ(acids().size() + furtherTitrants().size(), expected.size());
+    EXPECT_EQ(acidSolutions().size() + furtherTitrants().size(), expected.size());
     for (const auto& [formula, names] : expected) {
         const SoluteRow* const row = findSolute(formula);
         ASSERT_NE(row, nullptr) << formula;
