@@ -243,6 +243,7 @@ TEST(BalanceTest, ImpossibleChargesAreGivenUpUnreduced)
         {4, 2, "carbonate", 2, {1, 1, 1, 2, 1}},
         {5, 3, "carbonate", 2, {72, 12, 24, 180, 36}},
         {1, 1, "oxide", 1, {2, 2, 2, 1, 0}},
+        {2, 1, "oxide", 1, {1, 2, 1, 1, 0}}, // At first only the cations differ.
         {2, 3, "oxide", 3, {3, 2, 1, 3, 0}},
         {4, 2, "oxide", 2, {1, 1, 1, 2, 0}},
         {5, 3, "oxide", 2, {72, 12, 24, 180, 0}},

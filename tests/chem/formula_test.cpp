@@ -290,6 +290,11 @@ TEST_F(FormulaTest, LastCharacterOfAnUnclosedGroupIsNotRead)
         {"(((q", 0.0f, "BB"},
         {"(Hqq", 0.0f, "BE"},
         {"(q(q)2", 0.0f, "BEBE"},
+        // Nor as the second letter of a symbol: X and T are no elements, Xe and Tl are.
+        {"(Xe", 0.0f, "BE"},
+        {"(TlTl", 0.0f, "BE"},
+        {"((H)2Xe", 0.0f, "BE"},
+        {".2(Xe", 0.0f, "BE"},
     });
 }
 

@@ -374,4 +374,11 @@ TEST(LeastFinalVolumeTest, SinglePrecisionMatters)
     EXPECT_EQ(leastFinalVolume(0.5f), 11);
 }
 
+TEST(LeastFinalVolumeTest, AStepIsNotFullShortlyBeforeItsEnd)
+{
+    EXPECT_EQ(leastFinalVolume(0.0499f), 1);
+    EXPECT_EQ(leastFinalVolume(0.0999f), 2);
+    EXPECT_EQ(leastFinalVolume(0.4999f), 10);
+}
+
 } // namespace
