@@ -1,0 +1,123 @@
+#include "lesson/marking/typed.hpp"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "lesson/utf8.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+struct Spelling {
+    std::string_view typed;
+    std::string_view plain;
+};
+
+// clang-format off
+constexpr Spelling spellings[] = {
+    // Blanks: tab, line ends, no-break, the typographer's widths, ideographic, byte-order mark.
+    {"\t", " "}, {"\n", " "}, {"\v", " "}, {"\f", " "}, {"\r", " "},
+    {"\u00A0", " "}, {"\u2000", " "}, {"\u2001", " "}, {"\u2002", " "}, {"\u2003", " "},
+    {"\u2004", " "}, {"\u2005", " "}, {"\u2006", " "}, {"\u2007", " "}, {"\u2008", " "},
+    {"\u2009", " "}, {"\u200A", " "}, {"\u202F", " "}, {"\u205F", " "}, {"\u3000", " "},
+    // No width at all.
+    {"\u200B", ""}, {"\u200C", ""}, {"\u200D", ""}, {"\u2060", ""}, {"\uFEFF", ""},
+    // Minus signs and dashes.
+    {"\u2010", "-"}, {"\u2011", "-"}, {"\u2012", "-"}, {"\u2013", "-"}, {"\u2014", "-"},
+    {"\u2015", "-"}, {"\u2212", "-"}, {"\uFE63", "-"}, {"\uFF0D", "-"}, {"\u02D7", "-"},
+    {"\uFF0B", "+"},
+    // Subscripts.
+    {"\u2080", "0"}, {"\u2081", "1"}, {"\u2082", "2"}, {"\u2083", "3"}, {"\u2084", "4"},
+    {"\u2085", "5"}, {"\u2086", "6"}, {"\u2087", "7"}, {"\u2088", "8"}, {"\u2089", "9"},
+    {"\u208D", "("}, {"\u208E", ")"},
+    // Arrows.
+    {"\u2192", "->"}, {"\u27F6", "->"}, {"\u21D2", "->"}, {"\u27F9", "->"}, {"\u279D", "->"},
+    {"\u279C", "->"}, {"\u2794", "->"}, {"\u21C0", "->"}, {"\u21FE", "->"},
+    {"\u21CC", "<->"}, {"\u21CB", "<->"}, {"\u21C4", "<->"}, {"\u2194", "<->"}, {"\u21D4", "<->"},
+    {"\u21C6", "<->"}, {"\u27F7", "<->"},
+    // Multiplication signs, and dots above the line.
+    {"\u00D7", "×"}, {"\u2715", "×"}, {"\u2A2F", "×"}, {"\u2217", "*"},
+    {"\u00B7", "·"}, {"\u2022", "·"}, {"\u2219", "·"}, {"\u22C5", "·"}, {"\u2027", "·"},
+    // Fractions as one character.
+    {"\u00BD", "1/2"}, {"\u2044", "/"}, {"\u2215", "/"},
+};
+
+constexpr Spelling superscripts[] = {
+    {"\u2070", "0"}, {"\u00B9", "1"}, {"\u00B2", "2"}, {"\u00B3", "3"}, {"\u2074", "4"},
+    {"\u2075", "5"}, {"\u2076", "6"}, {"\u2077", "7"}, {"\u2078", "8"}, {"\u2079", "9"},
+    {"\u207A", "+"}, {"\u207B", "-"},
+};
+// clang-format on
+
+template <std::size_t N>
+const Spelling* spellingAt(const Spelling (&table)[N], std::string_view text)
+{
+    const auto* const found =
+        std::find_if(std::begin(table), std::end(table), [text](const Spelling& spelling) {
+            return text.substr(0, spelling.typed.size()) == spelling.typed;
+        });
+    return found == std::end(table) ? nullptr : found;
+}
+
+std::string_view withoutBlanksAtTheEnds(std::string_view text)
+{
+    while (!text.empty() && text.front() == ' ') {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && text.back() == ' ') {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+} // namespace
+
+std::string plainTyped(std::string_view typed)
+{
+    std::string plain;
+    bool inSuperscript = false;
+    while (!typed.empty()) {
+        const Spelling* const superscript = spellingAt(superscripts, typed);
+        if (superscript != nullptr && !inSuperscript && (plain.empty() || plain.back() != '^')) {
+            plain += '^';
+        }
+        inSuperscript = superscript != nullptr;
+        const Spelling* const known = inSuperscript ? superscript : spellingAt(spellings, typed);
+        plain += known == nullptr ? typed.substr(0, 1) : known->plain;
+        typed.remove_prefix(known == nullptr ? 1 : known->typed.size());
+    }
+    return std::string(withoutBlanksAtTheEnds(plain));
+}
+
+std::string quotable(std::string_view typed)
+{
+    constexpr int most = 40;
+    std::string quoted;
+    for (int characters = 0; !typed.empty(); ++characters) {
+        if (characters == most) {
+            return quoted + "…";
+        }
+        const std::size_t length = characterLength(typed);
+        const auto first = static_cast<unsigned char>(typed.front());
+        const bool isControl = first < 0x20U || first == 0x7FU;
+        quoted += length == 0 || isControl ? "\uFFFD" : typed.substr(0, length);
+        typed.remove_prefix(length == 0 ? 1 : length);
+    }
+    return quoted;
+}
+
+std::string lowerCase(std::string_view text)
+{
+    std::string lower(text);
+    for (char& letter : lower) {
+        if (letter >= 'A' && letter <= 'Z') {
+            letter = static_cast<char>(letter - 'A' + 'a');
+        }
+    }
+    return lower;
+}
+
+} // namespace lesson

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace lesson
+{
+
+// What was typed, in one spelling: blanks at the ends are gone, every blank is an ordinary one and
+// every minus or dash a "-"; subscripts are ordinary digits, and a run of superscripts is written
+// behind a "^"; arrows are "->", two-way ones "<->"; a multiplication sign is "×" and a raised or
+// bold dot "·". Every other character is as it was, bytes that are no UTF-8 among them.
+//   " 3.42×10⁻² " -> "3.42×10^-2"    "SO₄²⁻" -> "SO4^2-"    "CuSO₄•5H₂O" -> "CuSO4·5H2O"
+std::string plainTyped(std::string_view typed);
+
+// The text for a sentence to the learner: at most 40 characters of it and then "…", with a
+// replacement character for every byte that is no UTF-8 and for control characters.
+std::string quotable(std::string_view typed);
+
+// 'A' to 'Z' in lower case, everything else as it is.
+std::string lowerCase(std::string_view text);
+
+} // namespace lesson
