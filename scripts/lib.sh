@@ -5,18 +5,28 @@
 #   jobs                     how many jobs a build may run at once, set here
 #   need_packages NAME...    makes sure of these Debian packages: installs the missing ones where
 #                            there is apt-get, elsewhere says what is missing and fails
-#   build_and_test PRESET    configures, builds and runs all tests by a workflow of
-#                            CMakePresets.json
+#   to_build, to_test        the names for it of what the program needs, and its tests as well
+#   configure FOLDER OPTION...
+#                            has CMake configure this build folder of the project
+#   build_and_test PRESET    configures build/PRESET by CMakePresets.json, builds it, runs its tests
+#   own_files FOLDER PATTERN...
+#                            the files below a folder with such names but those that were built or
+#                            installed, each ended with a NUL; a tarball has no git that could tell
 #
 # A NAME is a package, or SIGN:PACKAGE with the command or the header that shows that it is there,
 # so that other systems are asked for the thing itself:
 #
-#   need_packages c++:g++ cmake make gtest/gtest.h:libgtest-dev clang-14
+#   need_packages "${to_build[@]}" gtest/gtest.h:libgtest-dev clang-14
 #
-# Everything that it prints goes to standard error, and it leaves standard input alone.
+# Everything that need_packages prints goes to standard error, and it leaves standard input alone.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 jobs=$(getconf _NPROCESSORS_ONLN)
+case ${CMAKE_GENERATOR-} in
+Ninja*) to_build=(c++:g++ cmake ninja:ninja-build) ;;
+*) to_build=(c++:g++ cmake make) ;;
+esac
+to_test=("${to_build[@]}" gtest/gtest.h:libgtest-dev gmock/gmock.h:libgmock-dev nlohmann/json.hpp:nlohmann-json3-dev)
 
 need_packages() {
     local name missing=()
@@ -26,8 +36,36 @@ need_packages() {
     [ ${#missing[@]} -eq 0 ] || install_packages "${missing[@]}"
 } </dev/null >&2
 
+configure() {
+    is_ours "$1" || forget "$1"
+    cmake -S "$root" -B "$@"
+}
+
 build_and_test() {
-    CMAKE_BUILD_PARALLEL_LEVEL=$jobs CTEST_PARALLEL_LEVEL=$jobs cmake --workflow --preset "$1"
+    configure "$root/build/$1" --preset "$1"
+    cmake --build "$root/build/$1" --parallel "$jobs"
+    ctest --test-dir "$root/build/$1" --output-on-failure --parallel "$jobs"
+}
+
+own_files() {
+    local name names=()
+    for name in "${@:2}"; do
+        names+=(-o -name "$name")
+    done
+    find "$1" \( -name build -o -name node_modules -o -name .git \) -prune -o \
+        -type f \( "${names[@]:1}" \) -print0
+}
+
+# A build folder that was copied along with the project belongs to the place it was copied from.
+is_ours() {
+    [ ! -e "$1/CMakeCache.txt" ] ||
+        [ "$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$1/CMakeCache.txt")" -ef "$root" ]
+}
+
+# What CMake keeps of the place, and the object files; other things that were made stay.
+forget() {
+    echo "$1 was configured for another place and is built anew." >&2
+    find "$1" \( -name CMakeCache.txt -o -name CMakeFiles \) -prune -exec rm -r {} +
 }
 
 is_there() {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -131,7 +132,7 @@ struct PrecipitateAnswer {
     std::string rule;
 };
 
-// The balanced equation of an acid and a base; see kinds/reaction.hpp for what is drawn.
+// The balanced equation of an acid and a base; see reaction.hpp.
 struct EquationAnswer {
     Equation equation;
     std::string acid; // formulas
@@ -155,7 +156,7 @@ struct Exercise {
 };
 
 // The exercise of a place, always the same one.
-Exercise makeExercise(Place place);
+Exercise makeExercise(const Place& place);
 
 enum class Verdict {
     correct,

@@ -1,0 +1,194 @@
+#include "lesson/choice.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace lesson
+{
+
+bool operator==(const KindAndLevel& a, const KindAndLevel& b)
+{
+    return a.kind == b.kind && a.level == b.level;
+}
+
+void PrintTo(const KindAndLevel& one, std::ostream* out)
+{
+    *out << "kind " << static_cast<int>(one.kind) << " level " << one.level;
+}
+
+namespace
+{
+
+using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
+
+TEST(ChoiceTest, OneKind)
+{
+    struct Case {
+        const char* names;
+        KindAndLevel expected;
+    };
+    const Case cases[] = {
+        {"molar-mass", {Kind::molarMass, 2}},
+        {"compound-formula", {Kind::compoundFormula, 2}},
+        {"ion-formula:1", {Kind::ionFormula, 1}},
+        {"solubility:2", {Kind::solubility, 2}},
+        {"concentration:3", {Kind::concentration, 3}},
+        {"dilution", {Kind::dilution, 2}},
+        {"neutralisation:1", {Kind::neutralisation, 1}},
+        {"titration:3", {Kind::titration, 3}},
+    };
+    for (const Case& one : cases) {
+        const Choice choice = readChoice(one.names);
+        EXPECT_THAT(choice.kinds, ElementsAre(one.expected)) << one.names;
+        EXPECT_EQ(choice.error, "") << one.names;
+    }
+}
+
+TEST(ChoiceTest, SeveralKindsInAnyOrder)
+{
+    for (const char* const names :
+         {"titration:3,dilution,titration:1", "dilution:2,titration:1,titration:3"}) {
+        EXPECT_THAT(readChoice(names).kinds,
+                    ElementsAre(KindAndLevel{Kind::dilution, 2}, KindAndLevel{Kind::titration, 1},
+                                KindAndLevel{Kind::titration, 3}))
+            << names;
+    }
+}
+
+TEST(ChoiceTest, MixedIsAllEightAtLevelTwo)
+{
+    std::vector<KindAndLevel> expected;
+    for (int kind = 0; kind < 8; ++kind) {
+        expected.push_back({static_cast<Kind>(kind), 2});
+    }
+    EXPECT_THAT(readChoice("mixed").kinds, ElementsAreArray(expected));
+}
+
+TEST(ChoiceTest, WhatCannotBeReadIsToldInASentence)
+{
+    struct Case {
+        const char* names;
+        const char* error;
+    };
+    const char* const none = "Name a kind of exercise.";
+    const char* const mixedAlone = "The kind mixed stands alone, without a level.";
+    const Case cases[] = {
+        {"", none},
+        {",", none},
+        {"dilution,", none},
+        {",dilution", none},
+        {"dilution,,titration", none},
+        {":2", none},
+        {"dillution", "There is no kind of exercise called 'dillution'."},
+        {"Dilution", "There is no kind of exercise called 'Dilution'."},
+        {"dilution, titration", "There is no kind of exercise called ' titration'."},
+        {"\x80\n", "There is no kind of exercise called '\uFFFD\uFFFD'."},
+        {"dilution:", "The level of dilution has to be 1, 2 or 3."},
+        {"dilution:0", "The level of dilution has to be 1, 2 or 3."},
+        {"dilution:4", "The level of dilution has to be 1, 2 or 3."},
+        {"dilution:22", "The level of dilution has to be 1, 2 or 3."},
+        {"dilution:two", "The level of dilution has to be 1, 2 or 3."},
+        {"dilution:2:2", "The level of dilution has to be 1, 2 or 3."},
+        {"dilution: 2", "The level of dilution has to be 1, 2 or 3."},
+        {"dilution,titration,dilution", "The kind dilution:2 is there twice."},
+        {"dilution:2,dilution", "The kind dilution:2 is there twice."},
+        {"mixed,dilution", mixedAlone},
+        {"dilution,mixed", mixedAlone},
+        {"mixed,mixed", mixedAlone},
+        {"mixed:1", mixedAlone},
+    };
+    for (const Case& one : cases) {
+        const Choice choice = readChoice(one.names);
+        EXPECT_EQ(choice.error, one.error) << one.names;
+        EXPECT_TRUE(choice.kinds.empty()) << one.names;
+    }
+}
+
+TEST(ChoiceTest, ALongNameIsCutInTheSentence)
+{
+    const std::string error = readChoice(std::string(1000000, 'x')).error;
+    EXPECT_LT(error.size(), 200U);
+}
+
+TEST(PlaceTest, OneKindKeepsPaperAndNumber)
+{
+    const Choice choice = readChoice("titration:3");
+    for (const unsigned number : {1U, 2U, 77U, 999999U}) {
+        const Place place = placeOf(choice, 4821, number);
+        EXPECT_EQ(place.paper, 4821U);
+        EXPECT_EQ(place.number, number);
+        EXPECT_EQ(place.kind, Kind::titration);
+        EXPECT_EQ(place.level, 3);
+    }
+}
+
+using Order = std::vector<std::pair<Kind, int>>;
+
+Order block(const Choice& choice, unsigned paper, unsigned index)
+{
+    const auto size = static_cast<unsigned>(choice.kinds.size());
+    Order order;
+    for (unsigned i = 0; i < size; ++i) {
+        const Place place = placeOf(choice, paper, index * size + i + 1);
+        EXPECT_EQ(place.number, index * size + i + 1);
+        order.emplace_back(place.kind, place.level);
+    }
+    return order;
+}
+
+TEST(PlaceTest, EveryBlockHasEachKindOnce)
+{
+    for (const char* const names :
+         {"mixed", "dilution,titration", "dilution:1,dilution:2,dilution:3"}) {
+        const Choice choice = readChoice(names);
+        for (unsigned paper = 1; paper <= 100; ++paper) {
+            for (unsigned index = 0; index < 5; ++index) {
+                const Order order = block(choice, paper, index);
+                const std::set<std::pair<Kind, int>> distinct(order.begin(), order.end());
+                EXPECT_EQ(distinct.size(), choice.kinds.size())
+                    << names << ", paper " << paper << ", block " << index;
+            }
+        }
+    }
+}
+
+// Three kinds have six orders: with 6,000 blocks each comes about 1,000 times.
+TEST(PlaceTest, EveryOrderComesAboutEquallyOften)
+{
+    const Choice choice = readChoice("molar-mass,solubility,titration");
+    std::map<Order, int> counts;
+    for (unsigned paper = 1; paper <= 60; ++paper) {
+        for (unsigned index = 0; index < 100; ++index) {
+            ++counts[block(choice, paper, index)];
+        }
+    }
+    ASSERT_EQ(counts.size(), 6U);
+    double chiSquare = 0.0;
+    for (const auto& [order, count] : counts) {
+        chiSquare += (count - 1000.0) * (count - 1000.0) / 1000.0;
+    }
+    EXPECT_LT(chiSquare, 20.5) << "5 degrees of freedom, one seed in a thousand is worse";
+}
+
+TEST(PlaceTest, TheOrderOfTheNamesDoesNotMatter)
+{
+    const Choice one = readChoice("titration,dilution:1,solubility:3");
+    const Choice other = readChoice("solubility:3,titration:2,dilution:1");
+    const Choice all = readChoice("titration,dilution,molar-mass,neutralisation,solubility,"
+                                  "concentration,ion-formula,compound-formula");
+    for (unsigned index = 0; index < 50; ++index) {
+        EXPECT_EQ(block(one, 7, index), block(other, 7, index)) << "block " << index;
+        EXPECT_EQ(block(all, 7, index), block(readChoice("mixed"), 7, index)) << "block " << index;
+    }
+}
+
+} // namespace
+
+} // namespace lesson
