@@ -365,6 +365,12 @@ std::string_view withoutSubstance(std::string_view unit, std::string_view formul
     return left.size() < unit.size() ? withoutEnding(left, "of") : unit;
 }
 
+// Whether it is the beginning of an exponent that could not be read.
+bool isPowerOfTenPart(std::string_view text)
+{
+    return isOneOf(text[0], "eExX") && (text.size() == 1 || !isLetter(text[1]));
+}
+
 // Whether it might be a unit of something else rather than a part of a calculation.
 bool looksLikeUnit(std::string_view text)
 {
@@ -372,8 +378,7 @@ bool looksLikeUnit(std::string_view text)
     constexpr std::string_view signs[] = {"%", "‰", "°", "µ", "μ", "Å"};
     const bool isSign = std::any_of(std::begin(signs), std::end(signs),
                                     [text](auto sign) { return startsWith(text, sign); });
-    const bool isPowerOfTen = text.size() > 1 && isOneOf(text[0], "eExX") && !isLetter(text[1]);
-    if (text.empty() || isPowerOfTen || !(isSign || isLetter(text[0]))) {
+    if (text.empty() || !(isSign || isLetter(text[0])) || isPowerOfTenPart(text)) {
         return false;
     }
     for (std::size_t i = 1; i < text.size(); ++i) {
@@ -424,10 +429,8 @@ NumberReading readNumber(std::string_view plain, const Ask& ask)
     std::string_view rest = plain.substr(start);
     NumberReading reading = takeNumber(rest);
     reading.number.isNegative = endsWith(inFront, "-");
-    if (reading.problem.empty()) {
-        reading.problem = convert(reading.number, rest, ask);
-    }
-    return reading;
+    const std::string problem = convert(reading.number, rest, ask);
+    return problem.empty() ? reading : NumberReading{{}, problem};
 }
 
 } // namespace lesson
