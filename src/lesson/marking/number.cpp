@@ -17,8 +17,8 @@ namespace
 // What a typed number is compared with.
 struct Target {
     Ratio value;
-    int figures;
-    bool isMolarMass;
+    int figures = 0;
+    bool isMolarMass = false;
 };
 
 // How a typed number stands to its target.

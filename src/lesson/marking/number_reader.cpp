@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 
 #include "lesson/marking/characters.hpp"
@@ -69,6 +70,11 @@ std::string_view takeDigits(std::string_view& rest)
 bool startsWithDigit(std::string_view text)
 {
     return !text.empty() && isDigit(text.front());
+}
+
+bool startsWithLetter(std::string_view text)
+{
+    return !text.empty() && isLetter(text.front());
 }
 
 // The digits of a number without its exponent.
@@ -299,7 +305,8 @@ bool isOneOf(char character, std::string_view characters)
 }
 
 // Where the number begins: at the first digits that are no part of a symbol, which they are behind
-// a letter or within brackets behind it, as in "c2", "c_{2}" and "M(CuSO4·5H2O)".
+// a letter and within brackets behind one or around it, as in "c2", "c_{2}", "M(CuSO4·5H2O)" and
+// "[Cu^2+]".
 std::size_t numberStart(std::string_view plain)
 {
     std::size_t openBrackets = 0;
@@ -312,7 +319,8 @@ std::size_t numberStart(std::string_view plain)
             return i;
         }
         if (isOneOf(character, "([{")) {
-            openBrackets += isInSymbol || openBrackets > 0 ? 1 : 0;
+            const bool isAround = character == '[' && startsWithLetter(plain.substr(i + 1));
+            openBrackets += isInSymbol || isAround || openBrackets > 0 ? 1 : 0;
             isInSymbol = false;
         } else if (isOneOf(character, ")]}")) {
             openBrackets -= openBrackets > 0 ? 1 : 0;
