@@ -52,9 +52,18 @@ constexpr Spelling superscripts[] = {
 };
 // clang-format on
 
+bool isOrdinary(char character)
+{
+    return character >= ' ' && character <= '~';
+}
+
+// Most of what is typed is in none of the tables, and is not looked for in them.
 template <std::size_t N>
 const Spelling* spellingAt(const Spelling (&table)[N], std::string_view text)
 {
+    if (isOrdinary(text.front())) {
+        return nullptr;
+    }
     const auto* const found =
         std::find_if(std::begin(table), std::end(table), [text](const Spelling& spelling) {
             return text.substr(0, spelling.typed.size()) == spelling.typed;
