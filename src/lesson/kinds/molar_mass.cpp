@@ -279,6 +279,7 @@ std::vector<Ratio> roundedMolarMasses(std::string_view formula)
     }
     sums.push_back(wholeSum);
     std::vector<Ratio> masses;
+    masses.reserve(sums.size());
     for (const int thousandths : sums) {
         masses.push_back(ratio(thousandths, 1000));
     }

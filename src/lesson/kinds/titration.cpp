@@ -174,14 +174,13 @@ bool isInRange(const Titration& drawn)
     return ratio(2, 100) <= answer && answer <= ratio(1) && areTitresReadable;
 }
 
-// Step by step, as the solution goes, or with the ratio and the volume in one; a mean is a step
-// too.
-bool bearsRounding(const Titration& drawn)
+// Step by step, as the solution goes, or with the ratio and the volume in one.
+bool bearsRounding(const Titration& drawn, bool isMeanRounded)
 {
     const Ratio moles = ratioOf(drawn);
     const auto volumes = [&](RoundedTo rounded) {
         Titration read = drawn;
-        read.fromBurette = drawn.titres.empty() ? drawn.fromBurette : rounded(drawn.fromBurette);
+        read.fromBurette = isMeanRounded ? rounded(drawn.fromBurette) : drawn.fromBurette;
         return volumesOf(read);
     };
     const auto stepByStep = [&](RoundedTo rounded) {
@@ -194,6 +193,12 @@ bool bearsRounding(const Titration& drawn)
     };
     const Ratio answer = answerOf(drawn);
     return bearsRounding(answer, stepByStep) && bearsRounding(answer, withRatioAtOnce);
+}
+
+// A mean is a step too, but who has read four figures may well keep them.
+bool bearsRounding(const Titration& drawn)
+{
+    return bearsRounding(drawn, false) && (drawn.titres.empty() || bearsRounding(drawn, true));
 }
 
 Titration draw(const Place& place)

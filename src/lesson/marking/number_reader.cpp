@@ -334,7 +334,10 @@ std::size_t numberStart(std::string_view plain)
 
 std::string_view withoutAtTheEnd(std::string_view text, std::string_view characters)
 {
-    return text.substr(0, text.find_last_not_of(characters) + 1);
+    while (!text.empty() && isOneOf(text.back(), characters)) {
+        text.remove_suffix(1);
+    }
+    return text;
 }
 
 bool endsWith(std::string_view text, std::string_view ending)
