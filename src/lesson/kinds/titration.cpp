@@ -313,9 +313,9 @@ Spans titresSentence(const Titration& drawn)
                           measureOfTitre(titres[1]));
     for (std::size_t i = 2; i < titres.size(); ++i) {
         const bool isLast = i + 1 == titres.size();
-        spans_detail::add(sentence, line(isLast ? " and " : ", ", measureOfTitre(titres[i])));
+        append(sentence, line(isLast ? " and " : ", ", measureOfTitre(titres[i])));
     }
-    spans_detail::add(sentence, ".");
+    append(sentence, ".");
     return sentence;
 }
 
@@ -342,9 +342,9 @@ Step meanStep(const Titration& drawn, const std::string& inBurette)
     Spans sum;
     for (auto titre = drawn.titres.begin() + 1; titre != drawn.titres.end(); ++titre) {
         if (!sum.empty()) {
-            spans_detail::add(sum, " + ");
+            append(sum, " + ");
         }
-        spans_detail::add(sum, number(plainText({*titre, -2})));
+        append(sum, number(plainText({*titre, -2})));
     }
     const Span count = number(std::to_string(drawn.titres.size() - 1));
     return {line("Take the mean, without the rough titre."),
