@@ -42,13 +42,15 @@ Span name(std::string british, std::string american = "");
 namespace spans_detail
 {
 
-inline void add(Spans& line, const char* words)
-{
-    line.push_back({Span::Kind::text, words, {}, {}, {}, {}});
-}
 inline void add(Spans& line, std::string words)
 {
-    line.push_back({Span::Kind::text, std::move(words), {}, {}, {}, {}});
+    if (!words.empty()) {
+        line.push_back({Span::Kind::text, std::move(words), {}, {}, {}, {}});
+    }
+}
+inline void add(Spans& line, const char* words)
+{
+    add(line, std::string(words));
 }
 inline void add(Spans& line, Span span)
 {
@@ -63,7 +65,7 @@ inline void add(Spans& line, Spans spans)
 
 } // namespace spans_detail
 
-// A line from its pieces: words, spans, and lines that stand inside it.
+// A line from its pieces: words, spans, and lines that stand inside it. Empty words leave no span.
 //   line("Add ", number("250"), " ", unit("mL"), " of ", formula("HCl"), ".")
 template <typename... Pieces>
 Spans line(Pieces... pieces)
