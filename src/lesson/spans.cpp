@@ -57,18 +57,45 @@ Span name(std::string_view british, std::string_view american)
     return span;
 }
 
+namespace
+{
+
+// Words join the words before them.
+void addWords(Spans& line, std::string_view words)
+{
+    if (words.empty()) {
+        return;
+    }
+    if (line.empty() || line.back().kind != Span::Kind::text) {
+        line.emplace_back(Span::Kind::text);
+    }
+    line.back().text += words;
+}
+
+void addSpan(Spans& line, const Span& span)
+{
+    if (span.kind == Span::Kind::text) {
+        addWords(line, span.text);
+    } else {
+        line.push_back(span);
+    }
+}
+
+} // namespace
+
 void Piece::addTo(Spans& line) const
 {
     switch (kind) {
     case Kind::words:
-        line.emplace_back(Span::Kind::text, static_cast<const char*>(source));
+        addWords(line, static_cast<const char*>(source));
         break;
     case Kind::span:
-        line.push_back(*static_cast<const Span*>(source));
+        addSpan(line, *static_cast<const Span*>(source));
         break;
     case Kind::spans:
-        const Spans& inner = *static_cast<const Spans*>(source);
-        line.insert(line.end(), inner.begin(), inner.end());
+        for (const Span& span : *static_cast<const Spans*>(source)) {
+            addSpan(line, span);
+        }
         break;
     }
 }

@@ -72,7 +72,7 @@ void append(Spans& line, const Piece& piece);
 
 Spans lineOf(const Piece* pieces, std::size_t count);
 
-// A line from its pieces.
+// A line from its pieces. No line has two pieces of text in a row, or an empty one.
 //   line("Add ", number("250"), " ", unit("mL"), " of ", formula("HCl"), ".")
 // It is here once, and not anew for each combination of pieces, since the exercises are full of it.
 template <typename... Pieces>

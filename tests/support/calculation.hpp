@@ -55,6 +55,9 @@ inline std::string textOf(const Spans& line)
         case Span::Kind::quantity:
             text += span.text + span.index + (span.detail.empty() ? "" : "(" + span.detail + ")");
             break;
+        case Span::Kind::ion:
+            text += span.text + "^" + span.detail;
+            break;
         case Span::Kind::fraction:
             text += textOf(span.over) + "/" + textOf(span.under);
             break;
