@@ -74,13 +74,13 @@ void append(Spans& spans, const Side& side)
     bool isFirst = true;
     for (const auto& [coefficient, species] : side) {
         if (!isFirst) {
-            spans_detail::add(spans, " + ");
+            append(spans, " + ");
         }
         isFirst = false;
         if (coefficient != 1) {
-            spans_detail::add(spans, number(std::to_string(coefficient)));
+            append(spans, number(std::to_string(coefficient)));
         }
-        spans_detail::add(spans, formula(species));
+        append(spans, formula(species));
     }
 }
 
@@ -176,7 +176,7 @@ Spans spansOf(const Equation& equation)
 {
     Spans spans;
     append(spans, equation.left);
-    spans_detail::add(spans, " → ");
+    append(spans, " → ");
     append(spans, equation.right);
     return spans;
 }

@@ -101,9 +101,9 @@ Spans sumOf(const Items& items, Term term)
     Spans sum;
     for (const auto& item : items) {
         if (!sum.empty()) {
-            spans_detail::add(sum, " + ");
+            append(sum, " + ");
         }
-        spans_detail::add(sum, term(item));
+        append(sum, term(item));
     }
     return sum;
 }

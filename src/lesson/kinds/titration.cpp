@@ -194,10 +194,18 @@ Ratio withRatioAtOnce(const Titration& drawn, StepRounding& rounded)
     return rounded(drawn.concentration * known) * ratioOf(drawn) / unknown;
 }
 
-bool bearsRounding(const Titration& drawn)
+bool bothWaysStayCorrect(const Titration& drawn)
 {
     const Ratio answer = answerOf(drawn);
     return staysCorrect(answer, drawn, stepByStep) && staysCorrect(answer, drawn, withRatioAtOnce);
+}
+
+// A mean is a step too, but who has read four figures may well keep them.
+bool bearsRounding(const Titration& drawn)
+{
+    Titration meanKept = drawn;
+    meanKept.titres.clear();
+    return bothWaysStayCorrect(meanKept) && (drawn.titres.empty() || bothWaysStayCorrect(drawn));
 }
 
 Titration draw(const Place& place)
@@ -305,9 +313,9 @@ Spans titresSentence(const Titration& drawn)
                           measureOfTitre(titres[1]));
     for (std::size_t i = 2; i < titres.size(); ++i) {
         const bool isLast = i + 1 == titres.size();
-        spans_detail::add(sentence, line(isLast ? " and " : ", ", measureOfTitre(titres[i])));
+        append(sentence, line(isLast ? " and " : ", ", measureOfTitre(titres[i])));
     }
-    spans_detail::add(sentence, ".");
+    append(sentence, ".");
     return sentence;
 }
 
@@ -334,9 +342,9 @@ Step meanStep(const Titration& drawn, const std::string& inBurette)
     Spans sum;
     for (auto titre = drawn.titres.begin() + 1; titre != drawn.titres.end(); ++titre) {
         if (!sum.empty()) {
-            spans_detail::add(sum, " + ");
+            append(sum, " + ");
         }
-        spans_detail::add(sum, number(plainText({*titre, -2})));
+        append(sum, number(plainText({*titre, -2})));
     }
     const Span count = number(std::to_string(drawn.titres.size() - 1));
     return {line("Take the mean, without the rough titre."),
