@@ -19,13 +19,13 @@ namespace lesson
 {
 
 // Quantities of the substance with the formula `of`, as prompts tell them; `symbol` as in Ask.
-GivenQuantity givenMass(std::string_view of, Ratio grams); // with two decimals
-GivenQuantity givenMolarMass(std::string_view of);         // with all decimals
+GivenQuantity givenMass(std::string_view of, Ratio inGrams); // with two decimals
+GivenQuantity givenMolarMass(std::string_view of);           // with all decimals
 // Three figures, in litres from 1 L.
-GivenQuantity givenVolume(std::string symbol, std::string_view of, Ratio litres);
+GivenQuantity givenVolume(std::string symbol, std::string_view of, Ratio inLitres);
 // From a burette: two decimals of a millilitre.
-GivenQuantity givenTitre(std::string_view of, Ratio litres);
-GivenQuantity givenConcentration(std::string symbol, std::string_view of, Ratio molesPerLitre);
+GivenQuantity givenTitre(std::string_view of, Ratio inLitres);
+GivenQuantity givenConcentration(std::string symbol, std::string_view of, Ratio inMolesPerLitre);
 
 // The same where the prompt does not tell it.
 GivenQuantity untold(GivenQuantity given);
@@ -33,7 +33,8 @@ GivenQuantity untold(GivenQuantity given);
 // As the prompt tells it: 250, "mL".
 Spans told(const GivenQuantity& given);
 
-// A substance by its name, and a solution of it: "sodium chloride solution", "hydrochloric acid".
+// A substance by its name, and a solution of it: "sodium chloride solution", "ammonia solution",
+// "hydrochloric acid".
 Span nameOf(const SoluteRow& solute);
 Spans solutionOf(const SoluteRow& solute);
 GivenCompound givenCompound(const SoluteRow& solute);

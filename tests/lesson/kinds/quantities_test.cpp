@@ -53,6 +53,7 @@ TEST(QuantitiesTest, ASolutionIsNamedAfterItsSolute)
         {"CH3COOH", "ethanoic acid"},
         {"NH3", "ammonia solution"},
         {"NaCH3COO", "sodium ethanoate solution"},
+        {"H2C2O4", "ethanedioic acid solution"},
     };
     for (const auto& [formula, name] : names) {
         EXPECT_EQ(textOf(solutionOf(*findSolute(formula))), name);
