@@ -1,5 +1,7 @@
 #include "lesson/spans.hpp"
 
+#include <utility>
+
 namespace lesson
 {
 
@@ -37,6 +39,38 @@ Span name(std::string british, std::string american)
 {
     return {Span::Kind::name, std::move(british), std::move(american), {}, {}, {}};
 }
+
+namespace spans_detail
+{
+
+void add(Spans& line, const std::string& words)
+{
+    if (words.empty()) {
+        return;
+    }
+    if (line.empty() || line.back().kind != Span::Kind::text) {
+        line.push_back({Span::Kind::text, "", {}, {}, {}, {}});
+    }
+    line.back().text += words;
+}
+
+void add(Spans& line, Span span)
+{
+    if (span.kind == Span::Kind::text) {
+        add(line, span.text);
+    } else {
+        line.push_back(std::move(span));
+    }
+}
+
+void add(Spans& line, Spans spans)
+{
+    for (Span& span : spans) {
+        add(line, std::move(span));
+    }
+}
+
+} // namespace spans_detail
 
 Spans measure(std::string shownText, std::string unitSymbol)
 {

@@ -42,24 +42,10 @@ Span name(std::string british, std::string american = "");
 namespace spans_detail
 {
 
-inline void add(Spans& line, const char* words)
-{
-    line.push_back({Span::Kind::text, words, {}, {}, {}, {}});
-}
-inline void add(Spans& line, std::string words)
-{
-    line.push_back({Span::Kind::text, std::move(words), {}, {}, {}, {}});
-}
-inline void add(Spans& line, Span span)
-{
-    line.push_back(std::move(span));
-}
-inline void add(Spans& line, Spans spans)
-{
-    for (Span& span : spans) {
-        line.push_back(std::move(span));
-    }
-}
+// Words join the words before them: no line has two pieces of text in a row, or an empty one.
+void add(Spans& line, const std::string& words);
+void add(Spans& line, Span span);
+void add(Spans& line, Spans spans);
 
 } // namespace spans_detail
 
