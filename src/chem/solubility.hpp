@@ -5,8 +5,8 @@
 #include "chem/ucase.hpp"
 #include "data/ion.hpp"
 
-// Returns 'Y' if the compound of two ions dissolves in water, 'N' if it does not, and ' ' if no
-// rule covers the anion. Looks at the formulas alone, whole and case-sensitive.
+// Returns 'Y' if the compound of a cation and an anion dissolves in water, 'N' if it does not, and
+// ' ' if no rule covers the anion. Looks at the formulas alone, whole and case-sensitive.
 //   silver, chloride -> 'N'    magnesium, nitride -> ' '
 char isSolubleChar(Ion cation, Ion anion);
 

@@ -122,18 +122,24 @@ inline Mark markOf(const Exercise& exercise, const std::string& typed)
     return markNumber(answerOf(exercise), exercise.ask, exercise.slips, typed);
 }
 
-// Rounds to significant figures; 0 figures leave the value as it is.
+// A learner's calculator: rounds to significant figures, halves up or down; 0 figures leave the
+// value as it is.
 struct Calculator {
     int figures;
+    bool halvesUp = true;
 
     long double operator()(long double value) const
     {
-        if (figures == 0) {
-            return value;
-        }
-        const long double scale =
-            std::pow(10.0L, static_cast<long double>(figures - 1) - std::floor(std::log10(value)));
-        return std::round(value * scale) / scale;
+        return figures == 0 ? value : to(figures, value);
+    }
+
+    long double to(int significantFigures, long double value) const
+    {
+        // Far less than any digit that counts, and far more than floating point is off.
+        const long double nudged = value * (halvesUp ? 1 + 1e-12L : 1 - 1e-12L);
+        const long double place = std::floor(std::log10(nudged));
+        const long double scale = std::pow(10.0L, significantFigures - 1 - place);
+        return std::round(nudged * scale) / scale;
     }
 };
 
@@ -147,7 +153,7 @@ inline std::string typedText(long double value, int figures)
 
 // Counts how often a learner is right who rounds each step to 5 figures, and expects it of one who
 // rounds to 3 or 4, and the exact value without any rounding. `work` takes an exercise and a
-// Calculator that each step is put through.
+// Calculator that each step but the last is put through.
 class RoundingOnTheWay
 {
 public:
@@ -158,29 +164,34 @@ public:
         EXPECT_NEAR(static_cast<double>(work(exercise, Calculator{0}) / exact), 1.0, 1e-12)
             << placeOf(exercise);
         for (const int figures : {3, 4, 5}) {
-            const std::string typed =
-                typedText(work(exercise, Calculator{figures}), exercise.ask.figures);
-            const Verdict verdict = markOf(exercise, typed).verdict;
-            EXPECT_NE(verdict, Verdict::wrong) << typed << ", " << placeOf(exercise);
-            if (figures < 5) {
-                EXPECT_EQ(verdict, Verdict::correct) << typed << ", " << placeOf(exercise);
+            for (const bool halvesUp : {true, false}) {
+                const Calculator rounded = {figures, halvesUp};
+                const int asked = exercise.ask.figures;
+                const long double answer = rounded.to(asked, work(exercise, rounded));
+                checkMark(exercise, figures, typedText(answer, asked));
             }
-            rightWithFive += figures == 5 && verdict == Verdict::correct ? 1 : 0;
         }
-        ++all;
     }
 
-    ~RoundingOnTheWay()
+    void expectFairness() const
     {
-        EXPECT_GE(rightWithFive, 0.994 * all);
+        EXPECT_GE(rightWithFive, 0.994 * allWithFive);
     }
-
-    RoundingOnTheWay() = default;
-    RoundingOnTheWay(const RoundingOnTheWay&) = delete;
-    RoundingOnTheWay& operator=(const RoundingOnTheWay&) = delete;
 
 private:
-    int all = 0;
+    void checkMark(const Exercise& exercise, int figures, const std::string& typed)
+    {
+        const Verdict verdict = markOf(exercise, typed).verdict;
+        EXPECT_NE(verdict, Verdict::wrong) << typed << ", " << placeOf(exercise);
+        if (figures < 5) {
+            EXPECT_EQ(verdict, Verdict::correct) << typed << ", " << placeOf(exercise);
+        } else {
+            ++allWithFive;
+            rightWithFive += verdict == Verdict::correct ? 1 : 0;
+        }
+    }
+
+    int allWithFive = 0;
     int rightWithFive = 0;
 };
 

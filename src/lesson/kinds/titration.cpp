@@ -174,31 +174,38 @@ bool isInRange(const Titration& drawn)
     return ratio(2, 100) <= answer && answer <= ratio(1) && areTitresReadable;
 }
 
-// Step by step, as the solution goes, or with the ratio and the volume in one.
-bool bearsRounding(const Titration& drawn, bool isMeanRounded)
+// A mean is a step; a single titre is read.
+Volumes volumesOf(const Titration& drawn, StepRounding& rounded)
 {
-    const Ratio moles = ratioOf(drawn);
-    const auto volumes = [&](RoundedTo rounded) {
-        Titration read = drawn;
-        read.fromBurette = isMeanRounded ? rounded(drawn.fromBurette) : drawn.fromBurette;
-        return volumesOf(read);
-    };
-    const auto stepByStep = [&](RoundedTo rounded) {
-        const auto [known, unknown] = volumes(rounded);
-        return rounded(rounded(drawn.concentration * known) * moles) / unknown;
-    };
-    const auto withRatioAtOnce = [&](RoundedTo rounded) {
-        const auto [known, unknown] = volumes(rounded);
-        return rounded(drawn.concentration * known) * moles / unknown;
-    };
+    Titration read = drawn;
+    read.fromBurette = drawn.titres.empty() ? drawn.fromBurette : rounded(drawn.fromBurette);
+    return volumesOf(read);
+}
+
+Ratio stepByStep(const Titration& drawn, StepRounding& rounded)
+{
+    const auto [known, unknown] = volumesOf(drawn, rounded);
+    return rounded(rounded(drawn.concentration * known) * ratioOf(drawn)) / unknown;
+}
+
+Ratio withRatioAtOnce(const Titration& drawn, StepRounding& rounded)
+{
+    const auto [known, unknown] = volumesOf(drawn, rounded);
+    return rounded(drawn.concentration * known) * ratioOf(drawn) / unknown;
+}
+
+bool bothWaysStayCorrect(const Titration& drawn)
+{
     const Ratio answer = answerOf(drawn);
-    return bearsRounding(answer, stepByStep) && bearsRounding(answer, withRatioAtOnce);
+    return staysCorrect(answer, drawn, stepByStep) && staysCorrect(answer, drawn, withRatioAtOnce);
 }
 
 // A mean is a step too, but who has read four figures may well keep them.
 bool bearsRounding(const Titration& drawn)
 {
-    return bearsRounding(drawn, false) && (drawn.titres.empty() || bearsRounding(drawn, true));
+    Titration meanKept = drawn;
+    meanKept.titres.clear();
+    return bothWaysStayCorrect(meanKept) && (drawn.titres.empty() || bothWaysStayCorrect(drawn));
 }
 
 Titration draw(const Place& place)

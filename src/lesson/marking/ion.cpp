@@ -293,25 +293,22 @@ std::optional<Mark> notRead(const Attempt& attempt)
     if (isNameOf(attempt.plain, attempt.ion)) {
         return markOf(Verdict::unreadable, "That is its name. Type its formula with its charge.");
     }
-    const std::string& unread = attempt.readings.front().formula.unread;
+    const std::string& unread = attempt.readings.back().formula.unread;
     return unreadable(unread.empty() ? attempt.plain : unread);
-}
-
-std::optional<Mark> chargeAsSubscript(const Attempt& attempt)
-{
-    return slipWhen(
-        anyReading(attempt,
-                   [&](const Reading& reading) { return hasChargeAsSubscript(attempt, reading); }),
-        sentences::chargeAsSubscript);
 }
 
 std::optional<Mark> noCharge(const Attempt& attempt)
 {
-    const Reading& first = attempt.readings.front();
-    if (first.formula.hasRaisedNumber) {
+    const Reading& reading = attempt.readings.front();
+    if (reading.charge != 0 || reading.formula.hasCharge) {
+        return std::nullopt;
+    }
+    if (reading.formula.hasRaisedNumber) {
         return markOf(Verdict::slip, "A charge has a sign: + or -.");
     }
-    return slipWhen(first.charge == 0 && !first.formula.hasCharge, sentences::noCharge);
+    return markOf(Verdict::slip, hasChargeAsSubscript(attempt, reading)
+                                     ? sentences::chargeAsSubscript
+                                     : sentences::noCharge);
 }
 
 std::optional<Mark> wrongCharge(const Attempt& attempt)
@@ -329,6 +326,14 @@ std::optional<Mark> wrongCharge(const Attempt& attempt)
     }
     const bool isTold = hasRomanNumeral(attempt.ion) && attempt.ion.charge > 0;
     return slipWhen(hasWrongSize, isTold ? sentences::romanCharge : sentences::wrongSize);
+}
+
+std::optional<Mark> chargeAsSubscript(const Attempt& attempt)
+{
+    return slipWhen(
+        anyReading(attempt,
+                   [&](const Reading& reading) { return hasChargeAsSubscript(attempt, reading); }),
+        sentences::chargeAsSubscript);
 }
 
 std::optional<Mark> ending(const Attempt& attempt)
@@ -363,8 +368,8 @@ std::optional<Mark> symbol(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped,      right,    capitals,    listedSlip, zeroForO, notRead,
-    chargeAsSubscript, noCharge, wrongCharge, ending,     oxygens,  symbol,
+    nothingTyped, right,       capitals,          listedSlip, zeroForO, notRead,
+    noCharge,     wrongCharge, chargeAsSubscript, ending,     oxygens,  symbol,
 };
 
 } // namespace
