@@ -231,7 +231,7 @@ Spans countsOf(const Equation& equation)
                           [](const AtomCount& count) { return count.element != oxygen; });
     Spans spans;
     for (const AtomCount& count : counts) {
-        spans_detail::add(spans, line(spans.empty() ? "" : ", ",
+        append(spans, line(spans.empty() ? "" : ", ",
                                       formula(std::string(element(count.element).symbol)), " ",
                                       number(std::to_string(count.count))));
     }
