@@ -273,14 +273,15 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
     return std::nullopt;
 }
 
-std::optional<Mark> zeroForO(const Attempt& attempt)
+std::optional<Mark> lookalikes(const Attempt& attempt)
 {
-    if (attempt.plain.find('0') == std::string::npos) {
+    const std::string meant = withoutLookalikes(attempt.plain);
+    if (meant == attempt.plain) {
         return std::nullopt;
     }
     Attempt mended = attempt;
-    mended.readings = readingsOf(bareFormula(withLetterO(attempt.plain)));
-    return slipWhen(right(mended).has_value(), sentences::letterO);
+    mended.readings = readingsOf(bareFormula(meant));
+    return slipWhen(right(mended).has_value(), lookalikeIn(attempt.plain));
 }
 
 std::optional<Mark> notRead(const Attempt& attempt)
@@ -295,13 +296,14 @@ std::optional<Mark> notRead(const Attempt& attempt)
     return unreadable(unread.empty() ? attempt.plain : unread);
 }
 
+// "Fe", "Fe3", "Fe^3"
 std::optional<Mark> noCharge(const Attempt& attempt)
 {
     const Reading& reading = attempt.readings.front();
-    if (reading.charge != 0 || reading.formula.hasCharge) {
+    if (reading.bare.find_first_of(signs) != std::string::npos || reading.charge != 0) {
         return std::nullopt;
     }
-    if (reading.formula.hasRaisedNumber) {
+    if (reading.bare.find('^') != std::string::npos) {
         return markOf(Verdict::slip, "A charge has a sign: + or -.");
     }
     return markOf(Verdict::slip, hasChargeAsSubscript(attempt, reading)
@@ -332,6 +334,15 @@ std::optional<Mark> chargeAsSubscript(const Attempt& attempt)
         anyReading(attempt,
                    [&](const Reading& reading) { return hasChargeAsSubscript(attempt, reading); }),
         sentences::chargeAsSubscript);
+}
+
+std::optional<Mark> otherOrder(const Attempt& attempt)
+{
+    const auto hasItsAtoms = [&](const Reading& reading) {
+        return reading.charge == attempt.ion.charge && !reading.formula.hasCharge &&
+               reading.formula.atoms == attempt.rightAtoms;
+    };
+    return slipWhen(anyReading(attempt, hasItsAtoms), "The atoms are right. Check their order.");
 }
 
 std::optional<Mark> ending(const Attempt& attempt)
@@ -366,8 +377,8 @@ std::optional<Mark> symbol(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped, right,       capitals,          listedSlip, zeroForO, notRead,
-    noCharge,     wrongCharge, chargeAsSubscript, ending,     oxygens,  symbol,
+    nothingTyped,      right,      capitals, listedSlip, lookalikes, notRead, noCharge, wrongCharge,
+    chargeAsSubscript, otherOrder, ending,   oxygens,    symbol,
 };
 
 } // namespace
