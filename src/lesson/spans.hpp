@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -78,8 +79,8 @@ Spans lineOf(const Piece* pieces, std::size_t count);
 template <typename... Pieces>
 Spans line(const Pieces&... pieces)
 {
-    const Piece all[] = {Piece(pieces)...};
-    return lineOf(all, sizeof...(pieces));
+    const std::array<Piece, sizeof...(pieces)> all = {Piece(pieces)...};
+    return lineOf(all.data(), all.size());
 }
 
 // A number with its unit: 250, "mL". No blank stands between: how wide it is, is for the
