@@ -146,9 +146,9 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
 
 std::optional<Mark> lookalikes(const Attempt& attempt)
 {
-    const std::string meant = withoutLookalikes(attempt.plain);
+    const std::string meant = withLetterI(withLetterO(attempt.plain));
     return slipWhen(meant != attempt.plain && isAmong(attempt.right, readFormula(meant).text),
-                    lookalikeIn(attempt.plain));
+                    mistypedLetter(attempt.plain));
 }
 
 std::optional<Mark> notRead(const Attempt& attempt)
@@ -329,18 +329,26 @@ Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
     return markOf(Verdict::wrong, sentences::notYet);
 }
 
-std::string withoutLookalikes(std::string_view plain)
+std::string withLetterO(std::string_view plain)
 {
-    std::string text;
+    std::string text(plain);
+    std::replace(text.begin(), text.end(), '0', 'O');
+    return text;
+}
+
+std::string withLetterI(std::string_view plain)
+{
+    std::string text(plain);
     for (std::size_t i = 0; i < plain.size(); ++i) {
         const bool endsSymbol = i > 0 && findElement(plain.substr(i - 1, 2)) != nullptr;
-        const bool isI = plain[i] == 'l' && !endsSymbol;
-        text += plain[i] == '0' ? 'O' : isI ? 'I' : plain[i];
+        if (plain[i] == 'l' && !endsSymbol) {
+            text[i] = 'I';
+        }
     }
     return text;
 }
 
-std::string_view lookalikeIn(std::string_view plain)
+std::string_view mistypedLetter(std::string_view plain)
 {
     return plain.find('0') == std::string_view::npos ? sentences::letterI : sentences::letterO;
 }

@@ -14,13 +14,15 @@ namespace lesson
 Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
                  std::string_view typed);
 
-// The text with characters that look like another one as the letters that they can only stand for:
-// each zero as O, since no formula that exercises ask for has zeros, and a small l as I where it
-// ends no symbol.
-//   "CuS04" -> "CuSO4"    "Pbl2" -> "PbI2"
-std::string withoutLookalikes(std::string_view plain);
-// The sentence on the first kind of them that the text has, zeros or small letters.
-std::string_view lookalikeIn(std::string_view plain);
+// The text with each zero as the letter O, which is how some type it; formulas of compounds that
+// exercises ask for have no zeros.
+std::string withLetterO(std::string_view plain);
+
+// The text with each small l that ends no symbol as the letter I: "Pbl2" -> "PbI2".
+std::string withLetterI(std::string_view plain);
+
+// What to tell a learner whose text is right with these letters.
+std::string_view mistypedLetter(std::string_view plain);
 
 // The one symbol in which a formula differs from one of those that are right, the rest being the
 // same; empty where it differs in more.

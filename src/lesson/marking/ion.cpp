@@ -43,7 +43,8 @@ struct Reading {
 // The part of a text behind its last character that is none of these.
 std::string_view endOf(std::string_view text, std::string_view characters)
 {
-    return text.substr(text.find_last_not_of(characters) + 1);
+    const std::size_t last = text.find_last_not_of(characters);
+    return last == std::string_view::npos ? text : text.substr(last + 1);
 }
 
 bool endsWith(std::string_view text, char end)
@@ -51,10 +52,13 @@ bool endsWith(std::string_view text, char end)
     return !text.empty() && text.back() == end;
 }
 
-// 1 where there are no digits; a size that no ion has where there are many.
+// 1 where there are no digits; a size that no ion has where there are many, or a zero in front.
 int sizeOf(std::string_view typedDigits)
 {
     constexpr int beyond = 99;
+    if (typedDigits.substr(0, 1) == "0") {
+        return beyond;
+    }
     int size = typedDigits.empty() ? 1 : 0;
     for (const char digit : typedDigits) {
         size = std::min(size * 10 + (digit - '0'), beyond);
@@ -118,7 +122,8 @@ Cut cutOff(std::string_view bare)
 
 Reading reading(std::string bare, int charge)
 {
-    TypedFormula formula = readFormula(bare);
+    // Here a dot at the end ends no sentence.
+    TypedFormula formula = endsWith(bare, '.') ? TypedFormula() : readFormula(bare);
     return {std::move(bare), std::move(formula), charge};
 }
 
@@ -275,13 +280,13 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
 
 std::optional<Mark> lookalikes(const Attempt& attempt)
 {
-    const std::string meant = withoutLookalikes(attempt.plain);
+    const std::string meant = withLetterI(withLetterO(attempt.plain));
     if (meant == attempt.plain) {
         return std::nullopt;
     }
     Attempt mended = attempt;
     mended.readings = readingsOf(bareFormula(meant));
-    return slipWhen(right(mended).has_value(), lookalikeIn(attempt.plain));
+    return slipWhen(right(mended).has_value(), mistypedLetter(attempt.plain));
 }
 
 std::optional<Mark> notRead(const Attempt& attempt)

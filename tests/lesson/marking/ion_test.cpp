@@ -267,6 +267,15 @@ TEST(IonMarkTest, WhatCannotBeReadIsTold)
     }
 }
 
+TEST(IonMarkTest, SloppyChargesAreNotRight)
+{
+    for (const char* const typed :
+         {"Zn02+", "Zn.2+", "Zn*2+", "Zn2+-", "Zn+-2", "Zn++2", "Zn2++", "Zn22+", "Zn2+2", "2+Zn",
+          "+2Zn", "Zn^2", "Zn^", "Zn2", "Zn+2+", "Zn^2+^", "Zn2+Zn2+", "2Zn2+", "Zn 2+ 2e-"}) {
+        EXPECT_NE(markFor("zinc", typed).verdict, Verdict::correct) << typed;
+    }
+}
+
 TEST(IonMarkTest, AnythingElseIsNotRightYet)
 {
     const Mark mark = markFor("sulfate", "C6H12O6^2-");
