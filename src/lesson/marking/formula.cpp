@@ -317,7 +317,7 @@ std::string onlyDifference(const Symbols& typed, const Symbols& rightOnes)
 Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
                  std::string_view typed)
 {
-    Attempt attempt = {answer, slips, plainTyped(typed), {}, {}, {}};
+    Attempt attempt = {answer, slips, withoutBond(plainTyped(typed)), {}, {}, {}};
     attempt.read = readFormula(attempt.plain);
     attempt.right = spellingsOf(compoundFormula(*answer.cation, *answer.anion));
     attempt.rightAtoms = readFormula(attempt.right.front()).atoms;

@@ -148,28 +148,45 @@ std::vector<Reading> splitReadings(std::string_view formula, std::string_view be
     return readings;
 }
 
-// The sign alone is raised: the digits before it are a subscript, but of two, as in "SO42⁻", the
-// last one may be the charge.
+// Digits and signs are raised by one "^" at most, in front of the first of them: who types a raised
+// sign behind ordinary digits, "SO4^2⁻" or "Fe+³", has two of them, or one behind the sign.
+std::string raisedOnce(std::string_view bare)
+{
+    std::string text;
+    bool isRaised = false;
+    for (std::size_t i = 0; i < bare.size(); ++i) {
+        const bool goesOn = digitsAndSigns.find(bare.substr(i + 1, 1)) != std::string_view::npos &&
+                            i + 1 < bare.size();
+        const bool isBehindSign = i > 0 && signs.find(bare[i - 1]) != std::string_view::npos;
+        if (bare[i] == '^' && goesOn && (isRaised || isBehindSign)) {
+            continue;
+        }
+        isRaised =
+            bare[i] == '^' || (isRaised && digitsAndSigns.find(bare[i]) != std::string_view::npos);
+        text += bare[i];
+    }
+    return text;
+}
+
+// The sign alone is raised, "Fe3⁺": the digits before it are read as before any other sign.
 std::vector<Reading> raisedSignReadings(std::string_view formula, std::string_view sign)
 {
-    const std::string_view subscript = endOf(formula, digits);
-    if (subscript.size() < 2) {
-        return {reading(std::string(formula), withSign(sign, 1))};
-    }
-    formula.remove_suffix(subscript.size());
-    return splitReadings(formula, subscript, sign, true);
+    const std::string_view before = endOf(formula, digits);
+    formula.remove_suffix(before.size());
+    return splitReadings(formula, before, sign, false);
 }
 
 // "SO42-", "SO4-2", "O--", "SO4^2-", "Fe^+3", "Fe(3+)", or without a charge "SO4".
-std::vector<Reading> readingsOf(std::string_view bare)
+std::vector<Reading> readingsOf(std::string_view typed)
 {
+    const std::string bare = raisedOnce(typed);
     const Cut cut = cutOff(withoutOuterBrackets(bare));
     const std::string_view behind = endOf(cut.charge, digits);
     const std::string_view upToSign = cut.charge.substr(0, cut.charge.size() - behind.size());
     const std::string_view sign = endOf(upToSign, signs);
     const std::string_view before = upToSign.substr(0, upToSign.size() - sign.size());
     if (!areSigns(sign) || before.find_first_of(signs) != std::string_view::npos) {
-        return {reading(std::string(bare), 0)};
+        return {reading(bare, 0)};
     }
     if (behind.empty() && sign.size() == 1) {
         return cut.isRaised && before.empty()
@@ -177,7 +194,7 @@ std::vector<Reading> readingsOf(std::string_view bare)
                    : splitReadings(cut.formula, before, sign, cut.isRaised);
     }
     if ((sign.size() > 1 && !behind.empty()) || (cut.isRaised && !before.empty())) {
-        return {reading(std::string(bare), 0)};
+        return {reading(bare, 0)};
     }
     const int size =
         behind.empty() ? static_cast<int>(std::min<std::size_t>(sign.size(), 99)) : sizeOf(behind);
@@ -390,7 +407,7 @@ constexpr Rule rules[] = {
 
 Mark markIon(const IonAnswer& answer, const std::vector<Slip>& slips, std::string_view typed)
 {
-    Attempt attempt = {*answer.ion, slips, plainTyped(typed), {}, {}, {}};
+    Attempt attempt = {*answer.ion, slips, withoutBond(plainTyped(typed)), {}, {}, {}};
     attempt.readings = readingsOf(bareFormula(attempt.plain));
     attempt.right = spellingsOf(answer.ion->formula);
     attempt.rightAtoms = readFormula(answer.ion->formula).atoms;

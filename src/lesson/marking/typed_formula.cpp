@@ -495,6 +495,16 @@ TypedFormula readFormula(std::string_view plain)
     return typed;
 }
 
+std::string withoutBond(std::string plain)
+{
+    const std::size_t bond = plain.find("-CO");
+    if (bond != std::string::npos && bond > 0 &&
+        (plain[bond - 1] == '3' || plain[bond - 1] == 'C')) {
+        plain.erase(bond, 1);
+    }
+    return plain;
+}
+
 std::string bareFormula(std::string_view plain)
 {
     std::string_view left = splitState(plain).formula;
