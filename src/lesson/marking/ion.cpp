@@ -43,7 +43,8 @@ struct Reading {
 // The part of a text behind its last character that is none of these.
 std::string_view endOf(std::string_view text, std::string_view characters)
 {
-    return text.substr(text.find_last_not_of(characters) + 1);
+    const std::size_t last = text.find_last_not_of(characters);
+    return last == std::string_view::npos ? text : text.substr(last + 1);
 }
 
 bool endsWith(std::string_view text, char end)
@@ -51,10 +52,13 @@ bool endsWith(std::string_view text, char end)
     return !text.empty() && text.back() == end;
 }
 
-// 1 where there are no digits; a size that no ion has where there are many.
+// 1 where there are no digits; a size that no ion has where there are many, or a zero in front.
 int sizeOf(std::string_view typedDigits)
 {
     constexpr int beyond = 99;
+    if (typedDigits.substr(0, 1) == "0") {
+        return beyond;
+    }
     int size = typedDigits.empty() ? 1 : 0;
     for (const char digit : typedDigits) {
         size = std::min(size * 10 + (digit - '0'), beyond);
@@ -118,7 +122,8 @@ Cut cutOff(std::string_view bare)
 
 Reading reading(std::string bare, int charge)
 {
-    TypedFormula formula = readFormula(bare);
+    // Here a dot at the end ends no sentence.
+    TypedFormula formula = endsWith(bare, '.') ? TypedFormula() : readFormula(bare);
     return {std::move(bare), std::move(formula), charge};
 }
 
@@ -273,14 +278,15 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
     return std::nullopt;
 }
 
-std::optional<Mark> zeroForO(const Attempt& attempt)
+std::optional<Mark> lookalikes(const Attempt& attempt)
 {
-    if (attempt.plain.find('0') == std::string::npos) {
+    const std::string meant = withLetterI(withLetterO(attempt.plain));
+    if (meant == attempt.plain) {
         return std::nullopt;
     }
     Attempt mended = attempt;
-    mended.readings = readingsOf(bareFormula(withLetterO(attempt.plain)));
-    return slipWhen(right(mended).has_value(), sentences::letterO);
+    mended.readings = readingsOf(bareFormula(meant));
+    return slipWhen(right(mended).has_value(), mistypedLetter(attempt.plain));
 }
 
 std::optional<Mark> notRead(const Attempt& attempt)
@@ -295,13 +301,14 @@ std::optional<Mark> notRead(const Attempt& attempt)
     return unreadable(unread.empty() ? attempt.plain : unread);
 }
 
+// "Fe", "Fe3", "Fe^3"
 std::optional<Mark> noCharge(const Attempt& attempt)
 {
     const Reading& reading = attempt.readings.front();
-    if (reading.charge != 0 || reading.formula.hasCharge) {
+    if (reading.bare.find_first_of(signs) != std::string::npos || reading.charge != 0) {
         return std::nullopt;
     }
-    if (reading.formula.hasRaisedNumber) {
+    if (reading.bare.find('^') != std::string::npos) {
         return markOf(Verdict::slip, "A charge has a sign: + or -.");
     }
     return markOf(Verdict::slip, hasChargeAsSubscript(attempt, reading)
@@ -332,6 +339,15 @@ std::optional<Mark> chargeAsSubscript(const Attempt& attempt)
         anyReading(attempt,
                    [&](const Reading& reading) { return hasChargeAsSubscript(attempt, reading); }),
         sentences::chargeAsSubscript);
+}
+
+std::optional<Mark> otherOrder(const Attempt& attempt)
+{
+    const auto hasItsAtoms = [&](const Reading& reading) {
+        return reading.charge == attempt.ion.charge && !reading.formula.hasCharge &&
+               reading.formula.atoms == attempt.rightAtoms;
+    };
+    return slipWhen(anyReading(attempt, hasItsAtoms), "The atoms are right. Check their order.");
 }
 
 std::optional<Mark> ending(const Attempt& attempt)
@@ -366,8 +382,8 @@ std::optional<Mark> symbol(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped, right,       capitals,          listedSlip, zeroForO, notRead,
-    noCharge,     wrongCharge, chargeAsSubscript, ending,     oxygens,  symbol,
+    nothingTyped,      right,      capitals, listedSlip, lookalikes, notRead, noCharge, wrongCharge,
+    chargeAsSubscript, otherOrder, ending,   oxygens,    symbol,
 };
 
 } // namespace

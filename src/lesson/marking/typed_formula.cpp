@@ -388,11 +388,12 @@ bool holdsOneAtom(const std::vector<Piece>& pieces, std::size_t i)
 // come first.
 void markNeedlessBrackets(std::vector<Piece>& pieces)
 {
-    for (std::size_t i = pieces.size(); i-- > 0;) {
-        if (pieces[i].kind == Piece::Kind::open) {
-            pieces[i].isOneAtom = holdsOneAtom(pieces, i);
-            pieces[i].isNeedless = pieces[i].count == 1 || pieces[i].isOneAtom;
-            pieces[pieces[i].partner].isNeedless = pieces[i].isNeedless;
+    for (std::size_t end = pieces.size(); end > 0; --end) {
+        Piece& piece = pieces[end - 1];
+        if (piece.kind == Piece::Kind::open) {
+            piece.isOneAtom = holdsOneAtom(pieces, end - 1);
+            piece.isNeedless = piece.count == 1 || piece.isOneAtom;
+            pieces[piece.partner].isNeedless = piece.isNeedless;
         }
     }
 }

@@ -175,7 +175,10 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
     const std::string roman = "The Roman numeral tells the size of the charge.";
     const std::string ending = "The ending tells you whether there is oxygen.";
     const std::string oxygens = "Check the number of oxygen atoms.";
-    const std::string zero = "There is a zero where the letter O should be.";
+    const std::string letterO = "There is a zero where the letter O should be.";
+    const std::string letterI = "There is a small l where the letter I should be.";
+    const std::string noSign = "A charge has a sign: + or -.";
+    const std::string order = "The atoms are right. Check their order.";
     struct Row {
         const char* ion;
         const char* typed;
@@ -199,7 +202,7 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
         {"iron(III)", "Fe_3", subscript},
         {"iron(III)", "Fe₃⁺", subscript},
         {"sulfate", "SO42", subscript},
-        {"iron(III)", "Fe^3", "A charge has a sign: + or -."},
+        {"iron(III)", "Fe^3", noSign},
         {"sulfate", "SO4-2+", "wrong"},
         {"iron(III)", "Fe3-", sign},
         {"sulfate", "SO4^2+", sign},
@@ -221,9 +224,13 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
         {"nitrite", "NO3^-", oxygens},
         {"potassium", "P+", "Check this symbol: P."},
         {"manganese(II)", "Mg2+", "Check this symbol: Mg."},
-        {"sulfate", "S042-", zero},
-        {"sulfate", "S04^2-", zero},
-        {"hydroxide", "0H-", zero},
+        {"sulfate", "S042-", letterO},
+        {"sulfate", "S04^2-", letterO},
+        {"hydroxide", "0H-", letterO},
+        {"iodide", "l-", letterI},
+        {"sulfate", "SO4^2", noSign},
+        {"sulfate", "O4S 2-", order},
+        {"hydrogencarbonate", "CO3H-", order},
     };
     for (const Row& row : rows) {
         const Mark mark = markFor(row.ion, row.typed);
@@ -257,6 +264,15 @@ TEST(IonMarkTest, WhatCannotBeReadIsTold)
         const Mark mark = markFor("sulfate", row.typed);
         EXPECT_EQ(mark.verdict, Verdict::unreadable) << row.typed;
         EXPECT_EQ(mark.sentence, row.sentence) << row.typed;
+    }
+}
+
+TEST(IonMarkTest, SloppyChargesAreNotRight)
+{
+    for (const char* const typed :
+         {"Zn02+", "Zn.2+", "Zn*2+", "Zn2+-", "Zn+-2", "Zn++2", "Zn2++", "Zn22+", "Zn2+2", "2+Zn",
+          "+2Zn", "Zn^2", "Zn^", "Zn2", "Zn+2+", "Zn^2+^", "Zn2+Zn2+", "2Zn2+", "Zn 2+ 2e-"}) {
+        EXPECT_NE(markFor("zinc", typed).verdict, Verdict::correct) << typed;
     }
 }
 
