@@ -482,10 +482,11 @@ double allowTitres(Spread& spread, const Exact& unknownForOneKnown, bool isKnown
                    double ways)
 {
     const Exact step(1, 20000); // L
+    const auto pipettes = litresOf({"10", "20", "25"});
     Counts counts(801, 0.0);
     double all = 0;
     for (const Exact& c : knownConcentrations()) {
-        for (const Exact& pipette : litresOf({"10", "20", "25"})) {
+        for (const Exact& pipette : pipettes) {
             const Exact moles = c * unknownForOneKnown;
             const Exact forOneMolar = isKnownInBurette ? pipette / moles : pipette * moles;
             const Exact least = isKnownInBurette ? forOneMolar * Exact(2, 100) : forOneMolar;

@@ -52,18 +52,19 @@ void checkPrompt(Problems& problems, const Json& exercise)
 {
     const std::vector<Measure> given = givenMeasures(problems, exercise);
     const std::vector<Measure> told = measuresIn(exercise["prompt"]);
+    const std::string prompt = textOf(exercise["prompt"]);
     for (const Measure& measure : told) {
         problems.expect(isAmong(given, measure), "every number in the prompt is among the given",
-                        measure.first + " " + measure.second + " in " + textOf(exercise["prompt"]));
+                        measure.first + " " + measure.second + " in " + prompt);
     }
     for (const Measure& measure : given) {
         problems.expect(isAmong(told, measure), "what is given as shown is in the prompt",
-                        measure.first + " " + measure.second + " in " + textOf(exercise["prompt"]));
+                        measure.first + " " + measure.second + " in " + prompt);
     }
     for (const Json& span : exercise["prompt"]) {
         problems.expect(!span.contains("text") || span["text"].get<std::string>().find_first_of(
                                                       "0123456789") == std::string::npos,
-                        "the words of a prompt hold no numbers", textOf(exercise["prompt"]));
+                        "the words of a prompt hold no numbers", prompt);
     }
 }
 
@@ -81,19 +82,21 @@ void gatherFormulas(const Json& spans, std::vector<std::string>& formulas)
 }
 
 // A typesetter gets no empty pieces, and words in one piece.
-void checkPieces(Problems& problems, const Json& spans)
+bool isInPieces(const Json& spans)
 {
     bool isBehindText = false;
     for (const Json& span : spans) {
         const bool isText = span.contains("text");
-        problems.expect(!isText || (!isBehindText && !span["text"].get<std::string>().empty()),
-                        "words come in one piece, and none is empty", textOf(spans));
-        isBehindText = isText;
-        if (span.contains("fraction")) {
-            checkPieces(problems, span["fraction"][0]);
-            checkPieces(problems, span["fraction"][1]);
+        if (isText && (isBehindText || span["text"].get_ref<const std::string&>().empty())) {
+            return false;
         }
+        if (span.contains("fraction") &&
+            !(isInPieces(span["fraction"][0]) && isInPieces(span["fraction"][1]))) {
+            return false;
+        }
+        isBehindText = isText;
     }
+    return true;
 }
 
 // What the tables leave out is not shown either.
@@ -116,15 +119,15 @@ void checkFormulas(Problems& problems, const Json& exercise)
 // counted behind it.
 std::string lastMathematics(const Json& exercise)
 {
-    std::string last;
-    for (const Json& step : exercise["solution"]) {
-        const std::string line = textOf(step["math"]);
-        const bool isWanted = exercise["ask"]["form"] != "equation"
-                                  ? !line.empty()
-                                  : line.find("→") != std::string::npos;
-        last = isWanted ? line : last;
+    const bool isEquation = exercise["ask"]["form"] == "equation";
+    const Json& steps = exercise["solution"];
+    for (auto step = steps.rbegin(); step != steps.rend(); ++step) {
+        const std::string line = textOf((*step)["math"]);
+        if (isEquation ? line.find("→") != std::string::npos : !line.empty()) {
+            return line;
+        }
     }
-    return last;
+    return "";
 }
 
 bool endsWith(const std::string& text, const std::string& end)
@@ -149,11 +152,11 @@ void checkSteps(Problems& problems, const Json& exercise)
                         "the last step of the solution shows the key",
                         last + " for " + keyInMathematics(exercise));
     }
-    checkPieces(problems, exercise["prompt"]);
+    const char* const inPieces = "words come in one piece, and none is empty";
+    problems.expect(isInPieces(exercise["prompt"]), inPieces, "the prompt");
     for (const Json& step : exercise["solution"]) {
-        problems.expect(!textOf(step["say"]).empty(), "each step says something", last);
-        checkPieces(problems, step["say"]);
-        checkPieces(problems, step["math"]);
+        problems.expect(!step["say"].empty(), "each step says something", last);
+        problems.expect(isInPieces(step["say"]) && isInPieces(step["math"]), inPieces, last);
     }
 }
 

@@ -55,12 +55,8 @@ std::string textOfSpan(const Json& span)
     if (span.contains("unit")) {
         return " " + span["unit"].get<std::string>();
     }
-    for (const char* kind : {"text", "formula", "number", "name"}) {
-        if (span.contains(kind)) {
-            return span[kind].get<std::string>();
-        }
-    }
-    return "?";
+    // Text, formula, number or name.
+    return memberOr(span, "name", span.begin()->get<std::string>());
 }
 
 } // namespace
@@ -88,9 +84,10 @@ std::string textOf(const Json& spans)
 
 std::vector<std::pair<std::string, std::string>> measuresIn(const Json& spans)
 {
+    static const Json nothing = Json::object();
     std::vector<std::pair<std::string, std::string>> measures;
     for (std::size_t i = 0; i < spans.size(); ++i) {
-        const Json next = i + 1 < spans.size() ? spans[i + 1] : Json::object();
+        const Json& next = i + 1 < spans.size() ? spans[i + 1] : nothing;
         if (spans[i].contains("number") && !next.contains("formula")) {
             measures.emplace_back(spans[i]["number"], next.contains("unit") ? next["unit"] : "");
         }
