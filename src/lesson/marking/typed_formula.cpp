@@ -388,7 +388,8 @@ bool holdsOneAtom(const std::vector<Piece>& pieces, std::size_t i)
 // come first.
 void markNeedlessBrackets(std::vector<Piece>& pieces)
 {
-    for (std::size_t i = pieces.size(); i-- > 0;) {
+    for (std::size_t behind = pieces.size(); behind > 0; --behind) {
+        const std::size_t i = behind - 1;
         if (pieces[i].kind == Piece::Kind::open) {
             pieces[i].isOneAtom = holdsOneAtom(pieces, i);
             pieces[i].isNeedless = pieces[i].count == 1 || pieces[i].isOneAtom;

@@ -83,7 +83,7 @@ TEST(TypedEquationTest, CoefficientsInEverySpelling)
 TEST(TypedEquationTest, ArrowsInEverySpelling)
 {
     for (const char* const arrow : {"->", "-->", "--->", "=>", "==>", "=", "==", ">", "- >", "→",
-                                    "⟶", "⇒", "➔", "—>", "–>", "−>"}) {
+                                    "⟶", "⇒", "➔", "➡️", "—>", "–>", "−>"}) {
         EXPECT_EQ(readBack(std::string("HCl") + arrow + "NaCl"), "1 HCl -> 1 NaCl") << arrow;
         EXPECT_EQ(readBack(std::string("HCl ") + arrow + " NaCl"), "1 HCl -> 1 NaCl") << arrow;
     }
