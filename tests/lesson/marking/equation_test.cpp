@@ -240,6 +240,13 @@ TEST(EquationMarkTest, OtherSubstances)
                          {"2NaCl + H2O + CO2 -> 2HCl + Na2CO3", Verdict::wrong,
                           "Not right yet. NaCl does not react here."},
                          {"->", Verdict::wrong, notYet}});
+    // The right one is there as well, or there is no such ion.
+    expectMarks(lye(), {{"H2SO4 + HSO4 + 2NaOH -> Na2SO4 + 2H2O", Verdict::wrong,
+                         "Not right yet. HSO4 does not react here."},
+                        {"H2SO4 + 2NaOH -> Na2SO4 + NaSO4 + 2H2O", Verdict::wrong,
+                         "Not right yet. NaSO4 does not form here."}});
+    expectMarks(soda(), {{"2HCl + Na2CO3 -> NaHCl2 + H2O + CO2", Verdict::wrong,
+                          "Not right yet. NaHCl2 does not form here."}});
     expectMarks(alumina(), {{"3H2SO4 + Al2O3 -> Al2(SO4)3 + 3H2O", Verdict::wrong,
                              "Not right yet. Al2O3 does not react here."}});
 }
