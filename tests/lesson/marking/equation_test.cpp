@@ -111,6 +111,7 @@ TEST(EquationMarkTest, RightButForCapitalsOrZeros)
     expectMarks(answerOf("HCl", "cobalt(II)", "carbonate"),
                 {{"2HCl + COCO3 -> COCl2 + H2O + CO2", Verdict::slip, capitals},
                  {"2HCl + COCO3 -> CoCl2 + H2O + CO2", Verdict::slip, capitals},
+                 {"HCl + COCO3 -> COCl2 + H2O + CO2", Verdict::slip, capitals},
                  {"2HCl + CoCO3 -> CoCl2 + H2O + CO2", Verdict::correct, "Correct."},
                  {"2HCl + CoCO3 -> CoCl2 + H2O + Co2", Verdict::slip, capitals}});
 }
@@ -240,6 +241,13 @@ TEST(EquationMarkTest, OtherSubstances)
                          {"2NaCl + H2O + CO2 -> 2HCl + Na2CO3", Verdict::wrong,
                           "Not right yet. NaCl does not react here."},
                          {"->", Verdict::wrong, notYet}});
+    // The right one is there as well, or there is no such ion.
+    expectMarks(lye(), {{"H2SO4 + HSO4 + 2NaOH -> Na2SO4 + 2H2O", Verdict::wrong,
+                         "Not right yet. HSO4 does not react here."},
+                        {"H2SO4 + 2NaOH -> Na2SO4 + NaSO4 + 2H2O", Verdict::wrong,
+                         "Not right yet. NaSO4 does not form here."}});
+    expectMarks(soda(), {{"2HCl + Na2CO3 -> NaHCl2 + H2O + CO2", Verdict::wrong,
+                          "Not right yet. NaHCl2 does not form here."}});
     expectMarks(alumina(), {{"3H2SO4 + Al2O3 -> Al2(SO4)3 + 3H2O", Verdict::wrong,
                              "Not right yet. Al2O3 does not react here."}});
 }
@@ -350,7 +358,8 @@ TEST(EquationMarkTest, HostileTexts)
           "2HCl + N999999H999999 -> 2NaCl + H2O + CO2",
           "1/9999HCl + 1/9998HCl + 1/9997HCl + Na2CO3 -> 2NaCl + H2O + CO2",
           "99999/10000HCl + 1/9999Na2CO3 -> 1/9998NaCl + 1/9997H2O + 1/9991CO2",
-          "2HCl + (NH4)500000000CO3 -> 2NaCl", "2HCl + ((((N9999)9999)9999)9999)9999 -> NaCl"}) {
+          "2HCl + (NH4)500000000CO3 -> 2NaCl", "2HCl + (Na9999)9999CO3 -> 2NaCl + H2O + CO2",
+          "2HCl + ((((N9999)9999)9999)9999)9999 -> NaCl"}) {
         EXPECT_NE(markEquation(soda(), typed).verdict, Verdict::correct) << typed;
     }
 }

@@ -83,7 +83,7 @@ TEST(TypedEquationTest, CoefficientsInEverySpelling)
 TEST(TypedEquationTest, ArrowsInEverySpelling)
 {
     for (const char* const arrow : {"->", "-->", "--->", "=>", "==>", "=", "==", ">", "- >", "→",
-                                    "⟶", "⇒", "➔", "—>", "–>", "−>"}) {
+                                    "⟶", "⇒", "➔", "➡️", "—>", "–>", "−>"}) {
         EXPECT_EQ(readBack(std::string("HCl") + arrow + "NaCl"), "1 HCl -> 1 NaCl") << arrow;
         EXPECT_EQ(readBack(std::string("HCl ") + arrow + " NaCl"), "1 HCl -> 1 NaCl") << arrow;
     }
@@ -118,6 +118,7 @@ TEST(TypedEquationTest, StatesInEverySpelling)
     EXPECT_EQ(readBack("H2O(l)->H2O(L)+H2O(ℓ)"), "1 H2O l -> 1 H2O l + 1 H2O l");
     EXPECT_EQ(readBack("CO2(g)->CO2 (G)+CO2↑"), "1 CO2 g -> 1 CO2 g + 1 CO2 g");
     EXPECT_EQ(readBack("AgCl(s)->AgCl(S)+AgCl↓"), "1 AgCl s -> 1 AgCl s + 1 AgCl s");
+    EXPECT_EQ(readBack("H2O(l) -> H2O (l) ."), "1 H2O l -> 1 H2O l");
     EXPECT_EQ(readBack("Ca(OH)2->Ca(OH)2(s)"), "1 Ca(OH)2 -> 1 Ca(OH)2 s");
 }
 
