@@ -9,6 +9,7 @@
 #   configure FOLDER OPTION...
 #                            has CMake configure this build folder of the project
 #   build_and_test PRESET    configures build/PRESET by CMakePresets.json, builds it, runs its tests
+#   build_module FOLDER      builds the lesson as a WebAssembly module there, with what it needs
 #   own_files FOLDER PATTERN...
 #                            the files below a folder with such names but those that were built or
 #                            installed, each ended with a NUL; a tarball has no git that could tell
@@ -45,6 +46,13 @@ build_and_test() {
     configure "$root/build/$1" --preset "$1"
     cmake --build "$root/build/$1" --parallel "$jobs"
     ctest --test-dir "$root/build/$1" --output-on-failure --parallel "$jobs"
+}
+
+build_module() {
+    need_packages "${to_build[@]}" clang wasm-ld:lld llvm-ar:llvm wasm-opt:binaryen wasi-libc \
+        libc++-dev-wasm32 libclang-rt-dev-wasm32
+    configure "$1" --preset wasm
+    cmake --build "$1" --target chempractice_lesson_module --parallel "$jobs"
 }
 
 own_files() {

@@ -24,9 +24,9 @@ std::string_view nameOf(Form form)
     case Form::equation:
         return "equation";
     case Form::solubility:
-        return "solubility";
+        break;
     }
-    return {};
+    return "solubility";
 }
 
 std::string_view nameOf(Verdict verdict)
@@ -45,9 +45,9 @@ std::string_view nameOf(Verdict verdict)
     case Verdict::wrong:
         return "wrong";
     case Verdict::unreadable:
-        return "unreadable";
+        break;
     }
-    return {};
+    return "unreadable";
 }
 
 void addUnlessEmpty(Json& json, std::string_view name, std::string_view value)
