@@ -10,6 +10,8 @@
 #                            has CMake configure this build folder of the project
 #   build_and_test PRESET    configures build/PRESET by CMakePresets.json, builds it, runs its tests
 #   build_module FOLDER      builds the lesson as a WebAssembly module there, with what it needs
+#   build_tests [TARGET...]  configures and builds build/test, or some of it; checks that run at the same
+#                            time take turns
 #   own_files FOLDER PATTERN...
 #                            the files below a folder with such names but those that were built or
 #                            installed, each ended with a NUL; a tarball has no git that could tell
@@ -53,6 +55,15 @@ build_module() {
         libc++-dev-wasm32 libclang-rt-dev-wasm32
     configure "$1" --preset wasm
     cmake --build "$1" --target chempractice_lesson_module --parallel "$jobs"
+}
+
+build_tests() {
+    mkdir -p "$root/build"
+    exec 8>"$root/build/test.lock"
+    flock 8
+    configure "$root/build/test" --preset test
+    cmake --build "$root/build/test" --parallel "$jobs" ${1:+--target "$@"}
+    exec 8>&-
 }
 
 own_files() {
