@@ -21,6 +21,9 @@ static_assert(FLT_EVAL_METHOD == 0,
               "every operation on a float has to be rounded to single precision; on 32-bit x86 "
               "compile with -msse2 -mfpmath=sse");
 
-#ifdef __FAST_MATH__
-#error "fast-math arithmetic changes the printed digits; compile without -ffast-math or -Ofast"
+// GCC has its 0 for every option that lets it reorder sums, divide by way of reciprocals, narrow
+// constants, or forget NaN, infinities and the sign of zero. Clang tells of two options only; what
+// it keeps to itself the build switches off.
+#if defined(__FAST_MATH__) || __FINITE_MATH_ONLY__ || (defined(__GCC_IEC_559) && __GCC_IEC_559 == 0)
+#error "fast-math arithmetic changes the printed digits; compile without -ffast-math and its parts"
 #endif

@@ -86,7 +86,8 @@ Draws::Draws(const Seed& seed) : generator(seeded(seed)) {}
 // likelier than another.
 std::uint32_t Draws::below(std::uint32_t bound)
 {
-    const std::uint32_t beyond = (0U - bound) % bound; // 2^32 modulo the bound
+    constexpr std::uint64_t range = std::uint64_t{1} << 32U;
+    const auto beyond = static_cast<std::uint32_t>(range % bound);
     for (;;) {
         const auto drawn = static_cast<std::uint32_t>(generator());
         if (drawn >= beyond) {

@@ -27,7 +27,7 @@ public:
     template <typename Table>
     const auto& oneOf(const Table& table)
     {
-        return *(std::begin(table) + below(static_cast<std::uint32_t>(std::size(table))));
+        return std::data(table)[below(static_cast<std::uint32_t>(std::size(table)))];
     }
 
 private:

@@ -132,7 +132,7 @@ struct PrecipitateAnswer {
     std::string rule;
 };
 
-// The balanced equation of an acid and a base; see kinds/reaction.hpp for what is drawn.
+// The balanced equation of an acid and a base; see reaction.hpp.
 struct EquationAnswer {
     Equation equation;
     std::string acid; // formulas

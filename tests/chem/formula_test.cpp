@@ -5,7 +5,7 @@
 #include <climits>
 #include <cmath>
 #include <cstddef>
-#include <cstdlib>
+#include <cstring>
 #include <string>
 
 #include "data/tables.hpp"
@@ -138,13 +138,32 @@ TEST_F(FormulaTest, CountIsReadLikeAtoiButOnlyLeadingDigitsAreRemoved)
     }
 }
 
-TEST_F(FormulaTest, CountBeyondIntIsWhatAtoiMakesOfIt)
+// Digits, and the count that they give where a long has 64 bits, whose upper half is lost, and
+// where it has 32, which stops at its greatest.
+const struct {
+    const char* digits;
+    float countBy64Bits;
+    float countBy32Bits;
+} countsBeyondInt[] = {
+    {"2147483647", 2147483647.0f, 2147483647.0f},
+    {"2147483648", -2147483648.0f, 2147483647.0f},
+    {"4294967297", 1.0f, 2147483647.0f},
+    {"8589934592", 0.0f, 2147483647.0f},
+    {"99999999999999999999", -1.0f, 2147483647.0f},
+    {"-2147483649", 2147483647.0f, -2147483648.0f},
+    {"-99999999999999999999", 0.0f, -2147483648.0f},
+};
+constexpr bool longHas64Bits = sizeof(long) == 8;
+
+TEST_F(FormulaTest, CountBeyondIntIsWhatALongLeavesOfIt)
 {
-    for (const char* text : {"2147483647", "2147483648", "4294967297", "99999999999999999999",
-                             "-99999999999999999999"}) {
-        std::string rest = text;
-        EXPECT_EQ(getNumber(rest), static_cast<float>(std::atoi(text))) << text;
-        EXPECT_EQ(rest, text[0] == '-' ? text : "") << text;
+    for (const auto& [digits, countBy64Bits, countBy32Bits] : countsBeyondInt) {
+        const float count = longHas64Bits ? countBy64Bits : countBy32Bits;
+        std::string rest = digits;
+        EXPECT_EQ(getNumber(rest), count) << digits;
+        EXPECT_EQ(rest, digits[0] == '-' ? digits : "") << digits;
+        expectCase({std::string("H") + digits, (count == 0.0f ? 1.0f : count) * hydrogen,
+                    digits[0] == '-' ? repeated(std::strlen(digits), "E") : ""});
     }
 }
 
@@ -445,16 +464,6 @@ TEST_F(FormulaTest, NulIsACharacterLikeAnyOther)
     });
 }
 
-TEST_F(FormulaTest, CountsBeyondIntAreThoseOfAtoi)
-{
-    for (const std::string digits : {"2147483647", "2147483648", "99999999999999999999"}) {
-        const auto count = static_cast<float>(std::atoi(digits.c_str()));
-        const float elementCount = count == 0.0f ? 1.0f : count;
-        expectCase({"H" + digits, elementCount * hydrogen, ""});
-        expectCase({"." + digits + "H", hydrogen * count, ""});
-    }
-}
-
 TEST_F(FormulaTest, SumRunsFromLeftToRightInSinglePrecision)
 {
     // 63.55 is lost behind a sum of some 2e9, three of them before it are not.
@@ -481,26 +490,12 @@ TEST_F(FormulaTest, HydratesCanGrowToInfinityAndBeyond)
     EXPECT_TRUE(std::isnan(calculateMM("(" + growing + ")1H.-2000000000" + growing.substr(11))));
 }
 
-TEST_F(FormulaTest, CallersTextIsLeftAlone)
-{
-    const std::string original = "Ca(OH)2.2(H2O";
-    std::string formula = original;
-    outputOf([&] { calculateMM(formula); });
-    EXPECT_EQ(formula, original);
-}
-
 TEST_F(FormulaTest, FirstCallFillsTheElementsAndLaterOnesDoNot)
 {
     ASSERT_TRUE(aMasses.empty());
     EXPECT_EQ(calculateMM("((OH)2)3.2H"), hydroxide * 2.0f * 3.0f + hydrogen * 2.0f);
     EXPECT_EQ(aMasses.size(), 110u);
     calculateMM("H");
-    calculateMM("");
-    EXPECT_EQ(aMasses.size(), 110u);
-}
-
-TEST_F(FormulaTest, EmptyFormulaFillsTheElementsToo)
-{
     calculateMM("");
     EXPECT_EQ(aMasses.size(), 110u);
 }

@@ -18,13 +18,33 @@ function(add_refusal_test name flag reason)
                        PROPERTIES PASS_REGULAR_EXPRESSION "error: [^\n]*${reason}")
 endfunction()
 
-add_refusal_test(RefusesAnotherRangeOfRand -DOTHER_RAND_MAX=32767
-                 "the question thresholds need a rand\\(\\) that draws from 0 to 2147483647")
-add_refusal_test(RefusesAnotherWidthOfInt -DOTHER_INT_MAX=32767
-                 "draws wrap around in 32 bits")
-add_refusal_test(RefusesAnotherFloat -DOTHER_FLT_MANT_DIG=53
-                 "quantities are IEEE single-precision numbers")
-add_refusal_test(RefusesWiderEvaluation -DOTHER_FLT_EVAL_METHOD=2
-                 "every operation on a float has to be rounded to single precision")
-add_refusal_test(RefusesFastMath -ffast-math
-                 "fast-math arithmetic changes the printed digits")
+# Each number a bit less and a bit more than it has to be, or as other platforms have it, with the
+# whole message.
+set(RAND_RANGE "the question thresholds need a rand\\(\\) that draws from 0 to 2147483647\; use a C \
+library that has one(\"|\n|$)")
+set(INT_WIDTH "draws wrap around in 32 bits\; int has to have 32 bits(\"|\n|$)")
+set(FLOAT "quantities are IEEE single-precision numbers\; float has to be one(\"|\n|$)")
+set(EVALUATION "every operation on a float has to be rounded to single precision\; on 32-bit x86 \
+compile with -msse2 -mfpmath=sse(\"|\n|$)")
+add_refusal_test(RefusesASmallerRangeOfRand -DOTHER_RAND_MAX=32767 "${RAND_RANGE}")
+add_refusal_test(RefusesALargerRangeOfRand -DOTHER_RAND_MAX=2147483648 "${RAND_RANGE}")
+add_refusal_test(RefusesANarrowerInt -DOTHER_INT_MAX=32767 "${INT_WIDTH}")
+add_refusal_test(RefusesAWiderInt -DOTHER_INT_MAX=9223372036854775807 "${INT_WIDTH}")
+add_refusal_test(RefusesAShorterFloat -DOTHER_FLT_MANT_DIG=23 "${FLOAT}")
+add_refusal_test(RefusesALongerFloat -DOTHER_FLT_MANT_DIG=25 "${FLOAT}")
+add_refusal_test(RefusesUnknownEvaluation -DOTHER_FLT_EVAL_METHOD=-1 "${EVALUATION}")
+add_refusal_test(RefusesWiderEvaluation -DOTHER_FLT_EVAL_METHOD=1 "${EVALUATION}")
+
+set(FAST_MATH
+    "fast-math arithmetic changes the printed digits. compile without -ffast-math and its parts")
+add_refusal_test(RefusesFastMath -ffast-math "${FAST_MATH}")
+add_refusal_test(RefusesFastMathByItsLevel -Ofast "${FAST_MATH}")
+add_refusal_test(RefusesFiniteMath -ffinite-math-only "${FAST_MATH}")
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  add_refusal_test(RefusesUnsafeMath -funsafe-math-optimizations "${FAST_MATH}")
+  add_refusal_test(RefusesReciprocals -freciprocal-math "${FAST_MATH}")
+  add_refusal_test(RefusesZerosWithoutSign -fno-signed-zeros "${FAST_MATH}")
+  add_refusal_test(RefusesNarrowConstants -fsingle-precision-constant "${FAST_MATH}")
+  add_refusal_test(RefusesSumsInAnotherOrder
+                   "-fassociative-math;-fno-signed-zeros;-fno-trapping-math" "${FAST_MATH}")
+endif()

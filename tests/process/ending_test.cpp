@@ -47,7 +47,8 @@ TEST(EndingTest, ClosedReaderEndsItUnderAParentThatIgnoresTheSignal)
 {
     Pipe keys = makePipe();
     Pipe text = makePipe();
-    ChildProcess child(PROGRAM, {keys.readEnd.number(), text.writeEnd.number(), false, true});
+    ChildProcess child(PROGRAM,
+                       {keys.readEnd.number(), text.writeEnd.number(), Place::besideTheTest, true});
     text.writeEnd.close();
     keys.writeEnd.close();
     Output(text.readEnd).until(prompt, 2);
@@ -127,6 +128,7 @@ TEST(EndingTest, OutputClosedFromTheStartDoesNotEndIt)
 {
     Pipe keys = makePipe();
     ChildProcess child(PROGRAM, {keys.readEnd.number(), -1});
+    keys.readEnd.close();
     writeAll(keys.writeEnd.number(), "4\n" + manyKeys);
     child.send(SIGINT);
     EXPECT_EQ(child.waitForEnd(), endBySignal(SIGINT));
@@ -139,7 +141,26 @@ TEST(EndingTest, FullDeviceDoesNotEndIt)
     const Descriptor full(open("/dev/full", O_WRONLY | O_CLOEXEC));
     ASSERT_GE(full.number(), 0);
     ChildProcess child(PROGRAM, {keys.readEnd.number(), full.number()});
+    keys.readEnd.close();
     writeAll(keys.writeEnd.number(), "4\n" + manyKeys);
+    child.send(SIGINT);
+    EXPECT_EQ(child.waitForEnd(), endBySignal(SIGINT));
+    EXPECT_EQ(child.errors(), "");
+}
+
+TEST(EndingTest, TerminalThatRefusesToShowAnythingDoesNotEndIt)
+{
+    if (!hasTerminals()) {
+        GTEST_SKIP() << "no pseudo-terminals here";
+    }
+    Pipe keys = makePipe();
+    Terminal terminal = makeTerminal();
+    ChildProcess child(PROGRAM,
+                       {keys.readEnd.number(), terminal.program.number(), Place::inTheBackground});
+    keys.readEnd.close();
+    terminal.program.close();
+    writeAll(keys.writeEnd.number(), "4\n" + manyKeys);
+    EXPECT_FALSE(Output(terminal.person).hasMore());
     child.send(SIGINT);
     EXPECT_EQ(child.waitForEnd(), endBySignal(SIGINT));
     EXPECT_EQ(child.errors(), "");

@@ -39,7 +39,8 @@ protected:
         }
         terminal = makeTerminal();
         const int side = terminal.program.number();
-        child = std::make_unique<ChildProcess>(PROGRAM, Surroundings{side, side, true});
+        child =
+            std::make_unique<ChildProcess>(PROGRAM, Surroundings{side, side, Place::onItsTerminal});
         terminal.program.close();
         screen = std::make_unique<Output>(terminal.person);
         screen->until("0. Random\r\n");
@@ -142,7 +143,7 @@ TEST_F(LostTerminalTest, HangUpEndsItUnderAParentThatIgnoresTheSignal)
 {
     Terminal terminal = makeTerminal();
     const int side = terminal.program.number();
-    ChildProcess child(PROGRAM, {side, side, true, true});
+    ChildProcess child(PROGRAM, {side, side, Place::onItsTerminal, true});
     terminal.program.close();
     Output(terminal.person).until("0. Random\r\n");
     terminal.person.close();

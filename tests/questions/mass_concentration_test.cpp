@@ -125,28 +125,6 @@ TEST_F(MassConcentrationTest, ADrawBelowHalfAsksForTheConcentration)
     }
 }
 
-TEST_F(MassConcentrationTest, EveryCompoundMayComeHydratesToo)
-{
-    const char* const names[] = {"copper sulfate pentahydrate",
-                                 "cobalt chloride hexahydrate",
-                                 "sodium chloride",
-                                 "potassium iodide",
-                                 "silver nitrate",
-                                 "iron (III) sulfate",
-                                 "sodium chloride",
-                                 "mercury sulfide",
-                                 "ammonium nitrate",
-                                 "calcium acetate"};
-    int row = 0;
-    for (const std::string name : names) {
-        ++row;
-        const ScriptedDraws draws({drawOfCompound(row), 0, 0, 0});
-        EXPECT_EQ(massConcentrationQuestion().question,
-                  "Calculate the concentration (in mol/L) if 1 g of " + name +
-                      " is dissolved in 50 mL of water.\n");
-    }
-}
-
 // Kept: 1 g and 50 mL in every question.
 TEST_F(MassConcentrationTest, NoDrawChangesTheMassOrTheVolume)
 {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/ions.hpp"
+#include "support/reaction.hpp"
 #include "support/scripted_draws.hpp"
 
 namespace
@@ -11,26 +11,26 @@ namespace
 TEST(NeutralisationQuestionTest, AsksForTheEquation)
 {
     struct Case {
-        const Ion& acidAnion;
-        const Ion& baseCation;
-        const Ion& baseAnion;
+        const char* acidAnion;
+        const char* baseCation;
+        const char* baseAnion;
         const char* question;
         const char* answer;
     };
     const Case cases[] = {
-        {chloride, sodium, hydroxide,
+        {"chloride", "sodium", "hydroxide",
          "Write a balanced equation for hydrochloric acid plus sodium hydroxide.\n",
          "HCl + NaOH -> NaCl + H2O\n"},
-        {sulphate, iron3, hydroxide,
+        {"sulphate", "iron(III)", "hydroxide",
          "Write a balanced equation for sulphuric acid plus iron(III) hydroxide.\n",
          "3H2SO4 + 2Fe(OH)3 -> Fe2(SO4)3 + 6H2O\n"},
-        {carbonate, ammonium, carbonate,
+        {"carbonate", "ammonium", "carbonate",
          "Write a balanced equation for carbonic acid plus ammonium carbonate.\n",
          "H2CO3 + (NH4)2CO3 -> (NH4)2CO3 + H2O + CO2\n"},
     };
     for (const Case& c : cases) {
         const QandA made =
-            neutralisationQuestion(neutralisationOf(c.acidAnion, c.baseCation, c.baseAnion));
+            neutralisationQuestion(reactionOf(c.acidAnion, c.baseCation, c.baseAnion));
         EXPECT_EQ(made.question, c.question);
         EXPECT_EQ(made.answer, c.answer);
     }
@@ -38,7 +38,7 @@ TEST(NeutralisationQuestionTest, AsksForTheEquation)
 
 TEST(NeutralisationQuestionTest, OneThatCannotBeBalancedHasAnApologyForItsAnswer)
 {
-    const QandA made = neutralisationQuestion(neutralisationOf(chloride, sodium, sulfide));
+    const QandA made = neutralisationQuestion(reactionOf("chloride", "sodium", "sulfide"));
     EXPECT_EQ(made.question,
               "Write a balanced equation for hydrochloric acid plus sodium sulfide.\n");
     EXPECT_EQ(made.answer, "Computer does not have the answer for this question.\n");

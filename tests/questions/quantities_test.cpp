@@ -100,12 +100,6 @@ TEST(RandomTest, TheSumIsAWholeNumberBeforeItIsRounded)
     });
 }
 
-TEST(ThresholdsTest, AreAQuarterAndAHalfOfTheDrawsButOne)
-{
-    EXPECT_EQ(quarterOfDraws, 536870911);
-    EXPECT_EQ(halfOfDraws, 1073741823);
-}
-
 struct Volume {
     float litres;
     unsigned int precision;

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "support/ions.hpp"
 #include "support/rare_draws.hpp"
+#include "support/reaction.hpp"
 #include "support/scripted_draws.hpp"
 
 namespace
@@ -30,15 +30,17 @@ QandA questionOf(const Neutralisation& reaction, const Draws& draws)
     return titrationQuestion(reaction);
 }
 
-const Neutralisation hydrochloricAndSodiumHydroxide = neutralisationOf(chloride, sodium, hydroxide);
-const Neutralisation sulphuricAndSodiumHydroxide = neutralisationOf(sulphate, sodium, hydroxide);
+Neutralisation hydrochloricAndSodiumHydroxide()
+{
+    return reactionOf("chloride", "sodium", "hydroxide");
+}
 
 TEST(TitrationTest, TheAcidIsKnown)
 {
     Draws draws;
     draws.known = secondWay;
     draws.titreSide = firstWay;
-    const QandA made = questionOf(hydrochloricAndSodiumHydroxide, draws);
+    const QandA made = questionOf(hydrochloricAndSodiumHydroxide(), draws);
     EXPECT_EQ(made.question,
               "Calculate the concentration of sodium hydroxide if 5 mL of it neutralises 20 mL of "
               "0.01 mol/L hydrochloric acid.\n");
@@ -59,7 +61,7 @@ TEST(TitrationTest, TheBaseIsKnown)
     draws.aliquot = firstWay;
     draws.known = firstWay;
     draws.titreSide = secondWay;
-    const QandA made = questionOf(sulphuricAndSodiumHydroxide, draws);
+    const QandA made = questionOf(reactionOf("sulphate", "sodium", "hydroxide"), draws);
     EXPECT_EQ(made.question,
               "Calculate the concentration of sulphuric acid if 25 mL of it is neutralised by 5 mL "
               "of 0.01 mol/L sodium hydroxide.\n");
@@ -75,7 +77,7 @@ TEST(TitrationTest, TheBaseIsKnown)
 
 TEST(TitrationTest, ARatioOfTwoToThreeIsShownToThreeDigits)
 {
-    const QandA made = questionOf(neutralisationOf(phosphate, magnesium, carbonate), {});
+    const QandA made = questionOf(reactionOf("phosphate", "magnesium", "carbonate"), {});
     EXPECT_EQ(made.question,
               "Calculate the concentration of magnesium carbonate if 5 mL of it neutralises 20 mL "
               "of 0.01 mol/L phosphoric acid.\n");
@@ -91,7 +93,7 @@ TEST(TitrationTest, ARatioOfTwoToThreeIsShownToThreeDigits)
 
 TEST(TitrationTest, AThirdIsRoundedToThreeDigits)
 {
-    const QandA made = questionOf(neutralisationOf(nitrate, iron3, hydroxide), {});
+    const QandA made = questionOf(reactionOf("nitrate", "iron(III)", "hydroxide"), {});
     EXPECT_EQ(made.answer,
               "Solution of known concentration is HNO3, unknown is Fe(OH)3\n"
               "V(Fe(OH)3) = 0.005 L   V(HNO3) = 0.02 L   C(HNO3) = 0.01 mol/L   C(Fe(OH)3) = ?\n"
@@ -105,7 +107,7 @@ TEST(TitrationTest, AThirdIsRoundedToThreeDigits)
 // The warning replaces the equation alone; the coefficients are those of the last attempt.
 TEST(TitrationTest, AReactionThatCannotBeBalancedHasAWarningAndGoesOn)
 {
-    const QandA made = questionOf(neutralisationOf(chloride, sodium, sulfide), {});
+    const QandA made = questionOf(reactionOf("chloride", "sodium", "sulfide"), {});
     EXPECT_EQ(made.question,
               "Calculate the concentration of sodium sulfide if 5 mL of it neutralises 20 mL of "
               "0.01 mol/L hydrochloric acid.\n");
@@ -121,7 +123,7 @@ TEST(TitrationTest, AReactionThatCannotBeBalancedHasAWarningAndGoesOn)
 
 std::string questionText(const Draws& draws)
 {
-    return questionOf(hydrochloricAndSodiumHydroxide, draws).question;
+    return questionOf(hydrochloricAndSodiumHydroxide(), draws).question;
 }
 
 const char* const usual = "Calculate the concentration of sodium hydroxide if 5 mL of it "
@@ -196,7 +198,7 @@ TEST(TitrationTest, TwoDrawsGiveNoConcentration)
     for (const int drawn : {1 << 29, 3 << 29}) {
         Draws draws;
         draws.concentration = drawn;
-        const QandA made = questionOf(hydrochloricAndSodiumHydroxide, draws);
+        const QandA made = questionOf(hydrochloricAndSodiumHydroxide(), draws);
         EXPECT_EQ(made.question,
                   "Calculate the concentration of sodium hydroxide if 5 mL of it neutralises 20 mL "
                   "of 0 mol/L hydrochloric acid.\n");

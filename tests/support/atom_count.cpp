@@ -31,3 +31,10 @@ std::map<std::string, int> countAtoms(const std::string& formula)
     }
     return atoms;
 }
+
+void addAtoms(std::map<std::string, int>& sum, int times, const std::string& formula)
+{
+    for (const auto& [symbol, count] : countAtoms(formula)) {
+        sum[symbol] += times * count;
+    }
+}

@@ -8,3 +8,6 @@
 // std::invalid_argument for anything else.
 //   "Al2(SO4)3" -> Al 2, O 12, S 3
 std::map<std::string, int> countAtoms(const std::string& formula);
+
+// Adds the atoms of so many formula units to the sum.
+void addAtoms(std::map<std::string, int>& sum, int times, const std::string& formula);

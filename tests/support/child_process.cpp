@@ -4,8 +4,9 @@
 #include <poll.h>
 #include <pty.h>
 #include <sys/ioctl.h>
-#include <sys/resource.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -26,8 +27,15 @@
 namespace
 {
 
-// Guards against hanging only: no test depends on how long anything takes.
-constexpr std::chrono::minutes patience{3};
+// Guards against hanging only: no test depends on how long anything takes. What is waited for comes
+// within milliseconds; an emulator has to translate the program first.
+std::chrono::seconds patience()
+{
+    return std::chrono::seconds(hasLauncher() ? 60 : 5);
+}
+
+// A guard as well, for a program that prints without end what no test waits for.
+constexpr std::size_t mostBytesUnread = 1 << 20;
 
 int checked(int result, const char* call)
 {
@@ -45,7 +53,7 @@ void closeOnExec(const Descriptor& descriptor)
 template <typename Condition>
 void waitUntil(Condition isMet, const char* what)
 {
-    const auto deadline = std::chrono::steady_clock::now() + patience;
+    const auto deadline = std::chrono::steady_clock::now() + patience();
     while (!isMet()) {
         if (std::chrono::steady_clock::now() > deadline) {
             throw std::runtime_error(std::string("the program does not ") + what);
@@ -57,7 +65,7 @@ void waitUntil(Condition isMet, const char* what)
 void waitForData(int descriptor, short event, const char* complaint)
 {
     pollfd state{descriptor, event, 0};
-    if (poll(&state, 1, static_cast<int>(std::chrono::milliseconds(patience).count())) <= 0) {
+    if (poll(&state, 1, static_cast<int>(std::chrono::milliseconds(patience()).count())) <= 0) {
         throw std::runtime_error(complaint);
     }
 }
@@ -70,6 +78,9 @@ bool readMore(int descriptor, std::string& text)
     const ssize_t count = read(descriptor, bytes, sizeof bytes);
     if (count > 0) {
         text.append(bytes, static_cast<std::size_t>(count));
+    }
+    if (text.size() > mostBytesUnread) {
+        throw std::runtime_error("the program prints on and on, from: " + text.substr(0, 200));
     }
     return count > 0;
 }
@@ -91,25 +102,67 @@ void placeStream(int source, int stream)
     }
 }
 
-// Runs in the child. A limit on its computing time ends a child that the tests lost sight of.
-[[noreturn]] void become(const std::vector<char*>& arguments, const Surroundings& surroundings,
-                         int errors)
+// Has the system kill the child when the test ends without its own clean-up: killed for taking too
+// long, or by a signal of its own.
+void endWithParent(pid_t parent)
 {
-    if (surroundings.ownTerminal) {
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (getppid() != parent) { // It ended before that.
+        _exit(127);
+    }
+}
+
+// Gives the terminal of this session another foreground, which need not live, and has it refuse
+// what the background writes. No shell could stop or continue a group whose parent is of another
+// session, so the writes fail.
+void goIntoBackground(int terminal)
+{
+    termios modes{};
+    tcgetattr(terminal, &modes);
+    modes.c_lflag |= TOSTOP;
+    tcsetattr(terminal, TCSANOW, &modes);
+
+    const pid_t foreground = fork();
+    if (foreground == 0) {
+        pause();
+        _exit(0);
+    }
+    setpgid(foreground, foreground);
+    tcsetpgrp(terminal, foreground);
+    kill(foreground, SIGKILL);
+    waitpid(foreground, nullptr, 0);
+}
+
+void takePlace(const Surroundings& surroundings)
+{
+    switch (surroundings.place) {
+    case Place::besideTheTest:
+        setpgid(0, 0);
+        break;
+    case Place::onItsTerminal:
         setsid();
         ioctl(surroundings.input, TIOCSCTTY, 0);
-    } else {
-        // A group that can be stopped: its parent is of the same session and another group.
-        setpgid(0, 0);
+        break;
+    case Place::inTheBackground:
+        setsid();
+        ioctl(surroundings.output, TIOCSCTTY, 0);
+        goIntoBackground(surroundings.output);
+        break;
     }
+}
+
+// Runs in the child.
+[[noreturn]] void become(const std::vector<char*>& arguments, const Surroundings& surroundings,
+                         int errors, pid_t parent)
+{
+    endWithParent(parent);
+    takePlace(surroundings);
     placeStream(surroundings.input, STDIN_FILENO);
     placeStream(surroundings.output, STDOUT_FILENO);
     placeStream(errors, STDERR_FILENO);
     const auto action = surroundings.signalsIgnored ? SIG_IGN : SIG_DFL;
     std::signal(SIGPIPE, action);
     std::signal(SIGHUP, action);
-    const rlimit seconds{600, 600};
-    setrlimit(RLIMIT_CPU, &seconds);
     execvp(arguments[0], arguments.data());
     _exit(127);
 }
@@ -182,9 +235,10 @@ ChildProcess::ChildProcess(const std::string& program, const Surroundings& surro
     }
     arguments.push_back(nullptr);
 
+    const pid_t parent = getpid();
     process = checked(fork(), "fork");
     if (process == 0) {
-        become(arguments, surroundings, errorPipe.writeEnd.number());
+        become(arguments, surroundings, errorPipe.writeEnd.number(), parent);
     }
     errorPipe.writeEnd.close();
 }

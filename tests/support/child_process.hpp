@@ -33,16 +33,22 @@ struct Terminal {
 };
 Terminal makeTerminal();
 
+// Where a program runs: in the session of the test, as a group that can be stopped; in a session of
+// its own, which its input, a terminal, controls; in the background of a session that its output
+// controls, a terminal that refuses whatever the background writes.
+enum class Place { besideTheTest, onItsTerminal, inTheBackground };
+
 // What a program is started with.
 struct Surroundings {
     int input = -1; // closed, when negative
     int output = -1;
-    bool ownTerminal = false;    // the input is the terminal of a session of its own
+    Place place = Place::besideTheTest;
     bool signalsIgnored = false; // the parent has SIGPIPE and SIGHUP ignored
 };
 
 // A program that runs as a child of the test, behind the launcher of the build if it has one (an
-// emulator, for a program of another architecture). Killed at the end if it still runs.
+// emulator, for a program of another architecture). Killed at the end if it still runs, also if the
+// end is that of the whole test.
 class ChildProcess
 {
 public:
@@ -74,11 +80,11 @@ private:
     Pipe errorPipe;
 };
 
-// Waits as long as it takes, and throws when nothing is read for minutes.
+// Writes all bytes, as the reader makes room for them. Throws when it makes none for a while.
 void writeAll(int descriptor, const std::string& bytes);
 
-// What a program prints, read piece by piece. Waits as long as it takes, and throws when nothing
-// comes for minutes or the output ends too early.
+// What a program prints, read piece by piece. Throws when nothing comes for a while, when the
+// output ends too early, and when it goes on and on without what is awaited.
 class Output
 {
 public:

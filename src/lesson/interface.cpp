@@ -1,0 +1,106 @@
+#include "lesson/interface.hpp"
+
+#include <string>
+#include <utility>
+
+#include "lesson/choice.hpp"
+#include "lesson/exercise.hpp"
+#include "lesson/exercise_json.hpp"
+#include "lesson/json.hpp"
+#include "lesson/tables/kinds.hpp"
+#include "lesson/tables_json.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+std::string errorJson(std::string_view sentence)
+{
+    Json json;
+    json.object([&] { json.member("error", sentence); });
+    return json.take();
+}
+
+std::string kindsJson()
+{
+    Json json;
+    json.array(kinds(), [&](const KindRow& row) {
+        json.object([&] {
+            json.member("kind", row.slug);
+            json.member("title", row.title);
+            json.key("levels").array(row.levels, [&](std::string_view level) { json.text(level); });
+        });
+    });
+    return json.take();
+}
+
+bool isWithin(unsigned number, unsigned greatest)
+{
+    return number >= 1 && number <= greatest;
+}
+
+// What is wrong with the arguments; empty where nothing is.
+std::string errorIn(unsigned paper, unsigned number, const Choice& choice)
+{
+    if (!isWithin(paper, greatestPaper)) {
+        return "The paper has to be a number from 1 to " + std::to_string(greatestPaper) + ".";
+    }
+    if (!isWithin(number, greatestNumber)) {
+        return "The number of the exercise has to be from 1 to " + std::to_string(greatestNumber) +
+               ".";
+    }
+    return choice.error;
+}
+
+// What `answerTo` makes of the exercise that the arguments mean, or the error in them.
+template <typename AnswerTo>
+std::string withExercise(unsigned paper, unsigned number, const char* kind,
+                         const AnswerTo& answerTo)
+{
+    const Choice choice = readChoice(kind == nullptr ? "" : kind);
+    const std::string error = errorIn(paper, number, choice);
+    return error.empty() ? answerTo(makeExercise(placeOf(choice, paper, number)))
+                         : errorJson(error);
+}
+
+std::string markedJson(const Exercise& exercise, const char* typed)
+{
+    return typed == nullptr ? errorJson("There is no typed text.")
+                            : markJson(markAnswer(exercise, typed));
+}
+
+} // namespace
+
+} // namespace lesson
+
+const char* lesson_kinds(void)
+{
+    thread_local std::string result;
+    result = lesson::kindsJson();
+    return result.c_str();
+}
+
+const char* lesson_exercise(unsigned paper, unsigned number, const char* kind)
+{
+    thread_local std::string result;
+    result = lesson::withExercise(paper, number, kind, lesson::exerciseJson);
+    return result.c_str();
+}
+
+const char* lesson_mark(unsigned paper, unsigned number, const char* kind, const char* typed)
+{
+    thread_local std::string result;
+    result = lesson::withExercise(paper, number, kind, [typed](const lesson::Exercise& exercise) {
+        return lesson::markedJson(exercise, typed);
+    });
+    return result.c_str();
+}
+
+const char* lesson_tables(void)
+{
+    thread_local std::string result;
+    result = lesson::tablesJson();
+    return result.c_str();
+}

@@ -1,0 +1,30 @@
+#include "lesson/kinds/kinds.hpp"
+
+#include <cstdint>
+
+namespace lesson
+{
+
+namespace
+{
+
+// Keeps the streams of draws apart.
+enum StreamOfDraws : std::uint32_t { quantities = 1, walk = 2 };
+
+} // namespace
+
+Draws drawsFor(const Place& place)
+{
+    return Draws({quantities, place.paper, static_cast<std::uint32_t>(place.kind),
+                  static_cast<std::uint32_t>(place.level), place.number});
+}
+
+int memberFor(const Place& place, const Pool& pool)
+{
+    return memberOnWalk(pool,
+                        {walk, place.paper, static_cast<std::uint32_t>(place.kind),
+                         static_cast<std::uint32_t>(place.level)},
+                        place.number);
+}
+
+} // namespace lesson

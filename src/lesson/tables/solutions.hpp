@@ -1,0 +1,57 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace lesson
+{
+
+// A substance that is in solution in some exercise, and how much of it. What has no row is not
+// dissolved.
+struct SoluteRow {
+    std::string_view formula;
+    std::string_view name;     // "copper(II) sulfate pentahydrate", "hydrochloric acid"
+    std::string_view american; // "sodium acetate"; empty where that is the same
+    int ceiling;          // greatest concentration, in hundredths of mol/L; 0 where titrations have
+                          // a range of their own
+    int greatestMass = 0; // to weigh, in hundredths of a gram; 0 where the ceiling says enough
+};
+
+// What is weighed and dissolved, or diluted.
+const std::vector<SoluteRow>& solutes();
+// The same with water of crystallisation; each has the ceiling of its salt. For weighing only.
+const std::vector<SoluteRow>& hydrates();
+// What comes as a solution and is only diluted.
+const std::vector<SoluteRow>& acidSolutions();
+// What is in titrations alone, besides some of the above.
+const std::vector<SoluteRow>& furtherTitrants();
+
+// The row of a formula in any of these; null where there is none.
+const SoluteRow* findSolute(std::string_view formula);
+
+enum class Indicator {
+    phenolphthalein,
+    methylOrange,
+    either,
+};
+
+// What runs out of the burette; the other one is pipetted.
+enum class InBurette {
+    acid,
+    base,
+    either,
+};
+
+// An acid and a base that are titrated. They react as many moles with so many that the protons are
+// as many: HCl, 1, with Na2CO3, 2, is 2 to 1.
+struct TitrationRow {
+    std::string_view acid; // formulas
+    std::string_view base;
+    int protonsGiven; // by one acid
+    int protonsTaken; // by one base
+    Indicator indicator;
+    InBurette inBurette;
+};
+const std::vector<TitrationRow>& titrations();
+
+} // namespace lesson

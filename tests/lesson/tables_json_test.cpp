@@ -1,0 +1,118 @@
+#include "lesson/tables_json.hpp"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <utility>
+
+namespace lesson
+{
+
+namespace
+{
+
+using Json = nlohmann::ordered_json;
+
+const Json& tables()
+{
+    static const Json parsed = Json::parse(tablesJson());
+    return parsed;
+}
+
+const Json& pair(const std::string& cation, const std::string& anion)
+{
+    const Json& pairs = tables()["pairs"];
+    const auto found = std::find_if(pairs.begin(), pairs.end(), [&](const Json& one) {
+        return one["cation"] == cation && one["anion"] == anion;
+    });
+    EXPECT_NE(found, pairs.end()) << cation << " " << anion;
+    return *found;
+}
+
+TEST(TablesJsonTest, EveryElementHasAPlaceOfItsOwn)
+{
+    const Json& elements = tables()["elements"];
+    ASSERT_EQ(elements.size(), 118U);
+    std::set<std::pair<int, int>> places;
+    int number = 0;
+    int withoutGroup = 0;
+    for (const Json& one : elements) {
+        EXPECT_EQ(one["number"], ++number);
+        EXPECT_FALSE(one["mass"].get<std::string>().empty()) << one;
+        if (one["group"] == 0) {
+            ++withoutGroup;
+        } else {
+            EXPECT_TRUE(places.emplace(one["period"], one["group"]).second) << one;
+        }
+    }
+    EXPECT_EQ(places.size() + static_cast<std::size_t>(withoutGroup), 118U);
+}
+
+TEST(TablesJsonTest, RowsAsAFrontEndGetsThem)
+{
+    EXPECT_EQ(tables()["version"], 1);
+    EXPECT_EQ(tables()["elements"][12].dump(),
+              R"({"number":13,"symbol":"Al","name":"aluminium","american":"aluminum",)"
+              R"("mass":"26.98","period":3,"group":13})");
+    EXPECT_EQ(tables()["elements"][7].dump(), R"({"number":8,"symbol":"O","name":"oxygen",)"
+                                              R"("mass":"16.00","period":2,"group":16})");
+    EXPECT_EQ(tables()["ions"].size(), 19U + 15U + 6U);
+    EXPECT_EQ(tables()["ions"][0].dump(), R"({"name":"lithium","formula":"Li","charge":1})");
+    EXPECT_EQ(tables()["ions"].back().dump(),
+              R"({"name":"dichromate","formula":"Cr2O7","charge":-2})");
+    EXPECT_EQ(tables()["rules"][5].dump(),
+              R"({"anion":"sulfate","family":"sulfates","verdict":"soluble",)"
+              R"json("exceptions":["barium","lead(II)"],)json"
+              R"("sentence":"Sulfates are soluble, except those of barium and lead."})");
+    EXPECT_EQ(tables()["rules"][0]["exceptions"].dump(), "[]");
+}
+
+TEST(TablesJsonTest, EveryPairHasAVerdictAndAReason)
+{
+    const Json& pairs = tables()["pairs"];
+    EXPECT_EQ(pairs.size(), 19U * 15U);
+    int withFormula = 0;
+    int asked = 0;
+    for (const Json& one : pairs) {
+        const std::string verdict = one["verdict"];
+        EXPECT_TRUE(verdict == "soluble" || verdict == "insoluble" || verdict == "not asked")
+            << one;
+        EXPECT_EQ(one["reason"].get<std::string>().back(), '.') << one;
+        EXPECT_TRUE(one.contains("formula") || verdict == "not asked") << one;
+        withFormula += one.contains("formula") ? 1 : 0;
+        asked += verdict != "not asked" ? 1 : 0;
+    }
+    EXPECT_EQ(withFormula, 227);
+    EXPECT_EQ(asked, 153);
+}
+
+TEST(TablesJsonTest, VerdictsOfSomePairs)
+{
+    struct Case {
+        const char* cation;
+        const char* anion;
+        const char* formula; // empty where it is not asked
+        const char* verdict;
+        const char* reason; // its beginning
+    };
+    const Case cases[] = {
+        {"copper(II)", "sulfate", "CuSO4", "soluble", "Sulfates are soluble"},
+        {"barium", "sulfate", "BaSO4", "insoluble", "Sulfates are soluble, except"},
+        {"aluminium", "hydroxide", "Al(OH)3", "insoluble", "Hydroxides are insoluble"},
+        {"lead(II)", "chloride", "PbCl2", "not asked", "It dissolves in hot water"},
+        {"iron(III)", "iodide", "", "not asked", "Iron(III) turns iodide into iodine"},
+    };
+    for (const Case& one : cases) {
+        const Json& found = pair(one.cation, one.anion);
+        EXPECT_EQ(found.value("formula", ""), one.formula) << found;
+        EXPECT_EQ(found["verdict"], one.verdict) << found;
+        EXPECT_EQ(found["reason"].get<std::string>().find(one.reason), 0U) << found;
+    }
+}
+
+} // namespace
+
+} // namespace lesson
