@@ -3,10 +3,11 @@
 //   node build.mjs LESSON.WASM PRACTICE.HTML
 import { createHash } from "node:crypto";
 import { mkdir, readFile, writeFile } from "node:fs/promises";
-import { dirname, join } from "node:path";
+import { dirname, join, resolve } from "node:path";
+import { fileURLToPath } from "node:url";
 import { build } from "esbuild";
 
-const here = import.meta.dirname;
+const here = dirname(fileURLToPath(import.meta.url));
 const [wasm, target] = process.argv.slice(2);
 
 const script = await bundle("src/main.ts");
@@ -36,7 +37,7 @@ async function bundle(entry) {
         charset: "utf8",
         target: ["safari15", "chrome90", "firefox90"],
         loader: { ".wasm": "binary" },
-        alias: { "lesson.wasm": wasm },
+        alias: { "lesson.wasm": resolve(wasm) },
     });
     return result.outputFiles[0].text.trim().replaceAll("</script", "<\\/script").replaceAll("<!--", "<\\!--");
 }

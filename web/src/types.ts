@@ -97,15 +97,14 @@ export interface IonInfo {
 export interface PairInfo {
     cation: string;
     anion: string;
-    formula: string;
-    verdict: string;
+    formula?: string; // where the compound exists
+    verdict: "soluble" | "insoluble" | "not asked";
     reason: string;
 }
 
 export interface Tables {
     elements: ElementInfo[];
     ions: IonInfo[];
-    rules: string[];
     pairs: PairInfo[];
 }
 

@@ -130,7 +130,13 @@ function pairButton(pair: PairInfo, reason: HTMLElement, page: Page): HTMLButton
 
 function reasonOf(pair: PairInfo, page: Page): Node[] {
     const colon = document.createTextNode(`: ${pair.verdict}. `);
-    return [typeset([{ formula: pair.formula }], page.settings), colon, typesetSentence(pair.reason, page.settings, page.names)];
+    return [compoundOf(pair, page), colon, typesetSentence(pair.reason, page.settings, page.names)];
+}
+
+// Its formula, or its name where there is no such compound.
+function compoundOf(pair: PairInfo, page: Page): Node {
+    const name = `${pair.cation} ${pair.anion}`;
+    return pair.formula === undefined ? typesetSentence(name, page.settings, page.names) : typeset([{ formula: pair.formula }], page.settings);
 }
 
 const arrows: Record<string, [number, number]> = { ArrowLeft: [0, -1], ArrowRight: [0, 1], ArrowUp: [-1, 0], ArrowDown: [1, 0] };
@@ -162,7 +168,7 @@ function notAsked(pairs: PairInfo[], page: Page): HTMLElement {
         element(
             "li",
             {},
-            ...those.flatMap((pair, at) => [at === 0 ? "" : ", ", typeset([{ formula: pair.formula }], page.settings)]),
+            ...those.flatMap((pair, at) => [at === 0 ? "" : ", ", compoundOf(pair, page)]),
             ": ",
             typesetSentence(reason, page.settings, page.names),
         ),
