@@ -5,6 +5,7 @@
 #include "data/tables.hpp"
 #include "literal_parser.hpp"
 #include "outcome.hpp"
+#include "support.hpp"
 
 namespace
 {

@@ -5,14 +5,13 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <numeric>
 #include <vector>
-
-#include <unistd.h>
 
 #include "data/tables.hpp"
 #include "grading/grading.hpp"
 #include "support.hpp"
+#include "support/captured_output.hpp"
+#include "support/neutral_compound.hpp"
 
 namespace
 {
@@ -40,22 +39,6 @@ const std::vector<Ion>& ions()
         return extended;
     }();
     return all;
-}
-
-// As many of `own` as neutralise the charge of `partner`.
-std::string part(const Ion& own, const Ion& partner)
-{
-    const int count = std::lcm(own.charge, partner.charge) / own.charge;
-    if (count == 1) {
-        return own.formula;
-    }
-    const std::string once = own.polyatomic ? "(" + own.formula + ")" : own.formula;
-    return once + std::to_string(count);
-}
-
-std::string compound(const Ion& cation, const Ion& anion)
-{
-    return part(cation, anion) + part(anion, cation);
 }
 
 std::string charged(const Ion& one)
@@ -124,40 +107,16 @@ Verdict gradedSolubility(const Ion& cation, const Ion& anion, const std::string&
     if (!answer.empty() && accepted.find(answer[0]) != std::string::npos) {
         return {1, "Correct.\n"};
     }
-    return {0, "Incorrect; " + compound(cation, anion) + " is " +
+    return {0, "Incorrect; " + neutralCompound(cation, anion) + " is " +
                    (word.empty() ? "<an error occurred>" : word) + "\n"};
 }
-
-// The standard output of the C library, in an unnamed file from the first use on.
-class CapturedStdout
-{
-public:
-    CapturedStdout()
-    {
-        std::FILE* const file = std::tmpfile();
-        require(file != nullptr && dup2(fileno(file), STDOUT_FILENO) != -1,
-                "standard output can be captured");
-    }
-
-    // What has been printed since the last call.
-    static std::string take()
-    {
-        std::fflush(stdout);
-        const off_t size = lseek(STDOUT_FILENO, 0, SEEK_CUR);
-        std::string text(static_cast<std::size_t>(size), '\0');
-        require(pread(STDOUT_FILENO, text.data(), text.size(), 0) == size,
-                "captured output can be read");
-        lseek(STDOUT_FILENO, 0, SEEK_SET);
-        return text;
-    }
-};
 
 template <class Grader>
 Verdict given(const Grader& grader)
 {
-    static const CapturedStdout capture;
-    const int points = grader();
-    return {points, CapturedStdout::take()};
+    Verdict verdict{};
+    verdict.line = outputOf([&] { verdict.points = grader(); });
+    return verdict;
 }
 
 } // namespace
@@ -172,7 +131,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string answer = textOf(data + 2, size - 2);
 
     require(given([&] { return getResponse(cation, anion, answer); }) ==
-                gradedFormula(compound(cation, anion), answer),
+                gradedFormula(neutralCompound(cation, anion), answer),
             "the verdict on a compound's formula");
     require(given([&] { return anion.getResponse(answer); }) ==
                 gradedFormula(charged(anion), answer),

@@ -2,43 +2,19 @@
 // read and nothing behind it, and nothing is printed.
 
 #include <algorithm>
+#include <iostream>
 #include <iterator>
+#include <sstream>
 
 #include "console/menu.hpp"
 #include "leading_number.hpp"
 #include "support.hpp"
+#include "support/redirected.hpp"
 
 namespace
 {
 
 constexpr const char* blanks = " \t\n\v\f\r";
-
-// Gives std::cin a text to read while it lives.
-class TypedInput
-{
-public:
-    explicit TypedInput(const std::string& text) : typed(text), own(std::cin.rdbuf(&typed))
-    {
-        std::cin.clear();
-    }
-
-    ~TypedInput()
-    {
-        std::cin.rdbuf(own);
-    }
-
-    TypedInput(const TypedInput&) = delete;
-    TypedInput& operator=(const TypedInput&) = delete;
-
-    std::string unread()
-    {
-        return std::string(std::istreambuf_iterator<char>(&typed), {});
-    }
-
-private:
-    std::stringbuf typed;
-    std::streambuf* own;
-};
 
 void checkKind(QuestionType kind, const std::string& word)
 {
@@ -58,10 +34,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const std::size_t start = std::min(text.find_first_not_of(blanks), text.size());
     const std::size_t end = std::min(text.find_first_of(blanks, start), text.size());
-    const CapturedCout output;
-    TypedInput input(text);
+    std::stringbuf printed;
+    std::stringbuf typed(text);
+    const Redirected output(std::cout, &printed);
+    const Redirected input(std::cin, &typed);
     checkKind(readChoice(), text.substr(start, end - start));
-    require(input.unread() == text.substr(end), "what stands behind the word stays unread");
-    require(output.text().empty(), "nothing is printed");
+    const std::string unread(std::istreambuf_iterator<char>(&typed), {});
+    require(unread == text.substr(end), "what stands behind the word stays unread");
+    require(printed.str().empty(), "nothing is printed");
     return 0;
 }

@@ -2,9 +2,11 @@
 
 #include <cmath>
 #include <cstring>
+#include <iostream>
+#include <sstream>
 #include <string>
 
-#include "support.hpp"
+#include "support/redirected.hpp"
 
 // What a formula parser returns and prints.
 struct Outcome {
@@ -14,9 +16,10 @@ struct Outcome {
 
 inline Outcome outcomeOf(float (*parser)(std::string), const std::string& formula)
 {
-    const CapturedCout output;
+    std::stringbuf printed;
+    const Redirected output(std::cout, &printed);
     const float mass = parser(formula);
-    return {mass, output.text()};
+    return {mass, printed.str()};
 }
 
 // The same bits, but for NaNs, whose bits mean nothing.

@@ -4,9 +4,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <iostream>
-#include <sstream>
-#include <streambuf>
 #include <string>
 
 // What the fuzz targets share.
@@ -24,27 +21,3 @@ inline void require(bool holds, const char* what)
         std::abort();
     }
 }
-
-// Collects what is written to std::cout while it lives.
-class CapturedCout
-{
-public:
-    CapturedCout() : own(std::cout.rdbuf(&captured)) {}
-
-    ~CapturedCout()
-    {
-        std::cout.rdbuf(own);
-    }
-
-    CapturedCout(const CapturedCout&) = delete;
-    CapturedCout& operator=(const CapturedCout&) = delete;
-
-    std::string text() const
-    {
-        return captured.str();
-    }
-
-private:
-    std::stringbuf captured;
-    std::streambuf* own;
-};

@@ -75,11 +75,3 @@ std::string isSolubleWord(char verdict)
         return "<an error occurred>";
     }
 }
-
-char ucase(char letter)
-{
-    if (letter >= 'a' && letter <= 'z') {
-        return static_cast<char>(letter - 'a' + 'A');
-    }
-    return letter;
-}

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "chem/ucase.hpp"
 #include "data/ion.hpp"
 
 // Whether the compound of two ions dissolves in water: 'Y', 'N', or ' ' where no rule covers the
@@ -12,6 +13,3 @@ char isSolubleChar(Ion cation, Ion anion);
 // A verdict in words, whatever its case: "soluble" for 'Y', "insoluble" for 'N',
 // "<an error occurred>" for anything else.
 std::string isSolubleWord(char verdict);
-
-// 'a' to 'z' in upper case; any other character as it is, bytes of 128 and above among them.
-char ucase(char letter);

@@ -45,11 +45,3 @@ int getSolResponse(Ion cation, Ion anion, std::string answer)
                 isSolubleWord(verdict).c_str());
     return 0;
 }
-
-std::string ucase(std::string text)
-{
-    for (char& letter : text) {
-        letter = ucase(letter);
-    }
-    return text;
-}

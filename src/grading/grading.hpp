@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "chem/ucase.hpp"
 #include "data/ion.hpp"
 
 // Graders of typed answers, for a front end that asks for them; the practice dialogue does not.
@@ -17,6 +18,3 @@ int getResponse(Ion cation, Ion anion, std::string answer);
 // Kept: where no rule covers the anion, a blank is the correct answer.
 //   silver, chloride, "yes" -> 0 and "Incorrect; AgCl is insoluble"
 int getSolResponse(Ion cation, Ion anion, std::string answer);
-
-// A copy of the text with every character passed through `ucase(char)`.
-std::string ucase(std::string text);

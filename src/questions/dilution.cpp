@@ -42,6 +42,21 @@ Dilution drawDilution()
     return {std::move(substance), V1, V2, C1, C1 * V1 / V2};
 }
 
+// The quantities of a dilution as its texts show them, to 3 digits.
+struct Shown {
+    std::string V1;
+    std::string V2;
+    std::string C1;
+    std::string C2;
+    std::string water; // V2 - V1
+};
+
+Shown shown(const Dilution& dilution)
+{
+    return {general(dilution.V1, 3), general(dilution.V2, 3), general(dilution.C1, 3),
+            general(dilution.C2, 3), general(dilution.V2 - dilution.V1, 3)};
+}
+
 std::string volume(float litres)
 {
     return volumeFormat(litres, 3);
@@ -67,79 +82,69 @@ QandA dilutionQuestion()
     return waterToAdd(dilution);
 }
 
+// clang-format off
 QandA newConcentration(const Dilution& dilution)
 {
-    const auto& [substance, V1, V2, C1, C2] = dilution;
-
-    Text question;
-    question << Digits{3};
-    question << volume(V1) << " of " << C1 << " mol/L " << substance << " is added to "
-             << volume(V2 - V1) << " of water. What is the new concentration?\n";
-
-    Text answer;
-    answer << Digits{3};
-    answer << "V1 = " << V1 << " L   C1 = " << C1 << " mol/L   V2 = " << V1 << " + " << V2 - V1
-           << " = " << V2 << " L   C2 = ?\n";
-    answer << "C1V1 = C2V2\n";
-    answer << "C2 = C1V1/V2 = " << C1 << "x" << V1 << "/" << V2 << " = " << C2 << " mol/L\n";
-    return {std::move(question.str), std::move(answer.str)};
+    const auto [V1, V2, C1, C2, water] = shown(dilution);
+    return {
+        joined(
+            volume(dilution.V1), " of ", C1, " mol/L ", dilution.substance, " is added to ",
+            volume(dilution.V2 - dilution.V1), " of water. What is the new concentration?\n"),
+        joined(
+            "V1 = ", V1, " L   C1 = ", C1, " mol/L   V2 = ", V1, " + ", water, " = ", V2,
+            " L   C2 = ?\n",
+            "C1V1 = C2V2\n",
+            "C2 = C1V1/V2 = ", C1, "x", V1, "/", V2, " = ", C2, " mol/L\n"),
+    };
 }
 
 QandA volumeToDilute(const Dilution& dilution)
 {
-    const auto& [substance, V1, V2, C1, C2] = dilution;
-
-    Text question;
-    question << Digits{3};
-    question << "How much " << C1 << " mol/L " << substance
-             << " needs to be diluted (added to water) to make " << volume(V2) << " of " << C2
-             << " mol/L " << substance << "?\n";
-
-    Text answer;
-    answer << Digits{3};
-    answer << "V1 = ?   C1 = " << C1 << " mol/L   V2 = " << V2 << " L   C2 = " << C2 << " mol/L\n";
-    answer << "C1V1 = C2V2\n";
-    answer << "V1 = C2V2/C1 = " << C2 << "x" << V2 << "/" << C1 << " = " << V1 << " L\n";
-    return {std::move(question.str), std::move(answer.str)};
+    const auto [V1, V2, C1, C2, water] = shown(dilution);
+    return {
+        joined(
+            "How much ", C1, " mol/L ", dilution.substance,
+            " needs to be diluted (added to water) to make ", volume(dilution.V2), " of ", C2,
+            " mol/L ", dilution.substance, "?\n"),
+        joined(
+            "V1 = ?   C1 = ", C1, " mol/L   V2 = ", V2, " L   C2 = ", C2, " mol/L\n",
+            "C1V1 = C2V2\n",
+            "V1 = C2V2/C1 = ", C2, "x", V2, "/", C1, " = ", V1, " L\n"),
+    };
 }
 
 QandA originalConcentration(const Dilution& dilution)
 {
-    const auto& [substance, V1, V2, C1, C2] = dilution;
-
-    Text question;
-    question << Digits{3};
-    question << "What was the original concentration of " << substance << " if there was "
-             << volume(V1) << " before dilution and " << volume(V2) << " of " << C2 << " mol/L "
-             << substance << " afterwards?\n";
-
-    Text answer;
-    answer << Digits{3};
-    // Kept: the line tells C1 although it is asked for, and does not tell C2.
-    answer << "C1 = " << C1 << " mol/L   V1 = " << V1 << " L   V2 = " << V2 << " L   C1 = ?\n";
-    answer << "C1V1 = C2V2\n";
-    answer << "C1 = C2V2/V1 = " << C2 << "x" << V2 << "/" << V1 << " = " << C1 << " mol/L\n";
-    return {std::move(question.str), std::move(answer.str)};
+    const auto [V1, V2, C1, C2, water] = shown(dilution);
+    return {
+        joined(
+            "What was the original concentration of ", dilution.substance, " if there was ",
+            volume(dilution.V1), " before dilution and ", volume(dilution.V2), " of ", C2,
+            " mol/L ", dilution.substance, " afterwards?\n"),
+        // Kept: the line tells C1 although it is asked for, and does not tell C2.
+        joined(
+            "C1 = ", C1, " mol/L   V1 = ", V1, " L   V2 = ", V2, " L   C1 = ?\n",
+            "C1V1 = C2V2\n",
+            "C1 = C2V2/V1 = ", C2, "x", V2, "/", V1, " = ", C1, " mol/L\n"),
+    };
 }
 
 QandA waterToAdd(const Dilution& dilution)
 {
-    const auto& [substance, V1, V2, C1, C2] = dilution;
-
-    Text question;
-    question << Digits{3};
-    question << "To dilute " << volume(V1) << " of " << C1 << " mol/L " << substance << " to " << C2
-             << " mol/L, how much water does it need to be added to?\n";
-
-    Text answer;
-    answer << Digits{3};
-    answer << "V1 = " << V1 << " L   C1 = " << C1 << " mol/L   C2 = " << C2 << " mol/L   V2 = ?\n";
-    answer << "C1V1 = C2V2\n";
-    answer << "V2 = C1V1/C2 = " << C1 << "x" << V1 << "/" << C2 << " = " << V2 << " L\n";
-    answer << "V2 - V1 = " << V2 << " - " << V1 << " = " << V2 - V1 << " L\n";
-    answer << "So add it to " << V2 - V1 << " L of water\n";
-    return {std::move(question.str), std::move(answer.str)};
+    const auto [V1, V2, C1, C2, water] = shown(dilution);
+    return {
+        joined(
+            "To dilute ", volume(dilution.V1), " of ", C1, " mol/L ", dilution.substance, " to ",
+            C2, " mol/L, how much water does it need to be added to?\n"),
+        joined(
+            "V1 = ", V1, " L   C1 = ", C1, " mol/L   C2 = ", C2, " mol/L   V2 = ?\n",
+            "C1V1 = C2V2\n",
+            "V2 = C1V1/C2 = ", C1, "x", V1, "/", C2, " = ", V2, " L\n",
+            "V2 - V1 = ", V2, " - ", V1, " = ", water, " L\n",
+            "So add it to ", water, " L of water\n"),
+    };
 }
+// clang-format on
 
 std::string acidDesignation(const Ion& acidAnion, bool byName)
 {

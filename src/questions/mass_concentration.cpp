@@ -39,17 +39,19 @@ QandA concentrationFromMass(const Soluble& compound)
     const float n = m / M;
     const float C = n / V;
 
-    Text question;
-    question << "Calculate the concentration (in mol/L) if " << m << " g of " << compound.name
-             << " is dissolved in " << millilitres << " mL of water.\n";
-
-    Text answer;
-    answer << "m = " << m << " g   V = " << V << " L   C = ?\n";
-    answer << "Formula is " << compound.formula << "  so M = " << M << " g/mol\n";
-    answer << Digits{3};
-    answer << "n = m/M = " << m << "/" << M << " = " << n << " mol\n";
-    answer << "C = n/V = " << n << "/" << V << " = " << C << " mol/L\n";
-    return {std::move(question.str), std::move(answer.str)};
+    const std::string n3 = general(n, 3); // Shown twice.
+    // clang-format off
+    return {
+        joined(
+            "Calculate the concentration (in mol/L) if ", general(m, 6), " g of ", compound.name,
+            " is dissolved in ", general(millilitres, 6), " mL of water.\n"),
+        joined(
+            "m = ", general(m, 6), " g   V = ", general(V, 6), " L   C = ?\n",
+            "Formula is ", compound.formula, "  so M = ", general(M, 6), " g/mol\n",
+            "n = m/M = ", general(m, 3), "/", general(M, 3), " = ", n3, " mol\n",
+            "C = n/V = ", n3, "/", general(V, 3), " = ", general(C, 3), " mol/L\n"),
+    };
+    // clang-format on
 }
 
 QandA massForConcentration(const Soluble& compound)
@@ -61,15 +63,20 @@ QandA massForConcentration(const Soluble& compound)
     const float C = n / V;
     const float millilitres = V * 1000.0f;
 
-    Text question;
-    question << "Calculate the mass (in g) of " << compound.name << " needed to make up "
-             << millilitres << " mL of " << Digits{2} << C << " mol/L solution.\n";
-
-    Text answer;
-    answer << "m = ?   V = " << V << " L   C = " << Digits{2} << C << " mol/L\n";
-    answer << "n = CV = " << C << "x" << Digits{3} << V << " = " << n << " mol\n";
-    answer << "Formula is " << compound.formula << "  so M = " << Digits{4} << M << " g/mol\n";
-    answer << "m = nM = " << Digits{3} << n << "x" << Digits{4} << M << " = " << Digits{3} << m
-           << " g\n";
-    return {std::move(question.str), std::move(answer.str)};
+    // What is shown more than once, to so many digits.
+    const std::string n3 = general(n, 3);
+    const std::string C2 = general(C, 2);
+    const std::string M4 = general(M, 4);
+    // clang-format off
+    return {
+        joined(
+            "Calculate the mass (in g) of ", compound.name, " needed to make up ",
+            general(millilitres, 6), " mL of ", C2, " mol/L solution.\n"),
+        joined(
+            "m = ?   V = ", general(V, 6), " L   C = ", C2, " mol/L\n",
+            "n = CV = ", C2, "x", general(V, 3), " = ", n3, " mol\n",
+            "Formula is ", compound.formula, "  so M = ", M4, " g/mol\n",
+            "m = nM = ", n3, "x", M4, " = ", general(m, 3), " g\n"),
+    };
+    // clang-format on
 }

@@ -11,14 +11,3 @@ std::string general(float number, int digits)
                                                    std::chars_format::general, digits);
     return std::string(shown, end.ptr);
 }
-
-Text& operator<<(Text& text, float number)
-{
-    return text << general(number, text.digits);
-}
-
-Text& operator<<(Text& text, Digits digits)
-{
-    text.digits = digits.number;
-    return text;
-}

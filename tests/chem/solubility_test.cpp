@@ -164,15 +164,4 @@ TEST(SolubilityTest, VerdictInWords)
     }
 }
 
-TEST(SolubilityTest, UpperCaseOfEveryCharacter)
-{
-    const std::string lower = "abcdefghijklmnopqrstuvwxyz";
-    const std::string upper = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
-    for (int code = CHAR_MIN; code <= CHAR_MAX; ++code) {
-        const char letter = static_cast<char>(code);
-        const std::size_t place = lower.find(letter);
-        EXPECT_EQ(ucase(letter), place == std::string::npos ? letter : upper[place]) << code;
-    }
-}
-
 } // namespace

@@ -6,29 +6,10 @@
 #include <sstream>
 #include <string>
 
+#include "support/redirected.hpp"
+
 namespace
 {
-
-// Puts another buffer under a standard stream while it lives.
-class Redirected
-{
-public:
-    Redirected(std::ios& redirected, std::streambuf* buffer)
-        : stream(redirected), own(redirected.rdbuf(buffer))
-    {
-    }
-    ~Redirected()
-    {
-        stream.rdbuf(own);
-        stream.clear();
-    }
-    Redirected(const Redirected&) = delete;
-    Redirected& operator=(const Redirected&) = delete;
-
-private:
-    std::ios& stream;
-    std::streambuf* own;
-};
 
 TEST(MenuTest, PrintsTitleNoteAndKinds)
 {

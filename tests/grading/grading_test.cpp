@@ -190,14 +190,6 @@ TEST(GradingTest, FormulasArePrintedAsTheyAre)
               "Incorrect; %s%n is <an error occurred>\n");
 }
 
-TEST(GradingTest, UpperCaseOfAText)
-{
-    EXPECT_EQ(ucase("Al2(SO4)3 is {soluble}, `z\xe9\xff"), "AL2(SO4)3 IS {SOLUBLE}, `Z\xe9\xff");
-    EXPECT_EQ(ucase(std::string()), "");
-    EXPECT_EQ(ucase(std::string("a\0b", 3)), std::string("A\0B", 3));
-    EXPECT_EQ(ucase(std::string(1000000, 'q')), std::string(1000000, 'Q'));
-}
-
 TEST(GradingTest, VerdictsAndQuestionsComeInTheOrderOfTheCalls)
 {
     const Ion sodium = ionCalled("sodium");

@@ -4,6 +4,8 @@
 #include <utility>
 #include <variant>
 
+#include "lesson/marking/number_reader.hpp"
+#include "lesson/marking/typed.hpp"
 #include "lesson/marking/typed_number.hpp"
 
 namespace lesson
@@ -15,8 +17,8 @@ namespace
 // What a typed number is compared with.
 struct Target {
     Ratio value;
-    int figures;
-    bool isMolarMass;
+    int figures = 0;
+    bool isMolarMass = false;
 };
 
 // How a typed number stands to its target.
@@ -107,14 +109,88 @@ bool isRight(const TypedNumber& number, const NumberAnswer& answer, int figures)
 }
 
 // The first of the slips whose answer was typed, or none.
-const Slip* slipOf(const TypedNumber& number, const std::vector<Slip>& slips, int figures,
-                   bool isMolarMass)
+const Slip* slipOf(const TypedNumber& number, const std::vector<Slip>& slips, const Target& key)
 {
     const auto found = std::find_if(slips.begin(), slips.end(), [&](const Slip& slip) {
-        const Fit fit = fitOf(number, {*slip.value, figures, isMolarMass});
+        const Fit fit =
+            slip.value ? fitOf(number, {*slip.value, key.figures, key.isMolarMass}) : Fit::none;
         return fit == Fit::correct || fit == Fit::otherFigures;
     });
     return found == slips.end() ? nullptr : &*found;
+}
+
+// The power of ten by which a number misses the answer, 0 if there is none.
+int powerMissed(TypedNumber number, const NumberAnswer& answer, int figures)
+{
+    constexpr int most = 6;
+    number.place -= most + 1;
+    for (int power = -most; power <= most; ++power) {
+        ++number.place;
+        if (power != 0 && isRight(number, answer, figures)) {
+            return power;
+        }
+    }
+    return 0;
+}
+
+bool isClose(const TypedNumber& number, Ratio value)
+{
+    return isWithin(number, value * ratio(99, 100), value * ratio(101, 100));
+}
+
+std::string toFigures(int figures)
+{
+    return std::to_string(figures) + " significant figures";
+}
+
+Mark correctMark(const TypedNumber& number, const Target& key, const std::string& rounded)
+{
+    const bool isKey = isEqual(number, roundedTo(key.value, key.figures));
+    return {Verdict::correct,
+            isKey ? "Correct."
+                  : "Correct. To " + toFigures(key.figures) + " it is " + rounded + "."};
+}
+
+Mark figuresMark(const TypedNumber& number, const Target& key, const std::string& rounded)
+{
+    const bool lacksZeros = number.mostFigures < key.figures && rounded.back() == '0' &&
+                            isEqual(number, roundedTo(key.value, key.figures));
+    return {Verdict::figures,
+            lacksZeros ? "Keep the zero: " + rounded + "."
+                       : "The value is right. Now give it to " + toFigures(key.figures) + "."};
+}
+
+Mark markRead(const TypedNumber& number, const NumberAnswer& answer, const std::vector<Slip>& slips,
+              int figures)
+{
+    const Target key = {answer.value, figures, answer.isMolarMass};
+    const std::string rounded = shown(answer.value, figures);
+    const Fit fit = fitOf(number, key);
+    if (fit == Fit::correct) {
+        return correctMark(number, key, rounded);
+    }
+    if (fit != Fit::none) {
+        return figuresMark(number, key, rounded);
+    }
+    if (isCorrectWithRoundedMasses(number, answer, figures)) {
+        return {Verdict::correct,
+                "Correct with rounded atomic masses. With this table it is " + rounded + "."};
+    }
+    if (const Slip* const slip = slipOf(number, slips, key)) {
+        return {Verdict::slip, slip->sentence};
+    }
+    if (const int power = powerMissed(number, answer, figures)) {
+        const bool mayBeVolume = answer.hasGivenVolumes && (power == 3 || power == -3);
+        return {Verdict::powerOfTen, mayBeVolume
+                                         ? "Right digits, wrong size. Check each volume: mL or L?"
+                                         : "Right digits, wrong size."};
+    }
+    if (isClose(number, answer.value)) {
+        return {Verdict::close, answer.isMolarMass
+                                    ? "Very close. Check the atomic masses."
+                                    : "Very close. Did you round a number on the way?"};
+    }
+    return {Verdict::wrong, "Not right yet. Write down what you know, or press Show a step."};
 }
 
 } // namespace
@@ -126,21 +202,27 @@ bool agrees(Decimal typed, Ratio exact, int figures, bool isMolarMass)
 
 void addSlip(Exercise& exercise, Ratio value, std::string sentence)
 {
-    const auto* const asked = std::get_if<NumberAnswer>(&exercise.answer);
-    if (asked == nullptr || value.numerator <= 0) {
+    const auto* const answer = std::get_if<NumberAnswer>(&exercise.answer);
+    if (answer == nullptr || value.numerator <= 0) {
         return;
     }
-    const NumberAnswer& answer = *asked;
     const Ask& ask = exercise.ask;
+    const Target key = {answer->value, ask.figures, answer->isMolarMass};
     const TypedNumber typed = typedNumber(roundedTo(value, ask.figures));
-    const bool isExactlyRight =
-        agrees(roundedTo(value, 17), answer.value, ask.figures, answer.isMolarMass);
-    if (isExactlyRight || isRight(typed, answer, ask.figures) ||
-        slipOf(typed, exercise.slips, ask.figures, answer.isMolarMass) != nullptr) {
+    if (agrees(typedNumber(roundedTo(value, 17)), key) || isRight(typed, *answer, ask.figures) ||
+        slipOf(typed, exercise.slips, key) != nullptr) {
         return;
     }
     exercise.slips.push_back(
         {shown(value, ask.figures) + " " + ask.unit, value, std::move(sentence)});
+}
+
+Mark markNumber(const NumberAnswer& answer, const Ask& ask, const std::vector<Slip>& slips,
+                std::string_view typed)
+{
+    const NumberReading reading = readNumber(plainTyped(typed), ask);
+    return reading.problem.empty() ? markRead(reading.number, answer, slips, ask.figures)
+                                   : Mark{Verdict::unreadable, reading.problem};
 }
 
 } // namespace lesson

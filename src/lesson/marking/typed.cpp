@@ -52,9 +52,18 @@ constexpr Spelling superscripts[] = {
 };
 // clang-format on
 
+bool isOrdinary(char character)
+{
+    return character >= ' ' && character <= '~';
+}
+
+// Most of what is typed is in none of the tables, and is not looked for in them.
 template <std::size_t N>
 const Spelling* spellingAt(const Spelling (&table)[N], std::string_view text)
 {
+    if (isOrdinary(text.front())) {
+        return nullptr;
+    }
     const auto* const found =
         std::find_if(std::begin(table), std::end(table), [text](const Spelling& spelling) {
             return text.substr(0, spelling.typed.size()) == spelling.typed;
@@ -73,6 +82,14 @@ std::string_view withoutBlanksAtTheEnds(std::string_view text)
     return text;
 }
 
+// How many characters at the front have no other spelling: of ASCII, all that can be printed.
+std::size_t ordinaryLength(std::string_view text)
+{
+    const auto isOrdinary = [](char c) { return c >= ' ' && c <= '~'; };
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isOrdinary) -
+                                    text.begin());
+}
+
 } // namespace
 
 std::string plainTyped(std::string_view typed)
@@ -80,6 +97,13 @@ std::string plainTyped(std::string_view typed)
     std::string plain;
     bool inSuperscript = false;
     while (!typed.empty()) {
+        const std::size_t ordinary = ordinaryLength(typed);
+        if (ordinary > 0) {
+            plain += typed.substr(0, ordinary);
+            typed.remove_prefix(ordinary);
+            inSuperscript = false;
+            continue;
+        }
         const Spelling* const superscript = spellingAt(superscripts, typed);
         if (superscript != nullptr && !inSuperscript && (plain.empty() || plain.back() != '^')) {
             plain += '^';

@@ -118,6 +118,416 @@ TEST(AddSlipTest, IsForNumbersOnly)
     EXPECT_TRUE(exercise.slips.empty());
 }
 
+const char* nameOf(Verdict verdict)
+{
+    constexpr const char* names[] = {"correct", "figures", "slip",      "power-of-ten",
+                                     "close",   "wrong",   "unreadable"};
+    return names[static_cast<int>(verdict)];
+}
+
+// "figures: Keep the zero: 0.100."
+std::string markOf(const NumberAnswer& answer, const Ask& ask, const std::string& typed,
+                   const std::vector<Slip>& slips = {})
+{
+    const Mark mark = markNumber(answer, ask, slips, typed);
+    return nameOf(mark.verdict) + std::string(": ") + mark.sentence;
+}
+
+const Ask molarAsk = {Form::number, "c", "NaOH", "mol/L", 3, {}};
+const Ask volumeAsk = {Form::number, "V", "H2O", "mL", 3, {}};
+const Ask molarMassAsk = {Form::number, "M", "CuSO4.5H2O", "g/mol", 4, {}};
+
+const char* const correct = "correct: Correct.";
+const char* const threeFigures =
+    "figures: The value is right. Now give it to 3 significant figures.";
+const char* const fourFigures =
+    "figures: The value is right. Now give it to 4 significant figures.";
+const char* const wrongSize = "power-of-ten: Right digits, wrong size.";
+const char* const wrongVolume =
+    "power-of-ten: Right digits, wrong size. Check each volume: mL or L?";
+const char* const close = "close: Very close. Did you round a number on the way?";
+const char* const closeMass = "close: Very close. Check the atomic masses.";
+const char* const wrong = "wrong: Not right yet. Write down what you know, or press Show a step.";
+
+struct MarkCase {
+    const char* typed;
+    std::string mark;
+};
+
+void expectMarks(const NumberAnswer& answer, const Ask& ask, const std::vector<Slip>& slips,
+                 const std::vector<MarkCase>& cases)
+{
+    for (const MarkCase& c : cases) {
+        EXPECT_EQ(markOf(answer, ask, c.typed, slips), c.mark)
+            << '"' << c.typed << "\" for " << answer.value.numerator << '/'
+            << answer.value.denominator;
+    }
+}
+
+// 0.04557 mol/L, rounded 0.0456; half a per cent 0.0453422 to 0.0457979, one 0.0451143 to
+// 0.0460257.
+TEST(MarkNumberTest, TheFirstLineThatFits)
+{
+    const std::string rounded = "correct: Correct. To 3 significant figures it is 0.0456.";
+    // clang-format off
+    expectMarks({ratio(4557, 100000)}, molarAsk, {}, {
+        {"0.0456", correct},
+        {"0.0456 mol/L", correct},
+        {"45.6 mmol/L", correct},
+        {"4.56e-2", correct},
+        {"0.0455", rounded},
+        {"0.0457", rounded},
+        {"0.0454", rounded},
+        {"0.0453", close},
+        {"0.0458", close},
+        {"0.0460", close},
+        {"0.0461", wrong},
+        {"0.0452", close},
+        {"0.0451", wrong},
+        // More figures.
+        {"0.04557", threeFigures},
+        {"0.045570", threeFigures},
+        {"0.04560", threeFigures},
+        {"0.0455700000000000000000000000000000000000001", threeFigures},
+        {"0.045349", close},               // rounded 0.0453
+        {"0.04535", threeFigures},         // a half, which may go up to 0.0454
+        {"0.045350000000000001", threeFigures},
+        {"0.04574", threeFigures},         // rounded 0.0457
+        {"0.04575", threeFigures},         // a half, which may go down to 0.0457
+        {"0.045751", close},               // rounded 0.0458
+        // Fewer.
+        {"0.046", threeFigures},
+        {"0.05", wrong},
+        {"0.045", wrong},                  // one per cent and a quarter off
+        {"0.0046", wrongSize},
+        {"45.6", wrongSize},
+        {"0.46", wrongSize},
+        {"45600", wrongSize},
+        {"4560", wrongSize},
+        {"456000", wrong},                 // 10^7
+        {"4.56e-8", wrongSize},
+        {"4.56e-9", wrong},
+        {"0.5", wrong},
+        {"0", wrong},
+        {"0.000", wrong},
+        {"-0.0456", wrong},
+        {"1", wrong},
+        {"1e99999999999999999999", wrong},
+        {"1e-99999999999999999999", wrong},
+    });
+    // clang-format on
+}
+
+TEST(MarkNumberTest, TheBoundsAreInclusive)
+{
+    // 0.800: half a per cent and one are whole units of the last figure.
+    const std::string rounded = "correct: Correct. To 3 significant figures it is 0.800.";
+    // clang-format off
+    expectMarks({ratio(8, 10)}, molarAsk, {}, {
+        {"0.800", correct},
+        {"0.804", rounded}, {"0.805", close}, {"0.808", close}, {"0.809", wrong},
+        {"0.796", rounded}, {"0.795", close}, {"0.792", close}, {"0.791", wrong},
+        {"0.8044", threeFigures}, {"0.8045", threeFigures}, {"0.80451", close},
+        {"0.8080000000000000000000", close}, {"0.8080000000000000000001", wrong},
+        {"0.7920000000000000000000", close}, {"0.7919999999999999999999", wrong},
+    });
+    // One unit of 0.101 is nearly one per cent.
+    expectMarks({ratio(101, 1000)}, molarAsk, {}, {
+        {"0.101", correct},
+        {"0.102", "correct: Correct. To 3 significant figures it is 0.101."},
+        {"0.100", "correct: Correct. To 3 significant figures it is 0.101."},
+        {"0.1020", threeFigures},
+        {"0.103", wrong},
+        {"0.099", wrong},
+        {"0.0999", wrong},
+    });
+    // Rounded up into the next place: 0.9996 is 1.00 and its unit 0.01.
+    expectMarks({ratio(9996, 10000)}, molarAsk, {}, {
+        {"1.00", correct},
+        {"0.990", "correct: Correct. To 3 significant figures it is 1.00."},
+        {"0.989", wrong},
+        {"1.01", "correct: Correct. To 3 significant figures it is 1.00."},
+        {"1.02", wrong},
+        {"0.9996", threeFigures},
+        {"1.0", "figures: Keep the zero: 1.00."},
+        {"1", "figures: Keep the zero: 1.00."},
+    });
+    // clang-format on
+}
+
+TEST(MarkNumberTest, AskedToKeepTheZeroWhereItWasLeftOut)
+{
+    // clang-format off
+    expectMarks({ratio(1, 10)}, molarAsk, {}, {
+        {"0.100", correct},
+        {"0.10", "figures: Keep the zero: 0.100."},
+        {"0.1", "figures: Keep the zero: 0.100."},
+        {"1e-1", "figures: Keep the zero: 0.100."},
+        {"10^-1", "figures: Keep the zero: 0.100."},
+        {"0.1000", threeFigures},
+        {"0.1004", threeFigures},
+        {"0.0998", "correct: Correct. To 3 significant figures it is 0.100."},
+        {"0.099", close}, // one per cent
+    });
+    expectMarks({ratio(12, 100)}, molarAsk, {}, {
+        {"0.120", correct},
+        {"0.12", "figures: Keep the zero: 0.120."},
+        {"0.1", wrong},
+    });
+    // 0.0996 to two figures is 0.10, which is not the key.
+    expectMarks({ratio(996, 10000)}, molarAsk, {}, {
+        {"0.0996", correct},
+        {"0.10", threeFigures},
+        {"0.1", close},
+    });
+    // A half may go either way: 0.125 to two figures.
+    expectMarks({ratio(125, 1000)}, molarAsk, {}, {
+        {"0.13", threeFigures},
+        {"0.12", threeFigures},
+        {"0.14", wrong},
+    });
+    expectMarks({ratio(995, 1000)}, molarAsk, {}, {
+        {"1.0", threeFigures},
+        {"0.99", threeFigures},
+        {"0.98", wrong},
+    });
+    // clang-format on
+}
+
+TEST(MarkNumberTest, TheZerosOfAWholeNumberMayCountOrNot)
+{
+    // clang-format off
+    expectMarks({ratio(250)}, volumeAsk, {}, {
+        {"250", correct},
+        {"250.", correct},
+        {"250 mL", correct},
+        {"0.250 L", correct},
+        {"0.25 L", "figures: Keep the zero: 250."},
+        {"2.5e2", "figures: Keep the zero: 250."},
+        {"250.0", threeFigures},
+        {"2.50e2", correct},
+    });
+    expectMarks({ratio(200)}, volumeAsk, {}, {
+        {"200", correct},
+        {"200.", correct},
+        {"2e2", "figures: Keep the zero: 200."},
+        {"2.0e2", "figures: Keep the zero: 200."},
+    });
+    expectMarks({ratio(1951)}, volumeAsk, {}, {
+        {"1950", correct},
+        {"1 950", correct},
+        {"1.95 L", correct},
+        {"1950.", threeFigures},
+        {"1951", threeFigures},
+        {"1951.0", threeFigures},
+        {"1960", "correct: Correct. To 3 significant figures it is 1950."},
+        {"2000", threeFigures},                // two of its figures
+        {"2.0 L", threeFigures},
+        {"2 L", wrong},
+        {"1970", close},
+        {"1980", wrong},
+        {"1,950", "unreadable: Do you mean 1950 or 1.950?"},
+    });
+    // The key itself has a zero that does not count.
+    expectMarks({ratio(1995)}, volumeAsk, {}, {
+        {"2000", correct},
+        {"2.00 L", correct},
+        {"2.0 L", "figures: Keep the zero: 2000."},
+        {"2 L", "figures: Keep the zero: 2000."},
+        {"1995", threeFigures},
+    });
+    // clang-format on
+}
+
+// CuSO4.5H2O: 249.69, worked out with one decimal 249.7 and 249.6, with whole masses 249.5.
+TEST(MarkNumberTest, MolarMassesAreWithinOneUnitOrFromRoundedMasses)
+{
+    const NumberAnswer answer = {
+        ratio(24969, 100), {ratio(2497, 10), ratio(2495, 10)}, true, false};
+    const std::string rounded = "correct: Correct. To 4 significant figures it is 249.7.";
+    const std::string masses =
+        "correct: Correct with rounded atomic masses. With this table it is 249.7.";
+    // clang-format off
+    expectMarks(answer, molarMassAsk, {}, {
+        {"249.7", correct},
+        {"M = 249.7 g/mol", correct},
+        {"249.6", rounded},
+        {"249.8", rounded},
+        {"249.5", masses},
+        {"249.4", masses},
+        {"249.3", closeMass},
+        {"249.9", closeMass},
+        {"252.1", closeMass},
+        {"252.2", wrong},
+        {"249.69", fourFigures},
+        {"250", fourFigures},
+        {"250.", fourFigures},
+        {"2.5e2", fourFigures},
+        {"250.0", closeMass},
+        {"249", closeMass},
+        {"24.97", wrongSize},
+        {"24.95", wrongSize},
+    });
+    // clang-format on
+}
+
+TEST(MarkNumberTest, RoundedMassesCountOnlyWithTheAskedFigures)
+{
+    const NumberAnswer answer = {ratio(342, 1000), {ratio(3465, 10000)}, false, true};
+    const std::string masses =
+        "correct: Correct with rounded atomic masses. With this table it is 0.342.";
+    // 0.3465 is 0.347 when rounded; half a per cent of it 0.3447675 to 0.3482325.
+    // clang-format off
+    expectMarks(answer, molarAsk, {}, {
+        {"0.342", correct},
+        {"0.343", "correct: Correct. To 3 significant figures it is 0.342."},
+        {"0.347", masses},
+        {"0.345", masses},
+        {"0.348", masses},
+        {"0.349", wrong},
+        {"0.3465", wrong},
+        {"0.35", wrong},
+        {"34.7", wrongSize},
+    });
+    // clang-format on
+}
+
+TEST(MarkNumberTest, ThreePlacesOffAskForTheVolumesWhereSomeAreGiven)
+{
+    const Ratio value = ratio(4557, 100000);
+    // clang-format off
+    expectMarks({value, {}, false, true}, molarAsk, {}, {
+        {"45.6", wrongVolume},
+        {"45.57", wrongVolume},
+        {"46", wrongVolume},
+        {"0.0000456", wrongVolume},
+        {"4.56", wrongSize},
+        {"0.456", wrongSize},
+        {"456", wrongSize},
+        {"0.00456", wrongSize},
+        {"0.000456", wrongSize},
+        {"45.6 mol/L", wrongVolume},
+    });
+    expectMarks({value, {}, false, false}, molarAsk, {}, {
+        {"45.6", wrongSize},
+        {"0.0000456", wrongSize},
+    });
+    expectMarks({ratio(1, 10)}, molarAsk, {}, {
+        {"1", wrongSize}, // one figure that is the key's
+        {"1000000", wrong},
+        {"100000", wrongSize},
+    });
+    // clang-format on
+}
+
+TEST(MarkNumberTest, ASlipIsToldFromTwoFiguresOn)
+{
+    const std::vector<Slip> slips = {
+        {"0.182 mol/L", ratio(18228, 100000), "Look at the numbers in the equation."},
+        {"0.183 mol/L", ratio(183, 1000), "The rarer one."},
+        {"0.300 mol/L", ratio(3, 10), "Three tenths."},
+        {"0.0459 mol/L", ratio(459, 10000), "Near the key."},
+        {"0.456 mol/L", ratio(4557, 10000), "Ten times as much."},
+        {"no value", {}, "Never told."},
+    };
+    const std::string first = "slip: Look at the numbers in the equation.";
+    // clang-format off
+    expectMarks({ratio(4557, 100000), {}, false, true}, molarAsk, slips, {
+        {"0.182", first},
+        {"0.182 mol/L", first},
+        {"182 mmol/L", first},
+        {"0.181", first},
+        {"0.183", first},                // the commoner of two
+        {"0.184", "slip: The rarer one."}, // one unit from the second
+        {"0.18228", first},
+        {"0.18", first},                 // two figures
+        {"0.2", wrong},                  // one
+        {"0.300", "slip: Three tenths."},
+        {"0.30", "slip: Three tenths."},
+        {"0.3", wrong},
+        {"0.0456", correct},
+        {"0.0457", "correct: Correct. To 3 significant figures it is 0.0456."},
+        {"0.046", threeFigures},         // right rather than a slip
+        {"0.0459", "slip: Near the key."},
+        {"0.0460", "slip: Near the key."},
+        {"0.0453", close},
+        {"0.456", "slip: Ten times as much."},
+        {"0.0182", wrong},
+    });
+    // clang-format on
+}
+
+TEST(MarkNumberTest, WhatCannotBeReadIsSaid)
+{
+    // clang-format off
+    expectMarks({ratio(4557, 100000)}, molarAsk, {}, {
+        {"", "unreadable: Type a number."},
+        {"no idea", "unreadable: I can't read this part: 'no idea'"},
+        {"0.0456 g/L", "unreadable: The answer should be in mol/L."},
+        {"1,250", "unreadable: Do you mean 1250 or 1.250?"},
+        {"c = n/V = 0.0456", correct},
+        {"c = 0.00114/0.025 = 0.0456", "unreadable: I can't read this part: '/0.025 = 0.0456'"},
+    });
+    // clang-format on
+}
+
+TEST(MarkNumberTest, AnyLengthIsMarked)
+{
+    const std::size_t million = 1'000'000;
+    const NumberAnswer third = {ratio(1, 3), {}, false, true};
+    struct Case {
+        const char* name;
+        std::string typed;
+        std::string verdict;
+    };
+    const auto times = [](std::size_t number, const std::string& text) {
+        std::string all;
+        for (std::size_t i = 0; i < number; ++i) {
+            all += text;
+        }
+        return all;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"threes", "0." + times(million, "3"), "figures"},
+        {"an exponent makes up for zeros", "333" + times(million, "0") + "e-1000003", "correct"},
+        {"zeros in front", times(million, "0") + ".333", "correct"},
+        {"zeros behind the point", "0." + times(million, "0") + "333e1000000", "correct"},
+        {"digits of the exponent", "0.333e" + times(million, "0"), "correct"},
+        {"a great exponent", "0.333e" + times(million, "9"), "wrong"},
+        {"nines", times(million, "9"), "wrong"},
+        {"blanks in front", times(million, " ") + "0.333", "correct"},
+        {"blanks behind", "0.333" + times(million, " ") + "mol/L", "correct"},
+        {"no-break blanks", "c =" + times(million / 2, "\u00A0") + "0.333", "correct"},
+        {"groups", "1" + times(million / 4, " 000"), "wrong"},
+        {"comma groups", "1" + times(million / 4, ",000"), "wrong"},
+        {"commas", times(million, ","), "unreadable"},
+        {"points", times(million, "."), "unreadable"},
+        {"points in front", times(million, ".") + "5", "wrong"},
+        {"letters", times(million, "e"), "unreadable"},
+        {"a symbol of letters", times(million, "e") + " = 0.333", "correct"},
+        {"exponents", "1" + times(million, "e"), "unreadable"},
+        {"units", "0.333 " + times(million / 5, "mol/L"), "unreadable"},
+        {"words", "0.333 " + times(million / 5, "mole "), "unreadable"},
+        {"signs", times(million, "-") + "1", "unreadable"},
+        {"superscripts", "0.333×10" + times(million / 2, "⁰"), "correct"},
+        {"brackets", times(million, "("), "unreadable"},
+        {"brackets of a symbol", times(million / 2, "c("), "unreadable"},
+        {"brackets in front", times(million, "(") + "0.333", "correct"},
+        {"brackets behind", "0.333" + times(million, ")"), "correct"},
+        {"equalities", times(million / 2, "c=") + "0.333", "correct"},
+        {"powers of ten", times(million / 4, "×10^"), "unreadable"},
+        {"bytes that are no text", times(million, "\xFF"), "unreadable"},
+        {"zero bytes", std::string(million, '\0'), "unreadable"},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        const Mark mark = markNumber(third, molarAsk, {}, c.typed);
+        EXPECT_EQ(nameOf(mark.verdict), c.verdict) << c.name;
+        EXPECT_LT(mark.sentence.size(), 300U) << c.name;
+    }
+}
+
 } // namespace
 
 } // namespace lesson

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "lesson/draws.hpp"
+#include "lesson/exercise.hpp"
+#include "lesson/marking/number.hpp"
+#include "lesson/spans.hpp"
+#include "lesson/tables/solutions.hpp"
+#include "lesson/values/decimal.hpp"
+#include "lesson/values/ratio.hpp"
+
+// What the pages on calculations share: quantities as a prompt shows them, answers that are
+// numbers, and the ways on which a learner may round.
+namespace lesson
+{
+
+// Quantities of the substance with the formula `of`, as prompts tell them; `symbol` as in Ask.
+GivenQuantity givenMass(std::string_view of, Ratio grams); // with two decimals
+GivenQuantity givenMolarMass(std::string_view of);         // with all decimals
+// Three figures, in litres from 1 L.
+GivenQuantity givenVolume(std::string symbol, std::string_view of, Ratio litres);
+// From a burette: two decimals of a millilitre.
+GivenQuantity givenTitre(std::string_view of, Ratio litres);
+GivenQuantity givenConcentration(std::string symbol, std::string_view of, Ratio molesPerLitre);
+
+// The same where the prompt does not tell it.
+GivenQuantity untold(GivenQuantity given);
+
+// As the prompt tells it: 250, "mL".
+Spans told(const GivenQuantity& given);
+
+// A substance by its name, and a solution of it: "sodium chloride solution", "hydrochloric acid".
+Span nameOf(const SoluteRow& solute);
+Spans solutionOf(const SoluteRow& solute);
+GivenCompound givenCompound(const SoluteRow& solute);
+
+// Litres from whole millilitres, and mol/L from whole tenths of a millimole per litre: the last
+// places of the tables that quantities are drawn from.
+Ratio litres(int millilitres);
+Ratio molesPerLitre(int tenThousandths);
+
+// An exercise that asks for a number; prompt, given, solution and slips are still to be written.
+Exercise numberExercise(const Place& place, Ask ask, NumberAnswer answer);
+
+// The asked number with its unit, as the last step shows it.
+Spans keyMeasure(const Exercise& exercise);
+
+// A value that a solution goes on with: one figure more than answers of three figures have.
+Span between(Ratio value);
+
+// Rounds to significant figures.
+struct RoundedTo {
+    int figures;
+
+    Ratio operator()(Ratio value) const
+    {
+        return valueOf(roundedTo(value, figures));
+    }
+};
+
+// Whether a learner who goes this way to an answer of three figures may round each step to three
+// or to four figures and is still right. A way takes the rounding of a step, a RoundedTo.
+template <typename Way>
+bool bearsRounding(Ratio exact, Way way)
+{
+    constexpr int asked = 3;
+    return agrees(roundedTo(way(RoundedTo{3}), asked), exact, asked, false) &&
+           agrees(roundedTo(way(RoundedTo{4}), asked), exact, asked, false);
+}
+
+} // namespace lesson

@@ -1,0 +1,390 @@
+#include "lesson/marking/number_reader.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "lesson/marking/typed.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+const Ask litreAsk = {Form::number, "V", "NaOH", "L", 3, {}};
+const Ask molarAsk = {Form::number, "c", "CuSO4.5H2O", "mol/L", 3, {}};
+
+// "-456e-4 (3)": digits, the place of the last of them, and the figures; or the problem.
+std::string read(const std::string& typed, const Ask& ask = molarAsk)
+{
+    const NumberReading reading = readNumber(plainTyped(typed), ask);
+    if (!reading.problem.empty()) {
+        return reading.problem;
+    }
+    const TypedNumber& number = reading.number;
+    if (number.digits.empty()) {
+        return "0";
+    }
+    const auto last = number.place + 1 - static_cast<std::int64_t>(number.digits.size());
+    const std::string fewest = std::to_string(number.fewestFigures);
+    const std::string most = std::to_string(number.mostFigures);
+    return (number.isNegative ? "-" : "") + number.digits + "e" + std::to_string(last) + " (" +
+           (fewest == most ? most : fewest + " to " + most) + ")";
+}
+
+struct ReadCase {
+    const char* typed;
+    const char* expected;
+};
+
+TEST(NumberReaderTest, ReadsEverySpellingOfANumber)
+{
+    // clang-format off
+    const ReadCase cases[] = {
+        // Point or comma.
+        {"0.0342", "342e-4 (3)"},
+        {".0342", "342e-4 (3)"},
+        {"0,0342", "342e-4 (3)"},
+        {",0342", "342e-4 (3)"},
+        {"00.0342", "342e-4 (3)"},
+        {"0.03420", "342e-4 (4)"},
+        {"  0.0342  ", "342e-4 (3)"},
+        {"\u00A00.0342\u202F", "342e-4 (3)"},
+        {"0.0342.", "342e-4 (3)"},
+        {"0,0342.", "342e-4 (3)"},
+        {"0.0342,", "342e-4 (3)"},
+        // The zeros of whole numbers.
+        {"250", "25e1 (2 to 3)"},
+        {"250.", "25e1 (3)"},
+        {"250.0", "25e1 (4)"},
+        {"250,0", "25e1 (4)"},
+        {"2000", "2e3 (1 to 4)"},
+        {"7", "7e0 (1)"},
+        {"205", "205e0 (3)"},
+        {"0.100", "1e-1 (3)"},
+        // Signs.
+        {"+0.0342", "342e-4 (3)"},
+        {"+ 0.0342", "342e-4 (3)"},
+        {"-0.0342", "-342e-4 (3)"},
+        {"−0.0342", "-342e-4 (3)"},
+        {"– 0.0342", "-342e-4 (3)"},
+        {"-.5", "-5e-1 (1)"},
+        // Exponents.
+        {"3.42e-2", "342e-4 (3)"},
+        {"3.42E-02", "342e-4 (3)"},
+        {"3.42 e-2", "342e-4 (3)"},
+        {"3.42 E -2", "342e-4 (3)"},
+        {"3.42e−2", "342e-4 (3)"},
+        {"3.42e2", "342e0 (3)"},
+        {"3.42e+2", "342e0 (3)"},
+        {"3,42e-2", "342e-4 (3)"},
+        {"3.42x10^-2", "342e-4 (3)"},
+        {"3.42X10^-2", "342e-4 (3)"},
+        {"3.42 x 10^-2", "342e-4 (3)"},
+        {"3.42×10^-2", "342e-4 (3)"},
+        {"3.42×10⁻²", "342e-4 (3)"},
+        {"3.42 × 10⁻²", "342e-4 (3)"},
+        {"3.42 × 10⁻⁰²", "342e-4 (3)"},
+        {"3.42×10^−2", "342e-4 (3)"},
+        {"3.42*10^-2", "342e-4 (3)"},
+        {"3.42·10^-2", "342e-4 (3)"},
+        {"3.42·10⁻²", "342e-4 (3)"},
+        {"3.42•10⁻²", "342e-4 (3)"},
+        {"3.42⋅10⁻²", "342e-4 (3)"},
+        {"3.42*10**-2", "342e-4 (3)"},
+        {"3.42 * 10 ** -2", "342e-4 (3)"},
+        {"3.42x10**(-2)", "342e-4 (3)"},
+        {"3.42x10^(-2)", "342e-4 (3)"},
+        {"3.42x10^{-2}", "342e-4 (3)"},
+        {"3.42 x 10-2", "342e-4 (3)"},
+        {"3.42x10-2", "342e-4 (3)"},
+        {"3.42 x 10 -2", "342e-4 (3)"},
+        {"3.42×10−2", "342e-4 (3)"},
+        {"3.42x10^2", "342e0 (3)"},
+        {"3.42x10²", "342e0 (3)"},
+        {"3.42x10+2", "342e0 (3)"},
+        {"3,42×10⁻²", "342e-4 (3)"},
+        {"342e-4", "342e-4 (3)"},
+        {"25e1", "25e1 (2)"},
+        {"250e0", "25e1 (2 to 3)"},
+        {"10^-2", "1e-2 (1)"},
+        {"10⁻²", "1e-2 (1)"},
+        {"10**-2", "1e-2 (1)"},
+        {"10e-2", "1e-1 (1 to 2)"},
+        {"10", "1e1 (1 to 2)"},
+        {"100", "1e2 (1 to 3)"},
+        {"3.42e-0000000000000000000000000000000000002", "342e-4 (3)"},
+        {"1e999999999999999999999999", "1e1000000000000000 (1)"},
+        {"1e-999999999999999999999999", "1e-1000000000000000 (1)"},
+        // Groups of three.
+        {"1 250", "125e1 (3 to 4)"},
+        {"1\u2009250", "125e1 (3 to 4)"},
+        {"1\u202F250", "125e1 (3 to 4)"},
+        {"1 250 000", "125e4 (3 to 7)"},
+        {"12 500.5", "125005e-1 (6)"},
+        {"1 250,5", "12505e-1 (5)"},
+        {"1 250,500", "12505e-1 (7)"},
+        {"1,250,000", "125e4 (3 to 7)"},
+        {"1,250,000.", "125e4 (7)"},
+        {"1,250,000.5", "12500005e-1 (8)"},
+        {"1,250.5", "12505e-1 (5)"},
+        {"12,500.0", "125e2 (6)"},
+        {"0.045 57", "4557e-5 (4)"},
+        {"0.045 570", "4557e-5 (5)"},
+        {"0,045 57", "4557e-5 (4)"},
+        {"1,250 5", "12505e-4 (5)"},
+        // One comma that can only be a point.
+        {"0,125", "125e-3 (3)"},
+        {"00,125", "125e-3 (3)"},
+        {"1,25", "125e-2 (3)"},
+        {"1,2500", "125e-2 (5)"},
+        {"1250,500", "12505e-1 (7)"},
+        {"1,250e3", "125e1 (4)"},
+        {"1,250×10³", "125e1 (4)"},
+        {"1,250 x 10-2", "125e-4 (4)"},
+        {"0", "0"},
+        {"0.000", "0"},
+        {"0e5", "0"},
+    };
+    // clang-format on
+    for (const ReadCase& c : cases) {
+        EXPECT_EQ(read(c.typed), c.expected) << c.typed;
+    }
+}
+
+TEST(NumberReaderTest, AsksBackWhatOneCommaMeans)
+{
+    const ReadCase cases[] = {
+        {"1,250", "Do you mean 1250 or 1.250?"},
+        {"12,500", "Do you mean 12500 or 12.500?"},
+        {"125,000", "Do you mean 125000 or 125.000?"},
+        {"c = 1,250 mol/L", "Do you mean 1250 or 1.250?"},
+        {"1,250.", "Do you mean 1250 or 1.250?"},
+    };
+    for (const ReadCase& c : cases) {
+        EXPECT_EQ(read(c.typed), c.expected) << c.typed;
+    }
+}
+
+TEST(NumberReaderTest, SkipsASymbolInFront)
+{
+    const char* const fronts[] = {
+        "c = ",
+        "c=",
+        "C=",
+        "c : ",
+        "c: ",
+        "x=",
+        "M = ",
+        "M=",
+        "m = ",
+        "V1=",
+        "c2 = ",
+        "c_2 = ",
+        "c₂ = ",
+        "c_{2} = ",
+        "c1V1 = ",
+        "c(NaOH)=",
+        "[Cu²⁺] = ",
+        "c(Cu²⁺) = ",
+        "[OH-]=",
+        "The concentration is ",
+        "c (NaOH) = ",
+        "c(H2SO4) = ",
+        "[NaOH] = ",
+        "c(Na2CO3·10H2O) = ",
+        "M(CuSO4·5H2O) = ",
+        "M(CuSO4.5H2O)=",
+        "M CuSO4.5H2O = ",
+        "c ",
+        "c(Ca(OH)2) = ",
+        "c is ",
+        "concentration: ",
+        "c = n/V = ",
+        "c=m/(M·V)=",
+        "c2 = c1V1/V2 = ",
+        "c2 = c1 × V1/V2 = ",
+        "c2 = c1*V1/V2 = ",
+        "V = V2 - V1 = ",
+        "approx. ",
+        "approx ",
+        "about ",
+        "~",
+        "~ ",
+        "≈",
+        "≈ ",
+        "c ≈ ",
+        "c ~ ",
+        "c = ≈ ",
+        "= ",
+        "(",
+        "c = (",
+        "ρ = ",
+        "c =\t",
+        "c=+",
+    };
+    for (const char* const front : fronts) {
+        EXPECT_EQ(read(front + std::string("0.0456")), "456e-4 (3)") << front;
+        EXPECT_EQ(read(front + std::string(".0456 mol/L")), "456e-4 (3)") << front;
+        EXPECT_EQ(read(front + std::string("4,56·10⁻² mol·L⁻¹")), "456e-4 (3)") << front;
+        EXPECT_EQ(read(front + std::string("10^-2 M")), "1e-2 (1)") << front;
+    }
+    EXPECT_EQ(read("c = -0.0456"), "-456e-4 (3)");
+    EXPECT_EQ(read("c=−0.0456"), "-456e-4 (3)");
+    EXPECT_EQ(read("c = (-0.0456)"), "-456e-4 (3)");
+}
+
+TEST(NumberReaderTest, ConvertsToTheAskedUnit)
+{
+    struct Case {
+        const char* unit;
+        const char* typed;
+        const char* expected;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"L", "0.250", "25e-2 (3)"},
+        {"L", "0.250 L", "25e-2 (3)"},
+        {"L", "0.250L", "25e-2 (3)"},
+        {"L", "0.250 dm³", "25e-2 (3)"},
+        {"L", "250 mL", "25e-2 (2 to 3)"},
+        {"L", "250. mL", "25e-2 (3)"},
+        {"L", "250.0ml", "25e-2 (4)"},
+        {"L", "2.50e2 cm3", "25e-2 (3)"},
+        {"L", "2.50×10²cm³", "25e-2 (3)"},
+        {"L", "250 cc.", "25e-2 (2 to 3)"},
+        {"mL", "0.250 L", "25e1 (3)"},
+        {"mL", "250 mL", "25e1 (2 to 3)"},
+        {"mL", "250 cm^3", "25e1 (2 to 3)"},
+        {"mL", "0.25 dm^3", "25e1 (2)"},
+        {"mL", "250 mL of water", "25e1 (2 to 3)"},
+        {"mL", "250 mL H₂O", "25e1 (2 to 3)"},
+        {"g", "2.92", "292e-2 (3)"},
+        {"g", "2.92g", "292e-2 (3)"},
+        {"g", "2.92 G", "292e-2 (3)"},
+        {"g", "2920 mg", "292e-2 (3 to 4)"},
+        {"g", "0.00292 kg", "292e-2 (3)"},
+        {"g", "2.92 grams", "292e-2 (3)"},
+        {"g", "2.92 g of H2O", "292e-2 (3)"},
+        {"mol/L", "0.0456 mol/L", "456e-4 (3)"},
+        {"mol/L", "0.0456mol/l", "456e-4 (3)"},
+        {"mol/L", "0.0456 M", "456e-4 (3)"},
+        {"mol/L", "0.0456M", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol L⁻¹", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol dm⁻³", "456e-4 (3)"},
+        {"mol/L", "4.56×10⁻²mol·dm⁻³", "456e-4 (3)"},
+        {"mol/L", "4.56e-2mol/L", "456e-4 (3)"},
+        {"mol/L", "45.6 mmol/L", "456e-4 (3)"},
+        {"mol/L", "45.6 mM", "456e-4 (3)"},
+        {"mol/L", "0.0456 (mol/L)", "456e-4 (3)"},
+        {"mol/L", "0.0456 [mol/L].", "456e-4 (3)"},
+        {"mol/L", "(0.0456 mol/L)", "456e-4 (3)"},
+        {"mol/L", "(0.0456) mol/L", "456e-4 (3)"},
+        {"mol/L", "(0.0456)", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol/L H2O", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol/L!", "456e-4 (3)"},
+        {"g/mol", "249.7", "2497e-1 (4)"},
+        {"g/mol", "M = 249.7 g/mol", "2497e-1 (4)"},
+        {"g/mol", "249.7 g mol⁻¹", "2497e-1 (4)"},
+        {"g/mol", "249.7 g.mol-1", "2497e-1 (4)"},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        const Ask ask = {Form::number, "V", "H2O", c.unit, 3, {}};
+        EXPECT_EQ(read(c.typed, ask), c.expected) << c.typed << " for " << c.unit;
+    }
+}
+
+TEST(NumberReaderTest, TellsWhichUnitTheAnswerHas)
+{
+    const char* const others[] = {
+        "0.0456 g/L",     "0.0456 mol",    "0.0456 g",     "0.0456 m",
+        "0.0456 mL",      "0.0456 L",      "5 %",          "5%",
+        "0.0456 g/mol",   "0.0456 mol/kg", "0.0456 (g/L)", "5 °C",
+        "0.0456 µmol/L",  "0.0456 N",      "0.0456 mm",    "0.0456 [g]",
+        "0.0456 mol/L-1", "5 ppm",         "c = 2.66 g/L", "0.0456 mol/m^3",
+    };
+    for (const char* const other : others) {
+        EXPECT_EQ(read(other), "The answer should be in mol/L.") << other;
+    }
+    EXPECT_EQ(read("0.250 mol/L", litreAsk), "The answer should be in L.");
+    EXPECT_EQ(read("0.250 M", litreAsk), "The answer should be in L.");
+}
+
+TEST(NumberReaderTest, QuotesThePartThatItCannotRead)
+{
+    // clang-format off
+    const ReadCase cases[] = {
+        {"I don't know", "I don't know"},
+        {"?", "?"},
+        {"mol/L", "mol/L"},
+        {"c =", "c ="},
+        {"c2", "c2"},
+        {"-", "-"},
+        {".", "."},
+        {"1/8", "/8"},
+        {"½", "/2"},
+        {"0.00114/0.025 = 0.0456", "/0.025 = 0.0456"},
+        {"2 × 0.0228", "× 0.0228"},
+        {"c = 2*0.0228 = 0.0456", "*0.0228 = 0.0456"},
+        {"0.0456 mol/L = c", "mol/L = c"},
+        {"0.0456 or 0.182", "or 0.182"},
+        {"0.0456 0.182", "0.182"},
+        {"0.0456; 0.182", "; 0.182"},
+        {"0.0456, 0.182", ", 0.182"},
+        {"0.0456 ± 0.001", "± 0.001"},
+        {"> 0.0456", ">"},
+        {"c < 0.0456", "c <"},
+        {"c <= 0.0456", "c <="},
+        {"c - 0.0456", "c -"},
+        {"c-0.0456", "c-"},
+        {"c = --0.0456", "c = --"},
+        {"×10^-2", "×"},
+        {"x10^-2", "x10^-"},
+        {"3.42 x 102", "x 102"},
+        {"3.42x102", "x102"},
+        {"3.42×10", "×10"},
+        {"3.42 x", "x"},
+        {"3.42e", "e"},
+        {"3.42e^-2", "e^-2"},
+        {"10-2", "-2"},
+        {"10^-2.5", ".5"},
+        {"4.56.10^-2", ".10^-2"},
+        {"4,56.10^-2", ".10^-2"},
+        {"1.250,5", ",5"},
+        {"1.250.000", ".000"},
+        {"1,25,000", ",000"},
+        {"1,250,00", ",00"},
+        {"1,250,0000", ",0000"},
+        {"1250,000,000", ",000"},
+        {"0,456,789", ",789"},
+        {"1 25", "25"},
+        {"1  250", "250"},
+        {"0 456", "456"},
+        {"1250 000", "000"},
+        {"0. 0456", "0456"},
+        {"0.0456\x01", "\uFFFD"},
+        {"0.0456\xFF", "\uFFFD"},
+        {"0.0456 ~", "~"},
+        {"5 5H2O", "5H2O"},
+    };
+    // clang-format on
+    for (const ReadCase& c : cases) {
+        EXPECT_EQ(read(c.typed), "I can't read this part: '" + std::string(c.expected) + "'")
+            << c.typed;
+    }
+    EXPECT_EQ(read("0.0456 = " + std::string(100, 'x')),
+              "I can't read this part: '= " + std::string(38, 'x') + "…'");
+}
+
+TEST(NumberReaderTest, AsksForANumberWhereNothingIs)
+{
+    for (const char* const nothing : {"", " ", "\t\n", "\u00A0", "\u200B", "\uFEFF"}) {
+        EXPECT_EQ(read(nothing), "Type a number.") << '"' << nothing << '"';
+    }
+}
+
+} // namespace
+
+} // namespace lesson
