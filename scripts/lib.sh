@@ -85,9 +85,13 @@ install_packages() {
         as_root=(sudo)
     fi
     echo "Installing: $*"
+    mkdir -p "$root/build"
+    exec 9>"$root/build/packages.lock"
+    flock 9 # Another check may be at it.
     "${as_root[@]}" apt-get update -q || give_up "$*" "apt-get update failed, see above"
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "$@" ||
         give_up "$*" "apt-get install failed, see above"
+    exec 9>&-
 }
 
 give_up() {

@@ -35,25 +35,18 @@ bool isThere(Type address)
     return looked != nullptr;
 }
 
-#define PROMISED_VARIABLE(type, name)                                                              \
-    {                                                                                              \
-#type " " #name, isThere < type*>(&name)                                                   \
-    }
-#define PROMISED_FUNCTION(result, name, arguments)                                                 \
-    {                                                                                              \
-#result " " #name #arguments, isThere < result(*) arguments>(&name)                        \
-    }
-#define PROMISED_MEMBER(type, record, name)                                                        \
-    {                                                                                              \
-#type " " #record "::" #name, isThere < type record::*>(&record::name)                     \
-    }
-#define PROMISED_OPERATION(result, record, name, arguments)                                        \
-    {                                                                                              \
-#result " " #record "::" #name #arguments,                                                 \
-            isThere < result(record::*) arguments>(&record::name)                                  \
-    }
-
 // clang-format off
+// NOLINTBEGIN(bugprone-macro-parentheses): the arguments are types and names
+#define PROMISED_VARIABLE(type, name) \
+    {#type " " #name, isThere<type*>(&name)}
+#define PROMISED_FUNCTION(result, name, arguments) \
+    {#result " " #name #arguments, isThere<result(*) arguments>(&name)}
+#define PROMISED_MEMBER(type, record, name) \
+    {#type " " #record "::" #name, isThere<type record::*>(&record::name)}
+#define PROMISED_OPERATION(result, record, name, arguments) \
+    {#result " " #record "::" #name #arguments, isThere<result (record::*) arguments>(&record::name)}
+// NOLINTEND(bugprone-macro-parentheses)
+
 const Promise promises[] = {
     PROMISED_VARIABLE(std::vector<atomicMass>, aMasses),
     PROMISED_VARIABLE(std::vector<Ion>, ion),

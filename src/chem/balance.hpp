@@ -20,26 +20,29 @@ extern int nsalt;
 extern int nH2O;
 extern int nCO2;
 
-// Balances the equation into the five coefficients, in lowest terms, and returns true. Any other
-// base anion gives false and leaves the coefficients unreduced, as the last pass left them.
+// Writes the coefficients of the balanced equation, in lowest terms, to the five globals and
+// returns true. Returns false where there are none, as for a base anion of another name; the
+// globals then hold what the last attempt left, unreduced.
 //   nitrate, aluminium, oxide -> true; 6, 1, 2, 3, 0
 bool balance(Ion acidAnion, Ion baseCation, Ion baseAnion);
 
-// The greatest common divisor of the elements, of which there is at least one, found by trial; 1 if
-// one of them is less than 2.
+// Returns the highest common measure of the elements, which is their greatest common divisor; 1 if
+// one of them is less than 2. There has to be an element.
+//   {36, 72, 12, 24} -> 12    {0, 4} -> 1
 int hcm(std::vector<int> v);
 int hcm(int a, int b, int c, int d);
 int hcm(int a, int b, int c, int d, int e);
 
-// True when every element is greater than `x`; so true for none.
+// Returns true when every element is greater than `x`, and for no elements.
 bool lessthanall(int x, std::vector<int> v);
 
-// True when `x`, which is not 0, divides every element; so true for none.
+// Returns true when `x`, which is not 0, divides every element, and for no elements.
 bool alldivisible(int x, std::vector<int> v);
 
-// What stands on each side of the equation with the present coefficients. Kept: oxygen and carbon
-// of the acid anion are counted on neither side, and hydrogen of the base only where it is a
-// hydroxide or a bicarbonate.
+// The counts. Each returns how many of a particle stand on one side of the equation with the
+// present coefficients, and its name says so: `HonLeft` is hydrogen on the left, `rp` is the base
+// cation, a positive ion, and `an` is the acid anion. Kept: oxygen and carbon of the acid anion are
+// counted on neither side, and hydrogen of the base only where it is a hydroxide or a bicarbonate.
 
 // Hydrogen atoms: in the acid and the base; in the water.
 int HonLeft(Ion acidAnion, Ion baseCation, Ion baseAnion);

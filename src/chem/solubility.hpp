@@ -5,11 +5,11 @@
 #include "chem/ucase.hpp"
 #include "data/ion.hpp"
 
-// Whether the compound of two ions dissolves in water: 'Y', 'N', or ' ' where no rule covers the
-// anion. The ions are told by their formulas alone, whole and case-sensitive; the first has to be
-// the cation.
+// Returns 'Y' if the compound of a cation and an anion dissolves in water, 'N' if it does not, and
+// ' ' if no rule covers the anion. Looks at the formulas alone, whole and case-sensitive.
+//   silver, chloride -> 'N'    magnesium, nitride -> ' '
 char isSolubleChar(Ion cation, Ion anion);
 
-// A verdict in words, whatever its case: "soluble" for 'Y', "insoluble" for 'N',
+// Returns a verdict, in either case, in words: "soluble" for 'Y', "insoluble" for 'N',
 // "<an error occurred>" for anything else.
 std::string isSolubleWord(char verdict);

@@ -13,14 +13,14 @@ public:
 
     atomicMass(std::string elementSymbol, float relativeMass);
 
-    // Equal when the symbols are; the masses take no part, so a probe needs only a symbol.
+    // Compares the symbols alone, so that a row can be searched for without its mass.
     bool operator==(const atomicMass& other) const;
 };
 
 // Appends the 110 compiled-in elements to `aMasses`, whatever it already holds.
 void initMasses();
 
-// Relative atomic mass of an element in g/mol. 0 for anything that is not the symbol of a row of
-// `aMasses`, and for every symbol while that table is empty: it is not filled here.
+// Returns the relative atomic mass of an element, in g/mol; 0 for anything that is not the symbol
+// of a row of `aMasses`, and for every symbol while that table is empty: it is not filled here.
 //   getAtomicMass("Cl") -> 35.45    getAtomicMass("cl") -> 0
 float getAtomicMass(std::string symbol);

@@ -25,38 +25,41 @@ public:
     Ion(std::string ionName, std::string ionFormula, bool isNegative, short chargeSize,
         bool isPolyatomic, std::string nameOfAcid);
 
-    // How often this ion occurs in the neutral compound with `partner`: the partner's charge
-    // crossed over, 1 for equal charges. Kept: only 2 and 3 cross over, and a charge of 4 against
-    // 2 is reduced to 1; partners of any other charge give 1.
+    // Returns how often this ion occurs in the neutral compound with `partner`: the partner's
+    // charge crossed over, 1 for equal charges. Kept: only 2 and 3 cross over, and a charge of 4
+    // against 2 is reduced to 1; partners of any other charge give 1.
     //   aluminium.getSubscript(oxide) -> 2    oxide.getSubscript(aluminium) -> 3
     int getSubscript(Ion partner) const;
 
-    // The formula with the charge: "Na+", "SO42-". Charges other than 2 and 3 write no digit.
+    // Returns the formula with the charge: "Na+", "SO42-". Charges other than 2 and 3 write no
+    // digit.
     std::string makeFormula() const;
 
     // Grades a typed formula of this ion with its charge; see grading/grading.hpp.
     int getResponse(std::string answer) const;
 };
 
-// What `getSubscript` gives for an ion and a partner with these charges.
+// Returns what `getSubscript` returns for an ion and a partner with these charges.
 int subscript(short ownCharge, short partnerCharge);
 
-// The neutral compound of two ions, normally the cation first. No signs, no blanks.
+// Returns the formula of the neutral compound of two ions, of which the cation normally comes
+// first.
 //   sodium, chloride -> "NaCl"    aluminium, sulphate -> "Al2(SO4)3"
 std::string makeFormula(Ion first, Ion second);
 
 // Appends the 39 compiled-in ions to `ion`, whatever it already holds.
 void initIons();
 
-// A row of `ion` by one `rand()` value, which is drawn again while it is a multiple of the number
-// of rows. Every row but the last one can come. Fills an empty table first, as do the two below.
+// Returns a row of `ion`, drawn by one `rand()` value; a value that is a multiple of the number of
+// rows is drawn again. Every row but the last one can come. Like the three below it fills an empty
+// table first.
 Ion randomIon();
 
-// The first anion that `randomIon` gives: any of the 13 before bicarbonate.
+// Returns the first anion of repeated `randomIon` draws: any of the 13 before bicarbonate.
 Ion randomNeg();
 
-// The first one of repeated `randomNeg` draws that is wanted.
+// Returns the first wanted anion of repeated `randomNeg` draws.
 Ion randomNegWhere(bool (*wanted)(const Ion& anion));
 
-// The first cation that `randomIon` gives: any of the 25.
+// Returns the first cation of repeated `randomIon` draws: any of the 25.
 Ion randomPos();

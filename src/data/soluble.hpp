@@ -19,6 +19,6 @@ public:
 // Appends the ten compiled-in compounds to `dissolvable`, whatever it already holds.
 void initSolubles();
 
-// A row of `dissolvable` by one `rand()` value, each equally likely. Throws std::out_of_range while
-// the table is empty: it is not filled here.
+// Returns a row of `dissolvable`, drawn by one `rand()` value, each equally likely. Throws
+// std::out_of_range while the table is empty: it is not filled here.
 Soluble randomSoluble();

@@ -13,5 +13,5 @@
 extern std::vector<atomicMass> aMasses;
 // The ions; filled by the first random draw of an ion.
 extern std::vector<Ion> ion;
-// The compounds; filled by `initSolubles`, at the program's start.
+// The compounds that questions dissolve in water; filled by `initSolubles`, at the program's start.
 extern std::vector<Soluble> dissolvable;

@@ -21,6 +21,20 @@ int sizeOf(const Pool& pool)
                            [](int sum, const PoolClass& part) { return sum + part.size; });
 }
 
+// One of those of which something is left, each equally likely. They are counted and then counted
+// off: a long walk draws often, and collecting them in a list would take most of its time.
+template <typename Iterator>
+Iterator drawn(Iterator begin, Iterator end, Draws& draws)
+{
+    const auto isLeft = [](const auto& part) { return part.left > 0; };
+    const auto count = static_cast<std::uint32_t>(std::count_if(begin, end, isLeft));
+    Iterator found = std::find_if(begin, end, isLeft);
+    for (std::uint32_t before = draws.below(count); before > 0; --before) {
+        found = std::find_if(std::next(found), end, isLeft);
+    }
+    return found;
+}
+
 // One round of a walk, which takes each member once.
 class Round
 {
@@ -29,52 +43,42 @@ public:
     {
         std::iota(members.begin(), members.end(), 0);
         int first = 0;
-        for (const PoolClass& part : pool) {
-            classes.push_back({part.group, first, part.size});
-            first += part.size;
+        for (std::size_t i = 0; i < pool.size(); ++i) {
+            if (i == 0 || pool[i].group != pool[i - 1].group) {
+                groups.push_back({static_cast<std::ptrdiff_t>(i), 0, 0});
+            }
+            classes.push_back({first, pool[i].size});
+            first += pool[i].size;
+            ++groups.back().size;
+            groups.back().left += pool[i].size;
         }
     }
 
     int take(Draws& draws)
     {
-        const int group = drawGroup(draws);
-        Class& drawn = drawClass(draws, group);
-        int* const first = members.data() + drawn.first;
-        int& member = first[draws.below(static_cast<std::uint32_t>(drawn.left))];
-        std::swap(member, first[--drawn.left]);
-        return first[drawn.left];
+        Group& group = *drawn(groups.begin(), groups.end(), draws);
+        const auto begin = classes.begin() + group.first;
+        Class& part = *drawn(begin, begin + group.size, draws);
+        int* const first = members.data() + part.first;
+        int& member = first[draws.below(static_cast<std::uint32_t>(part.left))];
+        --group.left;
+        std::swap(member, first[--part.left]);
+        return first[part.left];
     }
 
 private:
+    struct Group {
+        std::ptrdiff_t first; // of its classes
+        std::ptrdiff_t size;
+        int left;
+    };
     struct Class {
-        int group;
-        int first;
+        int first; // of its members
         int left;
     };
 
-    int drawGroup(Draws& draws) const
-    {
-        std::vector<int> groups;
-        for (const Class& part : classes) {
-            if (part.left > 0 && (groups.empty() || groups.back() != part.group)) {
-                groups.push_back(part.group);
-            }
-        }
-        return draws.oneOf(groups);
-    }
-
-    Class& drawClass(Draws& draws, int group)
-    {
-        std::vector<Class*> choice;
-        for (Class& part : classes) {
-            if (part.left > 0 && part.group == group) {
-                choice.push_back(&part);
-            }
-        }
-        return *draws.oneOf(choice);
-    }
-
     std::vector<int> members;
+    std::vector<Group> groups;
     std::vector<Class> classes;
 };
 

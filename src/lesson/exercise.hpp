@@ -3,10 +3,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <variant>
 #include <vector>
 
+#include "lesson/reaction.hpp"
 #include "lesson/spans.hpp"
 #include "lesson/tables/ions.hpp"
 #include "lesson/values/ratio.hpp"
@@ -79,12 +79,6 @@ struct GivenCompound {
 };
 using Given = std::variant<GivenQuantity, GivenIon, GivenCompound>;
 
-// A balanced equation: coefficient and formula of each species.
-struct Equation {
-    std::vector<std::pair<int, std::string>> left;
-    std::vector<std::pair<int, std::string>> right;
-};
-
 // One step of a worked solution: a sentence, and a line of mathematics, which may be empty.
 struct Step {
     Spans say;
@@ -132,12 +126,10 @@ struct PrecipitateAnswer {
     std::string rule;
 };
 
-// The balanced equation of an acid and a base; see reaction.hpp.
+// The balanced equation of an acid and a base.
 struct EquationAnswer {
-    Equation equation;
-    std::string acid; // formulas
-    std::string base;
-    std::string salt;
+    const AcidRow* acid;
+    Base base;
 };
 
 using Answer = std::variant<NumberAnswer, FormulaAnswer, IonAnswer, SolubilityAnswer,

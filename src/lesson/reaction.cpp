@@ -74,13 +74,13 @@ void append(Spans& spans, const Side& side)
     bool isFirst = true;
     for (const auto& [coefficient, species] : side) {
         if (!isFirst) {
-            spans_detail::add(spans, " + ");
+            append(spans, " + ");
         }
         isFirst = false;
         if (coefficient != 1) {
-            spans_detail::add(spans, number(std::to_string(coefficient)));
+            append(spans, number(std::to_string(coefficient)));
         }
-        spans_detail::add(spans, formula(species));
+        append(spans, formula(species));
     }
 }
 
@@ -146,18 +146,24 @@ std::string americanSaltName(const AcidRow& acid, const Base& base)
     return americanName(*base.cation, anionOf(acid));
 }
 
-// As many protons are given as are taken, and no fewer do: their least common multiple. The anions
-// of the acid tell how much salt that is.
 Equation neutralisationOf(const AcidRow& acid, const Base& base)
 {
+    return equationOf(acid.formula, acid.protons, anionOf(acid), base);
+}
+
+// As many protons are given as are taken, and no fewer do: their least common multiple. The anions
+// of the acid tell how much salt that is.
+Equation equationOf(std::string_view acidFormula, int protons, const IonRow& anion,
+                    const Base& base)
+{
     const BaseRow unit = unitOf(base);
-    const int protons = std::lcm(acid.protons, unit.protons);
-    const int ofAcid = protons / acid.protons;
-    const int ofBase = protons / unit.protons;
-    const int ofSalt = ofAcid / anionsIn(*base.cation, anionOf(acid));
+    const int given = std::lcm(protons, unit.protons);
+    const int ofAcid = given / protons;
+    const int ofBase = given / unit.protons;
+    const int ofSalt = ofAcid / anionsIn(*base.cation, anion);
     Equation equation;
-    equation.left = {{ofAcid, std::string(acid.formula)}, {ofBase, formulaOf(base)}};
-    equation.right = {{ofSalt, saltFormula(acid, base)}};
+    equation.left = {{ofAcid, std::string(acidFormula)}, {ofBase, formulaOf(base)}};
+    equation.right = {{ofSalt, compoundFormula(*base.cation, anion)}};
     if (unit.water > 0) {
         equation.right.emplace_back(ofBase * unit.water, "H2O");
     }
@@ -175,8 +181,9 @@ std::string textOf(const Equation& equation)
 Spans spansOf(const Equation& equation)
 {
     Spans spans;
+    spans.reserve(3 * (equation.left.size() + equation.right.size()));
     append(spans, equation.left);
-    spans_detail::add(spans, " → ");
+    append(spans, " → ");
     append(spans, equation.right);
     return spans;
 }

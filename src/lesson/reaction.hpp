@@ -2,9 +2,9 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "lesson/exercise.hpp"
 #include "lesson/spans.hpp"
 #include "lesson/tables/ions.hpp"
 
@@ -49,10 +49,21 @@ std::string saltFormula(const AcidRow& acid, const Base& base);
 std::string saltName(const AcidRow& acid, const Base& base);
 std::string americanSaltName(const AcidRow& acid, const Base& base);
 
+// A balanced equation: coefficient and formula of each species.
+struct Equation {
+    std::vector<std::pair<int, std::string>> left;
+    std::vector<std::pair<int, std::string>> right;
+};
+
 // Their complete neutralisation, balanced in lowest terms: the acid and the base on the left; the
 // salt, water and carbon dioxide on the right, as far as they form. Ammonia forms no water.
 //   H2SO4, Al(OH)3 -> 3H2SO4 + 2Al(OH)3 -> Al2(SO4)3 + 6H2O
 Equation neutralisationOf(const AcidRow& acid, const Base& base);
+
+// The same where a molecule of the acid gives away so many of its protons and becomes this ion:
+// with 1 and hydrogensulfate, "H2SO4 + NaOH -> NaHSO4 + H2O".
+Equation equationOf(std::string_view acidFormula, int protons, const IonRow& anion,
+                    const Base& base);
 
 // The equation as it is typed, "2HCl + Na2CO3 -> 2NaCl + H2O + CO2", and as it is typeset.
 std::string textOf(const Equation& equation);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <string>
-#include <utility>
+#include <string_view>
 #include <vector>
 
 namespace lesson
@@ -27,55 +29,62 @@ struct Span {
     std::string index;
     std::vector<Span> over;
     std::vector<Span> under;
+
+    // Not inline: exercises make so many spans that the module would be twice as large.
+    explicit Span(Kind spanKind, std::string_view spanText = "");
+    Span(const Span& other);
+    Span(Span&& other) noexcept;
+    Span& operator=(const Span& other);
+    Span& operator=(Span&& other) noexcept;
+    ~Span();
 };
 
 using Spans = std::vector<Span>;
 
-Span formula(std::string plain);
-Span ionSpan(std::string formulaWithoutCharge, std::string charge);
-Span quantity(std::string symbol, std::string of = "", std::string index = "");
-Span number(std::string shownText);
-Span unit(std::string symbol);
+Span formula(std::string_view plain);
+Span ionSpan(std::string_view formulaWithoutCharge, std::string_view charge);
+Span quantity(std::string_view symbol, std::string_view of = "", std::string_view index = "");
+Span number(std::string_view shownText);
+Span unit(std::string_view symbol);
 Span fraction(Spans over, Spans under);
-Span name(std::string british, std::string american = "");
+Span name(std::string_view british, std::string_view american = "");
 
-namespace spans_detail
+// Something that a line is made of: words, a span, or a line that stands inside it. It lives as
+// long as the expression that it stands in.
+class Piece
 {
+public:
+    Piece(const char* words) : kind(Kind::words), source{words} {}
+    Piece(const std::string& words) : kind(Kind::words), source{words.c_str()} {}
+    Piece(const Span& span) : kind(Kind::span), source{&span} {}
+    Piece(const Spans& spans) : kind(Kind::spans), source{&spans} {}
 
-inline void add(Spans& line, const char* words)
-{
-    line.push_back({Span::Kind::text, words, {}, {}, {}, {}});
-}
-inline void add(Spans& line, std::string words)
-{
-    line.push_back({Span::Kind::text, std::move(words), {}, {}, {}, {}});
-}
-inline void add(Spans& line, Span span)
-{
-    line.push_back(std::move(span));
-}
-inline void add(Spans& line, Spans spans)
-{
-    for (Span& span : spans) {
-        line.push_back(std::move(span));
-    }
-}
+    // Puts it at the end of a line.
+    void addTo(Spans& line) const;
 
-} // namespace spans_detail
+private:
+    enum class Kind { words, span, spans };
 
-// A line from its pieces: words, spans, and lines that stand inside it.
+    Kind kind;
+    const void* source;
+};
+
+void append(Spans& line, const Piece& piece);
+
+Spans lineOf(const Piece* pieces, std::size_t count);
+
+// A line from its pieces. No line has two pieces of text in a row, or an empty one.
 //   line("Add ", number("250"), " ", unit("mL"), " of ", formula("HCl"), ".")
+// It is here once, and not anew for each combination of pieces, since the exercises are full of it.
 template <typename... Pieces>
-Spans line(Pieces... pieces)
+Spans line(const Pieces&... pieces)
 {
-    Spans spans;
-    spans.reserve(sizeof...(pieces));
-    (spans_detail::add(spans, std::move(pieces)), ...);
-    return spans;
+    const std::array<Piece, sizeof...(pieces)> all = {Piece(pieces)...};
+    return lineOf(all.data(), all.size());
 }
 
 // A number with its unit: 250, "mL". No blank stands between: how wide it is, is for the
 // typesetter.
-Spans measure(std::string shownText, std::string unitSymbol);
+Spans measure(std::string_view shownText, std::string_view unitSymbol);
 
 } // namespace lesson

@@ -19,24 +19,24 @@ struct Neutralisation {
     std::string saltFormula; // "Fe2(SO4)3"
 };
 
-// Names and formulas for the three ions.
+// Returns the reaction of the three ions, with its names and formulas.
 Neutralisation neutralisationOf(Ion acidAnion, Ion baseCation, Ion baseAnion);
 
-// Draws the acid anion, the base cation and the base anion, in this order. The base anion is the
-// first hydroxide, carbonate, oxide or bicarbonate of repeated `randomNeg` draws, which never give
-// the last one.
+// Returns a reaction of drawn ions: the acid anion, the base cation and the base anion, in this
+// order. The base anion is the first hydroxide, carbonate, oxide or bicarbonate of repeated
+// `randomNeg` draws, which never give bicarbonate.
 Neutralisation drawNeutralisation();
 
-// An anion whose acid has a name: the first such one of repeated `randomNeg` draws.
+// Returns the first anion of repeated `randomNeg` draws whose acid has a name.
 Ion drawAcidAnion();
 
-// "nitric acid".
+// Returns the name of an anion's acid: "nitric acid".
 std::string acidNameOf(const Ion& acidAnion);
 
-// "HNO3", "H2SO4"; no brackets, whatever the anion.
+// Returns the formula of an anion's acid, "HNO3" or "H2SO4", without brackets whatever the anion.
 std::string acidFormulaOf(const Ion& acidAnion);
 
-// Balances the reaction, which leaves its coefficients in the five globals of `balance`, and gives
-// it as a line: "2HCl + Na2CO3 -> 2NaCl + H2O + CO2\n". A coefficient of 1 is not written. If the
-// reaction cannot be balanced the line is `excuse`.
+// Balances the reaction, which leaves its coefficients in the five globals of `balance`, and
+// returns its equation as a line: "2HCl + Na2CO3 -> 2NaCl + H2O + CO2\n". A coefficient of 1 is not
+// written. Returns the excuse as a line if the reaction cannot be balanced.
 std::string equationLine(const Neutralisation& reaction, std::string_view excuse);

@@ -15,24 +15,28 @@ struct Dilution {
     float C2;
 };
 
-// A question about the dilution of a substance. Draws the substance, then V1, V2 and C1, then the
-// variant. Kept: every draw gives a compound's formula, and the amount of water to add.
+// Returns a question about the dilution of a substance. Draws the substance, then V1, V2 and C1,
+// then the variant. Kept: the substance is always a compound, named by its formula, and the variant
+// always `waterToAdd`.
 QandA dilutionQuestion();
 
-// The variants. Values are shown to 3 digits as they were drawn, not worked out again.
+// The variants, each named for what it asks. The texts show all quantities as they are given, to 3
+// digits; none is worked out again from what is shown.
 QandA newConcentration(const Dilution& dilution);
 QandA volumeToDilute(const Dilution& dilution);
 QandA originalConcentration(const Dilution& dilution);
 QandA waterToAdd(const Dilution& dilution);
 
-// The designation of an acid or a compound by its name or its formula: "nitric acid", "HNO3".
+// Returns what a question calls an acid or a compound: its name, "nitric acid", or its formula,
+// "HNO3".
 std::string acidDesignation(const Ion& acidAnion, bool byName);
 std::string compoundDesignation(const Soluble& compound, bool byName);
 
-// A compound that is not a hydrate: the first such one of repeated `randomSoluble` draws. Throws
-// std::out_of_range for a name of fewer than seven letters.
+// Returns the first compound of repeated `randomSoluble` draws whose name does not end in
+// "hydrate". Throws std::out_of_range when it draws a name of fewer than seven letters.
 Soluble drawAnhydrousCompound();
 
-// The least V2 for a V1, in steps of 0.05 L: the first step that is more than V1.
+// Returns the least V2 for a V1 in L, as a number of steps of 0.05 L: the first that is more than
+// V1.
 //   0.01 -> 1    0.2 -> 5    0.35 -> 8    0.5 -> 11
 int leastFinalVolume(float V1);

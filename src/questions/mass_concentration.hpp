@@ -3,8 +3,8 @@
 #include "console/q_and_a.hpp"
 #include "data/soluble.hpp"
 
-// A question about a compound dissolved in water: its concentration or its mass, each for half of
-// the draws. Draws the compound, the side that is asked for, the mass, the volume.
+// Returns a question about a compound dissolved in water, which asks for the concentration or for
+// the mass, each for half of the draws. Draws the compound, which of the two, the mass, the volume.
 QandA massConcentrationQuestion();
 
 // Asks for the concentration that a mass of the compound gives. Draws the mass, then the volume.

@@ -3,8 +3,8 @@
 #include "console/q_and_a.hpp"
 #include "questions/acid_base.hpp"
 
-// Asks for the balanced equation of an acid and a base that it draws.
+// Returns a question that asks for the balanced equation of a drawn acid and base.
 QandA neutralisationQuestion();
 
-// The same for a given reaction. One that cannot be balanced has an apology for its answer.
+// Returns the question for a given reaction. If it cannot be balanced, the answer is an apology.
 QandA neutralisationQuestion(const Neutralisation& reaction);

@@ -64,8 +64,8 @@ public:
     std::string waitForEnd();
     void waitForStop() const;
 
-    // Until it is asleep, as it is when it reads what nobody has typed yet or writes what nobody
-    // has read yet. Not at all on a system that does not tell.
+    // Waits until the program sleeps, as it does while it reads what nobody has typed yet or writes
+    // what nobody has read yet. Returns at once on a system without /proc.
     void waitForSleep() const;
 
     // What it wrote to standard error until it ended.
@@ -103,7 +103,7 @@ private:
     std::string buffer;
 };
 
-// What a bare change of root lacks: /proc, and pseudo-terminals.
+// Whether the system has /proc, and whether it has pseudo-terminals. A bare chroot has neither.
 bool tellsOfProcesses();
 bool hasTerminals();
 

@@ -86,23 +86,30 @@ bool isSensible(const Preparation& drawn)
     return isBelowCeiling && isAffordable && isInRange;
 }
 
-// By way of the amount, as the solution goes, or of the grams in a litre. The molar mass is a step
-// of its own where it is not given.
+// The molar mass is a step of its own where it is not given.
+Ratio usedMolarMass(const Preparation& drawn, StepRounding& rounded)
+{
+    return drawn.isHydrate ? rounded(drawn.molarMass) : drawn.molarMass;
+}
+
+Ratio byAmount(const Preparation& drawn, StepRounding& rounded)
+{
+    const Ratio molarMass = usedMolarMass(drawn, rounded);
+    return drawn.asksForMass ? rounded(drawn.concentration * drawn.volume) * molarMass
+                             : rounded(drawn.mass / molarMass) / drawn.volume;
+}
+
+Ratio byGramsInLitre(const Preparation& drawn, StepRounding& rounded)
+{
+    const Ratio molarMass = usedMolarMass(drawn, rounded);
+    return drawn.asksForMass ? rounded(drawn.concentration * molarMass) * drawn.volume
+                             : rounded(drawn.mass / drawn.volume) / molarMass;
+}
+
 bool bearsRounding(const Preparation& drawn)
 {
-    const auto molarMass = [&](RoundedTo rounded) {
-        return drawn.isHydrate ? rounded(drawn.molarMass) : drawn.molarMass;
-    };
-    const auto byAmount = [&](RoundedTo rounded) {
-        return drawn.asksForMass ? rounded(drawn.concentration * drawn.volume) * molarMass(rounded)
-                                 : rounded(drawn.mass / molarMass(rounded)) / drawn.volume;
-    };
-    const auto byGramsInLitre = [&](RoundedTo rounded) {
-        return drawn.asksForMass ? rounded(drawn.concentration * molarMass(rounded)) * drawn.volume
-                                 : rounded(drawn.mass / drawn.volume) / molarMass(rounded);
-    };
-    return bearsRounding(answerOf(drawn), byAmount) &&
-           bearsRounding(answerOf(drawn), byGramsInLitre);
+    const Ratio answer = answerOf(drawn);
+    return staysCorrect(answer, drawn, byAmount) && staysCorrect(answer, drawn, byGramsInLitre);
 }
 
 Preparation draw(const Place& place)

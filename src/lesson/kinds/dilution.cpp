@@ -82,7 +82,7 @@ Dilution drawOnce(Draws& draws, Asked asked)
     drawn.c1 = molesPerLitre(draws.oneOf(concentrations));
     drawn.V1 = litres(draws.oneOf(startingVolumes));
     drawn.V2 = litres(draws.oneOf(finalVolumes));
-    drawn.c2 = RoundedTo{3}(drawn.c1 * drawn.V1 / drawn.V2);
+    drawn.c2 = valueOf(roundedTo(drawn.c1 * drawn.V1 / drawn.V2, 3));
     solve(drawn);
     return drawn;
 }
@@ -140,7 +140,7 @@ Ratio answerOf(const Dilution& drawn)
 }
 
 // By way of the amount, or of how many times the volume grows.
-Ratio byAmount(const Dilution& drawn, RoundedTo rounded)
+Ratio byAmount(const Dilution& drawn, StepRounding& rounded)
 {
     Dilution rough = drawn;
     switch (drawn.asked) {
@@ -160,7 +160,7 @@ Ratio byAmount(const Dilution& drawn, RoundedTo rounded)
     return answerOf(rough);
 }
 
-Ratio byFactor(const Dilution& drawn, RoundedTo rounded)
+Ratio byFactor(const Dilution& drawn, StepRounding& rounded)
 {
     Dilution rough = drawn;
     const Ratio factor = rounded(drawn.V2 / drawn.V1);
@@ -172,7 +172,7 @@ Ratio byFactor(const Dilution& drawn, RoundedTo rounded)
 }
 
 // In one go; only the water has a step before the last.
-Ratio atOnce(const Dilution& drawn, RoundedTo rounded)
+Ratio atOnce(const Dilution& drawn, StepRounding& rounded)
 {
     Dilution rough = drawn;
     rough.V2 = rounded(drawn.V2);
@@ -182,9 +182,8 @@ Ratio atOnce(const Dilution& drawn, RoundedTo rounded)
 bool bearsRounding(const Dilution& drawn)
 {
     const Ratio answer = answerOf(drawn);
-    return bearsRounding(answer, [&](RoundedTo rounded) { return byAmount(drawn, rounded); }) &&
-           bearsRounding(answer, [&](RoundedTo rounded) { return byFactor(drawn, rounded); }) &&
-           bearsRounding(answer, [&](RoundedTo rounded) { return atOnce(drawn, rounded); });
+    return staysCorrect(answer, drawn, byAmount) && staysCorrect(answer, drawn, byFactor) &&
+           staysCorrect(answer, drawn, atOnce);
 }
 
 Dilution draw(const Place& place)
@@ -294,7 +293,7 @@ Span shownInMillilitres(Ratio litres)
 Span factorOf(const Dilution& drawn)
 {
     const Ratio factor = drawn.V2 / drawn.V1;
-    const bool isShort = RoundedTo{4}(factor) == factor;
+    const bool isShort = valueOf(roundedTo(factor, 4)) == factor;
     return number(isShort ? exactText(factor) : shown(factor, 4));
 }
 

@@ -101,9 +101,9 @@ Spans sumOf(const Items& items, Term term)
     Spans sum;
     for (const auto& item : items) {
         if (!sum.empty()) {
-            spans_detail::add(sum, " + ");
+            append(sum, " + ");
         }
-        spans_detail::add(sum, term(item));
+        append(sum, term(item));
     }
     return sum;
 }
@@ -279,6 +279,7 @@ std::vector<Ratio> roundedMolarMasses(std::string_view formula)
     }
     sums.push_back(wholeSum);
     std::vector<Ratio> masses;
+    masses.reserve(sums.size());
     for (const int thousandths : sums) {
         masses.push_back(ratio(thousandths, 1000));
     }

@@ -1,5 +1,6 @@
 #include "lesson/kinds/quantities.hpp"
 
+#include <algorithm>
 #include <utility>
 
 #include "lesson/compound.hpp"
@@ -19,16 +20,19 @@ std::string withDecimals(Ratio value, int decimals)
     return plainText({lastPlaces.numerator / lastPlaces.denominator, -decimals});
 }
 
-bool endsWith(std::string_view text, std::string_view end)
+// Some come only as solutions, and their names mean them.
+bool isNamedAsSolution(const SoluteRow& solute)
 {
-    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
+    const auto isSame = [&solute](const SoluteRow& acid) { return acid.formula == solute.formula; };
+    return solute.formula == "NH3" ||
+           std::any_of(acidSolutions().begin(), acidSolutions().end(), isSame);
 }
 
 } // namespace
 
-GivenQuantity givenMass(std::string_view of, Ratio grams)
+GivenQuantity givenMass(std::string_view of, Ratio inGrams)
 {
-    return {"m", std::string(of), grams, "g", withDecimals(grams, 2), "g"};
+    return {"m", std::string(of), inGrams, "g", withDecimals(inGrams, 2), "g"};
 }
 
 GivenQuantity givenMolarMass(std::string_view of)
@@ -37,30 +41,24 @@ GivenQuantity givenMolarMass(std::string_view of)
     return {"M", std::string(of), mass, "g/mol", shownMass(mass), "g/mol"};
 }
 
-GivenQuantity givenVolume(std::string symbol, std::string_view of, Ratio litres)
+GivenQuantity givenVolume(std::string symbol, std::string_view of, Ratio inLitres)
 {
-    const bool isShownInLitres = ratio(1) <= litres;
-    return {std::move(symbol),
-            std::string(of),
-            litres,
-            "L",
-            shown(isShownInLitres ? litres : litres * ratio(1000), figures),
-            isShownInLitres ? "L" : "mL"};
+    const bool isLarge = ratio(1) <= inLitres;
+    const Ratio shownValue = isLarge ? inLitres : inLitres * ratio(1000);
+    const char* const shownUnit = isLarge ? "L" : "mL";
+    return {std::move(symbol),          std::string(of), inLitres, "L",
+            shown(shownValue, figures), shownUnit};
 }
 
-GivenQuantity givenTitre(std::string_view of, Ratio litres)
+GivenQuantity givenTitre(std::string_view of, Ratio inLitres)
 {
-    return {"V", std::string(of), litres, "L", withDecimals(litres * ratio(1000), 2), "mL"};
+    return {"V", std::string(of), inLitres, "L", withDecimals(inLitres * ratio(1000), 2), "mL"};
 }
 
-GivenQuantity givenConcentration(std::string symbol, std::string_view of, Ratio molesPerLitre)
+GivenQuantity givenConcentration(std::string symbol, std::string_view of, Ratio inMolesPerLitre)
 {
-    return {std::move(symbol),
-            std::string(of),
-            molesPerLitre,
-            "mol/L",
-            shown(molesPerLitre, figures),
-            "mol/L"};
+    const std::string shownValue = shown(inMolesPerLitre, figures);
+    return {std::move(symbol), std::string(of), inMolesPerLitre, "mol/L", shownValue, "mol/L"};
 }
 
 GivenQuantity untold(GivenQuantity given)
@@ -82,9 +80,7 @@ Span nameOf(const SoluteRow& solute)
 
 Spans solutionOf(const SoluteRow& solute)
 {
-    const bool isNamedAsSolution =
-        endsWith(solute.name, " acid") || endsWith(solute.name, " solution");
-    return line(nameOf(solute), isNamedAsSolution ? "" : " solution");
+    return isNamedAsSolution(solute) ? line(nameOf(solute)) : line(nameOf(solute), " solution");
 }
 
 GivenCompound givenCompound(const SoluteRow& solute)
@@ -121,6 +117,36 @@ Spans keyMeasure(const Exercise& exercise)
 Span between(Ratio value)
 {
     return number(shownBetween(value, figures + 1));
+}
+
+StepRounding::StepRounding(int figuresOfSteps, unsigned downwards)
+    : figures(figuresOfSteps), directions(downwards)
+{
+}
+
+Ratio StepRounding::operator()(Ratio value)
+{
+    return to(figures, value);
+}
+
+// The number as far below the value as the rounded one is above it has as few figures only where
+// the value lies halfway between the two.
+Ratio StepRounding::to(int significantFigures, Ratio value)
+{
+    const Ratio upper = valueOf(roundedTo(value, significantFigures));
+    const Ratio lower = value - (upper - value);
+    const bool isHalf = value < upper && valueOf(roundedTo(lower, significantFigures)) == lower;
+    if (!isHalf) {
+        return upper;
+    }
+    const bool goesDown = (directions >> met & 1U) != 0;
+    ++met;
+    return goesDown ? lower : upper;
+}
+
+unsigned StepRounding::halves() const
+{
+    return met;
 }
 
 } // namespace lesson

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,13 +19,13 @@ namespace lesson
 {
 
 // Quantities of the substance with the formula `of`, as prompts tell them; `symbol` as in Ask.
-GivenQuantity givenMass(std::string_view of, Ratio grams); // with two decimals
-GivenQuantity givenMolarMass(std::string_view of);         // with all decimals
+GivenQuantity givenMass(std::string_view of, Ratio inGrams); // with two decimals
+GivenQuantity givenMolarMass(std::string_view of);           // with all decimals
 // Three figures, in litres from 1 L.
-GivenQuantity givenVolume(std::string symbol, std::string_view of, Ratio litres);
+GivenQuantity givenVolume(std::string symbol, std::string_view of, Ratio inLitres);
 // From a burette: two decimals of a millilitre.
-GivenQuantity givenTitre(std::string_view of, Ratio litres);
-GivenQuantity givenConcentration(std::string symbol, std::string_view of, Ratio molesPerLitre);
+GivenQuantity givenTitre(std::string_view of, Ratio inLitres);
+GivenQuantity givenConcentration(std::string symbol, std::string_view of, Ratio inMolesPerLitre);
 
 // The same where the prompt does not tell it.
 GivenQuantity untold(GivenQuantity given);
@@ -32,7 +33,8 @@ GivenQuantity untold(GivenQuantity given);
 // As the prompt tells it: 250, "mL".
 Spans told(const GivenQuantity& given);
 
-// A substance by its name, and a solution of it: "sodium chloride solution", "hydrochloric acid".
+// A substance by its name, and a solution of it: "sodium chloride solution", "ammonia solution",
+// "hydrochloric acid".
 Span nameOf(const SoluteRow& solute);
 Spans solutionOf(const SoluteRow& solute);
 GivenCompound givenCompound(const SoluteRow& solute);
@@ -51,24 +53,46 @@ Spans keyMeasure(const Exercise& exercise);
 // A value that a solution goes on with: one figure more than answers of three figures have.
 Span between(Ratio value);
 
-// Rounds to significant figures.
-struct RoundedTo {
-    int figures;
+// Rounds the steps of one way to an answer. A half goes up or down, as people round: for the first
+// half that is met the lowest bit of `downwards` tells, and so on.
+class StepRounding
+{
+public:
+    StepRounding(int figuresOfSteps, unsigned downwards);
 
-    Ratio operator()(Ratio value) const
-    {
-        return valueOf(roundedTo(value, figures));
-    }
+    // A step, and the answer itself, to significant figures.
+    Ratio operator()(Ratio value);
+    Ratio to(int significantFigures, Ratio value);
+
+    // How many halves have been met.
+    unsigned halves() const;
+
+private:
+    int figures;
+    unsigned directions;
+    unsigned met = 0;
 };
 
-// Whether a learner who goes this way to an answer of three figures may round each step to three
-// or to four figures and is still right. A way takes the rounding of a step, a RoundedTo.
-template <typename Way>
-bool bearsRounding(Ratio exact, Way way)
+// Whether a learner who goes this way to an answer of three figures may round each step to three or
+// to four figures, a half either way, and is still right. A way takes what was drawn, and a
+// StepRounding that it puts each step through but the last.
+template <typename Drawn>
+bool staysCorrect(Ratio exact, const Drawn& drawn, Ratio (*way)(const Drawn&, StepRounding&))
 {
     constexpr int asked = 3;
-    return agrees(roundedTo(way(RoundedTo{3}), asked), exact, asked, false) &&
-           agrees(roundedTo(way(RoundedTo{4}), asked), exact, asked, false);
+    for (const int figures : {3, 4}) {
+        unsigned halves = 0;
+        for (unsigned downwards = 0; downwards < (1U << halves); ++downwards) {
+            StepRounding rounded(figures, downwards);
+            const Ratio last = way(drawn, rounded);
+            const Ratio answer = rounded.to(asked, last);
+            if (!agrees(roundedTo(answer, asked), exact, asked, false)) {
+                return false;
+            }
+            halves = std::max(halves, rounded.halves());
+        }
+    }
+    return true;
 }
 
 } // namespace lesson

@@ -174,26 +174,38 @@ bool isInRange(const Titration& drawn)
     return ratio(2, 100) <= answer && answer <= ratio(1) && areTitresReadable;
 }
 
-// Step by step, as the solution goes, or with the ratio and the volume in one; a mean is a step
-// too.
+// A mean is a step; a single titre is read.
+Volumes volumesOf(const Titration& drawn, StepRounding& rounded)
+{
+    Titration read = drawn;
+    read.fromBurette = drawn.titres.empty() ? drawn.fromBurette : rounded(drawn.fromBurette);
+    return volumesOf(read);
+}
+
+Ratio stepByStep(const Titration& drawn, StepRounding& rounded)
+{
+    const auto [known, unknown] = volumesOf(drawn, rounded);
+    return rounded(rounded(drawn.concentration * known) * ratioOf(drawn)) / unknown;
+}
+
+Ratio withRatioAtOnce(const Titration& drawn, StepRounding& rounded)
+{
+    const auto [known, unknown] = volumesOf(drawn, rounded);
+    return rounded(drawn.concentration * known) * ratioOf(drawn) / unknown;
+}
+
+bool bothWaysStayCorrect(const Titration& drawn)
+{
+    const Ratio answer = answerOf(drawn);
+    return staysCorrect(answer, drawn, stepByStep) && staysCorrect(answer, drawn, withRatioAtOnce);
+}
+
+// A mean is a step too, but who has read four figures may well keep them.
 bool bearsRounding(const Titration& drawn)
 {
-    const Ratio moles = ratioOf(drawn);
-    const auto volumes = [&](RoundedTo rounded) {
-        Titration read = drawn;
-        read.fromBurette = drawn.titres.empty() ? drawn.fromBurette : rounded(drawn.fromBurette);
-        return volumesOf(read);
-    };
-    const auto stepByStep = [&](RoundedTo rounded) {
-        const auto [known, unknown] = volumes(rounded);
-        return rounded(rounded(drawn.concentration * known) * moles) / unknown;
-    };
-    const auto withRatioAtOnce = [&](RoundedTo rounded) {
-        const auto [known, unknown] = volumes(rounded);
-        return rounded(drawn.concentration * known) * moles / unknown;
-    };
-    const Ratio answer = answerOf(drawn);
-    return bearsRounding(answer, stepByStep) && bearsRounding(answer, withRatioAtOnce);
+    Titration meanKept = drawn;
+    meanKept.titres.clear();
+    return bothWaysStayCorrect(meanKept) && (drawn.titres.empty() || bothWaysStayCorrect(drawn));
 }
 
 Titration draw(const Place& place)
@@ -301,9 +313,9 @@ Spans titresSentence(const Titration& drawn)
                           measureOfTitre(titres[1]));
     for (std::size_t i = 2; i < titres.size(); ++i) {
         const bool isLast = i + 1 == titres.size();
-        spans_detail::add(sentence, line(isLast ? " and " : ", ", measureOfTitre(titres[i])));
+        append(sentence, line(isLast ? " and " : ", ", measureOfTitre(titres[i])));
     }
-    spans_detail::add(sentence, ".");
+    append(sentence, ".");
     return sentence;
 }
 
@@ -330,9 +342,9 @@ Step meanStep(const Titration& drawn, const std::string& inBurette)
     Spans sum;
     for (auto titre = drawn.titres.begin() + 1; titre != drawn.titres.end(); ++titre) {
         if (!sum.empty()) {
-            spans_detail::add(sum, " + ");
+            append(sum, " + ");
         }
-        spans_detail::add(sum, number(plainText({*titre, -2})));
+        append(sum, number(plainText({*titre, -2})));
     }
     const Span count = number(std::to_string(drawn.titres.size() - 1));
     return {line("Take the mean, without the rough titre."),

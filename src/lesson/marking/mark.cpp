@@ -38,9 +38,9 @@ Mark mark(const PrecipitateAnswer& answer, const Exercise& exercise, std::string
     return markPrecipitate(answer, exercise.slips, typed);
 }
 
-Mark mark(const EquationAnswer& answer, const Exercise& exercise, std::string_view typed)
+Mark mark(const EquationAnswer& answer, const Exercise& /*exercise*/, std::string_view typed)
 {
-    return markEquation(answer, exercise.slips, typed);
+    return markEquation(answer, typed);
 }
 
 } // namespace

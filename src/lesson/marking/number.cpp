@@ -5,6 +5,7 @@
 #include <variant>
 
 #include "lesson/marking/number_reader.hpp"
+#include "lesson/marking/sentences.hpp"
 #include "lesson/marking/typed.hpp"
 #include "lesson/marking/typed_number.hpp"
 
@@ -190,7 +191,7 @@ Mark markRead(const TypedNumber& number, const NumberAnswer& answer, const std::
                                     ? "Very close. Check the atomic masses."
                                     : "Very close. Did you round a number on the way?"};
     }
-    return {Verdict::wrong, "Not right yet. Write down what you know, or press Show a step."};
+    return markOf(Verdict::wrong, sentences::notYet);
 }
 
 } // namespace

@@ -38,11 +38,13 @@ constexpr Spelling spellings[] = {
     {"\u279C", "->"}, {"\u2794", "->"}, {"\u21C0", "->"}, {"\u21FE", "->"},
     {"\u21CC", "<->"}, {"\u21CB", "<->"}, {"\u21C4", "<->"}, {"\u2194", "<->"}, {"\u21D4", "<->"},
     {"\u21C6", "<->"}, {"\u27F7", "<->"},
+    {"\u2190", "<-"}, {"\u27F5", "<-"}, {"\u21D0", "<-"}, {"\uFF1D", "="},
     // Multiplication signs, and dots above the line.
     {"\u00D7", "×"}, {"\u2715", "×"}, {"\u2A2F", "×"}, {"\u2217", "*"},
     {"\u00B7", "·"}, {"\u2022", "·"}, {"\u2219", "·"}, {"\u22C5", "·"}, {"\u2027", "·"},
-    // Fractions as one character.
-    {"\u00BD", "1/2"}, {"\u2044", "/"}, {"\u2215", "/"},
+    // Fractions as one character: a blank keeps them apart from a number in front.
+    {"\u00BD", " 1/2"}, {"\u2153", " 1/3"}, {"\u2154", " 2/3"}, {"\u00BC", " 1/4"},
+    {"\u00BE", " 3/4"}, {"\u2159", " 1/6"}, {"\u2044", "/"}, {"\u2215", "/"},
 };
 
 constexpr Spelling superscripts[] = {

@@ -494,24 +494,28 @@ TypedFormula readFormula(std::string_view plain)
     return typed;
 }
 
-std::string withoutCapitals(std::string_view plain)
+std::string bareFormula(std::string_view plain)
 {
-    const std::string lower = lowerCase(plain);
-    std::string_view left = splitState(lower).formula;
-    std::string folded;
+    std::string_view left = splitState(plain).formula;
+    std::string bare;
     while (!left.empty()) {
         const std::size_t dot = dotLength(left);
         const char first = left.front();
         if (dot > 0) {
-            folded += '.';
+            bare += '.';
         } else if (first == '[' || first == ']') {
-            folded += first == '[' ? '(' : ')';
+            bare += first == '[' ? '(' : ')';
         } else if (first != ' ' && first != '_' && first != '{' && first != '}') {
-            folded += first;
+            bare += first;
         }
         left.remove_prefix(std::max<std::size_t>(dot, 1));
     }
-    return folded;
+    return bare;
+}
+
+std::string withoutCapitals(std::string_view plain)
+{
+    return bareFormula(lowerCase(plain));
 }
 
 } // namespace lesson

@@ -30,9 +30,12 @@ struct TypedFormula {
 //   "Ca(OH)_2 (s)" -> "Ca(OH)2", state "s"    "[Na]_{2} SO4" -> "(Na)2SO4", simplest "Na2SO4"
 TypedFormula readFormula(std::string_view plain);
 
-// The formula as far as it can be compared without reading it and without regard to capitals:
-// lower case, one spelling of brackets, subscripts and dots, no blanks, no state. So "NACL" and
-// "NaCl" are the same, and so are "CO" and "Co", of which only one is ever meant.
+// The formula in one spelling without reading it: no blanks, no state, round brackets, plain digits
+// and dots. So texts can be compared that are no formulas: "Jo_2" and "Jo2" are the same.
+std::string bareFormula(std::string_view plain);
+
+// The same in lower case: "NACL" and "NaCl" are the same, and so are "CO" and "Co", of which only
+// one is ever meant.
 std::string withoutCapitals(std::string_view plain);
 
 } // namespace lesson

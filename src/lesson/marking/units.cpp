@@ -5,7 +5,7 @@
 #include <iterator>
 #include <string>
 
-#include "lesson/marking/characters.hpp"
+#include "lesson/marking/reading.hpp"
 #include "lesson/marking/typed.hpp"
 
 namespace lesson
@@ -64,7 +64,7 @@ constexpr std::string_view joins = " .*^_()[]{}·";
 
 bool isJoin(char byte)
 {
-    return joins.find(byte) != std::string_view::npos;
+    return isOneOf(byte, joins);
 }
 
 std::string withoutJoins(std::string text)

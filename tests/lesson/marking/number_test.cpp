@@ -102,6 +102,16 @@ TEST(AddSlipTest, LeavesOutWhatWouldBeMarkedAsSomethingElse)
     EXPECT_EQ(exercise.slips[0].value->numerator, 4557);
 }
 
+// 0.8046 is within half a per cent of 0.8006, but 0.805, which would be typed, is not.
+TEST(AddSlipTest, LeavesOutWhatAgreesUnrounded)
+{
+    Exercise exercise = exerciseOf({ratio(8006, 10000)}, "mol/L", 3);
+    addSlip(exercise, ratio(8046, 10000), "too near");
+    EXPECT_TRUE(exercise.slips.empty());
+    addSlip(exercise, ratio(8047, 10000), "far enough");
+    EXPECT_EQ(textsOf(exercise.slips), (std::vector<std::string>{"0.805 mol/L"}));
+}
+
 // 1951 mL is 1950 to three figures and 2000 to two, so that "2000" tells nothing of a slip.
 TEST(AddSlipTest, LeavesOutWhatIsTheKeyToFewerFigures)
 {

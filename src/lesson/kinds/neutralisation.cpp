@@ -1,0 +1,387 @@
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "lesson/compound.hpp"
+#include "lesson/kinds/kinds.hpp"
+#include "lesson/marking/equation.hpp"
+#include "lesson/reaction.hpp"
+#include "lesson/tables/elements.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+// ---- The pool
+
+// Acids, the anions of their bases, and the cations of these; blanks between the names.
+//
+// Left out is what does not neutralise plainly: silver and lead, whose chlorides, bromides and
+// sulfates coat the solid, as calcium and barium sulfate do; chromium(III) oxide, which acids leave
+// alone; iron(II), which nitric acid oxidises; and what can hardly be had in a bottle.
+struct PoolRow {
+    std::string_view acids;
+    std::string_view anions;
+    std::string_view cations;
+};
+
+// clang-format off
+constexpr PoolRow poolRows[] = {
+    {"HCl HBr", "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium chromium(III) iron(III)"},
+    {"HCl HBr", "oxide",     "lithium sodium potassium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium iron(III)"},
+    {"HCl HBr", "carbonate", "lithium sodium potassium ammonium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc"},
+    {"HNO3",    "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II) aluminium chromium(III) iron(III)"},
+    {"HNO3",    "oxide",     "lithium sodium potassium silver magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II) aluminium iron(III)"},
+    {"HNO3",    "carbonate", "lithium sodium potassium ammonium silver magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II)"},
+    {"H2SO4",   "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc aluminium chromium(III) iron(III)"},
+    {"H2SO4",   "oxide",     "lithium sodium potassium magnesium manganese(II) cobalt(II) nickel(II) copper(II) zinc aluminium iron(III)"},
+    {"H2SO4",   "carbonate", "lithium sodium potassium ammonium magnesium manganese(II) cobalt(II) nickel(II) copper(II) zinc"},
+    {"H3PO4",   "hydroxide", "sodium potassium magnesium calcium aluminium"},
+    {"H3PO4",   "oxide",     "magnesium calcium"},
+    {"CH3COOH", "hydroxide oxide carbonate", "lithium sodium potassium magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II)"},
+    {"HCl HNO3 H2SO4", "hydrogencarbonate", "sodium potassium"},
+};
+// clang-format on
+
+struct Reaction {
+    const AcidRow* acid;
+    Base base;
+};
+
+std::vector<std::string_view> wordsOf(std::string_view text)
+{
+    std::vector<std::string_view> words;
+    while (!text.empty()) {
+        words.push_back(text.substr(0, text.find(' ')));
+        text.remove_prefix(std::min(text.size(), words.back().size() + 1));
+    }
+    return words;
+}
+
+std::vector<Reaction> everyReaction()
+{
+    std::vector<Reaction> all;
+    for (const PoolRow& row : poolRows) {
+        for (const std::string_view acid : wordsOf(row.acids)) {
+            for (const std::string_view anion : wordsOf(row.anions)) {
+                for (const std::string_view cation : wordsOf(row.cations)) {
+                    all.push_back({findAcid(acid), {findIon(cation), findIon(anion)}});
+                }
+            }
+        }
+    }
+    return all;
+}
+
+// Moles of acid and of base.
+using MoleRatio = std::pair<int, int>;
+
+MoleRatio ratioOf(const Reaction& reaction)
+{
+    const Equation equation = neutralisationOf(*reaction.acid, reaction.base);
+    return {equation.left[0].first, equation.left[1].first};
+}
+
+int levelOf(const Reaction& reaction)
+{
+    const auto [acid, base] = ratioOf(reaction);
+    if (std::max(acid, base) > 2) {
+        return 3;
+    }
+    return reaction.base.anion->name == "hydroxide" ? 1 : 2;
+}
+
+// The members of a level's pool, ratio by ratio, each of which is a class to draw.
+struct LevelPool {
+    std::vector<Reaction> reactions;
+    Pool classes;
+};
+
+LevelPool poolOfLevel(int level)
+{
+    LevelPool pool;
+    for (const Reaction& reaction : everyReaction()) {
+        if (levelOf(reaction) == level) {
+            pool.reactions.push_back(reaction);
+        }
+    }
+    std::stable_sort(pool.reactions.begin(), pool.reactions.end(),
+                     [](const Reaction& a, const Reaction& b) { return ratioOf(a) < ratioOf(b); });
+    for (std::size_t i = 0; i < pool.reactions.size(); ++i) {
+        if (i == 0 || ratioOf(pool.reactions[i - 1]) != ratioOf(pool.reactions[i])) {
+            pool.classes.push_back({static_cast<int>(pool.classes.size()), 0});
+        }
+        ++pool.classes.back().size;
+    }
+    return pool;
+}
+
+const LevelPool& poolFor(int level)
+{
+    static const LevelPool pools[] = {poolOfLevel(1), poolOfLevel(2), poolOfLevel(3)};
+    return pools[level - 1];
+}
+
+// ---- The prompt
+
+Span nameOfAcid(const AcidRow& acid)
+{
+    return name(std::string(acid.name), std::string(acid.american));
+}
+
+Spans promptFor(const AcidRow& acid, const Base& base)
+{
+    return line("Write the balanced equation for the complete neutralisation of ",
+                name(nameOf(base), americanNameOf(base)), " by ", nameOfAcid(acid),
+                ". The salt is ", name(saltName(acid, base), americanSaltName(acid, base)), ".");
+}
+
+// ---- The worked solution
+
+Equation withCoefficients(Equation equation, int (*change)(int coefficient))
+{
+    for (auto* const side : {&equation.left, &equation.right}) {
+        for (auto& term : *side) {
+            term.first = change(term.first);
+        }
+    }
+    return equation;
+}
+
+// The formulas alone.
+Equation skeletonOf(const Equation& equation)
+{
+    return withCoefficients(equation, [](int) { return 1; });
+}
+
+Equation doubled(const Equation& equation)
+{
+    return withCoefficients(equation, [](int coefficient) { return 2 * coefficient; });
+}
+
+// Balanced but for water and carbon dioxide.
+Equation withSinglesBehindTheSalt(Equation equation)
+{
+    for (std::size_t i = 1; i < equation.right.size(); ++i) {
+        equation.right[i].first = 1;
+    }
+    return equation;
+}
+
+bool isCarbonate(const Base& base)
+{
+    return base.anion->formula == "CO3" || base.anion->formula == "HCO3";
+}
+
+Spans writeFormulas(const Base& base)
+{
+    const IonRow& anion = *base.anion;
+    return isCarbonate(base) ? line("Write the formulas; a ",
+                                    name(std::string(anion.name), std::string(anion.american)),
+                                    " gives carbon dioxide too.")
+                             : line("Write the formulas.");
+}
+
+// "iron" of iron(III)
+Span metalOf(const IonRow& cation)
+{
+    return name(std::string(cation.name.substr(0, cation.name.find('('))),
+                std::string(cation.american));
+}
+
+// What of metal and anion takes a coefficient to balance; empty where neither does.
+Spans balanceFirst(const Equation& equation, const AcidRow& acid, const Base& base)
+{
+    const bool isMetal = equation.left[1].first > 1 || equation.right[0].first > 1;
+    const bool isAnion = equation.left[0].first > 1;
+    const IonRow& anion = anionOf(acid);
+    const Span metal = metalOf(*base.cation);
+    const Span group = name(std::string(anion.name), std::string(anion.american));
+    if (isMetal && isAnion) {
+        return line("Balance the ", metal, ", then the ", group, ".");
+    }
+    return isMetal || isAnion ? line("Balance the ", isMetal ? metal : group, ".") : Spans();
+}
+
+// "H 12, S 3, Al 2, O 18", oxygen last.
+Spans countsOf(const Equation& equation)
+{
+    constexpr int oxygen = 8;
+    Atoms counts;
+    for (const auto& [coefficient, species] : equation.left) {
+        for (const AtomCount& atom : compositionOf(species).atoms) {
+            const auto known =
+                std::find_if(counts.begin(), counts.end(), [&atom](const AtomCount& count) {
+                    return count.element == atom.element;
+                });
+            if (known == counts.end()) {
+                counts.push_back({atom.element, coefficient * atom.count});
+            } else {
+                known->count += coefficient * atom.count;
+            }
+        }
+    }
+    std::stable_partition(counts.begin(), counts.end(),
+                          [](const AtomCount& count) { return count.element != oxygen; });
+    Spans spans;
+    for (const AtomCount& count : counts) {
+        append(spans, line(spans.empty() ? "" : ", ",
+                                      formula(std::string(element(count.element).symbol)), " ",
+                                      number(std::to_string(count.count))));
+    }
+    return spans;
+}
+
+std::vector<Step> solutionFor(const Equation& equation, const AcidRow& acid, const Base& base)
+{
+    std::vector<Step> steps;
+    steps.push_back({writeFormulas(base), spansOf(skeletonOf(equation))});
+    const Spans first = balanceFirst(equation, acid, base);
+    if (!first.empty()) {
+        steps.push_back({first, spansOf(withSinglesBehindTheSalt(equation))});
+    }
+    if (equation.right[1].first > 1) {
+        const std::string what =
+            isCarbonate(base) ? "the water and the carbon dioxide." : "the water.";
+        steps.push_back({line((first.empty() ? "Balance " : "Then ") + what), spansOf(equation)});
+    }
+    steps.push_back({line("Count: ", countsOf(equation), " on each side."), spansOf(equation)});
+    return steps;
+}
+
+// ---- The slips
+
+// What is left of an acid that keeps some of its protons, with cations of a charge.
+struct AcidSaltRow {
+    std::string_view acid;
+    int cationCharge;
+    int protons; // that it gives away
+    IonRow anion;
+};
+constexpr AcidSaltRow acidSalts[] = {
+    {"H2SO4", 1, 1, {"hydrogensulfate", "", "HSO4", -1, true}},
+    {"H3PO4", 1, 1, {"dihydrogenphosphate", "", "H2PO4", -1, true}},
+    {"H3PO4", 2, 2, {"hydrogenphosphate", "", "HPO4", -2, true}},
+};
+
+using Wrong = std::optional<Equation>;
+
+Wrong withAcidSalt(const AcidRow& acid, const Base& base)
+{
+    const auto* const row =
+        std::find_if(std::begin(acidSalts), std::end(acidSalts), [&](const AcidSaltRow& salt) {
+            return salt.acid == acid.formula && salt.cationCharge == base.cation->charge;
+        });
+    if (row == std::end(acidSalts)) {
+        return std::nullopt;
+    }
+    return equationOf(row->acid, row->protons, row->anion, base);
+}
+
+// With ions one to one where they do not stand so, and with both charges written as subscripts
+// where they cancel.
+std::string wrongSalt(const IonRow& cation, const IonRow& anion)
+{
+    const std::string formulaOfCation(cation.formula);
+    const std::string formulaOfAnion(anion.formula);
+    if (cation.charge + anion.charge != 0) {
+        return formulaOfCation + formulaOfAnion;
+    }
+    const std::string subscript = std::to_string(cation.charge);
+    return formulaOfCation + subscript +
+           (anion.isGroup ? "(" + formulaOfAnion + ")" : formulaOfAnion) + subscript;
+}
+
+Wrong withWrongSalt(const Equation& equation, const AcidRow& acid, const Base& base)
+{
+    const IonRow& anion = anionOf(acid);
+    if (base.cation->charge == 1 && anion.charge == -1) {
+        return std::nullopt;
+    }
+    Equation wrong = skeletonOf(equation);
+    wrong.right[0].second = wrongSalt(*base.cation, anion);
+    return wrong;
+}
+
+Wrong without(Equation equation, std::string_view species)
+{
+    const auto place = std::find_if(equation.right.begin(), equation.right.end(),
+                                    [species](const auto& term) { return term.second == species; });
+    if (place == equation.right.end()) {
+        return std::nullopt;
+    }
+    equation.right.erase(place);
+    return equation;
+}
+
+// With one species for the water and all behind it.
+Equation withLast(Equation equation, std::string_view species)
+{
+    equation.right.resize(2);
+    equation.right[1].second = species;
+    return equation;
+}
+
+// The commoner ones first.
+std::vector<std::string> wrongTexts(const Equation& equation, const AcidRow& acid, const Base& base)
+{
+    const bool givesGas = isCarbonate(base);
+    std::vector<std::string> texts;
+    for (const Wrong& wrong :
+         {Wrong(skeletonOf(equation)), without(equation, givesGas ? "CO2" : "H2O"),
+          withWrongSalt(equation, acid, base), Wrong(doubled(equation)),
+          Wrong(withLast(equation, givesGas ? "H2CO3" : "H2")), withAcidSalt(acid, base)}) {
+        if (wrong.has_value()) {
+            texts.push_back(textOf(*wrong));
+        }
+    }
+    return texts;
+}
+
+// The marking knows what to say; what it takes as right, such as the formulas alone where all stand
+// once, is no slip.
+std::vector<Slip> slipsFor(const Equation& equation, const EquationAnswer& answer)
+{
+    const std::vector<std::string> texts = wrongTexts(equation, *answer.acid, answer.base);
+    const std::vector<Mark> marks = markEquations(answer, texts);
+    std::vector<Slip> slips;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (marks[i].verdict == Verdict::slip) {
+            slips.push_back({texts[i], std::nullopt, marks[i].sentence});
+        }
+    }
+    return slips;
+}
+
+} // namespace
+
+Exercise neutralisationExercise(const Place& place)
+{
+    const LevelPool& pool = poolFor(place.level);
+    const auto member = static_cast<std::size_t>(memberFor(place, pool.classes));
+    const auto [acid, base] = pool.reactions[member];
+
+    Exercise exercise = {};
+    exercise.place = place;
+    exercise.prompt = promptFor(*acid, base);
+    exercise.ask.form = Form::equation;
+    exercise.given = {
+        GivenCompound{std::string(acid->formula), std::string(acid->name)},
+        GivenCompound{formulaOf(base), nameOf(base)},
+        GivenCompound{saltFormula(*acid, base), saltName(*acid, base)},
+    };
+    exercise.equation = neutralisationOf(*acid, base);
+    exercise.key = textOf(*exercise.equation);
+    exercise.solution = solutionFor(*exercise.equation, *acid, base);
+    exercise.slips = slipsFor(*exercise.equation, {acid, base});
+    exercise.answer = EquationAnswer{acid, base};
+    return exercise;
+}
+
+} // namespace lesson

@@ -1,0 +1,154 @@
+#include "lesson/kinds/salts.hpp"
+
+#include <algorithm>
+#include <cstdlib>
+#include <iterator>
+
+#include "lesson/marking/typed.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+struct WrongSymbol {
+    std::string_view of; // the ion's name without a Roman numeral
+    std::string_view symbol;
+};
+
+// clang-format off
+constexpr WrongSymbol wrongSymbols[] = {
+    {"lithium", "L"},
+    {"sodium", "S"}, {"sodium", "So"},
+    {"potassium", "P"}, {"potassium", "Po"},
+    {"ammonium", "NH3"}, {"ammonium", "Am"},
+    {"silver", "S"}, {"silver", "Si"},
+    {"magnesium", "Mn"}, {"magnesium", "M"},
+    {"calcium", "C"},
+    {"barium", "B"},
+    {"manganese", "Mg"},
+    {"iron", "I"}, {"iron", "Ir"},
+    {"cobalt", "C"},
+    {"nickel", "N"},
+    {"copper", "C"}, {"copper", "Co"},
+    {"zinc", "Z"},
+    {"tin", "T"}, {"tin", "Ti"},
+    {"lead", "L"}, {"lead", "Le"},
+    {"aluminium", "A"},
+    {"chromium", "C"}, {"chromium", "Ch"},
+    {"fluoride", "Fl"},
+    {"chloride", "C"}, {"chloride", "Ch"},
+    {"bromide", "B"},
+    {"iodide", "Io"},
+    {"oxide", "Ox"},
+    {"sulfide", "Su"},
+    {"nitride", "Ni"},
+    {"phosphide", "Ph"}, {"phosphide", "K"},
+};
+
+constexpr Sibling siblings[] = {
+    {"sulfate", "S", -2},   {"sulfate", "SO3", -2},
+    {"sulfite", "S", -2},   {"sulfite", "SO4", -2},
+    {"sulfide", "SO4", -2}, {"sulfide", "SO3", -2},
+    {"nitrate", "N", -3},   {"nitrate", "NO2", -1},
+    {"nitrite", "N", -3},   {"nitrite", "NO3", -1},
+    {"nitride", "NO3", -1}, {"nitride", "NO2", -1},
+    {"phosphate", "P", -3}, {"phosphate", "PO3", -3},
+    {"phosphide", "PO4", -3},
+    {"chloride", "ClO3", -1},
+    {"bromide", "BrO3", -1},
+    {"iodide", "IO3", -1},
+    {"hydrogensulfate", "HSO3", -1},
+};
+// clang-format on
+
+std::string_view withoutNumeral(std::string_view name)
+{
+    return name.substr(0, name.find('('));
+}
+
+void capitalise(std::string& words)
+{
+    if (!words.empty() && words.front() >= 'a' && words.front() <= 'z') {
+        words.front() = static_cast<char>(words.front() - 'a' + 'A');
+    }
+}
+
+} // namespace
+
+Span nameOf(const IonRow& cation, const IonRow& anion)
+{
+    return name(compoundName(cation, anion), americanName(cation, anion));
+}
+
+Span nameOf(const IonRow& ion)
+{
+    return name(std::string(ion.name), std::string(ion.american));
+}
+
+Span capitalised(Span nameSpan)
+{
+    capitalise(nameSpan.text);
+    capitalise(nameSpan.detail);
+    return nameSpan;
+}
+
+Span spanOf(const IonRow& ion)
+{
+    return ionSpan(std::string(ion.formula), chargeText(ion));
+}
+
+std::string chargeWords(const IonRow& ion)
+{
+    return std::to_string(std::abs(ion.charge)) + (ion.charge < 0 ? "−" : "+");
+}
+
+void addSlip(Exercise& exercise, const std::vector<std::string>& right, std::string text,
+             std::string_view sentence)
+{
+    const std::string folded = lowerCase(text);
+    const bool isRight =
+        std::any_of(right.begin(), right.end(),
+                    [&folded](const std::string& known) { return lowerCase(known) == folded; });
+    const bool isListed = std::any_of(exercise.slips.begin(), exercise.slips.end(),
+                                      [&text](const Slip& slip) { return slip.text == text; });
+    if (!isRight && !isListed) {
+        exercise.slips.push_back({std::move(text), std::nullopt, std::string(sentence)});
+    }
+}
+
+std::vector<std::string_view> wrongSymbolsOf(const IonRow& ion)
+{
+    std::vector<std::string_view> symbols;
+    for (const WrongSymbol& wrong : wrongSymbols) {
+        if (wrong.of == withoutNumeral(ion.name)) {
+            symbols.push_back(wrong.symbol);
+        }
+    }
+    return symbols;
+}
+
+std::vector<Sibling> siblingsOf(const IonRow& ion)
+{
+    std::vector<Sibling> found;
+    std::copy_if(std::begin(siblings), std::end(siblings), std::back_inserter(found),
+                 [&ion](const Sibling& sibling) { return sibling.of == ion.name; });
+    return found;
+}
+
+std::string withOxygens(const IonRow& ion, int more)
+{
+    std::string formula(ion.formula);
+    const std::size_t size = formula.size();
+    if (size < 2 || formula[size - 2] != 'O' || formula[size - 1] > '9') {
+        return "";
+    }
+    formula.back() = static_cast<char>(formula.back() + more);
+    if (formula.back() == '1') {
+        formula.pop_back();
+    }
+    return formula;
+}
+
+} // namespace lesson

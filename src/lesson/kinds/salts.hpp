@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "lesson/exercise.hpp"
+#include "lesson/spans.hpp"
+#include "lesson/tables/ions.hpp"
+
+// What the pages on formulas, ions and solubility share.
+namespace lesson
+{
+
+// "aluminium sulfate", "sulfate", and the same at the beginning of a sentence.
+Span nameOf(const IonRow& cation, const IonRow& anion);
+Span nameOf(const IonRow& ion);
+Span capitalised(Span nameSpan);
+
+Span spanOf(const IonRow& ion);
+
+// The charge in words of a sentence: "2−", "1+".
+std::string chargeWords(const IonRow& ion);
+
+// Adds a slip to an exercise unless its text is right but for capitals, or that of an earlier slip.
+// `right` holds the right texts, `text` has no blanks, and subscripts as plain digits.
+void addSlip(Exercise& exercise, const std::vector<std::string>& right, std::string text,
+             std::string_view sentence);
+
+// What learners write for the symbol of an ion: "P" for potassium, "Ni" for nitride.
+std::vector<std::string_view> wrongSymbolsOf(const IonRow& ion);
+
+// An ion whose name differs in its ending: nitride and nitrite for nitrate.
+struct Sibling {
+    std::string_view of;      // name of the ion
+    std::string_view formula; // of the other one
+    int charge;
+};
+std::vector<Sibling> siblingsOf(const IonRow& ion);
+
+// The formula with one oxygen atom more or less, "SO5" for SO4; empty where that is not asked
+// about.
+std::string withOxygens(const IonRow& ion, int more);
+
+} // namespace lesson

@@ -1,0 +1,346 @@
+#include "lesson/marking/formula.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <optional>
+
+#include "lesson/compound.hpp"
+#include "lesson/marking/sentences.hpp"
+#include "lesson/marking/spellings.hpp"
+#include "lesson/marking/typed.hpp"
+#include "lesson/marking/typed_formula.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+constexpr int oxygen = 8;
+
+// What was typed, and all that it is compared with.
+struct Attempt {
+    const FormulaAnswer& answer;
+    const std::vector<Slip>& slips;
+    std::string plain;
+    TypedFormula read;
+    std::vector<std::string> right; // the key and its other spellings
+    Atoms rightAtoms;
+};
+
+bool isAmong(const std::vector<std::string>& texts, const std::string& text)
+{
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+std::string withoutBrackets(std::string text)
+{
+    text.erase(
+        std::remove_if(text.begin(), text.end(), [](char c) { return c == '(' || c == ')'; }),
+        text.end());
+    return text;
+}
+
+// An ion as often as it is asked, in brackets if it needs them.
+std::string repeated(const IonRow& ion, int times)
+{
+    const std::string once(ion.formula);
+    if (times == 1) {
+        return once;
+    }
+    return (ion.isGroup ? "(" + once + ")" : once) + std::to_string(times);
+}
+
+bool endsWith(std::string_view text, std::string_view end)
+{
+    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
+}
+
+bool hasOxygen(const Atoms& atoms)
+{
+    return std::any_of(atoms.begin(), atoms.end(),
+                       [](AtomCount atom) { return atom.element == oxygen; });
+}
+
+Atoms withoutOxygen(Atoms atoms)
+{
+    atoms.erase(std::remove_if(atoms.begin(), atoms.end(),
+                               [](AtomCount atom) { return atom.element == oxygen; }),
+                atoms.end());
+    return atoms;
+}
+
+bool haveSameElements(const Atoms& a, const Atoms& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](AtomCount x, AtomCount y) { return x.element == y.element; });
+}
+
+// Every element so many times as often as in the right formula.
+bool isMultiple(const Atoms& atoms, const Atoms& right)
+{
+    if (!haveSameElements(atoms, right)) {
+        return false;
+    }
+    const int factor = atoms.front().count / right.front().count;
+    return factor > 1 && std::equal(atoms.begin(), atoms.end(), right.begin(),
+                                    [factor](AtomCount x, AtomCount y) {
+                                        return x.count / y.count == factor &&
+                                               x.count % y.count == 0;
+                                    });
+}
+
+// Whether a learner typed the name in place of the formula, whatever the capitals.
+bool isNameOf(std::string_view plain, const IonRow& cation, const IonRow& anion)
+{
+    const std::string typed = lowerCase(plain);
+    return typed == lowerCase(compoundName(cation, anion)) ||
+           typed == lowerCase(americanName(cation, anion));
+}
+
+// ---------------------------------------------------------------- the rules, first that fits
+
+using Rule = std::optional<Mark> (*)(const Attempt&);
+
+std::optional<Mark> slipWhen(bool isMade, std::string_view sentence)
+{
+    return isMade ? std::optional(markOf(Verdict::slip, sentence)) : std::nullopt;
+}
+
+std::optional<Mark> nothingTyped(const Attempt& attempt)
+{
+    return attempt.plain.empty() ? std::optional(markOf(Verdict::unreadable, "Type a formula."))
+                                 : std::nullopt;
+}
+
+std::optional<Mark> right(const Attempt& attempt)
+{
+    const TypedFormula& read = attempt.read;
+    const bool isRight =
+        isAmong(attempt.right, read.text) && !read.hasCharge && !read.hasRaisedNumber;
+    return isRight ? std::optional(markOf(Verdict::correct, sentences::correct)) : std::nullopt;
+}
+
+std::optional<Mark> capitals(const Attempt& attempt)
+{
+    const std::string folded = withoutCapitals(attempt.plain);
+    const bool isSame =
+        std::any_of(attempt.right.begin(), attempt.right.end(),
+                    [&folded](const std::string& text) { return withoutCapitals(text) == folded; });
+    return slipWhen(isSame, sentences::capitals);
+}
+
+// A text that is no formula may still be a slip but for its capitals.
+std::optional<Mark> listedSlip(const Attempt& attempt)
+{
+    const std::string bare = bareFormula(attempt.plain);
+    const std::string folded = lowerCase(bare);
+    const bool isRead = attempt.read.isRead;
+    const auto slip =
+        std::find_if(attempt.slips.begin(), attempt.slips.end(), [&](const Slip& known) {
+            return known.text == bare || (!isRead && lowerCase(known.text) == folded);
+        });
+    return slip == attempt.slips.end() ? std::nullopt
+                                       : std::optional(markOf(Verdict::slip, slip->sentence));
+}
+
+std::optional<Mark> zeroForO(const Attempt& attempt)
+{
+    const bool hasZero = attempt.plain.find('0') != std::string::npos;
+    return slipWhen(hasZero && isAmong(attempt.right, readFormula(withLetterO(attempt.plain)).text),
+                    sentences::letterO);
+}
+
+std::optional<Mark> notRead(const Attempt& attempt)
+{
+    if (attempt.read.isRead) {
+        return std::nullopt;
+    }
+    if (isNameOf(attempt.plain, *attempt.answer.cation, *attempt.answer.anion)) {
+        return markOf(Verdict::unreadable, "That is its name. Type its formula.");
+    }
+    return unreadable(attempt.read.unread);
+}
+
+std::optional<Mark> chargesLeftIn(const Attempt& attempt)
+{
+    return slipWhen(attempt.read.hasCharge, sentences::chargesLeftIn);
+}
+
+std::optional<Mark> raisedNumber(const Attempt& attempt)
+{
+    return slipWhen(attempt.read.hasRaisedNumber,
+                    "Small numbers stand below the line. Type them without ^.");
+}
+
+std::optional<Mark> numberInFront(const Attempt& attempt)
+{
+    const char first = attempt.read.text.front();
+    return slipWhen(first >= '0' && first <= '9', "Leave out the number in front.");
+}
+
+std::optional<Mark> bracketNotNeeded(const Attempt& attempt)
+{
+    return slipWhen(isAmong(attempt.right, attempt.read.simplest), sentences::bracketNotNeeded);
+}
+
+std::optional<Mark> bracketMissing(const Attempt& attempt)
+{
+    const std::string typed = withoutBrackets(attempt.read.text);
+    const bool isSame =
+        std::any_of(attempt.right.begin(), attempt.right.end(),
+                    [&typed](const std::string& text) { return withoutBrackets(text) == typed; });
+    return slipWhen(isSame, sentences::bracketMissing);
+}
+
+std::optional<Mark> notSimplified(const Attempt& attempt)
+{
+    return slipWhen(isMultiple(attempt.read.atoms, attempt.rightAtoms), sentences::simplify);
+}
+
+// The right ions in wrong numbers.
+std::optional<Mark> chargesDoNotCancel(const Attempt& attempt)
+{
+    constexpr int most = 9;
+    for (int positive = 1; positive <= most; ++positive) {
+        for (int negative = 1; negative <= most; ++negative) {
+            const std::string text = repeated(*attempt.answer.cation, positive) +
+                                     repeated(*attempt.answer.anion, negative);
+            if (text == attempt.read.simplest) {
+                return markOf(Verdict::slip, sentences::chargesDoNotCancel);
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<Mark> otherOrder(const Attempt& attempt)
+{
+    const IonRow& cation = *attempt.answer.cation;
+    const IonRow& anion = *attempt.answer.anion;
+    const std::string reversed =
+        repeated(anion, anionsIn(cation, anion)) + repeated(cation, cationsIn(cation, anion));
+    if (attempt.read.simplest == reversed) {
+        return markOf(Verdict::slip, sentences::positiveFirst);
+    }
+    return slipWhen(attempt.read.atoms == attempt.rightAtoms,
+                    "The atoms are right. Write ion after ion, the positive one first.");
+}
+
+std::optional<Mark> symbol(const Attempt& attempt)
+{
+    const std::string wrong = wrongSymbol(attempt.read.simplest, attempt.right);
+    return slipWhen(!wrong.empty(), sentences::checkSymbol(wrong));
+}
+
+std::optional<Mark> ending(const Attempt& attempt)
+{
+    return slipWhen(mistakesEnding(*attempt.answer.anion, attempt.read.atoms, attempt.rightAtoms),
+                    sentences::ending);
+}
+
+std::optional<Mark> oxygens(const Attempt& attempt)
+{
+    return slipWhen(differInOxygens(attempt.read.atoms, attempt.rightAtoms), sentences::oxygens);
+}
+
+constexpr Rule rules[] = {
+    nothingTyped,   right,         capitals,     listedSlip,         zeroForO,
+    notRead,        chargesLeftIn, raisedNumber, numberInFront,      bracketNotNeeded,
+    bracketMissing, notSimplified, otherOrder,   chargesDoNotCancel, symbol,
+    ending,         oxygens,
+};
+
+// A formula cut at its symbols: "K2SO4" -> K, S, O and "?2??4".
+struct Symbols {
+    std::vector<std::string> symbols;
+    std::string rest;
+};
+
+Symbols symbolsOf(std::string_view text)
+{
+    Symbols cut;
+    for (const char c : text) {
+        if (c >= 'A' && c <= 'Z') {
+            cut.symbols.emplace_back(1, c);
+            cut.rest += '?';
+        } else if (c >= 'a' && c <= 'z') {
+            cut.symbols.back() += c;
+        } else {
+            cut.rest += c;
+        }
+    }
+    return cut;
+}
+
+// The symbol that stands wherever they differ; empty where there is more than one.
+std::string onlyDifference(const Symbols& typed, const Symbols& rightOnes)
+{
+    std::string wrong;
+    for (std::size_t i = 0; i < typed.symbols.size(); ++i) {
+        const std::string& symbol = typed.symbols[i];
+        if (symbol == rightOnes.symbols[i]) {
+            continue;
+        }
+        if (!wrong.empty() && wrong != symbol) {
+            return "";
+        }
+        wrong = symbol;
+    }
+    return wrong;
+}
+
+} // namespace
+
+Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
+                 std::string_view typed)
+{
+    Attempt attempt = {answer, slips, plainTyped(typed), {}, {}, {}};
+    attempt.read = readFormula(attempt.plain);
+    attempt.right = spellingsOf(compoundFormula(*answer.cation, *answer.anion));
+    attempt.rightAtoms = readFormula(attempt.right.front()).atoms;
+    for (const Rule rule : rules) {
+        if (const std::optional<Mark> mark = rule(attempt)) {
+            return *mark;
+        }
+    }
+    return markOf(Verdict::wrong, sentences::notYet);
+}
+
+std::string withLetterO(std::string_view plain)
+{
+    std::string text(plain);
+    std::replace(text.begin(), text.end(), '0', 'O');
+    return text;
+}
+
+std::string wrongSymbol(std::string_view text, const std::vector<std::string>& rightTexts)
+{
+    const Symbols typed = symbolsOf(text);
+    for (const std::string& right : rightTexts) {
+        const Symbols cut = symbolsOf(right);
+        if (cut.rest == typed.rest) {
+            const std::string wrong = onlyDifference(typed, cut);
+            if (!wrong.empty()) {
+                return wrong;
+            }
+        }
+    }
+    return "";
+}
+
+bool mistakesEnding(const IonRow& anion, const Atoms& typed, const Atoms& right)
+{
+    const bool isDue = hasOxygen(right);
+    const bool isTold = !isDue || !endsWith(anion.name, "ide");
+    return isTold && hasOxygen(typed) != isDue &&
+           haveSameElements(withoutOxygen(typed), withoutOxygen(right));
+}
+
+bool differInOxygens(const Atoms& a, const Atoms& b)
+{
+    return hasOxygen(a) && hasOxygen(b) && a != b && withoutOxygen(a) == withoutOxygen(b);
+}
+
+} // namespace lesson

@@ -1,0 +1,391 @@
+#include "lesson/marking/ion.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdlib>
+#include <optional>
+#include <string>
+
+#include "lesson/marking/formula.hpp"
+#include "lesson/marking/sentences.hpp"
+#include "lesson/marking/spellings.hpp"
+#include "lesson/marking/typed.hpp"
+#include "lesson/marking/typed_formula.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+// Whether a learner typed the name in place of the formula, with or without "ion".
+bool isNameOf(std::string_view plain, const IonRow& ion)
+{
+    const std::string typed = lowerCase(plain);
+    for (const std::string_view name : {ion.name, ion.american}) {
+        const std::string known = lowerCase(name);
+        if (!known.empty() && (typed == known || typed == known + " ion")) {
+            return true;
+        }
+    }
+    return false;
+}
+
+constexpr std::string_view digits = "0123456789";
+constexpr std::string_view signs = "+-";
+constexpr std::string_view digitsAndSigns = "0123456789+-";
+
+// One way to read what was typed: "SO42-" is SO4 with 2-, SO42 with 1-, or SO with 42-.
+struct Reading {
+    std::string bare; // the formula as it was typed, without the charge
+    TypedFormula formula;
+    int charge; // with its sign; 0 where there is none
+};
+
+// The part of a text behind its last character that is none of these.
+std::string_view endOf(std::string_view text, std::string_view characters)
+{
+    return text.substr(text.find_last_not_of(characters) + 1);
+}
+
+bool endsWith(std::string_view text, char end)
+{
+    return !text.empty() && text.back() == end;
+}
+
+// 1 where there are no digits; a size that no ion has where there are many.
+int sizeOf(std::string_view typedDigits)
+{
+    constexpr int beyond = 99;
+    int size = typedDigits.empty() ? 1 : 0;
+    for (const char digit : typedDigits) {
+        size = std::min(size * 10 + (digit - '0'), beyond);
+    }
+    return size;
+}
+
+// Signs of one kind: "-", "+++".
+bool areSigns(std::string_view text)
+{
+    return !text.empty() && text.find_first_not_of(text.front()) == std::string_view::npos &&
+           signs.find(text.front()) != std::string_view::npos;
+}
+
+int withSign(std::string_view typedSigns, int size)
+{
+    return typedSigns.front() == '-' ? -size : size;
+}
+
+// What was typed, cut before the digits and signs at its end.
+struct Cut {
+    std::string_view formula;
+    std::string_view charge; // digits and signs
+    bool isRaised;           // by a "^", or set apart in brackets
+};
+
+// Brackets around the whole, "[SO4^2-]", tell nothing.
+std::string_view withoutOuterBrackets(std::string_view bare)
+{
+    if (bare.size() > 2 && bare.front() == '(' && bare.back() == ')') {
+        const std::string_view inside = bare.substr(1, bare.size() - 2);
+        if (signs.find(inside.back()) != std::string_view::npos &&
+            inside.find(')') == inside.npos) {
+            return inside;
+        }
+    }
+    return bare;
+}
+
+Cut cutOff(std::string_view bare)
+{
+    std::string_view charge = endOf(bare, digitsAndSigns);
+    std::string_view formula = bare.substr(0, bare.size() - charge.size());
+    bool isRaised = false;
+    if (charge.empty() && endsWith(bare, ')')) {
+        const std::string_view inside = bare.substr(0, bare.size() - 1);
+        charge = endOf(inside, digitsAndSigns);
+        formula = inside.substr(0, inside.size() - charge.size());
+        isRaised = endsWith(formula, '(') && !charge.empty();
+        if (!isRaised) {
+            return {bare, "", false};
+        }
+        formula.remove_suffix(1);
+    }
+    if (endsWith(formula, '^')) {
+        formula.remove_suffix(1);
+        isRaised = true;
+    }
+    return {formula, charge, isRaised};
+}
+
+Reading reading(std::string bare, int charge)
+{
+    TypedFormula formula = readFormula(bare);
+    return {std::move(bare), std::move(formula), charge};
+}
+
+std::string joined(std::string_view a, std::string_view b)
+{
+    return std::string(a).append(b);
+}
+
+// Each way to split digits and a sign that leaves at most two digits to the charge. A single digit
+// that is raised belongs to the charge; of several, as in "SO⁴²⁻", one may be a subscript.
+std::vector<Reading> splitReadings(std::string_view formula, std::string_view before,
+                                   std::string_view sign, bool isRaised)
+{
+    std::vector<Reading> readings;
+    const std::size_t most = std::min<std::size_t>(before.size(), 2);
+    for (std::size_t ofCharge = isRaised && before.size() == 1 ? 1 : 0; ofCharge <= most;
+         ++ofCharge) {
+        const std::string_view subscript = before.substr(0, before.size() - ofCharge);
+        const std::string_view size = before.substr(before.size() - ofCharge);
+        readings.push_back(reading(joined(formula, subscript), withSign(sign, sizeOf(size))));
+    }
+    return readings;
+}
+
+// The sign alone is raised: the digits before it are a subscript, but of two, as in "SO42⁻", the
+// last one may be the charge.
+std::vector<Reading> raisedSignReadings(std::string_view formula, std::string_view sign)
+{
+    const std::string_view subscript = endOf(formula, digits);
+    if (subscript.size() < 2) {
+        return {reading(std::string(formula), withSign(sign, 1))};
+    }
+    formula.remove_suffix(subscript.size());
+    return splitReadings(formula, subscript, sign, true);
+}
+
+// "SO42-", "SO4-2", "O--", "SO4^2-", "Fe^+3", "Fe(3+)", or without a charge "SO4".
+std::vector<Reading> readingsOf(std::string_view bare)
+{
+    const Cut cut = cutOff(withoutOuterBrackets(bare));
+    const std::string_view behind = endOf(cut.charge, digits);
+    const std::string_view upToSign = cut.charge.substr(0, cut.charge.size() - behind.size());
+    const std::string_view sign = endOf(upToSign, signs);
+    const std::string_view before = upToSign.substr(0, upToSign.size() - sign.size());
+    if (!areSigns(sign) || before.find_first_of(signs) != std::string_view::npos) {
+        return {reading(std::string(bare), 0)};
+    }
+    if (behind.empty() && sign.size() == 1) {
+        return cut.isRaised && before.empty()
+                   ? raisedSignReadings(cut.formula, sign)
+                   : splitReadings(cut.formula, before, sign, cut.isRaised);
+    }
+    if ((sign.size() > 1 && !behind.empty()) || (cut.isRaised && !before.empty())) {
+        return {reading(std::string(bare), 0)};
+    }
+    const int size =
+        behind.empty() ? static_cast<int>(std::min<std::size_t>(sign.size(), 99)) : sizeOf(behind);
+    return {reading(joined(cut.formula, before), withSign(sign, size))};
+}
+
+// What was typed, and all that it is compared with.
+struct Attempt {
+    const IonRow& ion;
+    const std::vector<Slip>& slips;
+    std::string plain;
+    std::vector<Reading> readings;  // at least one
+    std::vector<std::string> right; // the formula without the charge, and its other spellings
+    Atoms rightAtoms;
+};
+
+template <typename Wanted>
+bool anyReading(const Attempt& attempt, Wanted wanted)
+{
+    return std::any_of(attempt.readings.begin(), attempt.readings.end(), wanted);
+}
+
+bool isAmong(const std::vector<std::string>& texts, const std::string& text)
+{
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+// Without regard to the charge; brackets around the whole group are usual.
+bool hasRightFormula(const Attempt& attempt, const Reading& reading)
+{
+    const TypedFormula& formula = reading.formula;
+    return !formula.hasCharge && !formula.hasRaisedNumber &&
+           (isAmong(attempt.right, formula.text) || isAmong(attempt.right, formula.simplest));
+}
+
+bool isRight(const Attempt& attempt, const Reading& reading)
+{
+    return reading.charge == attempt.ion.charge && hasRightFormula(attempt, reading);
+}
+
+// The charge as digits behind the formula: "Fe3", "SO42".
+bool hasChargeAsSubscript(const Attempt& attempt, const Reading& reading)
+{
+    const int size = std::abs(attempt.ion.charge);
+    return size > 1 && std::abs(reading.charge) <= 1 &&
+           reading.formula.text == attempt.right.front() + std::to_string(size);
+}
+
+// ---------------------------------------------------------------- the rules, first that fits
+
+using Rule = std::optional<Mark> (*)(const Attempt&);
+
+std::optional<Mark> slipWhen(bool isMade, std::string_view sentence)
+{
+    return isMade ? std::optional(markOf(Verdict::slip, sentence)) : std::nullopt;
+}
+
+std::optional<Mark> nothingTyped(const Attempt& attempt)
+{
+    return attempt.plain.empty()
+               ? std::optional(markOf(Verdict::unreadable, "Type a formula with its charge."))
+               : std::nullopt;
+}
+
+std::optional<Mark> right(const Attempt& attempt)
+{
+    return anyReading(attempt, [&](const Reading& reading) { return isRight(attempt, reading); })
+               ? std::optional(markOf(Verdict::correct, sentences::correct))
+               : std::nullopt;
+}
+
+std::optional<Mark> capitals(const Attempt& attempt)
+{
+    const auto differsInCapitals = [&](const Reading& reading) {
+        const std::string folded = lowerCase(reading.bare);
+        return !hasRightFormula(attempt, reading) &&
+               std::any_of(attempt.right.begin(), attempt.right.end(),
+                           [&](const std::string& text) { return lowerCase(text) == folded; });
+    };
+    return slipWhen(anyReading(attempt, differsInCapitals), sentences::capitals);
+}
+
+bool isSlip(const Reading& typed, const Slip& slip)
+{
+    const Reading known = readingsOf(slip.text).front();
+    return typed.charge == known.charge &&
+           (typed.bare == known.bare ||
+            (typed.formula.isRead && typed.formula.simplest == known.formula.simplest));
+}
+
+std::optional<Mark> listedSlip(const Attempt& attempt)
+{
+    for (const Slip& slip : attempt.slips) {
+        if (anyReading(attempt, [&](const Reading& reading) { return isSlip(reading, slip); })) {
+            return markOf(Verdict::slip, slip.sentence);
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<Mark> zeroForO(const Attempt& attempt)
+{
+    if (attempt.plain.find('0') == std::string::npos) {
+        return std::nullopt;
+    }
+    Attempt mended = attempt;
+    mended.readings = readingsOf(bareFormula(withLetterO(attempt.plain)));
+    return slipWhen(right(mended).has_value(), sentences::letterO);
+}
+
+std::optional<Mark> notRead(const Attempt& attempt)
+{
+    if (anyReading(attempt, [](const Reading& reading) { return reading.formula.isRead; })) {
+        return std::nullopt;
+    }
+    if (isNameOf(attempt.plain, attempt.ion)) {
+        return markOf(Verdict::unreadable, "That is its name. Type its formula with its charge.");
+    }
+    const std::string& unread = attempt.readings.back().formula.unread;
+    return unreadable(unread.empty() ? attempt.plain : unread);
+}
+
+std::optional<Mark> noCharge(const Attempt& attempt)
+{
+    const Reading& reading = attempt.readings.front();
+    if (reading.charge != 0 || reading.formula.hasCharge) {
+        return std::nullopt;
+    }
+    if (reading.formula.hasRaisedNumber) {
+        return markOf(Verdict::slip, "A charge has a sign: + or -.");
+    }
+    return markOf(Verdict::slip, hasChargeAsSubscript(attempt, reading)
+                                     ? sentences::chargeAsSubscript
+                                     : sentences::noCharge);
+}
+
+std::optional<Mark> wrongCharge(const Attempt& attempt)
+{
+    bool hasWrongSign = false;
+    bool hasWrongSize = false;
+    for (const Reading& reading : attempt.readings) {
+        if (hasRightFormula(attempt, reading)) {
+            const bool isOpposite = (reading.charge < 0) != (attempt.ion.charge < 0);
+            (isOpposite ? hasWrongSign : hasWrongSize) = true;
+        }
+    }
+    if (hasWrongSign) {
+        return markOf(Verdict::slip, sentences::wrongSign);
+    }
+    const bool isTold = hasRomanNumeral(attempt.ion) && attempt.ion.charge > 0;
+    return slipWhen(hasWrongSize, isTold ? sentences::romanCharge : sentences::wrongSize);
+}
+
+std::optional<Mark> chargeAsSubscript(const Attempt& attempt)
+{
+    return slipWhen(
+        anyReading(attempt,
+                   [&](const Reading& reading) { return hasChargeAsSubscript(attempt, reading); }),
+        sentences::chargeAsSubscript);
+}
+
+std::optional<Mark> ending(const Attempt& attempt)
+{
+    return slipWhen(anyReading(attempt,
+                               [&](const Reading& reading) {
+                                   return mistakesEnding(attempt.ion, reading.formula.atoms,
+                                                         attempt.rightAtoms);
+                               }),
+                    sentences::ending);
+}
+
+std::optional<Mark> oxygens(const Attempt& attempt)
+{
+    return slipWhen(anyReading(attempt,
+                               [&](const Reading& reading) {
+                                   return differInOxygens(reading.formula.atoms,
+                                                          attempt.rightAtoms);
+                               }),
+                    sentences::oxygens);
+}
+
+std::optional<Mark> symbol(const Attempt& attempt)
+{
+    for (const Reading& reading : attempt.readings) {
+        const std::string wrong = wrongSymbol(reading.formula.simplest, attempt.right);
+        if (reading.charge == attempt.ion.charge && !wrong.empty()) {
+            return markOf(Verdict::slip, sentences::checkSymbol(wrong));
+        }
+    }
+    return std::nullopt;
+}
+
+constexpr Rule rules[] = {
+    nothingTyped, right,       capitals,          listedSlip, zeroForO, notRead,
+    noCharge,     wrongCharge, chargeAsSubscript, ending,     oxygens,  symbol,
+};
+
+} // namespace
+
+Mark markIon(const IonAnswer& answer, const std::vector<Slip>& slips, std::string_view typed)
+{
+    Attempt attempt = {*answer.ion, slips, plainTyped(typed), {}, {}, {}};
+    attempt.readings = readingsOf(bareFormula(attempt.plain));
+    attempt.right = spellingsOf(answer.ion->formula);
+    attempt.rightAtoms = readFormula(answer.ion->formula).atoms;
+    for (const Rule rule : rules) {
+        if (const std::optional<Mark> mark = rule(attempt)) {
+            return *mark;
+        }
+    }
+    return markOf(Verdict::wrong, sentences::notYet);
+}
+
+} // namespace lesson

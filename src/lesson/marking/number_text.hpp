@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "lesson/marking/typed_number.hpp"
+
+namespace lesson
+{
+
+// A number or, where its comma can mean two things, the question to the learner.
+struct NumberText {
+    TypedNumber number;
+    std::string question;
+};
+
+// Takes the number without a sign at the front of a text in the spelling of `plainTyped`, which
+// begins with a digit, or with a point or comma and a digit.
+//   "4.56 x 10^-2 M" -> 0.0456 with 3 figures, " M" is left
+//   "1,250" -> "Do you mean 1250 or 1.250?"
+NumberText takeNumber(std::string_view& rest);
+
+} // namespace lesson

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "lesson/exercise.hpp"
+#include "lesson/marking/typed.hpp"
+
+namespace lesson
+{
+
+// What several forms of answers tell the learner.
+namespace sentences
+{
+
+constexpr std::string_view correct = "Correct.";
+constexpr std::string_view notYet =
+    "Not right yet. Write down what you know, or press Show a step.";
+constexpr std::string_view capitals = "Check the capitals: first letter large, second small.";
+constexpr std::string_view ending = "The ending tells you whether there is oxygen.";
+constexpr std::string_view letterO = "There is a zero where the letter O should be.";
+
+// Of a symbol or a short formula.
+inline std::string checkSymbol(std::string_view symbol)
+{
+    return "Check this symbol: " + std::string(symbol) + ".";
+}
+
+} // namespace sentences
+
+inline Mark markOf(Verdict verdict, std::string_view sentence)
+{
+    return {verdict, std::string(sentence)};
+}
+
+// For a part that could not be read.
+inline Mark unreadable(std::string_view part)
+{
+    return {Verdict::unreadable, "I can't read this part: '" + quotable(part) + "'"};
+}
+
+} // namespace lesson

@@ -1,0 +1,247 @@
+#include "lesson/kinds/molar_mass.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "lesson/tables/elements.hpp"
+#include "lesson/tables/pairs.hpp"
+#include "lesson/tables/solutions.hpp"
+#include "support/atom_count.hpp"
+#include "support/calculation.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+// The atoms of a formula that may be a hydrate.
+std::map<std::string, int> atomsOf(const std::string& formula)
+{
+    const std::size_t dot = formula.find('.');
+    std::map<std::string, int> atoms = countAtoms(formula.substr(0, dot));
+    if (dot != std::string::npos) {
+        addAtoms(atoms, std::atoi(formula.c_str() + dot + 1), "H2O");
+    }
+    return atoms;
+}
+
+// Sums what the table shows, to so many decimals; 3 leave it as it is.
+long double massOf(const std::string& formula, int decimals = 3)
+{
+    const long double scale = std::pow(10.0L, decimals);
+    long double mass = 0;
+    for (const auto& [symbol, count] : atomsOf(formula)) {
+        const std::string shown(findElement(symbol)->shown);
+        mass += count * std::round(std::strtold(shown.c_str(), nullptr) * scale) / scale;
+    }
+    return mass;
+}
+
+const std::string& compoundOf(const Exercise& exercise)
+{
+    return std::get<GivenCompound>(exercise.given.at(0)).formula;
+}
+
+Exercise exerciseOf(unsigned number, int level)
+{
+    return molarMassExercise({4821, number, Kind::molarMass, level});
+}
+
+// The exercise of a paper that is about a compound.
+Exercise exerciseAbout(const std::string& formula, int level)
+{
+    for (unsigned number = 1; number <= 300; ++number) {
+        Exercise exercise = exerciseOf(number, level);
+        if (compoundOf(exercise) == formula) {
+            return exercise;
+        }
+    }
+    ADD_FAILURE() << "nothing about " << formula;
+    return exerciseOf(1, level);
+}
+
+// A paper's first exercises, which are about as many compounds.
+std::set<std::string> firstCompounds(unsigned count, int level)
+{
+    std::set<std::string> compounds;
+    for (unsigned number = 1; number <= count; ++number) {
+        compounds.insert(compoundOf(exerciseOf(number, level)));
+    }
+    return compounds;
+}
+
+TEST(MolarMassTest, APaperGoesThroughAllCompoundsWithoutABracketAndAllWithOne)
+{
+    std::set<std::string> without;
+    std::set<std::string> with;
+    for (const IonRow* const cation : cations()) {
+        for (const IonRow* const anion : anions()) {
+            if (whyFormulaIsNotAsked({cation, anion}).empty()) {
+                const std::string formula = compoundFormula(*cation, *anion);
+                (formula.find('(') == std::string::npos ? without : with).insert(formula);
+            }
+        }
+    }
+    EXPECT_EQ(without.size() + with.size(), 227U);
+    EXPECT_EQ(firstCompounds(static_cast<unsigned>(without.size()), 1), without);
+    EXPECT_EQ(firstCompounds(static_cast<unsigned>(with.size()), 2), with);
+}
+
+TEST(MolarMassTest, LevelThreeGoesThroughTheHydrates)
+{
+    const std::set<std::string> expected = {"CuSO4.5H2O", "CoCl2.6H2O", "MgSO4.7H2O",
+                                            "FeSO4.7H2O", "ZnSO4.7H2O", "Na2CO3.10H2O",
+                                            "BaCl2.2H2O"};
+    EXPECT_EQ(firstCompounds(7, 3), expected);
+}
+
+TEST(MolarMassTest, TheKeyIsTheSumOfTheMassesThatTheTableShows)
+{
+    for (const int level : {1, 2, 3}) {
+        for (unsigned number = 1; number <= 170; ++number) {
+            const Exercise exercise = exerciseOf(number, level);
+            const std::string& formula = compoundOf(exercise);
+            EXPECT_NEAR(static_cast<double>(toFloat(answerOf(exercise).value)),
+                        static_cast<double>(massOf(formula)), 1e-9)
+                << formula;
+            EXPECT_EQ(exercise.ask.of, formula);
+            EXPECT_EQ(exercise.ask.unit, "g/mol");
+        }
+    }
+}
+
+TEST(MolarMassTest, PagesWorkedByHand)
+{
+    EXPECT_EQ(pageOf(exerciseAbout("NaCl", 1)),
+              "Calculate the molar mass of sodium chloride, NaCl, in g/mol.\n"
+              "  Count the atoms. | Na + Cl\n"
+              "  Put in the masses. | 22.99 + 35.45\n"
+              "  Add. | M = 58.44 g/mol\n"
+              "= 58.44 g/mol\n"
+              "! 28.00 g/mol  Use the relative masses, not the atomic numbers.\n");
+    EXPECT_EQ(pageOf(exerciseAbout("KI", 1)),
+              "Calculate the molar mass of potassium iodide, KI, in g/mol.\n"
+              "  Count the atoms. | K + I\n"
+              "  Put in the masses. | 39.10 + 126.9\n"
+              "  Add. | M = 166.0 g/mol\n"
+              "= 166.0 g/mol\n"
+              "! 72.00 g/mol  Use the relative masses, not the atomic numbers.\n");
+    EXPECT_EQ(pageOf(exerciseAbout("Al2(SO4)3", 2)),
+              "Calculate the molar mass of aluminium sulfate, Al2(SO4)3, in g/mol.\n"
+              "  Count the atoms; the number after the bracket counts everything inside. | "
+              "2 Al + 3(S + 4 O)\n"
+              "  Put in the masses. | 2(26.98) + 3(32.06 + 4(16.00))\n"
+              "  Add. | M = 342.14 = 342.1 g/mol\n"
+              "= 342.1 g/mol\n"
+              "! 150.0 g/mol  The number after the bracket counts everything inside.\n"
+              "! 278.0 g/mol  The number after the bracket counts everything inside.\n"
+              "! 170.0 g/mol  Use the relative masses, not the atomic numbers.\n");
+    EXPECT_EQ(pageOf(exerciseAbout("Ca(CH3COO)2", 2)),
+              "Calculate the molar mass of calcium ethanoate, Ca(CH3COO)2, in g/mol.\n"
+              "  Count the atoms; the number after the bracket counts everything inside. | "
+              "Ca + 2(2 C + 3 H + 2 O)\n"
+              "  Put in the masses. | 40.08 + 2(2(12.01) + 3(1.008) + 2(16.00))\n"
+              "  Add. | M = 158.168 = 158.2 g/mol\n"
+              "= 158.2 g/mol\n"
+              "! 99.12 g/mol  The number after the bracket counts everything inside.\n"
+              "! 115.1 g/mol  The number after the bracket counts everything inside.\n"
+              "! 82.00 g/mol  Use the relative masses, not the atomic numbers.\n");
+    EXPECT_EQ(pageOf(exerciseAbout("CuSO4.5H2O", 3)),
+              "Calculate the molar mass of copper(II) sulfate pentahydrate, CuSO4.5H2O, in "
+              "g/mol.\n"
+              "  Count the atoms; the water belongs to the crystal. | Cu + S + 4 O + 5(2 H + O)\n"
+              "  Put in the masses. | 63.55 + 32.06 + 4(16.00) + 5(18.016)\n"
+              "  Add. | M = 249.69 = 249.7 g/mol\n"
+              "= 249.7 g/mol\n"
+              "! 159.6 g/mol  The number before H2O counts whole water molecules.\n"
+              "! 177.6 g/mol  The number before H2O counts whole water molecules.\n"
+              "! 185.7 g/mol  The number before H2O counts whole water molecules.\n"
+              "! 127.0 g/mol  Use the relative masses, not the atomic numbers.\n");
+}
+
+TEST(MolarMassTest, NamesThatDifferInAmericaSayHow)
+{
+    const auto nameIn = [](const Exercise& exercise) {
+        return *std::find_if(exercise.prompt.begin(), exercise.prompt.end(),
+                             [](const Span& span) { return span.kind == Span::Kind::name; });
+    };
+    const Span aluminium = nameIn(exerciseAbout("Al2(SO4)3", 2));
+    EXPECT_EQ(aluminium.text, "aluminium sulfate");
+    EXPECT_EQ(aluminium.detail, "aluminum sulfate");
+    const Span sodium = nameIn(exerciseAbout("NaCl", 1));
+    EXPECT_EQ(sodium.text, "sodium chloride");
+    EXPECT_EQ(sodium.detail, "");
+}
+
+TEST(MolarMassTest, MassesToOneDecimalAndWholeOnesAreCorrectToo)
+{
+    struct Rounded {
+        const char* formula;
+        int level;
+        const char* typed;
+        Verdict verdict;
+    };
+    const Rounded cases[] = {
+        {"NaCl", 1, "58.50", Verdict::correct}, // 23.0 + 35.5, 23 + 35.5
+        {"NaCl", 1, "58.40", Verdict::correct}, // 23.0 + 35.4
+        {"NaCl", 1, "58.48", Verdict::close},
+        {"CuO", 1, "79.50", Verdict::correct},   // 63.5 + 16
+        {"CuO", 1, "79.60", Verdict::correct},   // 63.6 + 16.0
+        {"FeCl3", 1, "162.3", Verdict::correct}, // 55.8 + 3 x 35.5
+        {"FeCl3", 1, "162.4", Verdict::correct}, // 55.9 + 3 x 35.5
+        {"FeCl3", 1, "162.1", Verdict::correct}, // 55.9 + 3 x 35.4
+        {"FeCl3", 1, "162.5", Verdict::correct}, // 56 + 3 x 35.5
+        {"FeCl3", 1, "163.0", Verdict::close},
+        {"CuSO4.5H2O", 3, "249.5", Verdict::correct}, // 63.5 + 32 + 9 x 16 + 10
+        {"CuSO4.5H2O", 3, "250.0", Verdict::close},
+    };
+    for (const auto& [formula, level, typed, verdict] : cases) {
+        const Exercise exercise = exerciseAbout(formula, level);
+        EXPECT_EQ(markOf(exercise, typed).verdict, verdict) << formula << ", " << typed;
+    }
+}
+
+TEST(RoundedMolarMassesTest, EachWayOfRoundingAFiveAndWholeNumbers)
+{
+    const auto massesOf = [](const char* formula) {
+        std::set<int> tenths;
+        for (const Ratio mass : roundedMolarMasses(formula)) {
+            EXPECT_EQ((mass * ratio(10)).denominator, 1) << formula;
+            tenths.insert(static_cast<int>((mass * ratio(10)).numerator));
+        }
+        return tenths;
+    };
+    EXPECT_EQ(massesOf("NaCl"), (std::set<int>{584, 585}));
+    EXPECT_EQ(massesOf("CuCl2"), (std::set<int>{1343, 1344, 1345, 1346}));
+    EXPECT_EQ(massesOf("MgSO4.7H2O"), (std::set<int>{2464, 2460}));
+    EXPECT_EQ(massesOf("ZnO"), (std::set<int>{814, 810}));
+}
+
+TEST(RoundedMolarMassesTest, OneDecimalIsThatOfEveryElementWhereNoneEndsInAFive)
+{
+    for (const SoluteRow& solute : solutes()) {
+        const std::string formula(solute.formula);
+        if (formula.find("Cl") != std::string::npos || formula.find("Cu") != std::string::npos ||
+            formula.find("Fe") != std::string::npos) {
+            continue;
+        }
+        std::vector<Ratio> masses = roundedMolarMasses(formula);
+        ASSERT_EQ(masses.size(), 2U) << formula;
+        EXPECT_NEAR(static_cast<double>(toFloat(masses[0])),
+                    static_cast<double>(massOf(formula, 1)), 1e-9)
+            << formula;
+        EXPECT_NEAR(static_cast<double>(toFloat(masses[1])),
+                    static_cast<double>(massOf(formula, 0)), 1e-9)
+            << formula;
+    }
+}
+
+} // namespace
+
+} // namespace lesson

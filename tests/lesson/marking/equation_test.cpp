@@ -1,0 +1,372 @@
+#include "lesson/marking/equation.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace lesson
+{
+
+namespace
+{
+
+constexpr const char* capitals = "Check the capitals: first letter large, second small.";
+constexpr const char* smallest = "Balanced. Use the smallest whole numbers.";
+constexpr const char* twoWay = "Correct. A one-way arrow is usual here.";
+constexpr const char* notYet = "Not right yet. Write down what you know, or press Show a step.";
+constexpr const char* noArrow = "Put an arrow between the two sides. You can type ->.";
+constexpr const char* zero = "There is a zero where the letter O should be.";
+
+EquationAnswer answerOf(const char* acid, const char* cation, const char* anion)
+{
+    return {findAcid(acid), {findIon(cation), findIon(anion)}};
+}
+
+// 2HCl + Na2CO3 -> 2NaCl + H2O + CO2
+EquationAnswer soda()
+{
+    return answerOf("HCl", "sodium", "carbonate");
+}
+// 3H2SO4 + 2Al(OH)3 -> Al2(SO4)3 + 6H2O
+EquationAnswer alumina()
+{
+    return answerOf("H2SO4", "aluminium", "hydroxide");
+}
+// 2CH3COOH + Ca(OH)2 -> Ca(CH3COO)2 + 2H2O
+EquationAnswer vinegar()
+{
+    return answerOf("CH3COOH", "calcium", "hydroxide");
+}
+// H2SO4 + 2NaOH -> Na2SO4 + 2H2O
+EquationAnswer lye()
+{
+    return answerOf("H2SO4", "sodium", "hydroxide");
+}
+
+struct Case {
+    const char* typed;
+    Verdict verdict;
+    const char* sentence;
+};
+
+void expectMarks(const EquationAnswer& answer, const std::vector<Case>& cases)
+{
+    for (const Case& c : cases) {
+        const Mark mark = markEquation(answer, c.typed);
+        EXPECT_EQ(mark.verdict, c.verdict) << c.typed;
+        EXPECT_EQ(mark.sentence, c.sentence) << c.typed;
+    }
+}
+
+TEST(EquationMarkTest, RightInEverySpelling)
+{
+    for (const char* const typed :
+         {"2HCl + Na2CO3 -> 2NaCl + H2O + CO2", "2HCl+Na2CO3->2NaCl+H2O+CO2",
+          "Na2CO3 + 2HCl -> CO2 + H2O + 2NaCl", "2 HCl + 1 Na2CO3 --> 2 NaCl + 1 H2O + 1 CO2",
+          "2*HCl + Na_2CO_3 => 2·NaCl + H_{2}O + CO_{2}", "2HCl + Na₂CO₃ → 2NaCl + H₂O + CO₂.",
+          "2HCl(aq) + Na2CO3(s) = 2NaCl(aq) + H2O(l) + CO2(g)",
+          "2HCl (AQ) + Na2CO3 ( aq ) ⟶ 2NaCl + H2O(L) + CO2↑", "2NaCl + H2O + CO2 <- 2HCl + Na2CO3",
+          "CO2 + 2NaCl + H2O ← Na2CO3 + 2HCl", "2.0HCl + Na2CO3 -> 4/2 NaCl + H2O + CO2",
+          "2HCl + Na2CO3 -> 2ClNa + HOH + O2C", "HCl + HCl + Na2CO3 -> NaCl + NaCl + H2O + CO2",
+          "2(HCl) + [Na]2CO3 -> 2NaCl + H2O + CO2", "½HCl + 1½HCl + Na2CO3 -> 2NaCl + H2O + CO2",
+          "2HCl + Na²CO³ -> 2NaCl + H²O + CO²"}) {
+        const Mark mark = markEquation(soda(), typed);
+        EXPECT_EQ(mark.verdict, Verdict::correct) << typed;
+        EXPECT_EQ(mark.sentence, "Correct.") << typed;
+    }
+    for (const char* const typed :
+         {"2CH3COOH + Ca(OH)2 -> Ca(CH3COO)2 + 2H2O", "2CH3CO2H + Ca(OH)2 -> (CH3COO)2Ca + 2H2O",
+          "2HC2H3O2 + Ca(OH)2 -> Ca(C2H3O2)2 + 2H2O", "2C2H4O2 + Ca(OH)2 -> Ca(CH3CO2)2 + 2H2O",
+          "2HCH3COO + Ca(OH)2 -> (CH3CO2)2Ca + 2H2O", "2CH3-COOH + Ca(OH)2 -> Ca(CH3COO)2 + 2H2O",
+          "2 CH3COOH(aq) + Ca(OH)2(aq) -> Ca(CH3COO)2(aq) + 2 H2O(l)"}) {
+        EXPECT_EQ(markEquation(vinegar(), typed).verdict, Verdict::correct) << typed;
+    }
+    for (const char* const typed :
+         {"CH3COOH + NaOH -> NaCH3COO + H2O", "CH3COOH + NaOH -> CH3COONa + H2O",
+          "CH3CO2H + NaOH -> CH3CO2Na + H2O", "HC2H3O2 + NaOH -> NaC2H3O2 + H2O"}) {
+        EXPECT_EQ(markEquation(answerOf("CH3COOH", "sodium", "hydroxide"), typed).verdict,
+                  Verdict::correct)
+            << typed;
+    }
+}
+
+TEST(EquationMarkTest, TwoWayArrows)
+{
+    expectMarks(soda(), {{"2HCl + Na2CO3 <=> 2NaCl + H2O + CO2", Verdict::correct, twoWay},
+                         {"2HCl + Na2CO3 <-> 2NaCl + H2O + CO2", Verdict::correct, twoWay},
+                         {"2HCl + Na2CO3 ⇌ 2NaCl + H2O + CO2", Verdict::correct, twoWay}});
+}
+
+TEST(EquationMarkTest, RightButForCapitalsOrZeros)
+{
+    expectMarks(soda(), {{"2hcl + na2co3 -> 2nacl + h2o + co2", Verdict::slip, capitals},
+                         {"2HCL + NA2CO3 -> 2NACL + H2O + CO2", Verdict::slip, capitals},
+                         {"2HCl + Na2Co3 -> 2NaCl + H2O + CO2", Verdict::slip, capitals},
+                         {"2HCl + Na2CO3 -> 2NaCl + H2O + Co2", Verdict::slip, capitals},
+                         {"2hcl(aq) + na2co3 -> 2nacl + h_2o (l) + co2", Verdict::slip, capitals},
+                         {"2HCl + Na2C03 -> 2NaCl + H2O + CO2", Verdict::slip, zero},
+                         {"2HCl + Na2CO3 -> 2NaCl + H20 + CO2", Verdict::slip, zero}});
+    expectMarks(vinegar(), {{"2ch3cooh + ca(oh)2 -> (ch3coo)2ca + 2h2o", Verdict::slip, capitals}});
+    expectMarks(answerOf("HCl", "cobalt(II)", "carbonate"),
+                {{"2HCl + COCO3 -> COCl2 + H2O + CO2", Verdict::slip, capitals},
+                 {"2HCl + COCO3 -> CoCl2 + H2O + CO2", Verdict::slip, capitals},
+                 {"2HCl + CoCO3 -> CoCl2 + H2O + CO2", Verdict::correct, "Correct."},
+                 {"2HCl + CoCO3 -> CoCl2 + H2O + Co2", Verdict::slip, capitals}});
+}
+
+TEST(EquationMarkTest, WhatCannotBeRead)
+{
+    expectMarks(
+        soda(),
+        {{"", Verdict::unreadable, "Type formulas on both sides of an arrow: ->."},
+         {" \t\u00A0", Verdict::unreadable, "Type formulas on both sides of an arrow: ->."},
+         {"hcl + na2co3 -> nacl + h2o + co2", Verdict::unreadable, "I can't read this part: 'hcl'"},
+         {"2HCl + Na2CO3 -> 2NaCl + H2O + heat", Verdict::unreadable,
+          "I can't read this part: 'heat'"},
+         {"2HCl + Xy -> 2NaCl", Verdict::unreadable, "I can't read this part: 'Xy'"},
+         {"2H+ + Na2CO3 -> 2Na+ + H2O + CO2", Verdict::unreadable, "I can't read this part: '2H+'"},
+         {"0HCl + 0Na2CO3 -> 0NaCl + 0H2O + 0CO2", Verdict::unreadable,
+          "I can't read this part: '0HCl'"},
+         {"2HCl + Na2CO3(aqueous) -> 2NaCl", Verdict::unreadable,
+          "I can't read this part: 'aqueous)'"},
+         {"\xFF\xFE -> NaCl", Verdict::unreadable, "I can't read this part: '\uFFFD\uFFFD'"}});
+}
+
+TEST(EquationMarkTest, NoArrow)
+{
+    expectMarks(soda(), {{"2HCl + Na2CO3", Verdict::unreadable, noArrow},
+                         {"2HCl + Na2CO3 - 2NaCl + H2O + CO2", Verdict::unreadable, noArrow},
+                         {"2HCl + Na2CO3 — 2NaCl + H2O + CO2", Verdict::unreadable, noArrow},
+                         {"2HCl + Na2CO3 + 2NaCl + H2O + CO2", Verdict::unreadable, noArrow}});
+}
+
+TEST(EquationMarkTest, KnownProductsThatDoNotForm)
+{
+    constexpr const char* carbonic = "It falls apart into water and carbon dioxide.";
+    constexpr const char* hydrogen = "Acid and metal give hydrogen, not acid and base.";
+    expectMarks(soda(), {{"2HCl + Na2CO3 -> 2NaCl + H2CO3", Verdict::slip, carbonic},
+                         {"HCl + Na2CO3 -> NaCl + H2CO3", Verdict::slip, carbonic},
+                         {"2HCl + Na2CO3 -> 2NaCl + H2CO3 + CO2", Verdict::slip, carbonic},
+                         {"2HCl + Na2CO3 -> 2NaCl + H2 + CO2", Verdict::slip, hydrogen}});
+    expectMarks(lye(), {{"H2SO4 + 2NaOH -> Na2SO4 + H2", Verdict::slip, hydrogen},
+                        {"H2SO4 + 2Na -> Na2SO4 + H2", Verdict::slip, hydrogen},
+                        // Nothing here could give it.
+                        {"H2SO4 + 2NaOH -> Na2SO4 + H2CO3", Verdict::wrong,
+                         "Not right yet. H2CO3 does not form here."}});
+}
+
+TEST(EquationMarkTest, ForgottenProducts)
+{
+    expectMarks(soda(), {{"2HCl + Na2CO3 -> 2NaCl + H2O", Verdict::slip, "One more product."},
+                         {"2HCl + Na2CO3 -> 2NaCl + CO2", Verdict::slip, "One more product."},
+                         {"HCl + Na2CO3 -> NaCl + CO2", Verdict::slip, "One more product."},
+                         {"2HCl + Na2CO3 -> 2NaCl", Verdict::slip, "Two more products."},
+                         // The salt is missing as well, which is not told.
+                         {"2HCl + Na2CO3 -> CO2", Verdict::wrong, notYet}});
+    expectMarks(lye(), {{"H2SO4 + 2NaOH -> Na2SO4", Verdict::slip, "One more product."},
+                        {"H2SO4 + 2NaOH -> NaSO4", Verdict::slip, "One more product."},
+                        {"H2SO4 + NaOH -> NaHSO4", Verdict::slip, "One more product."}});
+}
+
+TEST(EquationMarkTest, WrongSubscripts)
+{
+    expectMarks(lye(), {{"H2SO4 + 2NaOH -> NaSO4 + 2H2O", Verdict::slip,
+                         "NaSO4 is not the salt. Check the charges."},
+                        {"H2SO4 + NaOH -> Na(SO4)2 + H2O", Verdict::slip,
+                         "Na(SO4)2 is not the salt. Check the charges."},
+                        {"H2SO4 + 2NaOH -> Na2SO3 + 2H2O", Verdict::slip,
+                         "Na2SO3 is not the salt. Check the ions in it."},
+                        {"HSO4 + 2NaOH -> Na2SO4 + 2H2O", Verdict::slip,
+                         "HSO4 is not the acid. Check the charges."},
+                        {"H2SO3 + 2NaOH -> Na2SO4 + 2H2O", Verdict::slip,
+                         "H2SO3 is not the acid. Check the ions in it."},
+                        {"H2SO4 + Na(OH)2 -> Na2SO4 + 2H2O", Verdict::slip,
+                         "Na(OH)2 is not the base. Check the charges."}});
+    expectMarks(soda(), {{"2HCl + NaCO3 -> NaCl + H2O + CO2", Verdict::slip,
+                          "NaCO3 is not the base. Check the charges."},
+                         {"2HCl + Na2CO3 -> Na2Cl2 + H2O + CO2", Verdict::slip,
+                          "Na2Cl2 is not the salt. Simplify."}});
+    expectMarks(alumina(), {{"3H2SO4 + 2AlOH3 -> Al2(SO4)3 + 6H2O", Verdict::slip,
+                             "AlOH3 is not the base. What does the small number multiply?"},
+                            {"3H2SO4 + 2Al(OH)3 -> Al2SO43 + 6H2O", Verdict::slip,
+                             "Al2SO43 is not the salt. What does the small number multiply?"},
+                            {"3H2SO4 + 2Al(OH)3 -> Al4(SO4)6 + 6H2O", Verdict::slip,
+                             "Al4(SO4)6 is not the salt. Simplify."}});
+    expectMarks(vinegar(), {{"2CH3COOH + Ca(OH)2 -> CH3COO2Ca + 2H2O", Verdict::slip,
+                             "CH3COO2Ca is not the salt. What does the small number multiply?"}});
+    expectMarks(
+        answerOf("HCl", "iron(III)", "oxide"),
+        {{"6HCl + FeO -> 2FeCl3 + 3H2O", Verdict::slip, "FeO is not the base. Check the charges."},
+         {"6HCl + Fe2O3 -> 2FeCl2 + 3H2O", Verdict::slip,
+          "FeCl2 is not the salt. Check the charges."}});
+    expectMarks(answerOf("HNO3", "ammonium", "carbonate"),
+                {{"2HNO3 + (NH3)2CO3 -> 2NH4NO3 + H2O + CO2", Verdict::slip,
+                  "(NH3)2CO3 is not the base. Check the ions in it."},
+                 {"2HNO3 + (NH4)2CO3 -> (NH4)2NO3 + H2O + CO2", Verdict::slip,
+                  "(NH4)2NO3 is not the salt. Check the charges."}});
+}
+
+TEST(EquationMarkTest, SaltsOfHalfTheWay)
+{
+    constexpr const char* lessBase = "True with less base. Neutralise completely.";
+    constexpr const char* lessAcid = "True with less acid. Neutralise completely.";
+    expectMarks(lye(), {{"H2SO4 + NaOH -> NaHSO4 + H2O", Verdict::slip, lessBase},
+                        {"2H2SO4 + NaOH -> NaHSO4 + H2O", Verdict::slip, lessBase},
+                        {"H2SO4 + 2NaOH -> Na2HSO4 + H2O", Verdict::slip,
+                         "Na2HSO4 is not the salt. Check the charges."}});
+    expectMarks(alumina(), {{"3H2SO4 + Al(OH)3 -> Al(HSO4)3 + 3H2O", Verdict::slip, lessBase}});
+    expectMarks(answerOf("H3PO4", "sodium", "hydroxide"),
+                {{"H3PO4 + NaOH -> NaH2PO4 + H2O", Verdict::slip, lessBase},
+                 {"H3PO4 + 2NaOH -> Na2HPO4 + 2H2O", Verdict::slip, lessBase}});
+    expectMarks(answerOf("H3PO4", "calcium", "oxide"),
+                {{"H3PO4 + CaO -> CaHPO4 + H2O", Verdict::slip, lessBase},
+                 {"2H3PO4 + CaO -> Ca(H2PO4)2 + H2O", Verdict::slip, lessBase}});
+    expectMarks(soda(), {{"HCl + Na2CO3 -> NaCl + NaHCO3", Verdict::slip, lessAcid}});
+}
+
+TEST(EquationMarkTest, OtherSubstances)
+{
+    expectMarks(soda(), {{"2HCl + NaOH -> 2NaCl + H2O + CO2", Verdict::wrong,
+                          "Not right yet. NaOH does not react here."},
+                         {"2HCl + Na2CO3 + H2O -> 2NaCl + 2H2O + CO2", Verdict::wrong,
+                          "Not right yet. H2O does not react here."},
+                         {"2HCl + Na2CO3 -> 2NaCl + H2O + CO", Verdict::wrong,
+                          "Not right yet. CO does not form here."},
+                         {"2HCl + Na2CO3 -> NaOH + CO2", Verdict::wrong,
+                          "Not right yet. NaOH does not form here."},
+                         {"2HCl + Na2CO3 -> H2O + CO2", Verdict::wrong, notYet},
+                         {"2HCl -> 2NaCl + H2O + CO2", Verdict::wrong, notYet},
+                         {"2NaCl + H2O + CO2 -> 2HCl + Na2CO3", Verdict::wrong,
+                          "Not right yet. NaCl does not react here."},
+                         {"->", Verdict::wrong, notYet}});
+    expectMarks(alumina(), {{"3H2SO4 + Al2O3 -> Al2(SO4)3 + 3H2O", Verdict::wrong,
+                             "Not right yet. Al2O3 does not react here."}});
+}
+
+TEST(EquationMarkTest, NotBalanced)
+{
+    expectMarks(soda(), {{"HCl + Na2CO3 -> NaCl + H2O + CO2", Verdict::slip,
+                          "Count the sodium atoms: 2 on the left, 1 on the right."},
+                         {"HCl + Na2CO3 -> 2NaCl + H2O + CO2", Verdict::slip,
+                          "Count the chlorine atoms: 1 on the left, 2 on the right."},
+                         {"2NaCl + H2O + CO2 <- HCl + Na2CO3", Verdict::slip,
+                          "Count the chlorine atoms: 2 on the left, 1 on the right."},
+                         {"1/3HCl + Na2CO3 -> 2NaCl + H2O + CO2", Verdict::slip,
+                          "Count the chlorine atoms: 1/3 on the left, 2 on the right."}});
+    expectMarks(lye(), {{"H2SO4 + 2NaOH -> Na2SO4 + H2O", Verdict::slip,
+                         "Count the hydrogen atoms: 4 on the left, 2 on the right."},
+                        {"H2SO4 + 2NaOH -> Na2SO4 + 1.5H2O", Verdict::slip,
+                         "Count the hydrogen atoms: 4 on the left, 3 on the right."},
+                        {"0.25H2SO4 + 2NaOH -> Na2SO4 + 2H2O", Verdict::slip,
+                         "Count the sulfur atoms: 0.25 on the left, 1 on the right."}});
+}
+
+TEST(EquationMarkTest, MultiplesAndFractions)
+{
+    expectMarks(soda(), {{"4HCl + 2Na2CO3 -> 4NaCl + 2H2O + 2CO2", Verdict::slip, smallest},
+                         {"HCl + 1/2Na2CO3 -> NaCl + 1/2H2O + 1/2CO2", Verdict::slip, smallest},
+                         {"HCl + ½Na2CO3 -> NaCl + .5H2O + 0,5 CO2", Verdict::slip, smallest},
+                         {"3HCl + 1½Na2CO3 -> 3NaCl + 1.5H2O + 3/2 CO2", Verdict::slip, smallest},
+                         {"2000HCl + 1000Na2CO3 -> 2000NaCl + 1000H2O + 1000CO2", Verdict::slip,
+                          smallest}});
+}
+
+TEST(EquationMarkTest, States)
+{
+    expectMarks(
+        soda(),
+        {{"2HCl(g) + Na2CO3 -> 2NaCl + H2O + CO2", Verdict::slip, "Check the state of HCl."},
+         {"2HCl + Na2CO3(l) -> 2NaCl + H2O + CO2", Verdict::slip, "Check the state of Na2CO3."},
+         {"2HCl + Na2CO3 -> 2NaCl(s) + H2O + CO2", Verdict::slip, "Check the state of NaCl."},
+         {"2HCl + Na2CO3 -> 2NaCl + H2O(aq) + CO2(l)", Verdict::slip, "Check the state of H2O."},
+         {"2HCl + Na2CO3 -> 2NaCl + H2O + CO2(aq)", Verdict::slip, "Check the state of CO2."}});
+    expectMarks(
+        {findAcid("HCl"), ammonia()},
+        {{"HCl + NH3 -> NH4Cl", Verdict::correct, "Correct."},
+         {"HCl(aq) + NH3(aq) -> NH4Cl(aq)", Verdict::correct, "Correct."},
+         {"HCl(aq) + NH3(g) -> NH4Cl(aq)", Verdict::correct, "Correct."},
+         {"HCl + NH3(l) -> NH4Cl", Verdict::slip, "Check the state of NH3."},
+         {"HCl + NH4OH -> NH4Cl", Verdict::wrong, "Not right yet. NH4OH does not react here."}});
+}
+
+TEST(EquationMarkTest, ManyAtOnceAreMarkedAsOneByOne)
+{
+    const std::vector<std::string> typed = {"2HCl + Na2CO3 -> 2NaCl + H2O + CO2", "", "H2 -> H2"};
+    const std::vector<Mark> marks = markEquations(soda(), typed);
+    ASSERT_EQ(marks.size(), typed.size());
+    for (std::size_t i = 0; i < typed.size(); ++i) {
+        const Mark mark = markEquation(soda(), typed[i]);
+        EXPECT_EQ(marks[i].verdict, mark.verdict) << typed[i];
+        EXPECT_EQ(marks[i].sentence, mark.sentence) << typed[i];
+    }
+}
+
+std::string repeated(const std::string& piece, std::size_t length)
+{
+    std::string text;
+    while (text.size() < length) {
+        text += piece;
+    }
+    return text;
+}
+
+TEST(EquationMarkTest, HostileTexts)
+{
+    constexpr std::size_t megabyte = 1000000;
+    for (const char* const piece : {"+",
+                                    "H+",
+                                    "H2+",
+                                    "(",
+                                    ")",
+                                    "()",
+                                    "(H",
+                                    "((H)2)",
+                                    "->",
+                                    "- ",
+                                    "-",
+                                    "=",
+                                    "<",
+                                    " ",
+                                    "9",
+                                    "1/2",
+                                    "1 1/2 ",
+                                    "0.5",
+                                    "N999999",
+                                    "HCl(aq)",
+                                    "(aq)",
+                                    "2HCl + ",
+                                    "\xFF",
+                                    "½",
+                                    "→",
+                                    "·",
+                                    ".",
+                                    "^",
+                                    "_{",
+                                    "CH3-",
+                                    "2HCl + Na2CO3 -> 2NaCl + H2O + CO2 ",
+                                    "H2O -> "}) {
+        const std::string text = repeated(piece, megabyte / 5);
+        for (const std::string& typed :
+             {text, "2HCl + Na2CO3 -> " + text, text + " -> 2NaCl + H2O + CO2",
+              "2HCl + Na2CO3 -> 2NaCl + H2O + CO2" + text}) {
+            const Mark mark = markEquation(soda(), typed);
+            EXPECT_LT(mark.sentence.size(), 300U) << piece;
+            EXPECT_FALSE(mark.sentence.empty()) << piece;
+            const bool isOnlyBlanks = std::string(piece) == " ";
+            EXPECT_TRUE(mark.verdict != Verdict::correct || isOnlyBlanks) << piece;
+        }
+    }
+    for (const char* const typed :
+         {"99999HCl + 99999HCl + Na2CO3 -> 2NaCl + H2O + CO2",
+          "2HCl + N999999H999999 -> 2NaCl + H2O + CO2",
+          "1/9999HCl + 1/9998HCl + 1/9997HCl + Na2CO3 -> 2NaCl + H2O + CO2",
+          "99999/10000HCl + 1/9999Na2CO3 -> 1/9998NaCl + 1/9997H2O + 1/9991CO2",
+          "2HCl + (NH4)500000000CO3 -> 2NaCl", "2HCl + ((((N9999)9999)9999)9999)9999 -> NaCl"}) {
+        EXPECT_NE(markEquation(soda(), typed).verdict, Verdict::correct) << typed;
+    }
+}
+
+} // namespace
+
+} // namespace lesson

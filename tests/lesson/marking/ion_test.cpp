@@ -1,0 +1,284 @@
+#include "lesson/marking/ion.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "lesson/tables/ions.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+std::vector<const IonRow*> allIons()
+{
+    std::vector<const IonRow*> all;
+    for (const auto* const list : {&cations(), &anions(), &furtherIons()}) {
+        all.insert(all.end(), list->begin(), list->end());
+    }
+    return all;
+}
+
+Mark markFor(const char* ion, const std::string& typed)
+{
+    return markIon({findIon(ion)}, {}, typed);
+}
+
+std::string withDigits(const std::string& text, const std::string& before,
+                       const std::string& behind)
+{
+    std::string spelled;
+    for (const char c : text) {
+        const bool isDigit = c >= '0' && c <= '9';
+        spelled += isDigit ? before + c + behind : std::string(1, c);
+    }
+    return spelled;
+}
+
+std::string withSubscripts(const std::string& text)
+{
+    std::string spelled;
+    for (const char c : text) {
+        spelled += c >= '0' && c <= '9' ? std::string("\xE2\x82") + static_cast<char>(c + 0x50)
+                                        : std::string(1, c);
+    }
+    return spelled;
+}
+
+std::string superscript(int size, bool isNegative)
+{
+    const char* const digits[] = {"", "\u00B9", "\u00B2", "\u00B3"};
+    return std::string(digits[size]) + (isNegative ? "\u207B" : "\u207A");
+}
+
+// Everything behind the formula that tells the charge.
+std::vector<std::string> chargesTyped(const IonRow& ion)
+{
+    const int size = std::abs(ion.charge);
+    const bool isNegative = ion.charge < 0;
+    const std::string number = std::to_string(size);
+    std::vector<std::string> charges;
+    for (const std::string& sign :
+         {std::string(isNegative ? "-" : "+"), std::string(isNegative ? "\u2212" : "+"),
+          std::string(isNegative ? "\u2013" : "\uFF0B")}) {
+        std::string repeated;
+        for (int i = 0; i < size; ++i) {
+            repeated += sign;
+        }
+        std::vector<std::string> texts = {number + sign, sign + number, repeated};
+        if (size == 1) {
+            texts.push_back(sign);
+        }
+        for (const std::string& text : texts) {
+            for (const std::string& typed :
+                 {text, " " + text, "^" + text, "^{" + text + "}", "^(" + text + ")",
+                  "(" + text + ")", " ^ " + text, text + "(aq)", text + " (aq)", text + "."}) {
+                charges.push_back(typed);
+            }
+        }
+        charges.push_back(" " + number + " " + sign);
+    }
+    charges.push_back(superscript(size, isNegative));
+    if (size == 1) {
+        charges.push_back(superscript(0, isNegative));
+    }
+    return charges;
+}
+
+std::vector<std::string> spellingsTyped(const IonRow& ion)
+{
+    const std::string formula(ion.formula);
+    std::vector<std::string> spellings;
+    for (const std::string& typed :
+         {formula, "[" + formula + "]", "(" + formula + ")", withDigits(formula, "_", ""),
+          withDigits(formula, "_{", "}"), withSubscripts(formula), " " + formula}) {
+        for (const std::string& charge : chargesTyped(ion)) {
+            spellings.push_back(typed + charge);
+        }
+    }
+    return spellings;
+}
+
+TEST(IonMarkTest, EveryIonIsRightInEverySpelling)
+{
+    for (const IonRow* const ion : allIons()) {
+        for (const std::string& typed : spellingsTyped(*ion)) {
+            const Mark mark = markIon({ion}, {}, typed);
+            EXPECT_EQ(mark.verdict, Verdict::correct)
+                << typed << " for " << ion->name << ": " << mark.sentence;
+        }
+    }
+}
+
+TEST(IonMarkTest, NoOtherIonIsEverRight)
+{
+    for (const IonRow* const asked : allIons()) {
+        for (const IonRow* const typed : allIons()) {
+            if (typed == asked) {
+                continue;
+            }
+            for (const std::string& charge : chargesTyped(*typed)) {
+                const std::string spelling = std::string(typed->formula).append(charge);
+                EXPECT_NE(markIon({asked}, {}, spelling).verdict, Verdict::correct)
+                    << spelling << " for " << asked->name;
+            }
+        }
+    }
+}
+
+TEST(IonMarkTest, SpellingsThatPeopleUse)
+{
+    struct Row {
+        const char* ion;
+        std::vector<std::string> typed;
+    };
+    const Row rows[] = {
+        {"iron(III)",
+         {"Fe3+", "Fe^3+", "Fe^{3+}", "Fe^+3", "Fe+3", "Fe³⁺", "Fe+++", "Fe(3+)", "Fe 3+", "Fe³+",
+          "Fe^+++", "Fe + + +", "[Fe]3+", "[Fe3+]", "Fe3+ (aq)"}},
+        {"sulfate", {"SO42-",    "SO4^2-",  "SO4 2-",   "SO4-2",     "SO₄²⁻",       "SO4--",
+                     "[SO4]2-",  "(SO4)2-", "SO4²-",    "SO_4^{2-}", "SO_{4}^{2-}", "SO_42-",
+                     "SO42⁻",    "SO⁴²⁻",   "SO4(2-)",  "[SO4^2-]",  "S O4 2-",     "SO4^-2",
+                     "SO4^(2−)", "SO4–2",   "(SO4)^-2", "SO4 --"}},
+        {"sodium", {"Na+", "Na1+", "Na^1+", "Na+1", "Na⁺", "Na^+", "Na +", "Na¹⁺"}},
+        {"oxide", {"O--", "O2-", "O^2-", "O²⁻", "O-2", "O 2-", "O- -"}},
+        {"manganate(VII)", {"MnO4-", "MnO4^-1", "MnO4^-", "MnO₄⁻", "MnO4 -", "[MnO4]-", "MnO4-1"}},
+        {"dichromate", {"Cr2O72-", "Cr2O7^2-", "Cr₂O₇²⁻", "[Cr2O7]2-", "Cr2O7--", "Cr2O7-2"}},
+        {"ethanoate",
+         {"CH3COO-", "CH3CO2-", "C2H3O2-", "CH3COO^-", "CH₃COO⁻", "(CH3COO)-", "H3CCOO-",
+          "CH3CO2^-1", "C2H3O2 -", "CH3C(O)O-", "OOCCH3-"}},
+        {"hydroxide", {"OH-", "HO-", "OH^-", "(OH)-", "OH⁻", "OH 1-"}},
+        {"nitrate", {"NO3-", "NO3^-", "NO31-", "NO3-1", "NO₃⁻"}},
+        {"ammonium", {"NH4+", "NH4^+", "NH41+", "NH₄⁺", "[NH4]+", "(NH4)+"}},
+    };
+    for (const Row& row : rows) {
+        for (const std::string& typed : row.typed) {
+            const Mark mark = markFor(row.ion, typed);
+            EXPECT_EQ(mark.verdict, Verdict::correct) << typed << ": " << mark.sentence;
+            EXPECT_EQ(mark.sentence, "Correct.") << typed;
+        }
+    }
+}
+
+TEST(IonMarkTest, SlipsGetTheirSentences)
+{
+    const std::string capitals = "Check the capitals: first letter large, second small.";
+    const std::string noCharge = "An ion carries a charge.";
+    const std::string subscript =
+        "A number without a sign counts atoms. Write the charge with its sign.";
+    const std::string sign = "Is this ion positive or negative?";
+    const std::string size = "The sign is right. Check the size of the charge.";
+    const std::string roman = "The Roman numeral tells the size of the charge.";
+    const std::string ending = "The ending tells you whether there is oxygen.";
+    const std::string oxygens = "Check the number of oxygen atoms.";
+    const std::string zero = "There is a zero where the letter O should be.";
+    struct Row {
+        const char* ion;
+        const char* typed;
+        std::string sentence;
+    };
+    const Row rows[] = {
+        {"iron(III)", "fe3+", capitals},
+        {"iron(III)", "FE^3+", capitals},
+        {"cobalt(II)", "CO2+", capitals},
+        {"sulfate", "so42-", capitals},
+        {"carbonate", "Co3 2-", capitals},
+        {"nitrite", "No2-", capitals},
+        {"chloride", "cl-", capitals},
+        {"ethanoate", "ch3coo-", capitals},
+        {"iron(III)", "Fe", noCharge},
+        {"iron(III)", "Fe(III)", noCharge},
+        {"sulfate", "SO4", noCharge},
+        {"sulfate", "SO3", noCharge},
+        {"sodium", "Na", noCharge},
+        {"iron(III)", "Fe3", subscript},
+        {"iron(III)", "Fe_3", subscript},
+        {"iron(III)", "Fe₃⁺", subscript},
+        {"sulfate", "SO42", subscript},
+        {"iron(III)", "Fe^3", "A charge has a sign: + or -."},
+        {"sulfate", "SO4-2+", "wrong"},
+        {"iron(III)", "Fe3-", sign},
+        {"sulfate", "SO4^2+", sign},
+        {"sulfate", "SO4+2", sign},
+        {"chloride", "Cl+", sign},
+        {"iron(III)", "Fe2+", roman},
+        {"iron(III)", "Fe+", roman},
+        {"iron(III)", "Fe++", roman},
+        {"sulfate", "SO4-", size},
+        {"sulfate", "SO4^3-", size},
+        {"sulfate", "SO4---", size},
+        {"magnesium", "Mg+", size},
+        {"manganate(VII)", "MnO4^2-", size},
+        {"sulfate", "S2-", ending},
+        {"sulfide", "SO4^2-", ending},
+        {"chloride", "ClO3-", ending},
+        {"sulfate", "SO3^2-", oxygens},
+        {"nitrate", "NO2-", oxygens},
+        {"nitrite", "NO3^-", oxygens},
+        {"potassium", "P+", "Check this symbol: P."},
+        {"manganese(II)", "Mg2+", "Check this symbol: Mg."},
+        {"sulfate", "S042-", zero},
+        {"sulfate", "S04^2-", zero},
+        {"hydroxide", "0H-", zero},
+    };
+    for (const Row& row : rows) {
+        const Mark mark = markFor(row.ion, row.typed);
+        if (row.sentence == "wrong") {
+            EXPECT_NE(mark.verdict, Verdict::correct) << row.typed;
+        } else {
+            EXPECT_EQ(mark.verdict, Verdict::slip) << row.typed << " for " << row.ion;
+            EXPECT_EQ(mark.sentence, row.sentence) << row.typed << " for " << row.ion;
+        }
+    }
+}
+
+TEST(IonMarkTest, WhatCannotBeReadIsTold)
+{
+    struct Row {
+        const char* typed;
+        const char* sentence;
+    };
+    const Row rows[] = {
+        {"", "Type a formula with its charge."},
+        {"  ", "Type a formula with its charge."},
+        {"2-", "I can't read this part: '2-'"},
+        {"-", "I can't read this part: '-'"},
+        {"Xy2-", "I can't read this part: 'Xy'"},
+        {"SO4)2-", "I can't read this part: ')'"},
+        {"sulfate", "That is its name. Type its formula with its charge."},
+        {"Sulfate ion", "That is its name. Type its formula with its charge."},
+        {"\xFF\xFE", "I can't read this part: '\uFFFD\uFFFD'"},
+    };
+    for (const Row& row : rows) {
+        const Mark mark = markFor("sulfate", row.typed);
+        EXPECT_EQ(mark.verdict, Verdict::unreadable) << row.typed;
+        EXPECT_EQ(mark.sentence, row.sentence) << row.typed;
+    }
+}
+
+TEST(IonMarkTest, AnythingElseIsNotRightYet)
+{
+    const Mark mark = markFor("sulfate", "C6H12O6^2-");
+    EXPECT_EQ(mark.verdict, Verdict::wrong);
+    EXPECT_EQ(mark.sentence, "Not right yet. Write down what you know, or press Show a step.");
+}
+
+TEST(IonMarkTest, LongTextsGetAMark)
+{
+    for (const std::string& typed :
+         {"SO4" + std::string(1000000, '-'), "SO4" + std::string(1000000, '2') + "-",
+          "SO4-" + std::string(1000000, '2'), std::string(1000000, '^'), std::string(1000000, '('),
+          "SO4" + std::string(1000000, ')') + "2-", "SO" + std::string(1000000, '0') + "-"}) {
+        EXPECT_NE(markFor("sulfate", typed).verdict, Verdict::correct) << typed.substr(0, 20);
+    }
+    EXPECT_EQ(markFor("sulfate", "SO4" + std::string(1000000, ' ') + "2-").verdict,
+              Verdict::correct);
+}
+
+} // namespace
+
+} // namespace lesson

@@ -1,0 +1,108 @@
+#include "lesson/marking/solubility.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace lesson
+{
+
+namespace
+{
+
+const SolubilityAnswer dissolves = {true, "All nitrates are soluble."};
+const SolubilityAnswer doesNot = {false, "Carbonates are insoluble."};
+
+TEST(SolubilityMarkTest, YesAndNoInTheirUsualWords)
+{
+    for (const char* const yes :
+         {"y", "Y", "yes", "YES", " Yes. ", "yes!", "soluble", "Soluble", "dissolves",
+          "it  dissolves", "Yes, it does.", "it is soluble", "\u00A0yes\t"}) {
+        EXPECT_EQ(markSolubility(dissolves, yes).verdict, Verdict::correct) << yes;
+        EXPECT_EQ(markSolubility(dissolves, yes).sentence, "Correct. All nitrates are soluble.");
+        EXPECT_EQ(markSolubility(doesNot, yes).verdict, Verdict::wrong) << yes;
+        EXPECT_EQ(markSolubility(doesNot, yes).sentence,
+                  "Not right yet. Carbonates are insoluble.");
+    }
+    for (const char* const no :
+         {"n", "N", "no", "No.", "NO", "insoluble", "INSOLUBLE", "not soluble", "in soluble",
+          "does not dissolve", "doesn't dissolve", "It doesn\u2019t dissolve.", "no, it doesn't"}) {
+        EXPECT_EQ(markSolubility(doesNot, no).verdict, Verdict::correct) << no;
+        EXPECT_EQ(markSolubility(doesNot, no).sentence, "Correct. Carbonates are insoluble.");
+        EXPECT_EQ(markSolubility(dissolves, no).verdict, Verdict::wrong) << no;
+    }
+}
+
+TEST(SolubilityMarkTest, OtherWordsAreAskedBack)
+{
+    EXPECT_EQ(markSolubility(dissolves, "").sentence, "Type yes or no.");
+    EXPECT_EQ(markSolubility(dissolves, " . ").sentence, "Type yes or no.");
+    EXPECT_EQ(markSolubility(dissolves, "maybe").sentence,
+              "I can't read this part: 'maybe'. Type yes or no.");
+    for (const std::string& typed : {std::string("yesno"), std::string("\xFF"),
+                                     std::string(1000000, 'y'), std::string(1000000, ' ') + "x"}) {
+        EXPECT_EQ(markSolubility(dissolves, typed).verdict, Verdict::unreadable);
+    }
+}
+
+PrecipitateAnswer leadIodide()
+{
+    return {findIon("lead(II)"), findIon("iodide"), "Iodides are soluble, except some."};
+}
+
+const PrecipitateAnswer nothing = {nullptr, nullptr, "All nitrates are soluble."};
+
+const std::vector<Slip> slips = {{"KNO3", std::nullopt, "That one stays in solution."}};
+
+TEST(PrecipitateMarkTest, TheFormulaInItsSpellings)
+{
+    for (const char* const typed : {"PbI2", " PbI₂ ", "PbI_2(s)", "PbI2↓", "Pb I2", "PbI2."}) {
+        const Mark mark = markPrecipitate(leadIodide(), slips, typed);
+        EXPECT_EQ(mark.verdict, Verdict::correct) << typed;
+        EXPECT_EQ(mark.sentence, "Correct. Iodides are soluble, except some.") << typed;
+    }
+    struct Row {
+        const char* typed;
+        Verdict verdict;
+        const char* sentence;
+    };
+    const char* const lookAgain = "Not right yet. Check each new pair of ions against the rules.";
+    const Row rows[] = {
+        {"pbi2", Verdict::slip, "Check the capitals: first letter large, second small."},
+        {"KNO3", Verdict::slip, "That one stays in solution."},
+        {"PbI", Verdict::slip, "The charges do not cancel yet. How many of each ion are needed?"},
+        {"Pb2+I-2", Verdict::slip, "A compound has no charge: leave out the charges of its ions."},
+        {"none", Verdict::wrong, lookAgain},
+        {"C6H12O6", Verdict::wrong, lookAgain},
+        {"", Verdict::unreadable, "Type a formula, or none."},
+        {"lead(II) iodide", Verdict::unreadable, "That is its name. Type its formula."},
+        {"yes", Verdict::unreadable, "I can't read this part: 'yes'"},
+    };
+    for (const Row& row : rows) {
+        const Mark mark = markPrecipitate(leadIodide(), slips, row.typed);
+        EXPECT_EQ(mark.verdict, row.verdict) << row.typed;
+        EXPECT_EQ(mark.sentence, row.sentence) << row.typed;
+    }
+}
+
+TEST(PrecipitateMarkTest, NoneInItsUsualWords)
+{
+    for (const char* const typed :
+         {"none", "None", "NONE.", "no", "No", "NO", "n", "nothing", "no precipitate",
+          "No precipitate.", "no  precipitate forms", "No ppt", "nil", "-", "–"}) {
+        const Mark mark = markPrecipitate(nothing, slips, typed);
+        EXPECT_EQ(mark.verdict, Verdict::correct) << typed;
+        EXPECT_EQ(mark.sentence, "Correct. All nitrates are soluble.") << typed;
+        EXPECT_EQ(markPrecipitate(leadIodide(), slips, typed).verdict, Verdict::wrong) << typed;
+    }
+    EXPECT_EQ(markPrecipitate(nothing, slips, "KNO₃").sentence, "That one stays in solution.");
+    EXPECT_EQ(markPrecipitate(nothing, slips, "AgCl").verdict, Verdict::wrong);
+    EXPECT_EQ(markPrecipitate(nothing, slips, "").verdict, Verdict::unreadable);
+    EXPECT_EQ(markPrecipitate(nothing, slips, "?").sentence, "I can't read this part: '?'");
+    EXPECT_EQ(markPrecipitate(nothing, slips, std::string(1000000, '[')).verdict,
+              Verdict::unreadable);
+}
+
+} // namespace
+
+} // namespace lesson
