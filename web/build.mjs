@@ -1,14 +1,19 @@
-// Makes the one file: the scripts bundled, the module inside them as bytes, the styles, and a policy
-// that allows these by their hashes and forbids every connection.
+// Makes the one file: the scripts bundled, the module inside them as compressed bytes, the styles, and
+// a policy that allows these by their hashes and forbids every connection.
 //   node build.mjs LESSON.WASM PRACTICE.HTML
 import { createHash } from "node:crypto";
 import { mkdir, readFile, writeFile } from "node:fs/promises";
 import { dirname, join, resolve } from "node:path";
 import { fileURLToPath } from "node:url";
+import { deflateRawSync } from "node:zlib";
 import { build } from "esbuild";
 
 const here = dirname(fileURLToPath(import.meta.url));
 const [wasm, target] = process.argv.slice(2);
+
+await mkdir(dirname(target), { recursive: true });
+const compressed = resolve(dirname(target), "lesson.bin");
+await writeFile(compressed, deflateRawSync(await readFile(wasm), { level: 9 }));
 
 const script = await bundle("src/main.ts");
 const style = await bundle("style/page.css");
@@ -25,7 +30,6 @@ const page = Object.entries({ POLICY: policy, STYLE: style, SCRIPT: script }).re
     (html, [place, text]) => html.replace(place, () => text),
     await readFile(join(here, "index.html"), "utf8"),
 );
-await mkdir(dirname(target), { recursive: true });
 await writeFile(target, page);
 
 async function bundle(entry) {
@@ -36,8 +40,8 @@ async function bundle(entry) {
         minify: true,
         charset: "utf8",
         target: ["safari15", "chrome90", "firefox90"],
-        loader: { ".wasm": "binary" },
-        alias: { "lesson.wasm": resolve(wasm) },
+        loader: { ".bin": "binary" },
+        alias: { "lesson.bin": compressed },
     });
     return result.outputFiles[0].text.trim().replaceAll("</script", "<\\/script").replaceAll("<!--", "<\\!--");
 }

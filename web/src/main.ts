@@ -1,5 +1,5 @@
 // Wires the page together; imported by none.
-import wasm from "lesson.wasm";
+import compressed from "lesson.bin";
 import { addressOf, routeOf } from "./address";
 import { byId, element, show } from "./dom";
 import { lessonOf } from "./engine/lesson";
@@ -98,7 +98,7 @@ function titleOf(route: Route): string {
 
 // The page lives as long as its window, so nothing is ever taken off again.
 async function start(): Promise<void> {
-    const page = pageOf(lessonOf(await instantiate(wasm)));
+    const page = pageOf(lessonOf(await instantiate(compressed)));
     render(page);
     window.addEventListener("hashchange", () => {
         const focus = render(page);

@@ -16,7 +16,7 @@ const allowed = {
     "address": ["texts", "types"],
     "spans": ["dom", "types"],
     "sentence": ["dom", "spans", "types"],
-    "engine/memory": [],
+    "engine/memory": ["fflate"],
     "engine/lesson": ["engine/memory", "types"],
     "views/page": ["sentence", "types"],
     "views/answer": ["dom", "spans", "texts", "types"],
@@ -32,7 +32,7 @@ const allowed = {
     "views/summary": ["address", "dom", "storage", "texts", "types", "views/page", "views/practice"],
     "views/tables": ["dom", "sentence", "spans", "texts", "types", "views/page"],
     "main": [
-        "address", "dom", "engine/lesson", "engine/memory", "lesson.wasm", "sentence", "storage", "texts", "types",
+        "address", "dom", "engine/lesson", "engine/memory", "lesson.bin", "sentence", "storage", "texts", "types",
         "views/message", "views/page", "views/practice", "views/summary", "views/tables",
     ],
 };
