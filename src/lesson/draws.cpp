@@ -107,7 +107,7 @@ int Draws::between(int low, int high)
 
 int memberOnWalk(const Pool& pool, Seed seed, unsigned number)
 {
-    const auto members = static_cast<unsigned>(sizeOf(pool));
+    const auto members = static_cast<unsigned>(std::max(sizeOf(pool), 1));
     seed.push_back((number - 1) / members);
     Draws draws(seed);
     Round round(pool);

@@ -34,7 +34,8 @@ private:
     std::mt19937 generator;
 };
 
-// A finite pool of members 0, 1, 2, …, which stand class by class, the classes group by group.
+// A finite pool of members 0, 1, 2, …, at least one, which stand class by class, the classes group
+// by group.
 struct PoolClass {
     int group;
     int size;

@@ -275,7 +275,7 @@ Exercise compoundFormulaExercise(const Place& place)
     const Pair& pair = memberFor(place, pairsOfLevel(place.level));
     const IonRow& cation = *pair.cation;
     const IonRow& anion = *pair.anion;
-    Exercise exercise;
+    Exercise exercise = {};
     exercise.place = place;
     exercise.prompt = line("Write the formula of ", nameOf(cation, anion), ".");
     exercise.ask.form = Form::formula;

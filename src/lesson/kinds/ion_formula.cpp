@@ -251,7 +251,7 @@ std::vector<std::string> rightTexts(const IonRow& ion)
 Exercise ionFormulaExercise(const Place& place)
 {
     const IonRow& ion = *memberFor(place, poolOfLevel(place.level));
-    Exercise exercise;
+    Exercise exercise = {};
     exercise.place = place;
     exercise.prompt =
         line("Write the formula of the ", nameOf(ion), " ion, together with its charge.");

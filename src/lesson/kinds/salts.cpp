@@ -44,7 +44,7 @@ constexpr WrongSymbol wrongSymbols[] = {
     {"oxide", "Ox"},
     {"sulfide", "Su"},
     {"nitride", "Ni"},
-    {"phosphide", "Ph"}, {"phosphide", "K"},
+    {"phosphide", "Ph"},
 };
 
 constexpr Sibling siblings[] = {

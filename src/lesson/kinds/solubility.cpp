@@ -82,7 +82,7 @@ const Classified<Pair>& pairsOfLevel(int level)
 Exercise oneCompound(const Place& place)
 {
     const Pair& pair = memberFor(place, pairsOfLevel(place.level));
-    Exercise exercise;
+    Exercise exercise = {};
     exercise.place = place;
     exercise.prompt = line("Does ", nameOf(*pair.cation, *pair.anion), ", ",
                            formula(formulaOf(pair)), ", dissolve in water?");
@@ -229,7 +229,7 @@ Exercise twoSolutions(const Place& place)
     }
     const Pair& precipitate = mixture.exchanged[0];
     const auto& [a, b] = mixture.salts;
-    Exercise exercise;
+    Exercise exercise = {};
     exercise.place = place;
     exercise.prompt =
         line("Solutions of ", nameOf(*a.cation, *a.anion), " and ", nameOf(*b.cation, *b.anion),

@@ -46,10 +46,8 @@ std::string withoutBrackets(std::string text)
 std::string repeated(const IonRow& ion, int times)
 {
     const std::string once(ion.formula);
-    if (times == 1) {
-        return once;
-    }
-    return (ion.isGroup ? "(" + once + ")" : once) + std::to_string(times);
+    const std::string number = times == 1 ? "" : std::to_string(times);
+    return (ion.isGroup && times > 1 ? "(" + once + ")" : once) + number;
 }
 
 bool endsWith(std::string_view text, std::string_view end)
@@ -321,7 +319,7 @@ std::string wrongSymbol(std::string_view text, const std::vector<std::string>& r
     for (const std::string& right : rightTexts) {
         const Symbols cut = symbolsOf(right);
         if (cut.rest == typed.rest) {
-            const std::string wrong = onlyDifference(typed, cut);
+            std::string wrong = onlyDifference(typed, cut);
             if (!wrong.empty()) {
                 return wrong;
             }

@@ -22,13 +22,11 @@ namespace
 bool isNameOf(std::string_view plain, const IonRow& ion)
 {
     const std::string typed = lowerCase(plain);
-    for (const std::string_view name : {ion.name, ion.american}) {
+    const auto isTyped = [&typed](std::string_view name) {
         const std::string known = lowerCase(name);
-        if (!known.empty() && (typed == known || typed == known + " ion")) {
-            return true;
-        }
-    }
-    return false;
+        return !known.empty() && (typed == known || typed == known + " ion");
+    };
+    return isTyped(ion.name) || isTyped(ion.american);
 }
 
 constexpr std::string_view digits = "0123456789";
@@ -89,7 +87,7 @@ std::string_view withoutOuterBrackets(std::string_view bare)
     if (bare.size() > 2 && bare.front() == '(' && bare.back() == ')') {
         const std::string_view inside = bare.substr(1, bare.size() - 2);
         if (signs.find(inside.back()) != std::string_view::npos &&
-            inside.find(')') == inside.npos) {
+            inside.find(')') == std::string_view::npos) {
             return inside;
         }
     }

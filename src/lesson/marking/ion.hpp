@@ -19,7 +19,7 @@ constexpr std::string_view wrongSign = "Is this ion positive or negative?";
 constexpr std::string_view wrongSize = "The sign is right. Check the size of the charge.";
 constexpr std::string_view romanCharge = "The Roman numeral tells the size of the charge.";
 constexpr std::string_view chargeAsSubscript =
-    "A number without a sign counts atoms. Write the charge with its sign.";
+    "That number counts atoms. Write the number and the sign of the charge together.";
 
 } // namespace sentences
 

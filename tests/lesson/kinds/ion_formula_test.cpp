@@ -147,7 +147,8 @@ TEST(IonFormulaTest, TheCommonSlipsAreListed)
     };
     const Row rows[] = {
         {"SO4^2-", "SO4", "An ion carries a charge."},
-        {"SO4^2-", "SO42", "A number without a sign counts atoms. Write the charge with its sign."},
+        {"SO4^2-", "SO42",
+         "That number counts atoms. Write the number and the sign of the charge together."},
         {"SO4^2-", "SO4^2+", "Is this ion positive or negative?"},
         {"SO4^2-", "SO4^-", "The sign is right. Check the size of the charge."},
         {"SO4^2-", "SO3^2-", "Which one has more oxygen: -ite or -ate?"},
@@ -156,7 +157,8 @@ TEST(IonFormulaTest, TheCommonSlipsAreListed)
         {"SO4^2-", "SO5^2-", "Check the number of oxygen atoms."},
         {"NO2^-", "NO^-", "Check the number of oxygen atoms."},
         {"Fe^3+", "Fe^2+", "The Roman numeral tells the size of the charge."},
-        {"Fe^3+", "Fe3", "A number without a sign counts atoms. Write the charge with its sign."},
+        {"Fe^3+", "Fe3",
+         "That number counts atoms. Write the number and the sign of the charge together."},
         {"K^+", "P^+", "Check this symbol: P."},
         {"NH4^+", "NH3", "That is ammonia, which is no ion."},
         {"H^+", "H3O^+", "That is a hydrogen ion joined to a water molecule."},

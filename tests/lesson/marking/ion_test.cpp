@@ -169,7 +169,7 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
     const std::string capitals = "Check the capitals: first letter large, second small.";
     const std::string noCharge = "An ion carries a charge.";
     const std::string subscript =
-        "A number without a sign counts atoms. Write the charge with its sign.";
+        "That number counts atoms. Write the number and the sign of the charge together.";
     const std::string sign = "Is this ion positive or negative?";
     const std::string size = "The sign is right. Check the size of the charge.";
     const std::string roman = "The Roman numeral tells the size of the charge.";
