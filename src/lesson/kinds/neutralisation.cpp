@@ -9,6 +9,7 @@
 #include "lesson/compound.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/marking/equation.hpp"
+#include "lesson/marking/formula.hpp"
 #include "lesson/reaction.hpp"
 #include "lesson/tables/elements.hpp"
 
@@ -132,7 +133,7 @@ const LevelPool& poolFor(int level)
 
 Span nameOfAcid(const AcidRow& acid)
 {
-    return name(std::string(acid.name), std::string(acid.american));
+    return name(acid.name, acid.american);
 }
 
 Spans promptFor(const AcidRow& acid, const Base& base)
@@ -182,8 +183,7 @@ bool isCarbonate(const Base& base)
 Spans writeFormulas(const Base& base)
 {
     const IonRow& anion = *base.anion;
-    return isCarbonate(base) ? line("Write the formulas; a ",
-                                    name(std::string(anion.name), std::string(anion.american)),
+    return isCarbonate(base) ? line("Write the formulas; a ", name(anion.name, anion.american),
                                     " gives carbon dioxide too.")
                              : line("Write the formulas.");
 }
@@ -191,8 +191,7 @@ Spans writeFormulas(const Base& base)
 // "iron" of iron(III)
 Span metalOf(const IonRow& cation)
 {
-    return name(std::string(cation.name.substr(0, cation.name.find('('))),
-                std::string(cation.american));
+    return name(cation.name.substr(0, cation.name.find('(')), cation.american);
 }
 
 // What of metal and anion takes a coefficient to balance; empty where neither does.
@@ -202,7 +201,7 @@ Spans balanceFirst(const Equation& equation, const AcidRow& acid, const Base& ba
     const bool isAnion = equation.left[0].first > 1;
     const IonRow& anion = anionOf(acid);
     const Span metal = metalOf(*base.cation);
-    const Span group = name(std::string(anion.name), std::string(anion.american));
+    const Span group = name(anion.name, anion.american);
     if (isMetal && isAnion) {
         return line("Balance the ", metal, ", then the ", group, ".");
     }
@@ -231,9 +230,8 @@ Spans countsOf(const Equation& equation)
                           [](const AtomCount& count) { return count.element != oxygen; });
     Spans spans;
     for (const AtomCount& count : counts) {
-        append(spans, line(spans.empty() ? "" : ", ",
-                                      formula(std::string(element(count.element).symbol)), " ",
-                                      number(std::to_string(count.count))));
+        append(spans, line(spans.empty() ? "" : ", ", formula(element(count.element).symbol), " ",
+                           number(std::to_string(count.count))));
     }
     return spans;
 }
@@ -270,20 +268,6 @@ constexpr AcidSaltRow acidSalts[] = {
     {"H3PO4", 2, 2, {"hydrogenphosphate", "", "HPO4", -2, true}},
 };
 
-using Wrong = std::optional<Equation>;
-
-Wrong withAcidSalt(const AcidRow& acid, const Base& base)
-{
-    const auto* const row =
-        std::find_if(std::begin(acidSalts), std::end(acidSalts), [&](const AcidSaltRow& salt) {
-            return salt.acid == acid.formula && salt.cationCharge == base.cation->charge;
-        });
-    if (row == std::end(acidSalts)) {
-        return std::nullopt;
-    }
-    return equationOf(row->acid, row->protons, row->anion, base);
-}
-
 // With ions one to one where they do not stand so, and with both charges written as subscripts
 // where they cancel.
 std::string wrongSalt(const IonRow& cation, const IonRow& anion)
@@ -298,64 +282,66 @@ std::string wrongSalt(const IonRow& cation, const IonRow& anion)
            (anion.isGroup ? "(" + formulaOfAnion + ")" : formulaOfAnion) + subscript;
 }
 
-Wrong withWrongSalt(const Equation& equation, const AcidRow& acid, const Base& base)
+using Slips = std::vector<Slip>;
+
+void add(Slips& slips, const Equation& wrong, std::string_view sentence)
 {
-    const IonRow& anion = anionOf(acid);
-    if (base.cation->charge == 1 && anion.charge == -1) {
-        return std::nullopt;
+    slips.push_back({textOf(wrong), std::nullopt, std::string(sentence)});
+}
+
+void addUnbalanced(Slips& slips, const Equation& equation, const EquationAnswer& answer)
+{
+    const Mark mark = markEquation(answer, textOf(skeletonOf(equation)));
+    if (mark.verdict == Verdict::slip) { // else each formula is needed once
+        add(slips, skeletonOf(equation), mark.sentence);
+    }
+}
+
+void addForgotten(Slips& slips, Equation equation)
+{
+    equation.right.pop_back();
+    add(slips, equation, sentences::oneMoreProduct);
+}
+
+void addWrongSalt(Slips& slips, const Equation& equation, const IonRow& cation, const IonRow& anion)
+{
+    if (cation.charge == 1 && anion.charge == -1) {
+        return;
     }
     Equation wrong = skeletonOf(equation);
-    wrong.right[0].second = wrongSalt(*base.cation, anion);
-    return wrong;
+    std::string& salt = wrong.right[0].second;
+    salt = wrongSalt(cation, anion);
+    const bool isNeutral = cation.charge + anion.charge == 0;
+    add(slips, wrong,
+        sentences::isNot(salt, "salt", isNeutral ? sentences::simplify : sentences::charges));
 }
 
-Wrong without(Equation equation, std::string_view species)
-{
-    const auto place = std::find_if(equation.right.begin(), equation.right.end(),
-                                    [species](const auto& term) { return term.second == species; });
-    if (place == equation.right.end()) {
-        return std::nullopt;
-    }
-    equation.right.erase(place);
-    return equation;
-}
-
-// With one species for the water and all behind it.
-Equation withLast(Equation equation, std::string_view species)
+// With carbonic acid or hydrogen for the water and what else would form.
+void addWrongProduct(Slips& slips, Equation equation, bool isCarbonicAcid)
 {
     equation.right.resize(2);
-    equation.right[1].second = species;
-    return equation;
+    equation.right[1].second = isCarbonicAcid ? "H2CO3" : "H2";
+    add(slips, equation, isCarbonicAcid ? sentences::carbonicAcid : sentences::hydrogenGas);
 }
 
-// The commoner ones first.
-std::vector<std::string> wrongTexts(const Equation& equation, const AcidRow& acid, const Base& base)
+void addAcidSalt(Slips& slips, const AcidRow& acid, const Base& base)
 {
-    const bool givesGas = isCarbonate(base);
-    std::vector<std::string> texts;
-    for (const Wrong& wrong :
-         {Wrong(skeletonOf(equation)), without(equation, givesGas ? "CO2" : "H2O"),
-          withWrongSalt(equation, acid, base), Wrong(doubled(equation)),
-          Wrong(withLast(equation, givesGas ? "H2CO3" : "H2")), withAcidSalt(acid, base)}) {
-        if (wrong.has_value()) {
-            texts.push_back(textOf(*wrong));
+    for (const AcidSaltRow& row : acidSalts) {
+        if (row.acid == acid.formula && row.cationCharge == base.cation->charge) {
+            add(slips, equationOf(row.acid, row.protons, row.anion, base), sentences::lessBase);
         }
     }
-    return texts;
 }
 
-// The marking knows what to say; what it takes as right, such as the formulas alone where all stand
-// once, is no slip.
-std::vector<Slip> slipsFor(const Equation& equation, const EquationAnswer& answer)
+Slips slipsFor(const Equation& equation, const EquationAnswer& answer)
 {
-    const std::vector<std::string> texts = wrongTexts(equation, *answer.acid, answer.base);
-    const std::vector<Mark> marks = markEquations(answer, texts);
-    std::vector<Slip> slips;
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        if (marks[i].verdict == Verdict::slip) {
-            slips.push_back({texts[i], std::nullopt, marks[i].sentence});
-        }
-    }
+    Slips slips;
+    addUnbalanced(slips, equation, answer);
+    addForgotten(slips, equation);
+    addWrongSalt(slips, equation, *answer.base.cation, anionOf(*answer.acid));
+    add(slips, doubled(equation), sentences::smallestNumbers);
+    addWrongProduct(slips, equation, isCarbonate(answer.base));
+    addAcidSalt(slips, *answer.acid, answer.base);
     return slips;
 }
 

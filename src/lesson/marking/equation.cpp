@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "lesson/compound.hpp"
+#include "lesson/marking/formula.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/marking/typed.hpp"
@@ -266,12 +267,6 @@ bool hasSameElements(const Atoms& a, const Atoms& b)
                       [](AtomCount x, AtomCount y) { return x.element == y.element; });
 }
 
-std::string replaced(std::string text, char what, char by)
-{
-    std::replace(text.begin(), text.end(), what, by);
-    return text;
-}
-
 std::string withoutBrackets(std::string text)
 {
     text.erase(std::remove(text.begin(), text.end(), '('), text.end());
@@ -292,16 +287,16 @@ bool isBracketMissing(const TypedTerm& term, const Role& role)
 std::string_view hintFor(const TypedTerm& term, const Role& role)
 {
     if (isBracketMissing(term, role)) {
-        return "What does the small number multiply?";
+        return sentences::bracketMissing;
     }
     const std::optional<IonsIn> ions = ionsIn(term.formula.atoms, *role.cation, *role.anion);
     if (ions.has_value() && ions->protons == 0) {
         const bool isNeutral =
             ions->cations * role.cation->charge + ions->anions * role.anion->charge == 0;
-        return isNeutral ? "Simplify." : "Check the charges.";
+        return isNeutral ? sentences::simplify : sentences::charges;
     }
     if (ions.has_value() && role.anion->charge < -1) {
-        return "Check the charges.";
+        return sentences::charges;
     }
     return hasSameElements(term.formula.atoms, role.atoms) ? "Check the ions in it." : "";
 }
@@ -327,7 +322,7 @@ std::string_view misspelling(const TypedTerm& term, const Role& role)
     if (isSpelledRightButForCapitals(term, role)) {
         return sentences::capitals;
     }
-    return replaced(term.formula.text, '0', 'O') == role.formula ? sentences::letterO : "";
+    return withLetterO(term.formula.text) == role.formula ? sentences::letterO : "";
 }
 
 Extra misspelt(const TermOnSide& typed, const Role& role)
@@ -341,9 +336,8 @@ Extra misspelt(const TermOnSide& typed, const Role& role)
     if (hint.empty()) {
         return {typed};
     }
-    const std::string start =
-        quotable(typed.term->formula.text) + " is not the " + std::string(role.noun) + ". ";
-    return {typed, Mistake::misspelt, start + std::string(hint), &role};
+    return {typed, Mistake::misspelt, sentences::isNot(typed.term->formula.text, role.noun, hint),
+            &role};
 }
 
 // With too little base the acid keeps a proton, with too little acid the carbonate takes only one.
@@ -354,12 +348,12 @@ Extra halfWay(const TermOnSide& typed, const Roles& roles)
     const Role& salt = roles[2];
     const std::optional<IonsIn> ions = ionsIn(atoms, *salt.cation, *salt.anion);
     if (ions.has_value() && isAcidSalt(*ions, *salt.cation, *salt.anion)) {
-        return {typed, Mistake::acidSalt, "True with less base. Neutralise completely.", &salt};
+        return {typed, Mistake::acidSalt, std::string(sentences::lessBase), &salt};
     }
     if (base.anion != nullptr && base.anion->formula == "CO3") {
         const std::optional<IonsIn> ofBase = ionsIn(atoms, *base.cation, *base.anion);
         if (ofBase.has_value() && isAcidSalt(*ofBase, *base.cation, *base.anion)) {
-            return {typed, Mistake::acidSalt, "True with less acid. Neutralise completely."};
+            return {typed, Mistake::acidSalt, std::string(sentences::lessAcid)};
         }
     }
     return {typed};
@@ -375,11 +369,10 @@ Extra explained(const TermOnSide& typed, const Roles& roles, const Assignment& a
     const Atoms& atoms = typed.term->formula.atoms;
     if (!typed.isOnTheLeft) {
         if (hasCarbonDioxide(roles) && atoms == atomsOf("H2CO3")) {
-            return {typed, Mistake::carbonicAcid, "It falls apart into water and carbon dioxide."};
+            return {typed, Mistake::carbonicAcid, std::string(sentences::carbonicAcid)};
         }
         if (atoms == atomsOf("H2")) {
-            return {typed, Mistake::hydrogenGas,
-                    "Acid and metal give hydrogen, not acid and base."};
+            return {typed, Mistake::hydrogenGas, std::string(sentences::hydrogenGas)};
         }
         Extra acidSalt = halfWay(typed, roles);
         if (acidSalt.mistake != Mistake::unknown) {
@@ -453,7 +446,8 @@ Mark markSubstances(const Roles& roles, const Assignment& assignment)
     }
     const int forgotten = forgottenProducts(roles, assignment, extras);
     if (forgotten > 0) {
-        return {Verdict::slip, forgotten == 1 ? "One more product." : "Two more products."};
+        return markOf(Verdict::slip,
+                      forgotten == 1 ? sentences::oneMoreProduct : "Two more products.");
     }
     for (const Mistake mistake : {Mistake::misspelt, Mistake::acidSalt}) {
         if (first(mistake) != nullptr) {
@@ -527,7 +521,7 @@ Mark markCoefficients(const TypedEquation& typed, const Roles& roles, const Assi
         return markUnbalanced(typed, roles, assignment);
     }
     if (*times != ratio(1)) {
-        return {Verdict::slip, "Balanced. Use the smallest whole numbers."};
+        return markOf(Verdict::slip, sentences::smallestNumbers);
     }
     if (assignment.wrongState != nullptr) {
         const std::string formula = quotable(assignment.wrongState->formula.text);
@@ -539,20 +533,28 @@ Mark markCoefficients(const TypedEquation& typed, const Roles& roles, const Assi
     return markOf(Verdict::correct, sentences::correct);
 }
 
-Mark markTyped(const Roles& roles, std::string_view typed)
+} // namespace
+
+std::string sentences::isNot(std::string_view formula, std::string_view role, std::string_view hint)
+{
+    return quotable(formula) + " is not the " + std::string(role) + ". " + std::string(hint);
+}
+
+Mark markEquation(const EquationAnswer& answer, std::string_view typed)
 {
     const std::string plain = plainTyped(typed);
     if (plain.empty()) {
         return {Verdict::unreadable, "Type formulas on both sides of an arrow: ->."};
     }
     const TypedEquation equation = readEquation(plain);
+    const Roles roles = rolesOf(answer);
     const Assignment assignment = assigned(equation, roles, false);
     if (!hasRightSubstances(assignment) &&
         isRight(equation, assigned(equation, roles, true), roles)) {
         return markOf(Verdict::slip, sentences::capitals);
     }
     if (!equation.unread.empty()) {
-        const TypedEquation withLetters = readEquation(replaced(plain, '0', 'O'));
+        const TypedEquation withLetters = readEquation(withLetterO(plain));
         if (isRight(withLetters, assigned(withLetters, roles, false), roles)) {
             return markOf(Verdict::slip, sentences::letterO);
         }
@@ -566,24 +568,6 @@ Mark markTyped(const Roles& roles, std::string_view typed)
     }
     return hasRightSubstances(assignment) ? markCoefficients(equation, roles, assignment)
                                           : markSubstances(roles, assignment);
-}
-
-} // namespace
-
-Mark markEquation(const EquationAnswer& answer, std::string_view typed)
-{
-    return markTyped(rolesOf(answer), typed);
-}
-
-std::vector<Mark> markEquations(const EquationAnswer& answer, const std::vector<std::string>& typed)
-{
-    const Roles roles = rolesOf(answer);
-    std::vector<Mark> marks;
-    marks.reserve(typed.size());
-    for (const std::string& text : typed) {
-        marks.push_back(markTyped(roles, text));
-    }
-    return marks;
 }
 
 } // namespace lesson

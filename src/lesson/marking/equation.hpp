@@ -2,19 +2,31 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "lesson/exercise.hpp"
 
 namespace lesson
 {
 
-// Marks a typed equation, in time proportional to the length. Common mistakes are told by what they
-// are, so that they need not be listed.
-Mark markEquation(const EquationAnswer& answer, std::string_view typed);
+// What the marking tells about common mistakes, which it knows by what they are: they need not be
+// listed for it.
+namespace sentences
+{
 
-// Several at once, for those who make exercises.
-std::vector<Mark> markEquations(const EquationAnswer& answer,
-                                const std::vector<std::string>& typed);
+constexpr std::string_view carbonicAcid = "It falls apart into water and carbon dioxide.";
+constexpr std::string_view hydrogenGas = "Acid and metal give hydrogen, not acid and base.";
+constexpr std::string_view oneMoreProduct = "One more product.";
+constexpr std::string_view lessBase = "True with less base. Neutralise completely.";
+constexpr std::string_view lessAcid = "True with less acid. Neutralise completely.";
+constexpr std::string_view smallestNumbers = "Balanced. Use the smallest whole numbers.";
+constexpr std::string_view charges = "Check the charges.";
+
+// "NaSO4 is not the salt. Check the charges."
+std::string isNot(std::string_view formula, std::string_view role, std::string_view hint);
+
+} // namespace sentences
+
+// Marks a typed equation, in time proportional to the length.
+Mark markEquation(const EquationAnswer& answer, std::string_view typed);
 
 } // namespace lesson

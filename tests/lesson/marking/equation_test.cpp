@@ -290,18 +290,6 @@ TEST(EquationMarkTest, States)
          {"HCl + NH4OH -> NH4Cl", Verdict::wrong, "Not right yet. NH4OH does not react here."}});
 }
 
-TEST(EquationMarkTest, ManyAtOnceAreMarkedAsOneByOne)
-{
-    const std::vector<std::string> typed = {"2HCl + Na2CO3 -> 2NaCl + H2O + CO2", "", "H2 -> H2"};
-    const std::vector<Mark> marks = markEquations(soda(), typed);
-    ASSERT_EQ(marks.size(), typed.size());
-    for (std::size_t i = 0; i < typed.size(); ++i) {
-        const Mark mark = markEquation(soda(), typed[i]);
-        EXPECT_EQ(marks[i].verdict, mark.verdict) << typed[i];
-        EXPECT_EQ(marks[i].sentence, mark.sentence) << typed[i];
-    }
-}
-
 std::string repeated(const std::string& piece, std::size_t length)
 {
     std::string text;
