@@ -30,14 +30,11 @@ export const texts = {
     hint: "Hint",
     solution: "Solution",
     key: "Answer",
+    // In front of the library's sentence, where that does not say so itself.
     verdicts: {
-        correct: "Right",
-        figures: "Nearly",
-        slip: "Not yet",
-        "power-of-ten": "Not yet",
-        close: "Nearly",
-        wrong: "Not yet",
-        unreadable: "Please type it again",
+        correct: "✓",
+        slip: "Not yet.",
+        "power-of-ten": "Not yet.",
     } as { [verdict: string]: string },
 
     hints: {

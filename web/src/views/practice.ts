@@ -82,7 +82,8 @@ function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exer
     function marked(mark: Mark): void {
         markLine.hidden = false;
         markLine.dataset["verdict"] = mark.verdict;
-        show(markLine, element("strong", {}, texts.verdicts[mark.verdict] ?? ""), " ", typesetSentence(mark.sentence, page.settings, page.names));
+        const word = element("strong", { "aria-hidden": mark.verdict === "correct" ? "true" : undefined }, texts.verdicts[mark.verdict] ?? "");
+        show(markLine, word, " ", typesetSentence(mark.sentence, page.settings, page.names));
     }
 
     form.addEventListener("submit", (event) => {
@@ -91,7 +92,7 @@ function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exer
         keep(state.afterMark(progress, mark));
         marked(mark);
         update();
-        announce(`${texts.verdicts[mark.verdict] ?? ""}. ${spokenSentence(mark.sentence, page.settings, page.names)}`);
+        announce(spokenMark(mark, page));
         (mark.verdict === "correct" ? nextButton : field).focus();
     });
 
@@ -161,6 +162,11 @@ function showSolution(box: HTMLElement, exercise: Exercise, progress: state.Prog
         const key = typesetSentence(exercise.key.text, page.settings, page.names);
         box.append(element("p", { class: "key" }, element("strong", {}, `${texts.key} `), key));
     }
+}
+
+function spokenMark(mark: Mark, page: Page): string {
+    const word = mark.verdict === "correct" ? "" : (texts.verdicts[mark.verdict] ?? "");
+    return `${word} ${spokenSentence(mark.sentence, page.settings, page.names)}`.trim();
 }
 
 function lastStepSpoken(exercise: Exercise, progress: state.Progress, page: Page): string {

@@ -1,6 +1,6 @@
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
-import { check, go, openChromium, openLesson, openPage, samples, type } from "./support.mjs";
+import { check, go, openChromium, openLesson, openPage, panel, samples, type } from "./support.mjs";
 
 let browser;
 let lesson;
@@ -20,7 +20,7 @@ for (const kind of samples) {
         await check(page);
         await page.locator(".mark[data-verdict=correct]").waitFor();
         assert.equal(await focusedText(page), "Next");
-        assert.match(await page.locator("#announcement").textContent(), /^$|^Right/);
+        assert.match(await page.locator("#announcement").textContent(), /^$|^Correct/);
         await page.keyboard.press("Enter");
         await page.getByRole("heading", { name: "Exercise 4" }).waitFor();
         assert.deepEqual(page.problems, []);
@@ -149,7 +149,7 @@ test("three in a row at the first try tick a kind, and the record can be cleared
         await page.getByRole("button", { name: "Next" }).click();
     }
     await page.getByRole("heading", { name: "Exercise 4" }).waitFor();
-    await page.getByText("My record").click();
+    await panel(page, "My record").click();
     const row = page.getByRole("row", { name: /Formula of an ion/ });
     assert.match(await row.innerText(), /✓/);
     assert.match(await row.innerText(), /3\s+0\s+0/);
@@ -160,7 +160,7 @@ test("three in a row at the first try tick a kind, and the record can be cleared
 
 test("the choice of kinds, levels and paper becomes the address", async () => {
     const page = await openPage(browser, "#practice/4821/3/titration");
-    await page.getByText("Choose exercises").click();
+    await panel(page, "Choose exercises").click();
     await page.locator("input[value='titration:2']").uncheck();
     await page.getByRole("button", { name: "Start" }).click();
     await page.getByText("Choose at least one level of one kind.").waitFor();
@@ -179,7 +179,7 @@ test("the choice of kinds, levels and paper becomes the address", async () => {
 
 test("units, decimal sign and names are as the reader wishes, and stay so", async () => {
     const page = await openPage(browser, "#practice/4821/3/titration");
-    await page.getByText("How it is written").click();
+    await panel(page, "How it is written").click();
     await page.getByLabel("cm³, dm³").check();
     await page.getByLabel("mol L⁻¹, mol dm⁻³").check();
     await page.getByLabel("Comma: 0,5").check();
@@ -205,7 +205,7 @@ test("two tabs keep their exercises apart and add to one record", async () => {
         await check(page);
         await page.locator(".mark[data-verdict=correct]").waitFor();
     }
-    await second.getByText("My record").click();
+    await panel(second, "My record").click();
     assert.match(await second.getByRole("row", { name: /Formula of an ion/ }).innerText(), /2\s+0\s+0/);
     await context.close();
 });
@@ -224,7 +224,7 @@ test("storage that is refused is no error", async () => {
     await type(page, lesson.exercise(4821, 1, "ion-formula:1").key.text);
     await check(page);
     await page.locator(".mark[data-verdict=correct]").waitFor();
-    await page.getByText("My record").click();
+    await panel(page, "My record").click();
     assert.match(await page.getByRole("row", { name: /Formula of an ion/ }).innerText(), /1\s+0\s+0/);
     assert.deepEqual(page.problems, []);
     await page.context().close();
