@@ -4,6 +4,6 @@ import { texts } from "../texts";
 
 export function showMessage(main: HTMLElement, message: string, goOn: () => void): () => void {
     const heading = element("h1", { tabindex: -1 }, message);
-    show(main, element("article", { class: "message" }, heading, button(texts.startAnew, goOn, { class: "main" })));
+    show(main, element("article", { class: "notice" }, heading, button(texts.startAnew, goOn, { class: "main" })));
     return () => heading.focus();
 }
