@@ -80,3 +80,8 @@ export async function type(page, text) {
 export async function check(page) {
     await page.getByRole("button", { name: "Check" }).click();
 }
+
+// What opens and closes one of the panels below the exercise.
+export function panel(page, title) {
+    return page.locator("summary", { hasText: title });
+}
