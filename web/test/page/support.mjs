@@ -85,3 +85,9 @@ export async function check(page) {
 export function panel(page, title) {
     return page.locator("summary", { hasText: title });
 }
+
+// What the live region says, once it says something.
+export async function announced(page) {
+    await page.waitForFunction(() => document.getElementById("announcement").textContent !== "");
+    return page.locator("#announcement").textContent();
+}
