@@ -1,8 +1,7 @@
 // The library's sentences are plain text with plain formulas, in the usual units and names: here they
-// get the reader's, and subscripts.
-import { element, spoken } from "./dom";
-import { formulaNodes, plainUnit, spokenFormula } from "./spans";
-import type { ElementInfo, IonInfo, Settings } from "./types";
+// become spans, and so get the reader's units and names, subscripts and a spoken form.
+import { speech, typeset } from "./spans";
+import type { ElementInfo, IonInfo, Settings, Span } from "./types";
 
 // Names that differ, British to American.
 export type Names = ReadonlyMap<string, string>;
@@ -11,37 +10,53 @@ export function namesOf(rows: (ElementInfo | IonInfo)[]): Names {
     return new Map(rows.flatMap((row) => (row.american ? [[row.name, row.american]] : [])));
 }
 
-// A formula is a word of element symbols and brackets with a digit in it.
-const formulas = /((?:[A-Z][a-z]?\d*|\((?:[A-Z][a-z]?\d*)+\)\d*|\.\d+)+)(?![a-z])/g;
-
 export function typesetSentence(sentence: string, settings: Settings, names: Names): DocumentFragment {
-    const line = document.createDocumentFragment();
-    localSentence(sentence, settings, names)
-        .split(formulas)
-        .forEach((part) => line.append(isFormula(part) ? typesetFormula(part) : part));
-    return line;
+    return typeset(spansOf(named(sentence, settings, names)), settings);
 }
 
 export function spokenSentence(sentence: string, settings: Settings, names: Names): string {
-    return localSentence(sentence, settings, names)
-        .split(formulas)
-        .map((part) => (isFormula(part) ? spokenFormula(part) : part))
-        .join("");
+    return speech(spansOf(named(sentence, settings, names)), settings);
 }
 
-function typesetFormula(formula: string): HTMLElement {
-    const visible = element("span", { "aria-hidden": "true" }, ...formulaNodes(formula));
-    return element("span", { class: "formula" }, visible, spoken(spokenFormula(formula)));
+// A number, perhaps with its unit; a unit; a formula or an ion; any other word. Whole words are taken,
+// so that no look behind one is needed, which Safari lacks before 16.4.
+const tokens = new RegExp(
+    [
+        /(\d+(?:\.\d+)?)(?: (mol\/L|g\/L|g\/mol|mL|L|g|mol)(?![\w/]))?/,
+        /(mol\/L|g\/L|g\/mol|mL|L)(?![\w/])/,
+        /((?:[A-Z][a-z]?\d*|\((?:[A-Z][a-z]?\d*)+\)\d*|\.\d+)+)(?:\^(\d?[+-]))?(?![a-z])/,
+        /\w+/,
+    ]
+        .map((token) => token.source)
+        .join("|"),
+    "g",
+);
+
+export function spansOf(sentence: string): Span[] {
+    const spans: Span[] = [];
+    let from = 0;
+    for (const found of sentence.matchAll(tokens)) {
+        const meant = spansOfToken(found);
+        if (meant.length > 0) {
+            spans.push({ text: sentence.slice(from, found.index) }, ...meant);
+            from = found.index + found[0].length;
+        }
+    }
+    return [...spans, { text: sentence.slice(from) }].filter((span) => !("text" in span) || span.text !== "");
 }
 
-function isFormula(part: string): boolean {
-    return /^[A-Z(]/.test(part) && /[a-zA-Z)]\d/.test(part);
-}
-
-function localSentence(sentence: string, settings: Settings, names: Names): string {
-    return named(sentence, settings, names)
-        .replace(/(?<![\w/])(mol\/L|g\/L|g\/mol|mL|L)(?![\w/])/g, (unit) => plainUnit(unit, settings))
-        .replace(/(?<=\d)\.(?=\d)/g, settings.decimal);
+// None for an ordinary word; an abbreviation such as "I" is one too.
+function spansOfToken([, number, numbersUnit, unit, formula, charge]: RegExpMatchArray): Span[] {
+    if (number !== undefined) {
+        return numbersUnit === undefined ? [{ number }] : [{ number }, { unit: numbersUnit }];
+    }
+    if (unit !== undefined) {
+        return [{ unit }];
+    }
+    if (formula === undefined) {
+        return [];
+    }
+    return charge !== undefined ? [{ ion: formula, charge }] : /[a-zA-Z)]\d/.test(formula) ? [{ formula }] : [];
 }
 
 function named(sentence: string, settings: Settings, names: Names): string {

@@ -20,7 +20,7 @@ export function speech(spans: Span[], settings: Settings): string {
 }
 
 function typesetSpan(span: Span, settings: Settings): Node {
-    if ("text" in span) {
+    if ("text" in span && speechOf(span, settings) === span.text) {
         return document.createTextNode(span.text);
     }
     if ("name" in span) {
@@ -29,12 +29,15 @@ function typesetSpan(span: Span, settings: Settings): Node {
     if ("number" in span && !span.number.includes("e")) {
         return element("span", { class: "number" }, localNumber(span.number, settings));
     }
-    return element("span", { class: classOf(span) }, seen(span, settings), spoken(` ${speechOf(span, settings)} `));
+    // The blank in front keeps it off what stands before, and no full stop off what it ends.
+    return element("span", { class: classOf(span) }, seen(span, settings), spoken(` ${speechOf(span, settings)}`));
 }
 
 function seen(span: Span, settings: Settings): HTMLElement {
     const visible = element("span", { "aria-hidden": "true" });
-    if ("formula" in span) {
+    if ("text" in span) {
+        visible.append(span.text);
+    } else if ("formula" in span) {
         visible.append(...formulaNodes(span.formula));
     } else if ("ion" in span) {
         visible.append(...formulaNodes(span.ion), element("sup", {}, signed(span.charge)));

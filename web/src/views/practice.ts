@@ -159,7 +159,7 @@ function showSolution(box: HTMLElement, exercise: Exercise, progress: state.Prog
     const heading = element("h2", {}, steps === 1 ? texts.hint : texts.solution);
     show(box, heading, list);
     if (state.isShownWhole(progress, exercise.solution.length)) {
-        const key = typesetSentence(exercise.key.text, page.settings, page.names);
+        const key = typesetSentence(exercise.key.text.replace("->", "→"), page.settings, page.names);
         box.append(element("p", { class: "key" }, element("strong", {}, `${texts.key} `), key));
     }
 }
