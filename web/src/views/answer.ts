@@ -1,6 +1,6 @@
 // The field for an answer: its label and hint, the signs to insert, and what the page makes of what
 // is being typed. Nothing here knows chemistry: digits behind letters are set low, charges high.
-import { button, element, show } from "../dom";
+import { button, element, show, spoken } from "../dom";
 import { formulaNodes, plainUnit, spokenUnit, localUnit, typeset } from "../spans";
 import { texts } from "../texts";
 import type { Ask, Settings, Span } from "../types";
@@ -104,7 +104,7 @@ function hintOf(ask: Ask, settings: Settings): Node | string {
     const seen = texts.numberHint(ask.figures, plainUnit(ask.unit, settings));
     const said = texts.numberHint(ask.figures, spokenUnit(localUnit(ask.unit, settings)));
     const hint = document.createDocumentFragment();
-    hint.append(element("span", { "aria-hidden": "true" }, seen), element("span", { class: "spoken" }, said));
+    hint.append(element("span", { "aria-hidden": "true" }, seen), spoken(said));
     return hint;
 }
 
@@ -116,8 +116,9 @@ function keysOf(ask: Ask, input: HTMLInputElement, update: () => void): HTMLElem
             input.focus();
             update();
         };
-        const made = button("", press, { "aria-label": texts.keyNames[key] ?? key });
-        show(made, ...previewNodes(key === "->" ? "→" : key));
+        const made = button("", press);
+        const seen = element("span", { "aria-hidden": "true" }, ...previewNodes(key));
+        show(made, seen, spoken(texts.keyNames[key] ?? key));
         // The field keeps the focus, and a tablet its keyboard.
         made.addEventListener("pointerdown", (event) => event.preventDefault());
         row.append(made);
@@ -147,8 +148,8 @@ function numberNodes(text: string, settings: Settings): Node[] {
 
 // A formula, an ion or an equation as it is being typed.
 export function previewNodes(text: string): Node[] {
-    const arrows = text.replace(/-+>|=>/g, " → ").slice(0, 300);
-    return arrows.split(/(\^\{?[\d+-−]*\}?)/).flatMap((part): Node[] =>
+    const arrows = text.replace(/ *(?:-+>|=>) */g, " → ").slice(0, 300);
+    return arrows.split(/(\^\{?[\d+−-]*\}?)/).flatMap((part): Node[] =>
         part.startsWith("^")
             ? [element("sup", {}, part.replace(/[\^{}]/g, "").replaceAll("-", "−"))]
             : formulaNodes(part.replace(/_\{?(\d+)\}?/g, "$1")),

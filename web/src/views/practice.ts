@@ -28,7 +28,7 @@ export function showPractice(main: HTMLElement, route: PracticeRoute, exercise: 
 }
 
 // header       h1 and what exercise it is
-// div.prompt
+// p.prompt
 // figure       where there is a drawing
 // form         the field, Check
 // p.mark
@@ -105,7 +105,7 @@ function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exer
     show(
         article,
         headerOf(route, exercise, page),
-        element("div", { class: "prompt" }, typeset(exercise.prompt, page.settings)),
+        element("p", { class: "prompt" }, typeset(exercise.prompt, page.settings)),
         ...(drawing === null ? [] : [drawing]),
         form,
         markLine,

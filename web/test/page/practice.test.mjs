@@ -229,3 +229,19 @@ test("storage that is refused is no error", async () => {
     assert.deepEqual(page.problems, []);
     await page.context().close();
 });
+
+const previews = [
+    ["compound-formula:2", "Ca(OH)2", "Ca(OH)<sub>2</sub>"],
+    ["compound-formula:2", "Mg^2+(I^-)2", "Mg<sup>2+</sup>(I<sup>−</sup>)<sub>2</sub>"],
+    ["ion-formula:2", "SO4^2-", "SO<sub>4</sub><sup>2−</sup>"],
+    ["neutralisation:2", "2H2 + O2 -> 2H2O", "2H<sub>2</sub> + O<sub>2</sub> → 2H<sub>2</sub>O"],
+];
+
+for (const [kind, typed, shown] of previews) {
+    test(`${typed} is shown typeset while it is typed`, async () => {
+        const page = await openPage(browser, `#practice/4821/3/${kind}`);
+        await type(page, typed);
+        assert.equal(await page.locator(".preview").innerHTML(), `Read as ${shown}`);
+        await page.context().close();
+    });
+}
