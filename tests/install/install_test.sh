@@ -19,6 +19,8 @@ share/doc/chempractice/CHANGELOG.md
 share/doc/chempractice/LICENSE
 share/doc/chempractice/README.md
 share/doc/chempractice/docs/dialogue.svg
+share/doc/chempractice/docs/lesson.md
+share/doc/chempractice/docs/page.png
 share/doc/chempractice/docs/peculiarities.md
 share/man/man6/chempractice.6
 END

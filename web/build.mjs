@@ -1,0 +1,51 @@
+// Makes the one file: the scripts bundled, the module inside them as compressed bytes, the styles, and
+// a policy that allows these by their hashes and forbids every connection.
+//   node build.mjs LESSON.WASM PRACTICE.HTML
+import { createHash } from "node:crypto";
+import { mkdir, readFile, writeFile } from "node:fs/promises";
+import { dirname, join, resolve } from "node:path";
+import { fileURLToPath } from "node:url";
+import { deflateRawSync } from "node:zlib";
+import { build } from "esbuild";
+
+const here = dirname(fileURLToPath(import.meta.url));
+const [wasm, target] = process.argv.slice(2);
+
+await mkdir(dirname(target), { recursive: true });
+const compressed = resolve(dirname(target), "lesson.bin");
+await writeFile(compressed, deflateRawSync(await readFile(wasm), { level: 9 }));
+
+const script = await bundle("src/main.ts");
+const style = await bundle("style/page.css");
+const policy = [
+    "default-src 'none'",
+    `script-src '${hashOf(script)}' 'wasm-unsafe-eval'`,
+    `style-src '${hashOf(style)}'`,
+    "img-src data:",
+    "base-uri 'none'",
+    "form-action 'none'",
+].join("; ");
+
+const page = Object.entries({ POLICY: policy, STYLE: style, SCRIPT: script }).reduce(
+    (html, [place, text]) => html.replace(place, () => text),
+    await readFile(join(here, "index.html"), "utf8"),
+);
+await writeFile(target, page);
+
+async function bundle(entry) {
+    const result = await build({
+        entryPoints: [join(here, entry)],
+        bundle: true,
+        write: false,
+        minify: true,
+        charset: "utf8",
+        target: ["safari15", "chrome90", "firefox90"],
+        loader: { ".bin": "binary" },
+        alias: { "lesson.bin": compressed },
+    });
+    return result.outputFiles[0].text.trim().replaceAll("</script", "<\\/script").replaceAll("<!--", "<\\!--");
+}
+
+function hashOf(text) {
+    return `sha256-${createHash("sha256").update(text).digest("base64")}`;
+}

@@ -1,0 +1,23 @@
+import type { Exercise, KindInfo, Lesson, Mark, Tables } from "../types";
+import { type Exports, withTexts } from "./memory";
+
+// The lesson library behind its five functions.
+export function lessonOf(module: Exports): Lesson {
+    return {
+        kinds: () => JSON.parse(withTexts(module, [], module.lesson_kinds)) as KindInfo[],
+        tables: () => JSON.parse(withTexts(module, [], module.lesson_tables)) as Tables,
+        exercise(paper, number, kinds) {
+            const json = withTexts(module, [kinds], (kind) =>
+                module.lesson_exercise(paper, number, kind!),
+            );
+            const result = JSON.parse(json) as Exercise | { error: string };
+            return "error" in result ? null : result;
+        },
+        mark(paper, number, kinds, typed) {
+            const json = withTexts(module, [kinds, typed], (kind, text) =>
+                module.lesson_mark(paper, number, kind!, text!),
+            );
+            return JSON.parse(json) as Mark;
+        },
+    };
+}

@@ -1,0 +1,58 @@
+// The one file that touches the memory of the WebAssembly module.
+import { inflateSync } from "fflate";
+
+export interface Exports {
+    memory: WebAssembly.Memory;
+    _initialize(): void;
+    malloc(size: number): number;
+    free(address: number): void;
+    lesson_kinds(): number;
+    lesson_exercise(paper: number, number: number, kind: number): number;
+    lesson_mark(paper: number, number: number, kind: number, typed: number): number;
+    lesson_tables(): number;
+}
+
+const encoder = new TextEncoder();
+const decoder = new TextDecoder();
+
+// From compressed bytes, a third of the size. DecompressionStream would do, but Safari has it only
+// from version 16.4 on. Compiled asynchronously: older browsers refuse a module of this size at once.
+export async function instantiate(compressed: Uint8Array): Promise<Exports> {
+    const { instance } = await WebAssembly.instantiate(inflateSync(compressed), {});
+    const exports = instance.exports as unknown as Exports;
+    exports._initialize();
+    return exports;
+}
+
+// Calls with texts put into the module's memory, and takes them out again afterwards. A zero byte
+// would end the text for the module, so it goes as a replacement character.
+export function withTexts(
+    module: Exports,
+    texts: string[],
+    call: (...addresses: number[]) => number,
+): string {
+    const addresses = texts.map((text) => put(module, text.replaceAll("\0", "\uFFFD")));
+    try {
+        return take(module, call(...addresses));
+    } finally {
+        addresses.forEach((address) => module.free(address));
+    }
+}
+
+function put(module: Exports, text: string): number {
+    const bytes = encoder.encode(text);
+    const address = module.malloc(bytes.length + 1);
+    if (address === 0) {
+        throw new Error("no memory for the typed text");
+    }
+    const memory = new Uint8Array(module.memory.buffer);
+    memory.set(bytes, address);
+    memory[address + bytes.length] = 0;
+    return address;
+}
+
+// The views on the memory are made anew each time: it moves when it grows.
+function take(module: Exports, address: number): string {
+    const memory = new Uint8Array(module.memory.buffer);
+    return decoder.decode(memory.subarray(address, memory.indexOf(0, address)));
+}

@@ -1,0 +1,4 @@
+declare module "lesson.bin" {
+    const bytes: Uint8Array<ArrayBuffer>;
+    export default bytes;
+}

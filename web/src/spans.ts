@@ -1,0 +1,180 @@
+// A line of spans as elements: what is seen and what is said stand side by side. The visible form is
+// hidden from a screen reader where it would be read wrongly, and the spoken form from the eye.
+import { element, spoken } from "./dom";
+import type { Settings, Span } from "./types";
+
+export function typeset(spans: Span[], settings: Settings): DocumentFragment {
+    const line = document.createDocumentFragment();
+    spans.forEach((span, at) => {
+        if (at > 0 && "unit" in span && "number" in spans[at - 1]!) {
+            line.append("\u202F"); // a thin blank that does not break
+        }
+        line.append(typesetSpan(span, settings));
+    });
+    return line;
+}
+
+// The same as a screen reader says it; for labels and announcements.
+export function speech(spans: Span[], settings: Settings): string {
+    return spans.map((span) => speechOf(span, settings)).join(" ").replace(/\s+/g, " ").replace(/ ([.,;:?])/g, "$1").trim();
+}
+
+function typesetSpan(span: Span, settings: Settings): Node {
+    if ("text" in span && speechOf(span, settings) === span.text) {
+        return document.createTextNode(span.text);
+    }
+    if ("name" in span) {
+        return document.createTextNode(nameOf(span, settings));
+    }
+    if ("number" in span && !span.number.includes("e")) {
+        return element("span", { class: "number" }, localNumber(span.number, settings));
+    }
+    // The blank in front keeps it off what stands before, and no full stop off what it ends.
+    return element("span", { class: classOf(span) }, seen(span, settings), spoken(` ${speechOf(span, settings)}`));
+}
+
+function seen(span: Span, settings: Settings): HTMLElement {
+    const visible = element("span", { "aria-hidden": "true" });
+    if ("text" in span) {
+        visible.append(span.text);
+    } else if ("formula" in span) {
+        visible.append(...formulaNodes(span.formula));
+    } else if ("ion" in span) {
+        visible.append(...formulaNodes(span.ion), element("sup", {}, signed(span.charge)));
+    } else if ("quantity" in span) {
+        visible.append(element("var", {}, span.quantity));
+        if (span.index !== undefined) {
+            visible.append(element("sub", {}, span.index));
+        }
+        if (span.of !== undefined) {
+            visible.append("(", ...formulaNodes(span.of), ")");
+        }
+    } else if ("number" in span) {
+        const [digits = "", exponent = ""] = localNumber(span.number, settings).split("e");
+        visible.append(`${digits}\u202F×\u202F10`, element("sup", {}, signed(exponent)));
+    } else if ("unit" in span) {
+        visible.append(...unitNodes(localUnit(span.unit, settings)));
+    } else if ("fraction" in span) {
+        visible.append(
+            element("span", { class: "over" }, typeset(span.fraction[0], settings)),
+            element("span", { class: "under" }, typeset(span.fraction[1], settings)),
+        );
+    }
+    return visible;
+}
+
+function classOf(span: Span): string {
+    return Object.keys(span)[0]!;
+}
+
+function speechOf(span: Span, settings: Settings): string {
+    if ("text" in span) {
+        return span.text.replaceAll("→", " gives ").replaceAll("×", " times ").replaceAll("−", " minus ").replaceAll("/", " over ");
+    }
+    if ("name" in span) {
+        return nameOf(span, settings);
+    }
+    if ("formula" in span) {
+        return spokenFormula(span.formula);
+    }
+    if ("ion" in span) {
+        return `${spokenFormula(span.ion)} ${spokenCharge(span.charge)}`;
+    }
+    if ("quantity" in span) {
+        const index = span.index === undefined ? "" : ` ${span.index}`;
+        return `${span.quantity}${index}${span.of === undefined ? "" : ` of ${spokenFormula(span.of)}`}`;
+    }
+    if ("number" in span) {
+        const [digits = "", exponent = ""] = localNumber(span.number, settings).split("e");
+        return exponent === "" ? digits : `${digits} times 10 to the ${exponent.replace("-", "minus ")}`;
+    }
+    if ("unit" in span) {
+        return spokenUnit(localUnit(span.unit, settings));
+    }
+    return `${speech(span.fraction[0], settings)} over ${speech(span.fraction[1], settings)}`;
+}
+
+// Digits behind a letter or a bracket are subscripts; those at the front of a part count it.
+export function formulaNodes(formula: string): Node[] {
+    const nodes: Node[] = [];
+    for (const part of formula.replaceAll(".", "·").match(/[A-Za-z)\]]\d+|[^]/g) ?? []) {
+        nodes.push(document.createTextNode(part.slice(0, 1)));
+        if (part.length > 1) {
+            nodes.push(element("sub", {}, part.slice(1)));
+        }
+    }
+    return nodes;
+}
+
+// "H2SO4" as it is said, "H 2 S O 4".
+export function spokenFormula(formula: string): string {
+    return formula
+        .replace(/[()[\]]/g, " bracket ")
+        .replaceAll(".", " dot ")
+        .replace(/([A-Z][a-z]?|\d+)/g, " $1 ")
+        .replace(/([A-Z])([a-z])/g, "$1 $2")
+        .replace(/\s+/g, " ")
+        .trim();
+}
+
+function spokenCharge(charge: string): string {
+    return charge.replace("+", " plus").replace("-", " minus").trim();
+}
+
+function signed(text: string): string {
+    return text.replace("-", "−");
+}
+
+function nameOf(span: { name: string; american?: string }, settings: Settings): string {
+    return settings.names === "american" && span.american !== undefined ? span.american : span.name;
+}
+
+export function localNumber(number: string, settings: Settings): string {
+    return number.replace(".", settings.decimal);
+}
+
+// "mol/L" with the reader's volume and fraction line: "mol dm-3".
+export function localUnit(unit: string, settings: Settings): string {
+    const volumes = settings.volume === "cm3" ? unit.replace("mL", "cm3").replace(/L$/, "dm3") : unit;
+    const [above = "", below] = volumes.split("/");
+    if (below === undefined || settings.per === "slash") {
+        return volumes;
+    }
+    return below.endsWith("3") ? `${above} ${below.slice(0, -1)}-3` : `${above} ${below}-1`;
+}
+
+function unitNodes(unit: string): Node[] {
+    const nodes: Node[] = [];
+    for (const part of unit.match(/[A-Za-z]-?\d|[^]/g) ?? []) {
+        const [letter = "", ...power] = part;
+        nodes.push(document.createTextNode(letter === " " ? "\u202F" : letter));
+        if (power.length > 0) {
+            nodes.push(element("sup", {}, signed(power.join(""))));
+        }
+    }
+    return nodes;
+}
+
+const spokenUnits: Record<string, string> = {
+    "mL": "millilitres",
+    "cm3": "cubic centimetres",
+    "L": "litres",
+    "dm3": "cubic decimetres",
+    "g": "grams",
+    "mol": "moles",
+    "g/mol": "grams per mole",
+    "g mol-1": "grams per mole",
+    "mol/L": "moles per litre",
+    "mol L-1": "moles per litre",
+    "mol/dm3": "moles per cubic decimetre",
+    "mol dm-3": "moles per cubic decimetre",
+};
+
+export function spokenUnit(unit: string): string {
+    return spokenUnits[unit] ?? unit;
+}
+
+// As plain text, for a label or a file: "mol dm⁻³".
+export function plainUnit(unit: string, settings: Settings): string {
+    return localUnit(unit, settings).replace("-3", "⁻³").replace("-1", "⁻¹").replace(/([a-z])3/, "$1³");
+}

@@ -1,0 +1,48 @@
+// What one exercise has come to, as data and pure steps from one state to the next.
+import type { Result, Progress } from "./storage";
+import type { Mark, Verdict } from "./types";
+
+export type { Progress } from "./storage";
+
+// So many failed tries, and help is offered.
+export const triesBeforeHelp = 2;
+
+const harmless: ReadonlySet<Verdict> = new Set(["unreadable", "figures", "close"]);
+
+// A try that counts is one that was read and was neither nearly right nor only badly rounded.
+export function afterMark(progress: Progress, mark: Mark): Progress {
+    const marked = { ...progress, checked: true };
+    if (progress.result !== null) {
+        return marked;
+    }
+    if (mark.verdict === "correct") {
+        return { ...marked, result: solvedHow(progress) };
+    }
+    return { ...marked, failed: progress.failed + (harmless.has(mark.verdict) ? 0 : 1) };
+}
+
+function solvedHow(progress: Progress): Result {
+    return progress.failed === 0 && progress.steps === 0 ? "first" : "help";
+}
+
+// The first press shows the first step's words alone, as a hint; each further one a whole step.
+export function afterStep(progress: Progress, all: number): Progress {
+    const steps = Math.min(progress.steps + 1, all + 1);
+    return { ...progress, steps, result: steps > all ? (progress.result ?? "shown") : progress.result };
+}
+
+export function afterAnswer(progress: Progress, all: number): Progress {
+    return { ...progress, steps: all + 1, result: progress.result ?? "shown" };
+}
+
+export function typed(progress: Progress, text: string): Progress {
+    return { ...progress, typed: text, checked: false };
+}
+
+export function offersHelp(progress: Progress): boolean {
+    return progress.result === null && progress.failed >= triesBeforeHelp && progress.steps === 0;
+}
+
+export function isShownWhole(progress: Progress, all: number): boolean {
+    return progress.steps > all;
+}

@@ -1,0 +1,140 @@
+// What the parts of the page tell each other. Imports nothing.
+
+// One piece of a line; the library says what it is, so that the page guesses nothing.
+export type Span =
+    | { text: string }
+    | { formula: string }
+    | { ion: string; charge: string }
+    | { quantity: string; of?: string; index?: string }
+    | { number: string }
+    | { unit: string }
+    | { fraction: [Span[], Span[]] }
+    | { name: string; american?: string };
+
+export type Form = "number" | "formula" | "ion" | "equation" | "solubility";
+
+export interface Ask {
+    form: Form;
+    quantity?: string;
+    of?: string;
+    unit?: string;
+    figures?: number;
+    choices?: string[];
+}
+
+export interface GivenQuantity {
+    quantity: string;
+    of: string;
+    value: number;
+    unit: string;
+    shown: string;
+    shownUnit: string;
+    titres?: number[];
+}
+
+export type Given =
+    | GivenQuantity
+    | { ion: string; charge: number; name: string }
+    | { compound: string; name: string };
+
+export interface Step {
+    say: Span[];
+    math?: Span[];
+}
+
+export interface Exercise {
+    version: number;
+    paper: number;
+    number: number;
+    kind: string;
+    level: number;
+    prompt: Span[];
+    ask: Ask;
+    given: Given[];
+    equation?: { left: [number, string][]; right: [number, string][] };
+    key: { text: string; value?: number };
+    solution: Step[];
+    slips: { text: string; value?: number; sentence: string }[];
+}
+
+export type Verdict =
+    | "correct"
+    | "figures"
+    | "slip"
+    | "power-of-ten"
+    | "close"
+    | "wrong"
+    | "unreadable";
+
+export interface Mark {
+    verdict: Verdict;
+    sentence: string;
+}
+
+export interface KindInfo {
+    kind: string;
+    title: string;
+    levels: string[];
+}
+
+export interface ElementInfo {
+    number: number;
+    symbol: string;
+    name: string;
+    american?: string;
+    mass: string;
+    period: number;
+    group: number;
+}
+
+export interface IonInfo {
+    name: string;
+    american?: string;
+    formula: string;
+    charge: number;
+}
+
+export interface PairInfo {
+    cation: string;
+    anion: string;
+    formula?: string; // where the compound exists
+    verdict: "soluble" | "insoluble" | "not asked";
+    reason: string;
+}
+
+export interface Tables {
+    elements: ElementInfo[];
+    ions: IonInfo[];
+    pairs: PairInfo[];
+}
+
+// The lesson library. `exercise` gives null where the address names none.
+export interface Lesson {
+    kinds(): KindInfo[];
+    exercise(paper: number, number: number, kinds: string): Exercise | null;
+    mark(paper: number, number: number, kinds: string, typed: string): Mark;
+    tables(): Tables;
+}
+
+export interface PracticeRoute {
+    view: "practice";
+    paper: number;
+    number: number;
+    kinds: string; // as the library reads it: "titration:1,dilution", "mixed"
+    set: number; // so many exercises and then a summary; 0 without end
+}
+
+export type Route =
+    | PracticeRoute
+    | { view: "sheet"; rest: string }
+    | { view: "tables" }
+    | { view: "none" } // nothing is asked for: the page chooses
+    | { view: "bad"; message: string };
+
+// How quantities and names are written; chosen by the reader, kept on the device.
+export interface Settings {
+    volume: "mL" | "cm3";
+    per: "slash" | "power"; // mol/L or mol L⁻¹
+    decimal: "." | ",";
+    names: "british" | "american";
+}

@@ -1,0 +1,157 @@
+// The field for an answer: its label and hint, the signs to insert, and what the page makes of what
+// is being typed. Nothing here knows chemistry: digits behind letters are set low, charges high.
+import { button, element, show, spoken } from "../dom";
+import { formulaNodes, plainUnit, spokenUnit, localUnit, typeset } from "../spans";
+import { texts } from "../texts";
+import type { Ask, Settings, Span } from "../types";
+
+export interface AnswerField {
+    element: HTMLElement;
+    text(): string;
+    set(text: string): void;
+    focus(): void;
+}
+
+const keys: Partial<Record<Ask["form"], string[]>> = {
+    formula: ["(", ")", "."],
+    ion: ["^2+", "^3+", "^2-", "^3-", "+", "-"],
+    equation: ["->", "+", "(", ")"],
+    solubility: ["(", ")"],
+};
+
+export function answerField(ask: Ask, settings: Settings, changed: () => void): AnswerField {
+    return ask.choices === undefined ? typedField(ask, settings, changed) : choiceField(ask.choices, changed);
+}
+
+// fieldset
+//   legend
+//   label … input type=radio
+function choiceField(words: string[], changed: () => void): AnswerField {
+    const radios = words.map((word) => element("input", { type: "radio", name: "answer", value: word }));
+    const labels = words.map((word, at) => element("label", { class: "word" }, radios[at]!, texts.choiceOf[word] ?? word));
+    const box = element("fieldset", { class: "answer" }, element("legend", {}, texts.dissolves), ...labels);
+    box.addEventListener("change", changed);
+    return {
+        element: box,
+        text: () => radios.find((radio) => radio.checked)?.value ?? "",
+        set: (text) => radios.forEach((radio) => (radio.checked = radio.value === text)),
+        focus: () => (radios.find((radio) => radio.checked) ?? radios[0]!).focus(),
+    };
+}
+
+// div.answer
+//   label
+//   div.field    what is asked for =, input, unit
+//   p#hint
+//   div.keys
+//   p.preview
+function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerField {
+    const input = element("input", {
+        id: "answer",
+        type: "text",
+        autocapitalize: "off",
+        autocorrect: "off",
+        autocomplete: "off",
+        spellcheck: "false",
+        enterkeyhint: "go",
+        "aria-describedby": "hint",
+    });
+    const preview = element("p", { class: "preview", hidden: true });
+    const update = () => {
+        showPreview(preview, ask, input.value, settings);
+        changed();
+    };
+    input.addEventListener("input", update);
+    const box = element(
+        "div",
+        { class: "answer" },
+        element("label", { for: "answer" }, ...labelOf(ask, settings)),
+        element("div", { class: "field" }, input, unitOf(ask, settings)),
+        element("p", { id: "hint", class: "hint" }, hintOf(ask, settings)),
+        keysOf(ask, input, update),
+        preview,
+    );
+    return {
+        element: box,
+        text: () => input.value,
+        set: (text) => {
+            input.value = text;
+            showPreview(preview, ask, text, settings);
+        },
+        focus: () => input.focus(),
+    };
+}
+
+function labelOf(ask: Ask, settings: Settings): (Node | string)[] {
+    if (ask.quantity === undefined) {
+        return [texts.answer];
+    }
+    const [symbol = "", index] = [ask.quantity.slice(0, 1), ask.quantity.slice(1)];
+    const span: Span = { quantity: symbol, ...(index ? { index } : {}), ...(ask.of ? { of: ask.of } : {}) };
+    return [`${texts.answer}: `, typeset([span], settings), " ="];
+}
+
+function unitOf(ask: Ask, settings: Settings): Node | string {
+    return ask.unit === undefined
+        ? ""
+        : element("span", { class: "asked", "aria-hidden": "true" }, typeset([{ unit: ask.unit }], settings));
+}
+
+function hintOf(ask: Ask, settings: Settings): Node | string {
+    if (ask.unit === undefined || ask.figures === undefined) {
+        return texts.hints[ask.form] ?? "";
+    }
+    const seen = texts.numberHint(ask.figures, plainUnit(ask.unit, settings));
+    const said = texts.numberHint(ask.figures, spokenUnit(localUnit(ask.unit, settings)));
+    const hint = document.createDocumentFragment();
+    hint.append(element("span", { "aria-hidden": "true" }, seen), spoken(said));
+    return hint;
+}
+
+function keysOf(ask: Ask, input: HTMLInputElement, update: () => void): HTMLElement {
+    const row = element("div", { class: "keys", role: "group", "aria-label": texts.keysFor });
+    for (const key of keys[ask.form] ?? []) {
+        const press = () => {
+            input.setRangeText(key, input.selectionStart ?? 0, input.selectionEnd ?? 0, "end");
+            input.focus();
+            update();
+        };
+        const made = button("", press);
+        const seen = element("span", { "aria-hidden": "true" }, ...previewNodes(key));
+        show(made, seen, spoken(texts.keyNames[key] ?? key));
+        // The field keeps the focus, and a tablet its keyboard.
+        made.addEventListener("pointerdown", (event) => event.preventDefault());
+        row.append(made);
+    }
+    row.hidden = row.childElementCount === 0;
+    return row;
+}
+
+function showPreview(preview: HTMLElement, ask: Ask, text: string, settings: Settings): void {
+    const nodes = ask.form === "number" ? numberNodes(text, settings) : previewNodes(text);
+    const plain = nodes.every((node) => node.nodeType === Node.TEXT_NODE);
+    preview.hidden = text.trim() === "" || (plain && !text.includes("->"));
+    show(preview, `${texts.preview} `, ...nodes);
+}
+
+// "3.42e-2 mol/L" with its power of ten.
+function numberNodes(text: string, settings: Settings): Node[] {
+    const parts = /^\s*([-+]?[\d.,]+)\s*(?:e|(?:x|×|\*|·)\s*10\s*(?:\^|\*\*))\s*([-+−]?\d+)(.*)$/i.exec(text);
+    if (parts === null) {
+        return [document.createTextNode(text)];
+    }
+    const [, digits = "", exponent = "", rest = ""] = parts;
+    return [typeset([{ number: `${digits}e${exponent}` }], settings), document.createTextNode(rest)].flatMap((node) =>
+        node instanceof DocumentFragment ? [...node.childNodes] : [node],
+    );
+}
+
+// A formula, an ion or an equation as it is being typed.
+export function previewNodes(text: string): Node[] {
+    const arrows = text.replace(/ *(?:-+>|=>) */g, " → ").slice(0, 300);
+    return arrows.split(/(\^\{?[\d+−-]*\}?)/).flatMap((part): Node[] =>
+        part.startsWith("^")
+            ? [element("sup", {}, part.replace(/[\^{}]/g, "").replaceAll("-", "−"))]
+            : formulaNodes(part.replace(/_\{?(\d+)\}?/g, "$1")),
+    );
+}

@@ -1,0 +1,45 @@
+// How quantities and names are written.
+import { element } from "../dom";
+import * as storage from "../storage";
+import { texts } from "../texts";
+import type { Settings } from "../types";
+import type { Page } from "./page";
+
+type Choices<Key extends keyof Settings> = { value: Settings[Key]; label: string }[];
+
+export function displayPanel(page: Page, changed: () => void): HTMLElement {
+    return element(
+        "details",
+        {},
+        element("summary", {}, texts.display),
+        group(page, changed, "volume", texts.volume, [
+            { value: "mL", label: "mL, L" },
+            { value: "cm3", label: "cm³, dm³" },
+        ]),
+        group(page, changed, "per", texts.per, [
+            { value: "slash", label: "mol/L, mol/dm³" },
+            { value: "power", label: "mol L⁻¹, mol dm⁻³" },
+        ]),
+        group(page, changed, "decimal", texts.decimal, [
+            { value: ".", label: texts.point },
+            { value: ",", label: texts.comma },
+        ]),
+        group(page, changed, "names", texts.names, [
+            { value: "british", label: `${texts.british}: aluminium, ethanoate` },
+            { value: "american", label: `${texts.american}: aluminum, acetate` },
+        ]),
+    );
+}
+
+function group<Key extends keyof Settings>(page: Page, changed: () => void, key: Key, legend: string, choices: Choices<Key>): HTMLElement {
+    const labels = choices.map(({ value, label }) => {
+        const radio = element("input", { type: "radio", name: `setting-${key}`, checked: page.settings[key] === value });
+        radio.addEventListener("change", () => {
+            page.settings = { ...page.settings, [key]: value };
+            storage.keepSettings(page.settings);
+            changed();
+        });
+        return element("label", { class: "word" }, radio, label);
+    });
+    return element("fieldset", {}, element("legend", {}, legend), ...labels);
+}

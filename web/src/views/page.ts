@@ -1,0 +1,20 @@
+import type { Names } from "../sentence";
+import type { KindInfo, Lesson, Settings } from "../types";
+
+// What every view gets from the page around it.
+export interface Page {
+    readonly lesson: Lesson;
+    readonly kinds: KindInfo[];
+    readonly names: Names;
+    settings: Settings;
+    // Goes to another address, which the reader can leave with Back.
+    go(address: string): void;
+}
+
+export function titleOf(page: Page, kind: string): string {
+    return page.kinds.find((info) => info.kind === kind)?.title ?? kind;
+}
+
+export function randomPaper(): number {
+    return 1 + Math.floor(Math.random() * 999999);
+}

@@ -1,0 +1,177 @@
+// The data that the exercises use, read from the library.
+import { button, element, show } from "../dom";
+import { typeset } from "../spans";
+import { typesetSentence } from "../sentence";
+import { texts } from "../texts";
+import type { ElementInfo, IonInfo, PairInfo, Tables } from "../types";
+import type { Page } from "./page";
+
+export function showTables(main: HTMLElement, page: Page): () => void {
+    const tables = page.lesson.tables();
+    const heading = element("h1", { tabindex: -1 }, texts.tablesTitle);
+    show(
+        main,
+        element(
+            "article",
+            { class: "tables" },
+            heading,
+            section(texts.elementsTitle, texts.elementsNote, periodicTable(tables.elements, page)),
+            section(texts.ionsTitle, "", ionTables(tables.ions, page)),
+            section(texts.solubilityTitle, texts.solubilityNote, solubilityGrid(tables, page)),
+            section(texts.differTitle, texts.differNote, notAsked(tables.pairs, page)),
+        ),
+    );
+    return () => heading.focus();
+}
+
+function section(title: string, note: string, body: Node): HTMLElement {
+    const notes = note === "" ? [] : [element("p", { class: "hint" }, note)];
+    return element("section", {}, element("h2", {}, title), ...notes, body);
+}
+
+// A wide table scrolls in a box of its own, which the keyboard reaches.
+function scrolling(label: string, table: HTMLElement): HTMLElement {
+    return element("div", { class: "scrolling", role: "region", "aria-label": label, tabindex: 0 }, table);
+}
+
+// Rows 8 and 9 are the lanthanides and actinides, column by column below the others.
+function periodicTable(elements: ElementInfo[], page: Page): HTMLElement {
+    const rows = Array.from({ length: 9 }, () => new Map<number, ElementInfo>());
+    const seriesLength = [0, 0];
+    for (const row of elements) {
+        const series = row.group === 0 ? row.period - 6 : -1;
+        if (series < 0) {
+            rows[row.period - 1]!.set(row.group, row);
+        } else {
+            seriesLength[series]! += 1;
+            rows[7 + series]!.set(3 + seriesLength[series]!, row);
+        }
+    }
+    const body = rows.map((row) => element("tr", {}, ...Array.from({ length: 18 }, (_, at) => elementCell(row.get(at + 1), page))));
+    const table = element("table", { class: "periodic" }, element("tbody", {}, ...body));
+    return scrolling(texts.elementsTitle, table);
+}
+
+function elementCell(row: ElementInfo | undefined, page: Page): HTMLElement {
+    if (row === undefined) {
+        return element("td", { class: "none" });
+    }
+    return element(
+        "td",
+        {},
+        element("span", { class: "atomic" }, String(row.number)),
+        element("abbr", { title: nameOf(row, page) }, row.symbol),
+        element("span", { class: "mass" }, row.mass.replace(".", page.settings.decimal)),
+    );
+}
+
+function nameOf(row: ElementInfo | IonInfo, page: Page): string {
+    return page.settings.names === "american" && row.american ? row.american : row.name;
+}
+
+function ionTables(ions: IonInfo[], page: Page): HTMLElement {
+    const half = (title: string, wanted: (charge: number) => boolean) =>
+        element(
+            "table",
+            {},
+            element("caption", {}, title),
+            element("thead", {}, element("tr", {}, element("th", { scope: "col" }, texts.ionName), element("th", { scope: "col" }, texts.ionFormula))),
+            element("tbody", {}, ...ions.filter((ion) => wanted(ion.charge)).map((ion) => ionRow(ion, page))),
+        );
+    return element(
+        "div",
+        { class: "halves" },
+        half(texts.cations, (charge) => charge > 0),
+        half(texts.anions, (charge) => charge < 0),
+    );
+}
+
+function ionRow(ion: IonInfo, page: Page): HTMLElement {
+    const size = Math.abs(ion.charge) === 1 ? "" : String(Math.abs(ion.charge));
+    const charge = `${size}${ion.charge < 0 ? "-" : "+"}`;
+    return element(
+        "tr",
+        {},
+        element("th", { scope: "row" }, nameOf(ion, page)),
+        element("td", {}, typeset([{ ion: ion.formula, charge }], page.settings)),
+    );
+}
+
+// A grid with one cell at a time in the order of the Tab key; the arrow keys go on from it.
+function solubilityGrid(tables: Tables, page: Page): HTMLElement {
+    const asked = tables.pairs;
+    const cations = [...new Set(asked.map((pair) => pair.cation))];
+    const anions = [...new Set(asked.map((pair) => pair.anion))];
+    const named = new Map(tables.ions.map((ion) => [ion.name, ion]));
+    const reason = element("p", { class: "reason", role: "status" });
+    const cells = new Map(asked.map((pair) => [`${pair.cation}|${pair.anion}`, pairButton(pair, reason, page)]));
+    const rows = cations.map((cation) =>
+        element(
+            "tr",
+            {},
+            element("th", { scope: "row" }, named.has(cation) ? nameOf(named.get(cation)!, page) : cation),
+            ...anions.map((anion) => element("td", {}, cells.get(`${cation}|${anion}`) ?? "")),
+        ),
+    );
+    const heads = anions.map((anion) => element("th", { scope: "col" }, element("span", {}, named.has(anion) ? nameOf(named.get(anion)!, page) : anion)));
+    const table = element("table", { class: "solubility" }, element("thead", {}, element("tr", {}, element("td", {}), ...heads)), element("tbody", {}, ...rows));
+    walkWithArrows([...cells.values()], anions.length);
+    return element("div", {}, element("p", { class: "hint" }, texts.signNotes), reason, scrolling(texts.solubilityTitle, table));
+}
+
+function pairButton(pair: PairInfo, reason: HTMLElement, page: Page): HTMLButtonElement {
+    const made = button(texts.signs[pair.verdict] ?? pair.verdict, () => show(reason, ...reasonOf(pair, page)), {
+        "aria-label": `${pair.cation} ${pair.anion}: ${pair.verdict}`,
+        "data-verdict": pair.verdict,
+        tabindex: -1,
+    });
+    return made;
+}
+
+function reasonOf(pair: PairInfo, page: Page): Node[] {
+    const colon = document.createTextNode(`: ${pair.verdict}. `);
+    return [compoundOf(pair, page), colon, typesetSentence(pair.reason, page.settings, page.names)];
+}
+
+// Its formula, or its name where there is no such compound.
+function compoundOf(pair: PairInfo, page: Page): Node {
+    const name = `${pair.cation} ${pair.anion}`;
+    return pair.formula === undefined ? typesetSentence(name, page.settings, page.names) : typeset([{ formula: pair.formula }], page.settings);
+}
+
+const arrows: Record<string, [number, number]> = { ArrowLeft: [0, -1], ArrowRight: [0, 1], ArrowUp: [-1, 0], ArrowDown: [1, 0] };
+
+function walkWithArrows(cells: HTMLButtonElement[], columns: number): void {
+    cells[0]?.setAttribute("tabindex", "0");
+    cells.forEach((cell, at) =>
+        cell.addEventListener("keydown", (event) => {
+            const [down, right] = arrows[event.key] ?? [0, 0];
+            const column = (at % columns) + right;
+            const next = cells[at + down * columns + right];
+            if ((down === 0 && right === 0) || next === undefined || column < 0 || column >= columns) {
+                return;
+            }
+            event.preventDefault();
+            cell.setAttribute("tabindex", "-1");
+            next.setAttribute("tabindex", "0");
+            next.focus();
+        }),
+    );
+}
+
+function notAsked(pairs: PairInfo[], page: Page): HTMLElement {
+    const reasons = new Map<string, PairInfo[]>();
+    for (const pair of pairs.filter((candidate) => candidate.verdict === "not asked")) {
+        reasons.set(pair.reason, [...(reasons.get(pair.reason) ?? []), pair]);
+    }
+    const rows = [...reasons].map(([reason, those]) =>
+        element(
+            "li",
+            {},
+            ...those.flatMap((pair, at) => [at === 0 ? "" : ", ", compoundOf(pair, page)]),
+            ": ",
+            typesetSentence(reason, page.settings, page.names),
+        ),
+    );
+    return element("details", {}, element("summary", {}, texts.differTitle), element("ul", {}, ...rows));
+}

@@ -1,0 +1,78 @@
+// Who may import whom: one list, so that the page keeps its shape.
+import assert from "node:assert/strict";
+import { readdirSync, readFileSync } from "node:fs";
+import { dirname, join, normalize } from "node:path";
+import { test } from "node:test";
+import { fileURLToPath } from "node:url";
+
+const source = join(dirname(fileURLToPath(import.meta.url)), "../src");
+
+const allowed = {
+    "types": [],
+    "texts": [],
+    "dom": [],
+    "storage": ["types"],
+    "state": ["storage", "types"],
+    "address": ["texts", "types"],
+    "spans": ["dom", "types"],
+    "sentence": ["spans", "types"],
+    "engine/memory": ["fflate"],
+    "engine/lesson": ["engine/memory", "types"],
+    "views/page": ["sentence", "types"],
+    "views/answer": ["dom", "spans", "texts", "types"],
+    "views/choice": ["address", "dom", "texts", "types", "views/page"],
+    "views/display": ["dom", "storage", "texts", "types", "views/page"],
+    "views/drawing": ["dom", "spans", "texts", "types"],
+    "views/message": ["dom", "texts"],
+    "views/practice": [
+        "address", "dom", "sentence", "spans", "state", "storage", "texts", "types",
+        "views/answer", "views/choice", "views/display", "views/drawing", "views/page", "views/record",
+    ],
+    "views/record": ["dom", "storage", "texts", "views/page"],
+    "views/summary": ["address", "dom", "storage", "texts", "types", "views/page", "views/practice"],
+    "views/tables": ["dom", "sentence", "spans", "texts", "types", "views/page"],
+    "main": [
+        "address", "dom", "engine/lesson", "engine/memory", "lesson.bin", "sentence", "storage", "texts", "types",
+        "views/message", "views/page", "views/practice", "views/summary", "views/tables",
+    ],
+};
+
+function modules(folder = "") {
+    return readdirSync(join(source, folder), { withFileTypes: true }).flatMap((entry) => {
+        const path = join(folder, entry.name);
+        return entry.isDirectory() ? modules(path) : path.endsWith(".d.ts") ? [] : [path.replace(/\.ts$/, "")];
+    });
+}
+
+function importsOf(module) {
+    const text = readFileSync(join(source, `${module}.ts`), "utf8");
+    const names = [...text.matchAll(/\bfrom "([^"]+)"/g)].map((found) => found[1]);
+    return names.map((name) => (name.startsWith(".") ? normalize(join(dirname(module), name)) : name));
+}
+
+test("every module is in the list, and the list holds no other", () => {
+    assert.deepEqual(modules().sort(), Object.keys(allowed).sort());
+});
+
+for (const module of modules()) {
+    test(`${module} imports only what it may`, () => {
+        for (const name of importsOf(module)) {
+            assert.ok(allowed[module].includes(name), `${module} imports ${name}`);
+        }
+    });
+}
+
+test("only engine/memory touches the module's memory, and nothing makes markup from text", () => {
+    for (const module of modules()) {
+        const text = readFileSync(join(source, `${module}.ts`), "utf8");
+        assert.ok(module === "engine/memory" || !/memory\.buffer/.test(text), module);
+        assert.ok(!/innerHTML|outerHTML|insertAdjacentHTML|document\.write/.test(text), module);
+    }
+});
+
+// Safari before 16.4 takes such an expression for a mistake, and then runs nothing of the page.
+test("no regular expression looks behind", () => {
+    for (const module of modules()) {
+        assert.doesNotMatch(readFileSync(join(source, `${module}.ts`), "utf8"), /\(\?<[=!]/, module);
+    }
+});

@@ -1,0 +1,111 @@
+// What axe finds in every state of the page, and what a screen reader gets of an exercise.
+//   APPROVE=1    writes the approved texts anew instead of comparing with them
+import axe from "axe-core";
+import assert from "node:assert/strict";
+import { readFile, writeFile } from "node:fs/promises";
+import { after, before, test } from "node:test";
+import { fileURLToPath } from "node:url";
+import { answerWith, press, states, verdicts } from "./states.mjs";
+import { announced, check, openChromium, openLesson, openPage, type } from "./support.mjs";
+
+let browser;
+let lesson;
+before(async () => {
+    browser = await openChromium();
+    lesson = await openLesson();
+});
+after(() => browser.close());
+
+async function violations(page) {
+    const results = await page.evaluate(() => window.axe.run());
+    return results.violations.map(({ id, help, nodes }) => `${id}: ${help}: ${nodes.map((node) => node.html.slice(0, 150)).join(" | ")}`);
+}
+
+for (const [name, hash, reach] of states) {
+    test(`${name}: axe finds nothing, light or dark`, async () => {
+        const page = await openPage(browser, hash);
+        await reach(page);
+        await page.evaluate(axe.source);
+        for (const colorScheme of ["light", "dark"]) {
+            await page.emulateMedia({ colorScheme });
+            assert.deepEqual(await violations(page), [], colorScheme);
+        }
+        assert.deepEqual(page.problems, []);
+        await page.context().close();
+    });
+}
+
+test("the live region is there at load, and empty", async () => {
+    for (const hash of ["#practice/4821/3/titration:3", "#tables", "#practice/0/1/mixed"]) {
+        const page = await openPage(browser, hash);
+        const region = page.getByRole("status").and(page.locator("#announcement"));
+        assert.equal(await region.count(), 1, hash);
+        assert.equal(await region.textContent(), "", hash);
+        await page.context().close();
+    }
+});
+
+test("a mark that is shown again after a reload is not announced", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration:3");
+    await answerWith(page, verdicts.slip, "slip");
+    await page.reload();
+    await page.locator(".mark").waitFor();
+    await page.waitForTimeout(200);
+    assert.equal(await page.locator("#announcement").textContent(), "");
+    await page.context().close();
+});
+
+const described = {
+    "titration:3": ["Your answer: c of K O H =", "A number in moles per litre, to 3 significant figures."],
+    "compound-formula:3": ["Your answer", "A formula, for example Ca(OH)2. Small numbers are typed as ordinary ones."],
+    "ion-formula:3": ["Your answer", "An ion with its charge, for example SO4^2- or NH4+."],
+    "neutralisation:3": ["Your answer", "A balanced equation, for example 2H2 + O2 -> 2H2O."],
+    "solubility:3": ["Your answer", "A formula, or the word none."],
+};
+
+// By the browser's own tree, which is what a screen reader is given.
+async function fieldInTree(page) {
+    const client = await page.context().newCDPSession(page);
+    const { nodes } = await client.send("Accessibility.getFullAXTree");
+    const field = nodes.find((node) => node.role?.value === "textbox" && !node.ignored);
+    return [field.name.value, field.description?.value].map((text) => text?.replace(/\s+/g, " ").trim());
+}
+
+for (const [kind, [label, hint]] of Object.entries(described)) {
+    test(`the field for ${kind} has a label and tells how to fill it`, async () => {
+        const page = await openPage(browser, `#practice/4821/3/${kind}`);
+        assert.deepEqual(await fieldInTree(page), [label, hint]);
+        await page.context().close();
+    });
+}
+
+test("choices are a group with a question", async () => {
+    const page = await openPage(browser, "#practice/4821/3/solubility:1");
+    const group = page.getByRole("group", { name: "Does it dissolve?" });
+    assert.deepEqual(await group.getByRole("radio").count(), 2);
+    await page.context().close();
+});
+
+async function compareWithApproved(name, text) {
+    const file = fileURLToPath(new URL(`approved/${name}`, import.meta.url));
+    if (process.env.APPROVE === "1") {
+        await writeFile(file, text);
+    }
+    assert.equal(text, await readFile(file, "utf8"));
+}
+
+test("a screen reader's view of a titration, its mark and its solution is the approved one", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration:2");
+    const { slips } = lesson.exercise(4821, 3, "titration:2");
+    const parts = ["== The exercise", await page.getByRole("main").ariaSnapshot()];
+    await type(page, slips[0].text);
+    await check(page);
+    parts.push(`== "${slips[0].text}" is announced as`, await announced(page), "== The mark", await page.locator(".mark").ariaSnapshot());
+    for (const which of ["the hint", "step 1", "step 2", "step 3", "step 4"]) {
+        await press(page, "Show a step");
+        parts.push(`== ${which} is announced as`, await announced(page));
+    }
+    parts.push("== The solution", await page.getByRole("region", { name: "Solution" }).ariaSnapshot());
+    await compareWithApproved("titration.txt", `${parts.join("\n\n")}\n`);
+    await page.context().close();
+});

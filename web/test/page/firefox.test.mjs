@@ -1,0 +1,59 @@
+// In Firefox, from a file: the first exercise of each kind, a mark, the tables.
+import assert from "node:assert/strict";
+import { existsSync } from "node:fs";
+import { after, before, test } from "node:test";
+import puppeteer from "puppeteer-core";
+import { address, openLesson } from "./support.mjs";
+
+const executablePath = process.env.FIREFOX ?? "/usr/bin/firefox-esr";
+const skip = existsSync(executablePath) ? false : `there is no ${executablePath}`;
+
+const lesson = await openLesson();
+let browser;
+let page;
+const problems = [];
+before(async () => {
+    if (skip) {
+        return;
+    }
+    browser = await puppeteer.launch({ browser: "firefox", executablePath, headless: true });
+    page = await browser.newPage();
+    page.on("pageerror", (error) => problems.push(`error: ${error.message}`));
+    page.on("request", (request) => request.url().split("#")[0] !== address && !request.url().startsWith("data:") && problems.push(`request: ${request.url()}`));
+});
+after(() => browser?.close());
+
+// Loads the page anew: from one address of a file to another it would only go on.
+async function open(hash) {
+    await page.goto("about:blank");
+    await page.goto(address + hash);
+    await page.waitForSelector("h1");
+}
+
+const textOf = (selector) => page.$eval(selector, (element) => element.textContent);
+
+for (const { kind, title } of lesson.kinds()) {
+    test(`${kind}: its first exercise, and a right answer`, { skip }, async () => {
+        const exercise = lesson.exercise(1, 1, kind);
+        await open(`#practice/1/1/${kind}`);
+        assert.equal(await textOf("h1"), "Exercise 1");
+        assert.equal(await textOf(".which"), `${title}, level ${exercise.level} · Paper 1`);
+        if (exercise.ask.choices === undefined) {
+            await page.type("#answer", exercise.key.text);
+        } else {
+            await page.click(`input[name=answer][value="${exercise.key.text}"]`);
+        }
+        await page.click("form button[type=submit]");
+        await page.waitForSelector(".mark[data-verdict=correct]");
+        assert.equal(await page.evaluate(() => document.activeElement.textContent), "Next");
+        assert.deepEqual(problems, []);
+    });
+}
+
+test("the tables, and the reason of a pair", { skip }, async () => {
+    await open("#tables");
+    assert.ok((await page.$$(".periodic abbr")).length > 100);
+    await page.click(".solubility button");
+    assert.match(await textOf(".reason"), /: (soluble|insoluble|not asked)\. \w/);
+    assert.deepEqual(problems, []);
+});

@@ -1,0 +1,109 @@
+import assert from "node:assert/strict";
+import { after, before, test } from "node:test";
+import { address, check, go, openChromium, openPage, type } from "./support.mjs";
+
+let browser;
+before(async () => {
+    browser = await openChromium();
+});
+after(() => browser.close());
+
+const markup = "<img src=x onerror=window.hit=1><b>bold</b>";
+const encoded = encodeURIComponent(markup);
+
+const addresses = [
+    "#practice/0/1/titration",
+    "#practice/1/0/titration",
+    "#practice/1000000/1/titration",
+    "#practice/1/1/alchemy",
+    "#practice/1/1/titration:4",
+    "#practice/1/1/titration,titration:2",
+    "#practice/1/1/mixed,titration",
+    "#practice/1/1/mixed?v=2",
+    `#practice/${encoded}/1/mixed`,
+    `#practice/1/${encoded}/mixed`,
+    `#practice/1/1/${encoded}`,
+    `#practice/1/1/mixed?set=${encoded}`,
+    `#practice/1/1/mixed?v=${encoded}`,
+    `#${encoded}`,
+    `#tables/${encoded}`,
+    `#sheet/${encoded}`,
+    "#%",
+    "#/",
+    "#?",
+];
+
+for (const hash of addresses) {
+    test(`${decodeURIComponent(hash === "#%" ? "#" : hash).slice(0, 60)}: a plain message and a way on`, async () => {
+        const page = await openPage(browser, hash);
+        assert.equal(await page.locator("main img, main b").count(), 0);
+        assert.equal(await page.evaluate(() => window.hit), undefined);
+        await page.getByRole("button", { name: "Start with a new paper" }).click();
+        await page.getByRole("heading", { name: "Exercise 1" }).waitFor();
+        assert.deepEqual(page.problems, []);
+        await page.context().close();
+    });
+}
+
+test("an address of ten million characters is a bad address like any other", async () => {
+    const page = await openPage(browser);
+    await page.evaluate(() => (location.hash = `#practice/1/1/${"a".repeat(10_000_000)}`));
+    await page.getByText("This address does not name an exercise of this page.").waitFor();
+    await page.context().close();
+});
+
+for (const kind of ["titration", "compound-formula", "ion-formula", "neutralisation", "solubility:3"]) {
+    test(`${kind}: markup that is typed stays text, in the preview, the mark and after a reload`, async () => {
+        const page = await openPage(browser, `#practice/1/1/${kind}`);
+        await type(page, markup);
+        await check(page);
+        await page.locator(".mark").waitFor();
+        await page.reload();
+        await page.locator(".mark").waitFor();
+        assert.equal(await page.locator("main img, main b").count(), 0);
+        assert.equal(await page.evaluate(() => window.hit), undefined);
+        assert.deepEqual(page.problems, []);
+        await page.context().close();
+    });
+}
+
+test("control characters, a zero byte and half of a pair are typed without harm", async () => {
+    const page = await openPage(browser, "#practice/1/1/compound-formula");
+    await page.evaluate(() => {
+        document.getElementById("answer").value = "Na\0Cl\uD800\u0007\u202E";
+        document.getElementById("answer").dispatchEvent(new Event("input"));
+    });
+    await check(page);
+    await page.locator(".mark").waitFor();
+    assert.deepEqual(page.problems, []);
+    await page.context().close();
+});
+
+test("the policy forbids every connection, and scripts and styles that were not built in", async () => {
+    const page = await openPage(browser);
+    const policy = await page.locator("meta[http-equiv]").getAttribute("content");
+    assert.match(policy, /default-src 'none'/);
+    assert.doesNotMatch(policy, /unsafe-inline|unsafe-eval'(?<!wasm-unsafe-eval')|connect-src|https?:/);
+    const refused = await page.evaluate(async () => {
+        const outcomes = await Promise.allSettled([fetch("https://example.org/"), fetch("data:text/plain,x")]);
+        const script = document.createElement("script");
+        script.textContent = "window.ran = 1";
+        document.head.append(script);
+        return [outcomes.every((outcome) => outcome.status === "rejected"), window.ran === undefined];
+    });
+    assert.deepEqual(refused, [true, true]);
+    await page.context().close();
+});
+
+test("nothing is asked of any network, whatever is done", async () => {
+    const page = await openPage(browser, "#practice/1/1/titration");
+    await type(page, "0.1");
+    await check(page);
+    await page.getByRole("button", { name: "Show the answer" }).click();
+    await go(page, "#tables");
+    await page.getByRole("heading", { name: "Tables" }).waitFor();
+    await page.getByText("How it is written").count();
+    assert.deepEqual(page.problems, []);
+    assert.equal(page.url().split("#")[0], address);
+    await page.context().close();
+});

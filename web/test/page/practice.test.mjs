@@ -1,0 +1,247 @@
+import assert from "node:assert/strict";
+import { after, before, test } from "node:test";
+import { check, go, openChromium, openLesson, openPage, panel, samples, type } from "./support.mjs";
+
+let browser;
+let lesson;
+before(async () => {
+    browser = await openChromium();
+    lesson = await openLesson();
+});
+after(() => browser.close());
+
+const focusedText = (page) => page.evaluate(() => document.activeElement.textContent);
+const focusedId = (page) => page.evaluate(() => document.activeElement.id);
+
+for (const kind of samples) {
+    test(`${kind}: a right answer is right, and the focus goes on to Next`, async () => {
+        const page = await openPage(browser, `#practice/4821/3/${kind}`);
+        await type(page, lesson.exercise(4821, 3, kind).key.text);
+        await check(page);
+        await page.locator(".mark[data-verdict=correct]").waitFor();
+        assert.equal(await focusedText(page), "Next");
+        assert.match(await page.locator("#announcement").textContent(), /^$|^Correct/);
+        await page.keyboard.press("Enter");
+        await page.getByRole("heading", { name: "Exercise 4" }).waitFor();
+        assert.deepEqual(page.problems, []);
+        await page.context().close();
+    });
+}
+
+test("a wrong answer keeps the focus in the field, and after two of them help is offered", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration");
+    for (const [tries, offered] of [[1, false], [2, true]]) {
+        await type(page, "777");
+        await page.keyboard.press("Enter");
+        await page.locator(".mark").waitFor();
+        assert.equal(await focusedId(page), "answer");
+        assert.equal(await page.locator(".offer").isVisible(), offered, `after ${tries}`);
+    }
+    await page.context().close();
+});
+
+test("what cannot be read is no try", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration");
+    for (let i = 0; i < 3; ++i) {
+        await type(page, "about a litre, I think");
+        await check(page);
+    }
+    assert.equal(await page.locator(".offer").isVisible(), false);
+    assert.equal(await page.locator(".mark").getAttribute("data-verdict"), "unreadable");
+    await page.context().close();
+});
+
+test("Show a step gives words first, then a step a press, and at last the answer", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration");
+    const step = page.getByRole("button", { name: "Show a step" });
+    const all = lesson.exercise(4821, 3, "titration").solution.length;
+    await step.click();
+    assert.equal(await page.locator(".solution li").count(), 1);
+    assert.equal(await page.locator(".solution .math").count(), 0);
+    for (let shown = 1; shown <= all; ++shown) {
+        await step.click();
+        assert.equal(await page.locator(".solution li").count(), shown);
+        assert.equal(await page.locator(".solution .math").count(), shown);
+    }
+    assert.equal(await page.locator(".key").isVisible(), true);
+    assert.equal(await step.isVisible(), false);
+    assert.equal(await focusedText(page), "Next");
+    await page.context().close();
+});
+
+test("a reload loses nothing: what was typed, the mark, the steps that were shown", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration");
+    await type(page, "777");
+    await check(page);
+    await page.getByRole("button", { name: "Show a step" }).click();
+    const before = await page.locator("article").innerText();
+    await page.reload();
+    await page.locator(".mark").waitFor();
+    assert.equal(await page.locator("#answer").inputValue(), "777");
+    assert.equal(await page.locator("article").innerText(), before);
+    await page.context().close();
+});
+
+test("Back and Forward go from exercise to exercise", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration");
+    await page.getByRole("button", { name: "Next" }).click();
+    await page.getByRole("heading", { name: "Exercise 4" }).waitFor();
+    await page.goBack();
+    await page.getByRole("heading", { name: "Exercise 3" }).waitFor();
+    await page.goForward();
+    await page.getByRole("heading", { name: "Exercise 4" }).waitFor();
+    await page.context().close();
+});
+
+test("Another like this stays with the kind and level that was drawn", async () => {
+    const page = await openPage(browser, "#practice/4821/1/mixed");
+    const { kind, level } = lesson.exercise(4821, 1, "mixed");
+    await page.getByRole("button", { name: "Another like this" }).click();
+    await page.getByRole("heading", { name: "Exercise 2" }).waitFor();
+    assert.match(page.url(), new RegExp(`#practice/4821/2/${kind}:${level}\\?`));
+    await page.context().close();
+});
+
+test("the bare page draws a paper, and its address shows the same exercise again", async () => {
+    const page = await openPage(browser);
+    assert.match(page.url(), /#practice\/\d+\/1\/mixed\?v=1$/);
+    const hash = new URL(page.url()).hash;
+    const prompt = await page.locator(".prompt").innerText();
+    const again = await openPage(browser, hash);
+    assert.equal(await again.locator(".prompt").innerText(), prompt);
+    await page.context().close();
+    await again.context().close();
+});
+
+test("a set of exercises ends in a summary of what was solved how", async () => {
+    const page = await openPage(browser, "#practice/4821/1/molar-mass:1?set=5&v=1");
+    await type(page, lesson.exercise(4821, 1, "molar-mass:1").key.text);
+    await check(page);
+    await page.getByRole("button", { name: "Next" }).click();
+    await page.getByRole("heading", { name: "Exercise 2 of 5" }).waitFor();
+    await type(page, "1234567");
+    await check(page);
+    await type(page, lesson.exercise(4821, 2, "molar-mass:1").key.text);
+    await check(page);
+    await page.getByRole("button", { name: "Next" }).click();
+    await page.getByRole("heading", { name: "Exercise 3 of 5" }).waitFor();
+    await page.getByRole("button", { name: "Show the answer" }).click();
+    await page.getByRole("button", { name: "Next" }).click();
+    await page.getByRole("heading", { name: "Exercise 4 of 5" }).waitFor();
+    await page.getByRole("button", { name: "Next" }).click();
+    await page.getByRole("button", { name: "Finish" }).click();
+    await page.getByRole("heading", { name: "Summary of paper 4821" }).waitFor();
+    const cells = await page.locator(".summary tr td:last-child").allInnerTexts();
+    assert.deepEqual(cells, ["solved at the first try", "solved with help", "answer shown", "not solved", "not solved"]);
+    const download = page.waitForEvent("download");
+    await page.getByRole("button", { name: "Save" }).click();
+    assert.equal((await download).suggestedFilename(), "paper-4821-summary.txt");
+    assert.deepEqual(page.problems.filter((problem) => !problem.includes("blob:")), []);
+    await page.context().close();
+});
+
+test("three in a row at the first try tick a kind, and the record can be cleared", async () => {
+    const page = await openPage(browser, "#practice/4821/1/ion-formula:1");
+    for (let number = 1; number <= 3; ++number) {
+        await page.getByRole("heading", { name: `Exercise ${number}` }).waitFor();
+        await type(page, lesson.exercise(4821, number, "ion-formula:1").key.text);
+        await check(page);
+        await page.getByRole("button", { name: "Next" }).click();
+    }
+    await page.getByRole("heading", { name: "Exercise 4" }).waitFor();
+    await panel(page, "My record").click();
+    const row = page.getByRole("row", { name: /Formula of an ion/ });
+    assert.match(await row.innerText(), /✓/);
+    assert.match(await row.innerText(), /3\s+0\s+0/);
+    await page.getByRole("button", { name: "Clear my record" }).click();
+    await page.getByText("Nothing solved yet on this device.").waitFor();
+    await page.context().close();
+});
+
+test("the choice of kinds, levels and paper becomes the address", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration");
+    await panel(page, "Choose exercises").click();
+    await page.locator("input[value='titration:2']").uncheck();
+    await page.getByRole("button", { name: "Start" }).click();
+    await page.getByText("Choose at least one level of one kind.").waitFor();
+    await page.locator("input[value='dilution:3']").check();
+    await page.locator("input[value='solubility:2']").check();
+    await page.getByLabel("Paper", { exact: true }).fill("0");
+    await page.getByRole("button", { name: "Start" }).click();
+    await page.getByText("A paper is a number from 1 to 999999.", { exact: true }).waitFor();
+    await page.getByLabel("Paper", { exact: true }).fill("12");
+    await page.getByLabel("How many").selectOption("10");
+    await page.getByRole("button", { name: "Start" }).click();
+    await page.getByRole("heading", { name: "Exercise 1 of 10" }).waitFor();
+    assert.equal(new URL(page.url()).hash, "#practice/12/1/solubility,dilution:3?set=10&v=1");
+    await page.context().close();
+});
+
+test("units, decimal sign and names are as the reader wishes, and stay so", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration");
+    await panel(page, "How it is written").click();
+    await page.getByLabel("cm³, dm³").check();
+    await page.getByLabel("mol L⁻¹, mol dm⁻³").check();
+    await page.getByLabel("Comma: 0,5").check();
+    const prompt = await page.locator(".prompt").innerText();
+    assert.match(prompt, /cm3|cm\n?3/);
+    assert.doesNotMatch(prompt, /mL/);
+    assert.match(prompt, /\d,\d/);
+    await page.reload();
+    await page.locator(".prompt").waitFor();
+    assert.equal(await page.locator(".prompt").innerText(), prompt);
+    await go(page, "#practice/4821/1/compound-formula:1");
+    await page.context().close();
+});
+
+test("two tabs keep their exercises apart and add to one record", async () => {
+    const context = await browser.newContext();
+    const first = await openPage(browser, "#practice/4821/1/ion-formula:1", { context });
+    const second = await openPage(browser, "#practice/4821/1/ion-formula:1", { context });
+    await type(first, "Zz");
+    assert.equal(await second.locator("#answer").inputValue(), "");
+    for (const page of [first, second]) {
+        await type(page, lesson.exercise(4821, 1, "ion-formula:1").key.text);
+        await check(page);
+        await page.locator(".mark[data-verdict=correct]").waitFor();
+    }
+    await panel(second, "My record").click();
+    assert.match(await second.getByRole("row", { name: /Formula of an ion/ }).innerText(), /2\s+0\s+0/);
+    await context.close();
+});
+
+test("storage that is refused is no error", async () => {
+    const refuse = () => {
+        for (const name of ["localStorage", "sessionStorage"]) {
+            Object.defineProperty(window, name, {
+                get() {
+                    throw new DOMException("refused", "SecurityError");
+                },
+            });
+        }
+    };
+    const page = await openPage(browser, "#practice/4821/1/ion-formula:1", { before: refuse });
+    await type(page, lesson.exercise(4821, 1, "ion-formula:1").key.text);
+    await check(page);
+    await page.locator(".mark[data-verdict=correct]").waitFor();
+    await panel(page, "My record").click();
+    assert.match(await page.getByRole("row", { name: /Formula of an ion/ }).innerText(), /1\s+0\s+0/);
+    assert.deepEqual(page.problems, []);
+    await page.context().close();
+});
+
+const previews = [
+    ["compound-formula:2", "Ca(OH)2", "Ca(OH)<sub>2</sub>"],
+    ["compound-formula:2", "Mg^2+(I^-)2", "Mg<sup>2+</sup>(I<sup>−</sup>)<sub>2</sub>"],
+    ["ion-formula:2", "SO4^2-", "SO<sub>4</sub><sup>2−</sup>"],
+    ["neutralisation:2", "2H2 + O2 -> 2H2O", "2H<sub>2</sub> + O<sub>2</sub> → 2H<sub>2</sub>O"],
+];
+
+for (const [kind, typed, shown] of previews) {
+    test(`${typed} is shown typeset while it is typed`, async () => {
+        const page = await openPage(browser, `#practice/4821/3/${kind}`);
+        await type(page, typed);
+        assert.equal(await page.locator(".preview").innerHTML(), `Read as ${shown}`);
+        await page.context().close();
+    });
+}

@@ -1,0 +1,50 @@
+// The states of the page that are looked at one by one.
+import { check, panel, samples, type } from "./support.mjs";
+
+export const press = (page, name) => page.getByRole("button", { name, exact: true }).click();
+
+export async function answerWith(page, text, verdict) {
+    await type(page, text);
+    await check(page);
+    await page.locator(`.mark[data-verdict=${verdict}]`).waitFor();
+}
+
+// c(KOH) = 0.290 mol/L, and what turns it into each of the verdicts.
+export const verdicts = { correct: "0.290", figures: "0.29", slip: "0.544", "power-of-ten": "290", close: "0.292", wrong: "777", unreadable: "about a litre" };
+
+// Each state by its name: where it is, and what leads to it from there.
+export const states = [
+    ...samples.map((kind) => [`a new exercise, ${kind}`, `#practice/4821/3/${kind}`, async () => {}]),
+    ...Object.entries(verdicts).map(([verdict, text]) => [
+        `the verdict ${verdict}`, "#practice/4821/3/titration:3", (page) => answerWith(page, text, verdict),
+    ]),
+    ["a formula being typed", "#practice/4821/3/neutralisation:3", (page) => type(page, "H2SO4 + NaOH -> ")],
+    ["a choice that was wrong", "#practice/4821/3/solubility:1", (page) => answerWith(page, "no", "wrong")],
+    ["help offered", "#practice/4821/3/titration:3", async (page) => {
+        await answerWith(page, "777", "wrong");
+        await answerWith(page, "778", "wrong");
+        await page.locator(".offer").waitFor();
+    }],
+    ["a hint", "#practice/4821/3/titration:3", (page) => press(page, "Show a step")],
+    ...samples.map((kind) => [`the solution of ${kind}`, `#practice/4821/3/${kind}`, (page) => press(page, "Show the answer")]),
+    ["the choice of exercises", "#practice/4821/3/titration", (page) => panel(page, "Choose exercises").click()],
+    ["a choice of nothing", "#practice/4821/3/titration", async (page) => {
+        await panel(page, "Choose exercises").click();
+        await page.locator("input[value='titration:2']").uncheck();
+        await press(page, "Start");
+    }],
+    ["how it is written", "#practice/4821/3/titration", (page) => panel(page, "How it is written").click()],
+    ["an empty record", "#practice/4821/3/titration", (page) => panel(page, "My record").click()],
+    ["a record", "#practice/4821/3/titration:3", async (page) => {
+        await answerWith(page, verdicts.correct, "correct");
+        await panel(page, "My record").click();
+    }],
+    ["a summary", "#practice/4821/6/molar-mass:1?set=5", async () => {}],
+    ["a bad address", "#practice/0/1/titration", async () => {}],
+    ["the sheets", "#sheet", async () => {}],
+    ["the tables", "#tables", async () => {}],
+    ["the reason of a pair", "#tables", async (page) => {
+        await page.locator(".solubility button").first().click();
+        await panel(page, "Pairs that are not asked").click();
+    }],
+];

@@ -1,0 +1,61 @@
+import assert from "node:assert/strict";
+import { test } from "node:test";
+import { addressOf, atNumber, routeOf } from "../../src/address";
+import type { PracticeRoute } from "../../src/types";
+
+const route: PracticeRoute = { view: "practice", paper: 4821, number: 3, kinds: "titration:1,dilution", set: 0 };
+
+test("an address leads back to the route that it was made from", () => {
+    for (const made of [route, { ...route, set: 10 }, { ...route, kinds: "mixed" }, atNumber(route, 999999)]) {
+        assert.deepEqual(routeOf(addressOf(made)), made, addressOf(made));
+    }
+});
+
+test("an address without a version is of this one, and one of another version says so", () => {
+    assert.equal(routeOf("#practice/4821/3/titration").view, "practice");
+    assert.equal(routeOf("#practice/4821/3/titration?v=1").view, "practice");
+    const other = routeOf("#practice/4821/3/titration?v=2");
+    assert.equal(other.view, "bad");
+    assert.match(other.view === "bad" ? other.message : "", /another version/);
+});
+
+test("nothing behind the sign is no address, and the page chooses", () => {
+    assert.deepEqual(routeOf(""), { view: "none" });
+    assert.deepEqual(routeOf("#"), { view: "none" });
+});
+
+test("what names no exercise is a bad address", () => {
+    const bad = [
+        "#practice",
+        "#practice/",
+        "#practice/0/1/mixed",
+        "#practice/1/0/mixed",
+        "#practice/1000000/1/mixed",
+        "#practice/1/1000000/mixed",
+        "#practice/-1/1/mixed",
+        "#practice/1.5/1/mixed",
+        "#practice/1e3/1/mixed",
+        "#practice/01/1/mixed",
+        "#practice/ 1/1/mixed",
+        "#practice/1/1/",
+        "#practice/1/1/<b>",
+        "#practice/1/1/%3Cscript%3E",
+        "#practice/1/1/mixed/more",
+        "#practice/1/1/mixed?set=0",
+        "#practice/1/1/mixed?set=100",
+        "#practice/1/1/mixed?set=ten",
+        "#tables/more",
+        "#elsewhere",
+        "#%",
+        "#%E0%A4%A",
+        `#practice/1/1/${"a".repeat(10_000_000)}`,
+    ];
+    for (const address of bad) {
+        assert.equal(routeOf(address).view, "bad", address.slice(0, 80));
+    }
+});
+
+test("sheets and tables have addresses of their own", () => {
+    assert.equal(routeOf("#tables").view, "tables");
+    assert.equal(routeOf("#sheet/4821/4*titration:2,3*dilution?versions=3").view, "sheet");
+});
