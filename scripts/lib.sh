@@ -9,7 +9,8 @@
 #   configure FOLDER OPTION...
 #                            has CMake configure this build folder of the project
 #   build_and_test PRESET    configures build/PRESET by CMakePresets.json, builds it, runs its tests
-#   build_module FOLDER      builds the lesson as a WebAssembly module there, with what it needs
+#   build_module FOLDER      builds the lesson as a WebAssembly module there, with what it needs; checks
+#                            that run at the same time take turns, as by the next one
 #   build_tests [TARGET...]  configures and builds build/test, or some of it; checks that run at the same
 #                            time take turns
 #   own_files FOLDER PATTERN...
@@ -53,8 +54,12 @@ build_and_test() {
 build_module() {
     need_packages "${to_build[@]}" clang wasm-ld:lld llvm-ar:llvm wasm-opt:binaryen wasi-libc \
         libc++-dev-wasm32 libclang-rt-dev-wasm32
+    mkdir -p "$root/build"
+    exec 8>"$root/build/module.lock"
+    flock 8
     configure "$1" --preset wasm
     cmake --build "$1" --target chempractice_lesson_module --parallel "$jobs"
+    exec 8>&-
 }
 
 build_tests() {
