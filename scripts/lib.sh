@@ -70,7 +70,7 @@ forget() {
 
 is_there() {
     case $1 in
-    *.h) echo "#include <$1>" | c++ -E -x c++ - >/dev/null 2>&1 ;;
+    *.h | *.hpp) echo "#include <$1>" | c++ -E -x c++ - >/dev/null 2>&1 ;;
     *) command -v "$1" >/dev/null || dpkg-query -W -f '${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed ;;
     esac
 }

@@ -67,9 +67,9 @@ Atoms takeAtoms(std::string_view& rest)
 {
     Atoms atoms;
     while (!rest.empty() && isCapital(rest.front())) {
-        const int element = takeSymbol(rest);
+        const int number = takeSymbol(rest);
         const int count = takeCount(rest);
-        add(atoms, {element, count});
+        add(atoms, {number, count});
     }
     return atoms;
 }

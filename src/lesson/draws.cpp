@@ -105,16 +105,35 @@ int Draws::between(int low, int high)
     return low + static_cast<int>(below(static_cast<std::uint32_t>(high - low + 1)));
 }
 
+namespace
+{
+
+// The member that a step of a round takes, both counted from 0.
+int memberAt(const Pool& pool, Seed seed, unsigned round, unsigned step)
+{
+    seed.push_back(round);
+    Draws draws(seed);
+    Round walk(pool);
+    for (; step > 0; --step) {
+        walk.take(draws);
+    }
+    return walk.take(draws);
+}
+
+} // namespace
+
 int memberOnWalk(const Pool& pool, Seed seed, unsigned number)
 {
     const auto members = static_cast<unsigned>(std::max(sizeOf(pool), 1));
-    seed.push_back((number - 1) / members);
-    Draws draws(seed);
-    Round round(pool);
-    for (unsigned step = (number - 1) % members; step > 0; --step) {
-        round.take(draws);
+    const unsigned round = (number - 1) / members;
+    const unsigned step = (number - 1) % members;
+    // A round that would begin with the last member of the one before has its first two exchanged.
+    const bool mayFollowItself = round > 0 && step < 2 && members > 2;
+    if (mayFollowItself &&
+        memberAt(pool, seed, round, 0) == memberAt(pool, seed, round - 1, members - 1)) {
+        return memberAt(pool, seed, round, 1 - step);
     }
-    return round.take(draws);
+    return memberAt(pool, seed, round, step);
 }
 
 } // namespace lesson

@@ -76,6 +76,19 @@ TEST(WalkTest, EachRoundTakesEveryMemberOnce)
     }
 }
 
+TEST(WalkTest, NoMemberFollowsItselfFromOneRoundToTheNext)
+{
+    const Pool small = {{0, 2}, {1, 1}};
+    for (std::uint32_t paper = 1; paper <= 100; ++paper) {
+        int last = -1;
+        for (unsigned number = 1; number <= 30; ++number) {
+            const int member = memberOnWalk(small, {paper}, number);
+            EXPECT_NE(member, last) << "paper " << paper << ", number " << number;
+            last = member;
+        }
+    }
+}
+
 TEST(WalkTest, RoundsAndPapersDiffer)
 {
     EXPECT_NE(walk(1, 40, 1), walk(41, 80, 1));

@@ -116,10 +116,18 @@ bool isSafe(const Dilution& drawn)
            drawn.c1 <= ratio(2);
 }
 
+// Who takes the whole volume for the water must not seem to have rounded it to two figures.
+bool isWaterToldFromWhole(const Dilution& drawn)
+{
+    const Ratio whole = valueOf(roundedTo(drawn.V2 * ratio(1000), 3));
+    const Ratio water = (drawn.V2 - drawn.V1) * ratio(1000);
+    return drawn.asked != Asked::water || valueOf(roundedTo(water, 2)) != whole;
+}
+
 bool isSensible(const Dilution& drawn)
 {
-    return isInRange(drawn) && drawn.c1 <= ratio(drawn.solute->ceiling, 100) &&
-           isAffordable(drawn) && isSafe(drawn);
+    return isInRange(drawn) && isWaterToldFromWhole(drawn) &&
+           drawn.c1 <= ratio(drawn.solute->ceiling, 100) && isAffordable(drawn) && isSafe(drawn);
 }
 
 // In the asked unit.

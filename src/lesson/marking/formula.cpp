@@ -10,6 +10,7 @@
 #include "lesson/marking/spellings.hpp"
 #include "lesson/marking/typed.hpp"
 #include "lesson/marking/typed_formula.hpp"
+#include "lesson/tables/elements.hpp"
 
 namespace lesson
 {
@@ -143,11 +144,11 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
                                        : std::optional(markOf(Verdict::slip, slip->sentence));
 }
 
-std::optional<Mark> zeroForO(const Attempt& attempt)
+std::optional<Mark> lookalikes(const Attempt& attempt)
 {
-    const bool hasZero = attempt.plain.find('0') != std::string::npos;
-    return slipWhen(hasZero && isAmong(attempt.right, readFormula(withLetterO(attempt.plain)).text),
-                    sentences::letterO);
+    const std::string meant = withLetterI(withLetterO(attempt.plain));
+    return slipWhen(meant != attempt.plain && isAmong(attempt.right, readFormula(meant).text),
+                    mistypedLetter(attempt.plain));
 }
 
 std::optional<Mark> notRead(const Attempt& attempt)
@@ -176,6 +177,28 @@ std::optional<Mark> numberInFront(const Attempt& attempt)
 {
     const char first = attempt.read.text.front();
     return slipWhen(first >= '0' && first <= '9', "Leave out the number in front.");
+}
+
+// "Fe(III)2O3" is read as one with iodine.
+std::optional<Mark> numeralLeftIn(const Attempt& attempt)
+{
+    for (const std::string_view numeral : {"(I)", "(II)", "(III)"}) {
+        std::string text = attempt.read.text;
+        const std::size_t place = text.find(numeral);
+        if (place != std::string::npos &&
+            isAmong(attempt.right, text.erase(place, numeral.size()))) {
+            return markOf(Verdict::slip, sentences::romanNumeral);
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<Mark> waterLeftIn(const Attempt& attempt)
+{
+    const std::size_t dot = attempt.read.text.find('.');
+    return slipWhen(dot != std::string::npos &&
+                        isAmong(attempt.right, attempt.read.text.substr(0, dot)),
+                    "Leave out the water: it belongs to the crystals, not to the compound.");
 }
 
 std::optional<Mark> bracketNotNeeded(const Attempt& attempt)
@@ -244,10 +267,10 @@ std::optional<Mark> oxygens(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped,   right,         capitals,     listedSlip,         zeroForO,
-    notRead,        chargesLeftIn, raisedNumber, numberInFront,      bracketNotNeeded,
-    bracketMissing, notSimplified, otherOrder,   chargesDoNotCancel, symbol,
-    ending,         oxygens,
+    nothingTyped,   right,         capitals,      listedSlip,         lookalikes,  notRead,
+    chargesLeftIn,  raisedNumber,  numberInFront, numeralLeftIn,      waterLeftIn, bracketNotNeeded,
+    bracketMissing, notSimplified, otherOrder,    chargesDoNotCancel, symbol,      ending,
+    oxygens,
 };
 
 // A formula cut at its symbols: "K2SO4" -> K, S, O and "?2??4".
@@ -294,7 +317,7 @@ std::string onlyDifference(const Symbols& typed, const Symbols& rightOnes)
 Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
                  std::string_view typed)
 {
-    Attempt attempt = {answer, slips, plainTyped(typed), {}, {}, {}};
+    Attempt attempt = {answer, slips, withoutBond(plainTyped(typed)), {}, {}, {}};
     attempt.read = readFormula(attempt.plain);
     attempt.right = spellingsOf(compoundFormula(*answer.cation, *answer.anion));
     attempt.rightAtoms = readFormula(attempt.right.front()).atoms;
@@ -311,6 +334,23 @@ std::string withLetterO(std::string_view plain)
     std::string text(plain);
     std::replace(text.begin(), text.end(), '0', 'O');
     return text;
+}
+
+std::string withLetterI(std::string_view plain)
+{
+    std::string text(plain);
+    for (std::size_t i = 0; i < plain.size(); ++i) {
+        const bool endsSymbol = i > 0 && findElement(plain.substr(i - 1, 2)) != nullptr;
+        if (plain[i] == 'l' && !endsSymbol) {
+            text[i] = 'I';
+        }
+    }
+    return text;
+}
+
+std::string_view mistypedLetter(std::string_view plain)
+{
+    return plain.find('0') == std::string_view::npos ? sentences::letterI : sentences::letterO;
 }
 
 std::string wrongSymbol(std::string_view text, const std::vector<std::string>& rightTexts)

@@ -18,6 +18,12 @@ Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
 // exercises ask for have no zeros.
 std::string withLetterO(std::string_view plain);
 
+// The text with each small l that ends no symbol as the letter I: "Pbl2" -> "PbI2".
+std::string withLetterI(std::string_view plain);
+
+// What to tell a learner whose text is right with these letters.
+std::string_view mistypedLetter(std::string_view plain);
+
 // The one symbol in which a formula differs from one of those that are right, the rest being the
 // same; empty where it differs in more.
 //   "P2SO4", {"K2SO4"} -> "P"

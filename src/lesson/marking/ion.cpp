@@ -43,7 +43,8 @@ struct Reading {
 // The part of a text behind its last character that is none of these.
 std::string_view endOf(std::string_view text, std::string_view characters)
 {
-    return text.substr(text.find_last_not_of(characters) + 1);
+    const std::size_t last = text.find_last_not_of(characters);
+    return last == std::string_view::npos ? text : text.substr(last + 1);
 }
 
 bool endsWith(std::string_view text, char end)
@@ -51,10 +52,13 @@ bool endsWith(std::string_view text, char end)
     return !text.empty() && text.back() == end;
 }
 
-// 1 where there are no digits; a size that no ion has where there are many.
+// 1 where there are no digits; a size that no ion has where there are many, or a zero in front.
 int sizeOf(std::string_view typedDigits)
 {
     constexpr int beyond = 99;
+    if (typedDigits.substr(0, 1) == "0") {
+        return beyond;
+    }
     int size = typedDigits.empty() ? 1 : 0;
     for (const char digit : typedDigits) {
         size = std::min(size * 10 + (digit - '0'), beyond);
@@ -118,7 +122,8 @@ Cut cutOff(std::string_view bare)
 
 Reading reading(std::string bare, int charge)
 {
-    TypedFormula formula = readFormula(bare);
+    // Here a dot at the end ends no sentence.
+    TypedFormula formula = endsWith(bare, '.') ? TypedFormula() : readFormula(bare);
     return {std::move(bare), std::move(formula), charge};
 }
 
@@ -143,28 +148,45 @@ std::vector<Reading> splitReadings(std::string_view formula, std::string_view be
     return readings;
 }
 
-// The sign alone is raised: the digits before it are a subscript, but of two, as in "SO42⁻", the
-// last one may be the charge.
+// Digits and signs are raised by one "^" at most, in front of the first of them: who types a raised
+// sign behind ordinary digits, "SO4^2⁻" or "Fe+³", has two of them, or one behind the sign.
+std::string raisedOnce(std::string_view bare)
+{
+    std::string text;
+    bool isRaised = false;
+    for (std::size_t i = 0; i < bare.size(); ++i) {
+        const bool goesOn = digitsAndSigns.find(bare.substr(i + 1, 1)) != std::string_view::npos &&
+                            i + 1 < bare.size();
+        const bool isBehindSign = i > 0 && signs.find(bare[i - 1]) != std::string_view::npos;
+        if (bare[i] == '^' && goesOn && (isRaised || isBehindSign)) {
+            continue;
+        }
+        isRaised =
+            bare[i] == '^' || (isRaised && digitsAndSigns.find(bare[i]) != std::string_view::npos);
+        text += bare[i];
+    }
+    return text;
+}
+
+// The sign alone is raised, "Fe3⁺": the digits before it are read as before any other sign.
 std::vector<Reading> raisedSignReadings(std::string_view formula, std::string_view sign)
 {
-    const std::string_view subscript = endOf(formula, digits);
-    if (subscript.size() < 2) {
-        return {reading(std::string(formula), withSign(sign, 1))};
-    }
-    formula.remove_suffix(subscript.size());
-    return splitReadings(formula, subscript, sign, true);
+    const std::string_view before = endOf(formula, digits);
+    formula.remove_suffix(before.size());
+    return splitReadings(formula, before, sign, false);
 }
 
 // "SO42-", "SO4-2", "O--", "SO4^2-", "Fe^+3", "Fe(3+)", or without a charge "SO4".
-std::vector<Reading> readingsOf(std::string_view bare)
+std::vector<Reading> readingsOf(std::string_view typed)
 {
+    const std::string bare = raisedOnce(typed);
     const Cut cut = cutOff(withoutOuterBrackets(bare));
     const std::string_view behind = endOf(cut.charge, digits);
     const std::string_view upToSign = cut.charge.substr(0, cut.charge.size() - behind.size());
     const std::string_view sign = endOf(upToSign, signs);
     const std::string_view before = upToSign.substr(0, upToSign.size() - sign.size());
     if (!areSigns(sign) || before.find_first_of(signs) != std::string_view::npos) {
-        return {reading(std::string(bare), 0)};
+        return {reading(bare, 0)};
     }
     if (behind.empty() && sign.size() == 1) {
         return cut.isRaised && before.empty()
@@ -172,7 +194,7 @@ std::vector<Reading> readingsOf(std::string_view bare)
                    : splitReadings(cut.formula, before, sign, cut.isRaised);
     }
     if ((sign.size() > 1 && !behind.empty()) || (cut.isRaised && !before.empty())) {
-        return {reading(std::string(bare), 0)};
+        return {reading(bare, 0)};
     }
     const int size =
         behind.empty() ? static_cast<int>(std::min<std::size_t>(sign.size(), 99)) : sizeOf(behind);
@@ -273,14 +295,15 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
     return std::nullopt;
 }
 
-std::optional<Mark> zeroForO(const Attempt& attempt)
+std::optional<Mark> lookalikes(const Attempt& attempt)
 {
-    if (attempt.plain.find('0') == std::string::npos) {
+    const std::string meant = withLetterI(withLetterO(attempt.plain));
+    if (meant == attempt.plain) {
         return std::nullopt;
     }
     Attempt mended = attempt;
-    mended.readings = readingsOf(bareFormula(withLetterO(attempt.plain)));
-    return slipWhen(right(mended).has_value(), sentences::letterO);
+    mended.readings = readingsOf(bareFormula(meant));
+    return slipWhen(right(mended).has_value(), mistypedLetter(attempt.plain));
 }
 
 std::optional<Mark> notRead(const Attempt& attempt)
@@ -295,13 +318,14 @@ std::optional<Mark> notRead(const Attempt& attempt)
     return unreadable(unread.empty() ? attempt.plain : unread);
 }
 
+// "Fe", "Fe3", "Fe^3"
 std::optional<Mark> noCharge(const Attempt& attempt)
 {
     const Reading& reading = attempt.readings.front();
-    if (reading.charge != 0 || reading.formula.hasCharge) {
+    if (reading.bare.find_first_of(signs) != std::string::npos || reading.charge != 0) {
         return std::nullopt;
     }
-    if (reading.formula.hasRaisedNumber) {
+    if (reading.bare.find('^') != std::string::npos) {
         return markOf(Verdict::slip, "A charge has a sign: + or -.");
     }
     return markOf(Verdict::slip, hasChargeAsSubscript(attempt, reading)
@@ -332,6 +356,15 @@ std::optional<Mark> chargeAsSubscript(const Attempt& attempt)
         anyReading(attempt,
                    [&](const Reading& reading) { return hasChargeAsSubscript(attempt, reading); }),
         sentences::chargeAsSubscript);
+}
+
+std::optional<Mark> otherOrder(const Attempt& attempt)
+{
+    const auto hasItsAtoms = [&](const Reading& reading) {
+        return reading.charge == attempt.ion.charge && !reading.formula.hasCharge &&
+               reading.formula.atoms == attempt.rightAtoms;
+    };
+    return slipWhen(anyReading(attempt, hasItsAtoms), "The atoms are right. Check their order.");
 }
 
 std::optional<Mark> ending(const Attempt& attempt)
@@ -366,15 +399,15 @@ std::optional<Mark> symbol(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped, right,       capitals,          listedSlip, zeroForO, notRead,
-    noCharge,     wrongCharge, chargeAsSubscript, ending,     oxygens,  symbol,
+    nothingTyped,      right,      capitals, listedSlip, lookalikes, notRead, noCharge, wrongCharge,
+    chargeAsSubscript, otherOrder, ending,   oxygens,    symbol,
 };
 
 } // namespace
 
 Mark markIon(const IonAnswer& answer, const std::vector<Slip>& slips, std::string_view typed)
 {
-    Attempt attempt = {*answer.ion, slips, plainTyped(typed), {}, {}, {}};
+    Attempt attempt = {*answer.ion, slips, withoutBond(plainTyped(typed)), {}, {}, {}};
     attempt.readings = readingsOf(bareFormula(attempt.plain));
     attempt.right = spellingsOf(answer.ion->formula);
     attempt.rightAtoms = readFormula(answer.ion->formula).atoms;

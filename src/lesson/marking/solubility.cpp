@@ -1,8 +1,10 @@
 #include "lesson/marking/solubility.hpp"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <string>
+#include <vector>
 
 #include "lesson/marking/formula.hpp"
 #include "lesson/marking/sentences.hpp"
@@ -16,26 +18,22 @@ namespace
 {
 
 // clang-format off
-constexpr std::string_view yes[] = {
-    "y", "yes", "soluble", "yes soluble", "yes, soluble", "it is soluble", "is soluble",
-    "soluble in water", "dissolves", "it dissolves", "it does", "yes it does", "yes, it does",
+constexpr std::string_view yes[] = {"y", "yes", "yep", "yeah", "yea"};
+constexpr std::string_view no[] = {"n", "no", "nope"};
+constexpr std::string_view dissolving[] = {"soluble", "dissolves", "dissolve", "does"};
+constexpr std::string_view negations[] = {
+    "not", "insoluble", "doesn't", "doesnt", "isn't", "isnt", "won't",
 };
-constexpr std::string_view no[] = {
-    "n", "no", "insoluble", "no insoluble", "no, insoluble", "it is insoluble", "is insoluble",
-    "insoluble in water", "in soluble", "not soluble", "it is not soluble", "is not soluble",
-    "not soluble in water", "does not dissolve", "doesn't dissolve", "it does not dissolve",
-    "it doesn't dissolve", "it does not", "it doesn't", "no it does not", "no, it does not",
-    "no it doesn't", "no, it doesn't",
-};
+constexpr std::string_view fillers[] = {"it", "it's", "its", "is", "in", "water", "will", "so"};
 constexpr std::string_view none[] = {
     "n", "no", "none", "nothing", "nil", "no precipitate", "no precipitates", "no precipitation",
     "no precipitate forms", "no precipitate is formed", "there is no precipitate",
     "there is none", "none forms", "none is formed", "nothing forms", "nothing precipitates",
-    "no ppt", "no solid", "no solid forms", "no reaction", "no product", "neither", "-", "--",
+    "no ppt", "no rxn", "no solid", "no solid forms", "no reaction", "no product", "neither", "-", "--",
 };
 // clang-format on
 
-// In lower case, with single blanks and a plain apostrophe, without what ends a sentence.
+// In lower case, with single blanks, without quotation marks and what ends a sentence.
 std::string wordsOf(std::string_view typed)
 {
     std::string words;
@@ -44,11 +42,9 @@ std::string wordsOf(std::string_view typed)
             words += c;
         }
     }
-    const std::size_t apostrophe = words.find("\u2019");
-    if (apostrophe != std::string::npos) {
-        words.replace(apostrophe, std::string_view("\u2019").size(), "'");
-    }
-    while (!words.empty() && std::string_view(" .!").find(words.back()) != std::string_view::npos) {
+    constexpr std::string_view around = " .!\"'";
+    words.erase(0, words.find_first_not_of(around));
+    while (!words.empty() && around.find(words.back()) != std::string_view::npos) {
         words.pop_back();
     }
     return words;
@@ -58,6 +54,69 @@ template <std::size_t N>
 bool isAmong(const std::string_view (&list)[N], const std::string& words)
 {
     return std::find(std::begin(list), std::end(list), words) != std::end(list);
+}
+
+// The words one by one, without commas; "in soluble" is one.
+std::vector<std::string> splitWords(const std::string& words)
+{
+    std::vector<std::string> split(1);
+    for (const char c : words) {
+        if (c != ' ' && c != ',') {
+            split.back() += c;
+        } else if (!split.back().empty() && !(split.back() == "in" && split.size() == 1)) {
+            split.emplace_back();
+        }
+    }
+    return split;
+}
+
+template <std::size_t N>
+bool hasAny(const std::vector<std::string>& words, const std::string_view (&list)[N])
+{
+    return std::any_of(words.begin(), words.end(),
+                       [&list](const std::string& word) { return isAmong(list, word); });
+}
+
+bool isUnderstood(const std::string& word)
+{
+    return isAmong(yes, word) || isAmong(no, word) || isAmong(dissolving, word) ||
+           isAmong(negations, word) || isAmong(fillers, word);
+}
+
+// A sentence may begin with the substance: "magnesium carbonate is insoluble".
+bool areUnderstood(const std::vector<std::string>& words)
+{
+    constexpr std::string_view verbs[] = {"is", "isn't", "isnt", "does", "doesn't", "dissolves"};
+    constexpr std::ptrdiff_t longestName = 3;
+    const auto verb = std::find_if(words.begin(), words.end(), [&verbs](const std::string& word) {
+        return isAmong(verbs, word);
+    });
+    const bool hasName = verb != words.end() && verb - words.begin() <= longestName;
+    return std::all_of(hasName && !isUnderstood(words.front()) ? verb : words.begin(), words.end(),
+                       isUnderstood);
+}
+
+enum class Said { itDissolves, itDoesNot, unclear };
+
+Said saidBy(const std::vector<std::string>& words)
+{
+    const bool isNegated = hasAny(words, negations);
+    const bool dissolves = hasAny(words, dissolving) && !isNegated;
+    if (!areUnderstood(words) || (hasAny(words, yes) && isNegated) ||
+        (hasAny(words, no) && dissolves)) {
+        return Said::unclear;
+    }
+    if (isNegated || hasAny(words, no)) {
+        return Said::itDoesNot;
+    }
+    return dissolves || hasAny(words, yes) ? Said::itDissolves : Said::unclear;
+}
+
+// "none", or a sentence that begins with it.
+bool saysNone(const std::string& words)
+{
+    const std::string first = splitWords(words).front();
+    return isAmong(none, words) || first == "none" || first == "nothing";
 }
 
 std::string joined(std::string_view first, std::string_view second)
@@ -83,12 +142,22 @@ Mark markNone(const std::vector<Slip>& slips, const std::string& plain)
     return read.isRead ? markOf(Verdict::wrong, lookAgain) : unreadable(read.unread);
 }
 
+// Whether the state in solution stands behind the formula.
+bool isDissolved(const std::string& plain)
+{
+    constexpr std::string_view state = "(aq)";
+    const std::string lower = lowerCase(plain);
+    return lower.size() > state.size() &&
+           lower.compare(lower.size() - state.size(), state.size(), state) == 0;
+}
+
 Mark markFormulaOf(const PrecipitateAnswer& answer, const std::vector<Slip>& slips,
                    const std::string& plain)
 {
     const Mark mark = markFormula({answer.cation, answer.anion}, slips, plain);
     if (mark.verdict == Verdict::correct) {
-        return {Verdict::correct, joined(sentences::correct, answer.rule)};
+        return isDissolved(plain) ? markOf(Verdict::slip, "A precipitate is a solid: (s).")
+                                  : Mark{Verdict::correct, joined(sentences::correct, answer.rule)};
     }
     return mark.verdict == Verdict::wrong ? markOf(Verdict::wrong, lookAgain) : mark;
 }
@@ -98,14 +167,15 @@ Mark markFormulaOf(const PrecipitateAnswer& answer, const std::vector<Slip>& sli
 Mark markSolubility(const SolubilityAnswer& answer, std::string_view typed)
 {
     const std::string words = wordsOf(typed);
-    const bool saysYes = isAmong(yes, words);
     if (words.empty()) {
         return markOf(Verdict::unreadable, typeYesOrNo);
     }
-    if (!saysYes && !isAmong(no, words)) {
-        return {Verdict::unreadable, joined(unreadable(words).sentence + ".", typeYesOrNo)};
+    const Said said = saidBy(splitWords(words));
+    if (said == Said::unclear) {
+        return {Verdict::unreadable,
+                joined(unreadable(plainTyped(typed)).sentence + ".", typeYesOrNo)};
     }
-    return saysYes == answer.isSoluble
+    return (said == Said::itDissolves) == answer.isSoluble
                ? Mark{Verdict::correct, joined(sentences::correct, answer.rule)}
                : Mark{Verdict::wrong, joined("Not right yet.", answer.rule)};
 }
@@ -118,7 +188,7 @@ Mark markPrecipitate(const PrecipitateAnswer& answer, const std::vector<Slip>& s
     if (words.empty()) {
         return markOf(Verdict::unreadable, "Type a formula, or none.");
     }
-    if (isAmong(none, words)) {
+    if (saysNone(words)) {
         return hasPrecipitate ? markOf(Verdict::wrong, lookAgain)
                               : Mark{Verdict::correct, joined(sentences::correct, answer.rule)};
     }

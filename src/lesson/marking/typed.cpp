@@ -44,6 +44,8 @@ constexpr Spelling spellings[] = {
     // Multiplication signs, and dots above the line.
     {"\u00D7", "×"}, {"\u2715", "×"}, {"\u2A2F", "×"}, {"\u2217", "*"},
     {"\u00B7", "·"}, {"\u2022", "·"}, {"\u2219", "·"}, {"\u22C5", "·"}, {"\u2027", "·"},
+    // Quotation marks and apostrophes.
+    {"\u2018", "'"}, {"\u2019", "'"}, {"\u201C", "\""}, {"\u201D", "\""}, {"\u201E", "\""},
     // Fractions as one character: a blank keeps them apart from a number in front.
     {"\u00BD", " 1/2"}, {"\u2153", " 1/3"}, {"\u2154", " 2/3"}, {"\u00BC", " 1/4"},
     {"\u00BE", " 3/4"}, {"\u2159", " 1/6"}, {"\u2044", "/"}, {"\u2215", "/"},

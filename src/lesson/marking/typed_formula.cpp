@@ -388,12 +388,12 @@ bool holdsOneAtom(const std::vector<Piece>& pieces, std::size_t i)
 // come first.
 void markNeedlessBrackets(std::vector<Piece>& pieces)
 {
-    for (std::size_t behind = pieces.size(); behind > 0; --behind) {
-        const std::size_t i = behind - 1;
-        if (pieces[i].kind == Piece::Kind::open) {
-            pieces[i].isOneAtom = holdsOneAtom(pieces, i);
-            pieces[i].isNeedless = pieces[i].count == 1 || pieces[i].isOneAtom;
-            pieces[pieces[i].partner].isNeedless = pieces[i].isNeedless;
+    for (std::size_t end = pieces.size(); end > 0; --end) {
+        Piece& piece = pieces[end - 1];
+        if (piece.kind == Piece::Kind::open) {
+            piece.isOneAtom = holdsOneAtom(pieces, end - 1);
+            piece.isNeedless = piece.count == 1 || piece.isOneAtom;
+            pieces[piece.partner].isNeedless = piece.isNeedless;
         }
     }
 }
@@ -493,6 +493,16 @@ TypedFormula readFormula(std::string_view plain)
     typed.hasCharge = reader.hasCharge;
     typed.hasRaisedNumber = reader.hasRaisedNumber;
     return typed;
+}
+
+std::string withoutBond(std::string plain)
+{
+    const std::size_t bond = plain.find("-CO");
+    if (bond != std::string::npos && bond > 0 &&
+        (plain[bond - 1] == '3' || plain[bond - 1] == 'C')) {
+        plain.erase(bond, 1);
+    }
+    return plain;
 }
 
 std::string bareFormula(std::string_view plain)

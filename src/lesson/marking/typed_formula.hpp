@@ -30,6 +30,9 @@ struct TypedFormula {
 //   "Ca(OH)_2 (s)" -> "Ca(OH)2", state "s"    "[Na]_{2} SO4" -> "(Na)2SO4", simplest "Na2SO4"
 TypedFormula readFormula(std::string_view plain);
 
+// Without the bond that some write inside an ethanoate: "CH3-COO-" -> "CH3COO-".
+std::string withoutBond(std::string plain);
+
 // The formula in one spelling without reading it: no blanks, no state, round brackets, plain digits
 // and dots. So texts can be compared that are no formulas: "Jo_2" and "Jo2" are the same.
 std::string bareFormula(std::string_view plain);

@@ -149,7 +149,8 @@ TEST(FormulaMarkTest, SlipsGetTheirSentences)
     const std::string cancel = "The charges do not cancel yet. How many of each ion are needed?";
     const std::string ending = "The ending tells you whether there is oxygen.";
     const std::string oxygens = "Check the number of oxygen atoms.";
-    const std::string zero = "There is a zero where the letter O should be.";
+    const std::string letterO = "There is a zero where the letter O should be.";
+    const std::string letterI = "There is a small l where the letter I should be.";
     const std::string order = "The atoms are right. Write ion after ion, the positive one first.";
     struct Row {
         const char* cation;
@@ -211,10 +212,18 @@ TEST(FormulaMarkTest, SlipsGetTheirSentences)
         {"sodium", "chloride", "NaClO", ending},
         {"sodium", "sulfate", "Na2SO3", oxygens},
         {"calcium", "nitrate", "Ca(NO2)2", oxygens},
-        {"sodium", "hydroxide", "Na0H", zero},
-        {"aluminium", "oxide", "Al203", zero},
-        {"lithium", "oxide", "Li20", zero},
-        {"calcium", "sulfate", "CaS04", zero},
+        {"sodium", "hydroxide", "Na0H", letterO},
+        {"aluminium", "oxide", "Al203", letterO},
+        {"lithium", "oxide", "Li20", letterO},
+        {"calcium", "sulfate", "CaS04", letterO},
+        {"lead(II)", "iodide", "Pbl2", letterI},
+        {"aluminium", "iodide", "All3", letterI},
+        {"potassium", "iodide", "Kl", letterI},
+        {"ammonium", "iodide", "NH4l (aq)", letterI},
+        {"iron(III)", "oxide", "Fe(III)2O3", "The Roman numeral is a charge."},
+        {"copper(II)", "sulfate", "Cu(II)SO4", "The Roman numeral is a charge."},
+        {"copper(II)", "sulfate", "CuSO4·5H2O",
+         "Leave out the water: it belongs to the crystals, not to the compound."},
         {"aluminium", "oxide", "Al^2O^3",
          "Small numbers stand below the line. Type them without ^."},
         {"aluminium", "oxide", "Al²O³", "Small numbers stand below the line. Type them without ^."},

@@ -139,18 +139,19 @@ TEST(IonMarkTest, SpellingsThatPeopleUse)
     const Row rows[] = {
         {"iron(III)",
          {"Fe3+", "Fe^3+", "Fe^{3+}", "Fe^+3", "Fe+3", "Fe³⁺", "Fe+++", "Fe(3+)", "Fe 3+", "Fe³+",
-          "Fe^+++", "Fe + + +", "[Fe]3+", "[Fe3+]", "Fe3+ (aq)"}},
-        {"sulfate", {"SO42-",    "SO4^2-",  "SO4 2-",   "SO4-2",     "SO₄²⁻",       "SO4--",
-                     "[SO4]2-",  "(SO4)2-", "SO4²-",    "SO_4^{2-}", "SO_{4}^{2-}", "SO_42-",
-                     "SO42⁻",    "SO⁴²⁻",   "SO4(2-)",  "[SO4^2-]",  "S O4 2-",     "SO4^-2",
-                     "SO4^(2−)", "SO4–2",   "(SO4)^-2", "SO4 --"}},
+          "Fe3⁺", "Fe^3⁺", "Fe+³", "Fe 3⁺", "Fe^+++", "Fe + + +", "[Fe]3+", "[Fe3+]", "Fe3+ (aq)"}},
+        {"sulfate",
+         {"SO42-",   "SO4^2-",   "SO4 2-",    "SO4-2",       "SO₄²⁻",    "SO4--",  "[SO4]2-",
+          "(SO4)2-", "SO4²-",    "SO_4^{2-}", "SO_{4}^{2-}", "SO_42-",   "SO42⁻",  "SO⁴²⁻",
+          "SO4(2-)", "[SO4^2-]", "S O4 2-",   "SO4^-2",      "SO4^(2−)", "SO4^2⁻", "SO4-²",
+          "SO₄-²",   "SO4–2",    "(SO4)^-2",  "SO4 --"}},
         {"sodium", {"Na+", "Na1+", "Na^1+", "Na+1", "Na⁺", "Na^+", "Na +", "Na¹⁺"}},
         {"oxide", {"O--", "O2-", "O^2-", "O²⁻", "O-2", "O 2-", "O- -"}},
         {"manganate(VII)", {"MnO4-", "MnO4^-1", "MnO4^-", "MnO₄⁻", "MnO4 -", "[MnO4]-", "MnO4-1"}},
         {"dichromate", {"Cr2O72-", "Cr2O7^2-", "Cr₂O₇²⁻", "[Cr2O7]2-", "Cr2O7--", "Cr2O7-2"}},
         {"ethanoate",
          {"CH3COO-", "CH3CO2-", "C2H3O2-", "CH3COO^-", "CH₃COO⁻", "(CH3COO)-", "H3CCOO-",
-          "CH3CO2^-1", "C2H3O2 -", "CH3C(O)O-", "OOCCH3-"}},
+          "CH3CO2^-1", "CH3-COO-", "CH3–COO−", "C2H3O2 -", "CH3C(O)O-", "OOCCH3-"}},
         {"hydroxide", {"OH-", "HO-", "OH^-", "(OH)-", "OH⁻", "OH 1-"}},
         {"nitrate", {"NO3-", "NO3^-", "NO31-", "NO3-1", "NO₃⁻"}},
         {"ammonium", {"NH4+", "NH4^+", "NH41+", "NH₄⁺", "[NH4]+", "(NH4)+"}},
@@ -175,7 +176,10 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
     const std::string roman = "The Roman numeral tells the size of the charge.";
     const std::string ending = "The ending tells you whether there is oxygen.";
     const std::string oxygens = "Check the number of oxygen atoms.";
-    const std::string zero = "There is a zero where the letter O should be.";
+    const std::string letterO = "There is a zero where the letter O should be.";
+    const std::string letterI = "There is a small l where the letter I should be.";
+    const std::string noSign = "A charge has a sign: + or -.";
+    const std::string order = "The atoms are right. Check their order.";
     struct Row {
         const char* ion;
         const char* typed;
@@ -197,9 +201,8 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
         {"sodium", "Na", noCharge},
         {"iron(III)", "Fe3", subscript},
         {"iron(III)", "Fe_3", subscript},
-        {"iron(III)", "Fe₃⁺", subscript},
         {"sulfate", "SO42", subscript},
-        {"iron(III)", "Fe^3", "A charge has a sign: + or -."},
+        {"iron(III)", "Fe^3", noSign},
         {"sulfate", "SO4-2+", "wrong"},
         {"iron(III)", "Fe3-", sign},
         {"sulfate", "SO4^2+", sign},
@@ -221,9 +224,13 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
         {"nitrite", "NO3^-", oxygens},
         {"potassium", "P+", "Check this symbol: P."},
         {"manganese(II)", "Mg2+", "Check this symbol: Mg."},
-        {"sulfate", "S042-", zero},
-        {"sulfate", "S04^2-", zero},
-        {"hydroxide", "0H-", zero},
+        {"sulfate", "S042-", letterO},
+        {"sulfate", "S04^2-", letterO},
+        {"hydroxide", "0H-", letterO},
+        {"iodide", "l-", letterI},
+        {"sulfate", "SO4^2", noSign},
+        {"sulfate", "O4S 2-", order},
+        {"hydrogencarbonate", "CO3H-", order},
     };
     for (const Row& row : rows) {
         const Mark mark = markFor(row.ion, row.typed);
@@ -257,6 +264,15 @@ TEST(IonMarkTest, WhatCannotBeReadIsTold)
         const Mark mark = markFor("sulfate", row.typed);
         EXPECT_EQ(mark.verdict, Verdict::unreadable) << row.typed;
         EXPECT_EQ(mark.sentence, row.sentence) << row.typed;
+    }
+}
+
+TEST(IonMarkTest, SloppyChargesAreNotRight)
+{
+    for (const char* const typed :
+         {"Zn02+", "Zn.2+", "Zn*2+", "Zn2+-", "Zn+-2", "Zn++2", "Zn2++", "Zn22+", "Zn2+2", "2+Zn",
+          "+2Zn", "Zn^2", "Zn^", "Zn2", "Zn+2+", "Zn^2+^", "Zn2+Zn2+", "2Zn2+", "Zn 2+ 2e-"}) {
+        EXPECT_NE(markFor("zinc", typed).verdict, Verdict::correct) << typed;
     }
 }
 

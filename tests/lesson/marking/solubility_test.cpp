@@ -17,7 +17,8 @@ TEST(SolubilityMarkTest, YesAndNoInTheirUsualWords)
 {
     for (const char* const yes :
          {"y", "Y", "yes", "YES", " Yes. ", "yes!", "soluble", "Soluble", "dissolves",
-          "it  dissolves", "Yes, it does.", "it is soluble", "\u00A0yes\t"}) {
+          "it  dissolves", "Yes, it does.", "Yes, it dissolves.", "yep", "Lead nitrate is soluble",
+          "it is soluble", "\u00A0yes\t"}) {
         EXPECT_EQ(markSolubility(dissolves, yes).verdict, Verdict::correct) << yes;
         EXPECT_EQ(markSolubility(dissolves, yes).sentence, "Correct. All nitrates are soluble.");
         EXPECT_EQ(markSolubility(doesNot, yes).verdict, Verdict::wrong) << yes;
@@ -26,7 +27,8 @@ TEST(SolubilityMarkTest, YesAndNoInTheirUsualWords)
     }
     for (const char* const no :
          {"n", "N", "no", "No.", "NO", "insoluble", "INSOLUBLE", "not soluble", "in soluble",
-          "does not dissolve", "doesn't dissolve", "It doesn\u2019t dissolve.", "no, it doesn't"}) {
+          "does not dissolve", "doesn't dissolve", "It doesn\u2019t dissolve.", "no, it doesn't",
+          "No, it is insoluble", "it's insoluble", "isn't soluble", "MgCO3 is insoluble", "nope"}) {
         EXPECT_EQ(markSolubility(doesNot, no).verdict, Verdict::correct) << no;
         EXPECT_EQ(markSolubility(doesNot, no).sentence, "Correct. Carbonates are insoluble.");
         EXPECT_EQ(markSolubility(dissolves, no).verdict, Verdict::wrong) << no;
@@ -39,8 +41,10 @@ TEST(SolubilityMarkTest, OtherWordsAreAskedBack)
     EXPECT_EQ(markSolubility(dissolves, " . ").sentence, "Type yes or no.");
     EXPECT_EQ(markSolubility(dissolves, "maybe").sentence,
               "I can't read this part: 'maybe'. Type yes or no.");
-    for (const std::string& typed : {std::string("yesno"), std::string("\xFF"),
-                                     std::string(1000000, 'y'), std::string(1000000, ' ') + "x"}) {
+    for (const std::string& typed :
+         {std::string("yesno"), std::string("not sure"), std::string("yes, insoluble"),
+          std::string("no, it dissolves"), std::string("I do not know"), std::string("\xFF"),
+          std::string(1000000, 'y'), std::string(1000000, ' ') + "x"}) {
         EXPECT_EQ(markSolubility(dissolves, typed).verdict, Verdict::unreadable);
     }
 }
@@ -70,6 +74,7 @@ TEST(PrecipitateMarkTest, TheFormulaInItsSpellings)
     const Row rows[] = {
         {"pbi2", Verdict::slip, "Check the capitals: first letter large, second small."},
         {"KNO3", Verdict::slip, "That one stays in solution."},
+        {"PbI2 (aq)", Verdict::slip, "A precipitate is a solid: (s)."},
         {"PbI", Verdict::slip, "The charges do not cancel yet. How many of each ion are needed?"},
         {"Pb2+I-2", Verdict::slip, "A compound has no charge: leave out the charges of its ions."},
         {"none", Verdict::wrong, lookAgain},
@@ -89,7 +94,8 @@ TEST(PrecipitateMarkTest, NoneInItsUsualWords)
 {
     for (const char* const typed :
          {"none", "None", "NONE.", "no", "No", "NO", "n", "nothing", "no precipitate",
-          "No precipitate.", "no  precipitate forms", "No ppt", "nil", "-", "–"}) {
+          "No precipitate.", "no  precipitate forms", "No ppt", "nil", "-", "–", "“none”",
+          "\"none\"", "none formed", "None, both are soluble"}) {
         const Mark mark = markPrecipitate(nothing, slips, typed);
         EXPECT_EQ(mark.verdict, Verdict::correct) << typed;
         EXPECT_EQ(mark.sentence, "Correct. All nitrates are soluble.") << typed;

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+// What the lesson's interface gives. Numbers are strings here, as they stand in the text, so that
+// nothing is rounded to binary.
+using Json = nlohmann::json;
+
+Json exerciseAt(const std::string& kind, unsigned paper, unsigned number);
+std::string verdictOn(const std::string& kind, unsigned paper, unsigned number,
+                      const std::string& typed);
+
+// The text of a line, spans one after the other: "M = 249.69 = 249.7 g/mol".
+std::string textOf(const Json& spans);
+
+// The numbers of a line, each with the unit behind it, which may be empty; not the coefficients of
+// an equation, which are numbers right before a formula.
+std::vector<std::pair<std::string, std::string>> measuresIn(const Json& spans);
+
+// What is wrong, gathered by the rule that is broken: how often, and the first example.
+class Problems
+{
+public:
+    // Where problems are found from here on: "titration:2, paper 5, number 1".
+    void at(const std::string& kind, unsigned paper, unsigned number);
+    // Adds a problem unless the rule is kept.
+    void expect(bool isKept, const char* rule, const std::string& detail = "");
+    // Empty if there are none.
+    std::string text() const;
+
+private:
+    struct Found {
+        int count = 0;
+        std::string first;
+    };
+    std::string kind;
+    unsigned paper = 0;
+    unsigned number = 0;
+    std::map<std::string, Found> found;
+};
