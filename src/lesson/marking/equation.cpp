@@ -42,13 +42,13 @@ constexpr States solidOrDissolved = {"s", "aq"};
 // A species of the equation, and what may be typed for it.
 struct Role {
     std::string_view noun; // what a wrong formula of it is told not to be: "salt"
-    bool isOnTheLeft;
-    int coefficient;
-    std::string formula;
-    Atoms atoms;
     States states;
     const IonRow* cation; // null for a molecule
     const IonRow* anion;
+    bool isOnTheLeft = false;
+    int coefficient = 0;
+    std::string formula = {};
+    Atoms atoms = {};
 };
 using Roles = std::vector<Role>;
 
@@ -63,34 +63,26 @@ States statesOfSalt(const Pair& pair)
 Roles rolesOf(const EquationAnswer& answer)
 {
     const Equation equation = neutralisationOf(*answer.acid, answer.base);
-    const IonRow* const anion = &anionOf(*answer.acid);
-    const bool isAmmonia = answer.base.anion == nullptr;
-    const Role kinds[] = {
-        {"acid", true, 0, "", {}, {"aq", ""}, findIon("hydrogen"), anion},
-        {"base", true, 0, "", {}, solidOrDissolved, answer.base.cation, answer.base.anion},
-        {"salt",
-         false,
-         0,
-         "",
-         {},
-         statesOfSalt({answer.base.cation, anion}),
-         answer.base.cation,
-         anion},
-        {"", false, 0, "", {}, {"l", ""}, nullptr, nullptr},
-        {"", false, 0, "", {}, {"g", ""}, nullptr, nullptr},
+    const IonRow* const acidAnion = &anionOf(*answer.acid);
+    const IonRow* const cation = answer.base.cation;
+    const IonRow* const baseAnion = answer.base.anion;
+    const Role inOrder[] = {
+        {"acid", {"aq"}, findIon("hydrogen"), acidAnion},
+        baseAnion == nullptr ? Role{"base", {"aq", "g"}, nullptr, nullptr}
+                             : Role{"base", solidOrDissolved, cation, baseAnion},
+        {"salt", statesOfSalt({cation, acidAnion}), cation, acidAnion},
+        {"", {"l"}, nullptr, nullptr},
+        {"", {"g"}, nullptr, nullptr},
     };
     Roles roles;
     for (const auto* const side : {&equation.left, &equation.right}) {
         for (const auto& [coefficient, formula] : *side) {
-            roles.push_back(kinds[roles.size()]);
+            roles.push_back(inOrder[roles.size()]);
+            roles.back().isOnTheLeft = side == &equation.left;
             roles.back().coefficient = coefficient;
             roles.back().formula = formula;
             roles.back().atoms = atomsOf(formula);
         }
-    }
-    if (isAmmonia) {
-        roles[1].cation = nullptr;
-        roles[1].states = {"aq", "g"};
     }
     return roles;
 }
