@@ -21,8 +21,8 @@ extern int nH2O;
 extern int nCO2;
 
 // Writes the coefficients of the balanced equation, in lowest terms, to the five globals and
-// returns true. Returns false where there are none, as for a base anion of another name; the
-// globals then hold what the last attempt left, unreduced.
+// returns true. Returns false when it gives up, as for a base anion of another name; the globals
+// then hold what the last attempt left, unreduced.
 //   nitrate, aluminium, oxide -> true; 6, 1, 2, 3, 0
 bool balance(Ion acidAnion, Ion baseCation, Ion baseAnion);
 

@@ -324,7 +324,9 @@ bool isSensible(const Dilution& dilution)
     return isBetween(2, V2 / V1, 50) && isBetween({5, 100}, c1, 6) &&
            isBetween({5, 1000}, V1, {200, 1000}) && isBetween({1, 10}, V2, 2) && c1 <= ceiling &&
            (solute != "AgNO3" || c1 * V1 * typedMolarMass(solute) <= 2) &&
-           (asked != "V" || !isAcid(solute) || c1 <= 2);
+           (asked != "V" || !isAcid(solute) || c1 <= 2) &&
+           // Nobody can tell the whole volume from the water in two figures.
+           (asked != "V" || ((V2 - V1) * 1000).toFigures(2) != (V2 * 1000).toFigures(3));
 }
 
 // What is given of a dilution, for the spread.
@@ -715,7 +717,10 @@ void checkTitrations(int level, const std::vector<const char*>& ratios)
         ends.meet(checkTitration(problems, exercise, level == 3, spread));
     });
     checkEnds(problems, ends, {2, 100}, 1);
-    spread.check(problems);
+    // Titrations that do not bear rounding are drawn again, which is not counted above. With a mean
+    // that is one in forty, and hits a pipette of 25 mL, with its fives at the end, more than
+    // others.
+    spread.check(problems, level == 3 ? 0.05 : 0);
     EXPECT_EQ(problems.text(), "");
 }
 

@@ -49,14 +49,15 @@ std::vector<Bin> binsOf(const Values& shares, const Values& drawn, double total)
 
 // By how many standard deviations a chi-square is too large: it is nearly normal as a cube root
 // (Wilson and Hilferty).
-double excessOf(const std::vector<Bin>& bins)
+double excessOf(const std::vector<Bin>& bins, double openPart)
 {
     if (bins.size() < 2) {
         return 0;
     }
     double chiSquare = 0;
     for (const Bin& bin : bins) {
-        chiSquare += (bin.drawn - bin.expected) * (bin.drawn - bin.expected) / bin.expected;
+        const double off = std::abs(bin.drawn - bin.expected) - openPart * bin.expected;
+        chiSquare += off > 0 ? off * off / bin.expected : 0;
     }
     const auto freedom = static_cast<double>(bins.size() - 1);
     const double variance = 2 / (9 * freedom);
@@ -96,7 +97,7 @@ void Spread::draw(const std::string& quantity, const std::string& value)
     ++drawn[quantity][value];
 }
 
-void Spread::check(Problems& problems) const
+void Spread::check(Problems& problems, double openPart) const
 {
     constexpr double often = 30;
     for (const auto& [quantity, values] : drawn) {
@@ -116,7 +117,7 @@ void Spread::check(Problems& problems) const
             problems.expect(shareOfValue * total < often || valueOr0(values, value) > 0,
                             "each value that is allowed is used", quantity + " " + value);
         }
-        const double excess = excessOf(binsOf(shares, values, total));
+        const double excess = excessOf(binsOf(shares, values, total), openPart);
         problems.expect(excess < 5, "each value comes as often as chance has it",
                         quantity + ": " + std::to_string(excess) + " standard deviations");
     }

@@ -23,8 +23,9 @@ public:
     void draw(const std::string& quantity, const std::string& value);
 
     // Each value that is drawn is allowed; each that should have come often enough did come; and
-    // Pearson's chi-square over the values is no larger than chance makes it.
-    void check(Problems& problems) const;
+    // Pearson's chi-square over the values is no larger than chance makes it. Of each share a part
+    // may be left open, for what is not counted.
+    void check(Problems& problems, double openPart = 0) const;
 
 private:
     using Counts = std::map<std::string, std::map<std::string, double>>;
