@@ -8,7 +8,9 @@
 #   to_build, to_test        the names for it of what the program needs, and its tests as well
 #   configure FOLDER OPTION...
 #                            has CMake configure this build folder of the project
-#   build_and_test PRESET    configures build/PRESET by CMakePresets.json, builds it, runs its tests
+#   build_and_test PRESET OPTION...
+#                            configures build/PRESET by CMakePresets.json, builds it, runs its tests
+#                            by CTest with these options
 #   build_module FOLDER      builds the lesson as a WebAssembly module there, with what it needs; checks
 #                            that run at the same time take turns, as by the next one
 #   build_tests [TARGET...]  configures and builds build/test, or some of it; checks that run at the same
@@ -48,7 +50,7 @@ configure() {
 build_and_test() {
     configure "$root/build/$1" --preset "$1"
     cmake --build "$root/build/$1" --parallel "$jobs"
-    ctest --test-dir "$root/build/$1" --output-on-failure --parallel "$jobs"
+    ctest --test-dir "$root/build/$1" --output-on-failure --parallel "$jobs" "${@:2}"
 }
 
 build_module() {
