@@ -63,10 +63,11 @@ TEST(TablesJsonTest, RowsAsAFrontEndGetsThem)
     EXPECT_EQ(tables()["ions"][0].dump(), R"({"name":"lithium","formula":"Li","charge":1})");
     EXPECT_EQ(tables()["ions"].back().dump(),
               R"({"name":"dichromate","formula":"Cr2O7","charge":-2})");
-    EXPECT_EQ(tables()["rules"][5].dump(),
-              R"({"anion":"sulfate","family":"sulfates","verdict":"soluble",)"
-              R"json("exceptions":["barium","lead(II)"],)json"
-              R"("sentence":"Sulfates are soluble, except those of barium and lead, and in part calcium and silver."})");
+    EXPECT_EQ(
+        tables()["rules"][5].dump(),
+        R"({"anion":"sulfate","family":"sulfates","verdict":"soluble",)"
+        R"json("exceptions":["barium","lead(II)"],)json"
+        R"("sentence":"Sulfates are soluble, except those of barium and lead, and in part calcium and silver."})");
     EXPECT_EQ(tables()["rules"][0]["exceptions"].dump(), "[]");
 }
 
