@@ -205,7 +205,10 @@ Spans balanceFirst(const Equation& equation, const AcidRow& acid, const Base& ba
     if (isMetal && isAnion) {
         return line("Balance the ", metal, ", then the ", group, ".");
     }
-    return isMetal || isAnion ? line("Balance the ", isMetal ? metal : group, ".") : Spans();
+    if (isMetal) {
+        return line("Balance the ", metal, ".");
+    }
+    return isAnion ? line("Balance the ", group, ".") : Spans();
 }
 
 // "H 12, S 3, Al 2, O 18", oxygen last.
@@ -214,7 +217,8 @@ Spans countsOf(const Equation& equation)
     constexpr int oxygen = 8;
     Atoms counts;
     for (const auto& [coefficient, species] : equation.left) {
-        for (const AtomCount& atom : compositionOf(species).atoms) {
+        const Atoms atoms = compositionOf(species).atoms;
+        for (const AtomCount& atom : atoms) {
             const auto known =
                 std::find_if(counts.begin(), counts.end(), [&atom](const AtomCount& count) {
                     return count.element == atom.element;

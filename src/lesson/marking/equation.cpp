@@ -75,10 +75,10 @@ Roles rolesOf(const EquationAnswer& answer)
         {"", {"g"}, nullptr, nullptr},
     };
     Roles roles;
-    for (const auto* const side : {&equation.left, &equation.right}) {
-        for (const auto& [coefficient, formula] : *side) {
+    for (const bool isOnTheLeft : {true, false}) {
+        for (const auto& [coefficient, formula] : isOnTheLeft ? equation.left : equation.right) {
             roles.push_back(inOrder[roles.size()]);
-            roles.back().isOnTheLeft = side == &equation.left;
+            roles.back().isOnTheLeft = isOnTheLeft;
             roles.back().coefficient = coefficient;
             roles.back().formula = formula;
             roles.back().atoms = atomsOf(formula);

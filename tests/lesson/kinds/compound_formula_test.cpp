@@ -25,7 +25,7 @@ std::vector<Exercise> wholePool(int level)
 Exercise exerciseAbout(const std::string& compound)
 {
     for (const int level : {1, 2, 3}) {
-        for (Exercise& exercise : wholePool(level)) {
+        for (const Exercise& exercise : wholePool(level)) {
             if (exercise.key == compound) {
                 return exercise;
             }

@@ -22,7 +22,7 @@ std::vector<Exercise> wholePool(int level)
 
 Exercise exerciseAbout(const std::string& key)
 {
-    for (Exercise& exercise : wholePool(3)) {
+    for (const Exercise& exercise : wholePool(3)) {
         if (exercise.key == key) {
             return exercise;
         }
