@@ -124,7 +124,7 @@ Choice readChoice(std::string_view names)
     Subset subset;
     for (std::size_t comma = 0; comma != std::string_view::npos;) {
         comma = names.find(',');
-        const Choice one = readOne(names.substr(0, comma));
+        Choice one = readOne(names.substr(0, comma));
         if (!one.error.empty()) {
             return one;
         }

@@ -71,36 +71,43 @@ std::string markedJson(const Exercise& exercise, const char* typed)
                             : markJson(markAnswer(exercise, typed));
 }
 
+// Puts a text where it holds until the next one, and gives it to C.
+const char* kept(std::string& place, std::string text)
+{
+    place = std::move(text);
+    return place.c_str();
+}
+
 } // namespace
 
 } // namespace lesson
 
+// A result holds until the next call of the same function, which is what the analyzer complains of.
+// NOLINTBEGIN(clang-analyzer-cplusplus.InnerPointer)
 const char* lesson_kinds(void)
 {
     thread_local std::string result;
-    result = lesson::kindsJson();
-    return result.c_str();
+    return lesson::kept(result, lesson::kindsJson());
 }
 
 const char* lesson_exercise(unsigned paper, unsigned number, const char* kind)
 {
     thread_local std::string result;
-    result = lesson::withExercise(paper, number, kind, lesson::exerciseJson);
-    return result.c_str();
+    return lesson::kept(result, lesson::withExercise(paper, number, kind, lesson::exerciseJson));
 }
 
 const char* lesson_mark(unsigned paper, unsigned number, const char* kind, const char* typed)
 {
     thread_local std::string result;
-    result = lesson::withExercise(paper, number, kind, [typed](const lesson::Exercise& exercise) {
-        return lesson::markedJson(exercise, typed);
-    });
-    return result.c_str();
+    return lesson::kept(result, lesson::withExercise(paper, number, kind,
+                                                     [typed](const lesson::Exercise& exercise) {
+                                                         return lesson::markedJson(exercise, typed);
+                                                     }));
 }
 
 const char* lesson_tables(void)
 {
     thread_local std::string result;
-    result = lesson::tablesJson();
-    return result.c_str();
+    return lesson::kept(result, lesson::tablesJson());
 }
+// NOLINTEND(clang-analyzer-cplusplus.InnerPointer)

@@ -16,8 +16,8 @@ std::string zeros(int number)
 } // namespace
 
 DigitStream::DigitStream(Ratio value)
-    : whole(value.numerator / value.denominator), power(0),
-      remainder(value.numerator % value.denominator), denominator(value.denominator), nextPlace(-1)
+    : whole(value.numerator / value.denominator), remainder(value.numerator % value.denominator),
+      denominator(value.denominator)
 {
     if (whole > 0) {
         power = 1;

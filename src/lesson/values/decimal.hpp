@@ -31,10 +31,10 @@ public:
 
 private:
     std::int64_t whole;     // what is left of the part before the point
-    std::int64_t power;     // of ten, the place of the next digit in it; 0 behind the point
+    std::int64_t power = 0; // of ten, the place of the next digit in it; 0 behind the point
     std::int64_t remainder; // of the division
     std::int64_t denominator;
-    int nextPlace;
+    int nextPlace = -1;
 };
 
 // A value above 0 rounded to so many significant figures, 1 to 17; a half goes up.
