@@ -45,6 +45,13 @@ function nativeTexts(kinds) {
     return lines.trimEnd().split("\n");
 }
 
+// From a little before the place where two texts part.
+function difference(page = "", native = "") {
+    const at = [...page].findIndex((character, place) => character !== native[place]);
+    const from = Math.max(0, at - 60);
+    return `the page has …${page.slice(from, at + 60)}…, the native library …${native.slice(from, at + 60)}…`;
+}
+
 for (const { kind, levels } of (await openLesson()).kinds()) {
     test(`${count} exercises of ${kind} at its levels are the native ones`, async () => {
         const kinds = levels.map((_, at) => `${kind}:${at + 1}`).join(",");
@@ -52,7 +59,8 @@ for (const { kind, levels } of (await openLesson()).kinds()) {
         const made = await page.evaluate(visitAll, { paper, count, kinds });
         assert.equal(made.length, count);
         assert.equal(expected.length, count);
-        made.forEach((text, at) => assert.equal(text, expected[at], `exercise ${at + 1} of ${kinds}`));
+        const other = made.findIndex((text, at) => text !== expected[at]);
+        assert.equal(other, -1, `exercise ${other + 1} of ${kinds}: ${difference(made[other], expected[other])}`);
         assert.equal(new Set(made.map((text) => JSON.parse(text).level)).size, levels.length);
         assert.deepEqual(page.problems, []);
     });

@@ -1,0 +1,120 @@
+// The speed of the page, as medians of cold starts: each in a browser that has just been started.
+//   node bench.mjs PRACTICE.HTML LESSON.WASM
+import { readFileSync, writeFileSync } from "node:fs";
+import { resolve } from "node:path";
+import { pathToFileURL } from "node:url";
+import { gzipSync } from "node:zlib";
+
+const [page, lesson] = process.argv.slice(2).map((path) => resolve(path));
+process.env.PAGE = page;
+process.env.LESSON = lesson;
+const { address, openChromium, openLesson, type } = await import("./test/page/support.mjs");
+
+const starts = 10;
+const marksEach = 30;
+const slowed = 6;
+
+const bytes = readFileSync(page);
+const empty = resolve(page, "../empty.html");
+writeFileSync(empty, emptyPage(bytes.length));
+
+const median = (numbers) => {
+    const sorted = [...numbers].sort((a, b) => a - b);
+    return (sorted[(sorted.length - 1) >> 1] + sorted[sorted.length >> 1]) / 2;
+};
+
+// As large as the page, with a heading as the last thing and nothing to do.
+function emptyPage(size) {
+    const [before, behind] = ["<!doctype html><meta charset=utf-8><title>Empty</title><!--", "--><body><main><h1>Empty</h1></main>"];
+    return before + "x".repeat(size - before.length - behind.length) + behind;
+}
+
+// From the start of the navigation until a heading is there and a frame with it has been made.
+function tellWhenShown() {
+    const shown = () => requestAnimationFrame(() => setTimeout(() => (window.shownAfter = performance.now())));
+    const watch = new MutationObserver(() => {
+        if (document.querySelector("h1") !== null) {
+            watch.disconnect();
+            shown();
+        }
+    });
+    watch.observe(document, { childList: true, subtree: true });
+}
+
+async function coldStart(url, slowness) {
+    const browser = await openChromium();
+    const tab = await browser.newPage();
+    await tab.addInitScript(tellWhenShown);
+    const client = await tab.context().newCDPSession(tab);
+    await client.send("Emulation.setCPUThrottlingRate", { rate: slowness });
+    await tab.goto(url);
+    const time = await (await tab.waitForFunction(() => window.shownAfter)).jsonValue();
+    await browser.close();
+    return time;
+}
+
+async function coldStarts(url, slowness = 1) {
+    const times = [];
+    for (let start = 0; start < starts; ++start) {
+        times.push(await coldStart(url, slowness));
+    }
+    return times;
+}
+
+// From the press of Check until the page is laid out with the mark.
+function markTime() {
+    const form = document.querySelector(".exercise form");
+    const from = performance.now();
+    form.requestSubmit();
+    document.body.getBoundingClientRect();
+    return performance.now() - from;
+}
+
+async function marks(browser, kind, exercise) {
+    const tab = await browser.newPage();
+    await tab.goto(`${address}#practice/1/1/${kind}`);
+    await type(tab, exercise.slips[0]?.text ?? exercise.key.text);
+    const times = [];
+    for (let mark = 0; mark < marksEach; ++mark) {
+        times.push(await tab.evaluate(markTime));
+    }
+    await tab.close();
+    return times;
+}
+
+async function allMarks() {
+    const library = await openLesson();
+    const browser = await openChromium();
+    const byKind = [];
+    for (const { kind } of library.kinds()) {
+        byKind.push([kind, await marks(browser, kind, library.exercise(1, 1, kind))]);
+    }
+    await browser.close();
+    return byKind;
+}
+
+function line(what, value) {
+    console.log(`${what.padEnd(46)} ${value.padStart(10)}`);
+}
+
+function timeLine(what, times) {
+    const [least, most] = [Math.min(...times), Math.max(...times)];
+    line(what, `${median(times).toFixed(1)} ms   (${least.toFixed(1)} to ${most.toFixed(1)})`);
+}
+
+const hash = "#practice/1/1/titration";
+const emptyTimes = await coldStarts(pathToFileURL(empty).href);
+const pageTimes = await coldStarts(address + hash);
+const slowTimes = await coldStarts(address + hash, slowed);
+
+line("practice.html", `${bytes.length} bytes`);
+line("compressed by gzip", `${gzipSync(bytes, { level: 9 }).length} bytes`);
+console.log(`\nMedians of ${starts} cold starts, least and most in brackets`);
+timeLine("first exercise on the screen", pageTimes);
+timeLine("an empty file of the same size", emptyTimes);
+line("difference of the medians", `${(median(pageTimes) - median(emptyTimes)).toFixed(1)} ms`);
+timeLine(`first exercise, processor slowed ${slowed} times`, slowTimes);
+console.log(`\nA mark: medians of ${marksEach}`);
+for (const [kind, times] of await allMarks()) {
+    timeLine(kind, times);
+}

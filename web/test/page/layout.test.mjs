@@ -1,0 +1,176 @@
+// Narrow and zoomed windows, large text, forced colours, motion, paper.
+import assert from "node:assert/strict";
+import { execFileSync } from "node:child_process";
+import { after, before, test } from "node:test";
+import { press, states } from "./states.mjs";
+import { openChromium, openPage } from "./support.mjs";
+
+let browser;
+before(async () => {
+    browser = await openChromium();
+});
+after(() => browser.close());
+
+// A window 1280 pixels wide and 1024 high, at 400 %, has 320 by 256 left.
+const windows = [
+    { what: "at 320 pixels", viewport: { width: 320, height: 640 }, textSize: 1 },
+    { what: "at 400 %", viewport: { width: 320, height: 256 }, textSize: 1 },
+    { what: "with text twice as large", viewport: { width: 640, height: 800 }, textSize: 2 },
+    { what: "with text twice as large on a phone", viewport: { width: 360, height: 740 }, textSize: 2 },
+];
+
+// What sticks out of the window, but for what scrolls in a box of its own or is for the ear alone.
+function sticksOut() {
+    const ownBox = ".scrolling, .math, .preview, .spoken, .skip";
+    const wide = [...document.querySelectorAll("body *")].filter((element) => {
+        const { left, right } = element.getBoundingClientRect();
+        return element.parentElement.closest(ownBox) === null && !element.matches(".spoken, .skip") && element.checkVisibility() && (right > innerWidth + 0.5 || left < -0.5);
+    });
+    const page = document.documentElement;
+    return [
+        ...(page.scrollWidth > page.clientWidth ? [`the page is ${page.scrollWidth} wide`] : []),
+        ...wide.slice(0, 5).map((element) => element.outerHTML.slice(0, 120)),
+    ];
+}
+
+function cutOff() {
+    return [...document.querySelectorAll("button, label, summary, legend, th, td, h1, h2, p")]
+        .filter((element) => element.scrollWidth > element.clientWidth + 1 && getComputedStyle(element).overflowX !== "visible")
+        .filter((element) => !element.matches(".math, .preview"))
+        .map((element) => element.outerHTML.slice(0, 120));
+}
+
+async function withText(page, times) {
+    await page.evaluate((factor) => {
+        const root = document.documentElement;
+        root.style.fontSize = "";
+        root.style.fontSize = `${parseFloat(getComputedStyle(root).fontSize) * factor}px`;
+    }, times);
+}
+
+for (const [name, hash, reach] of states) {
+    test(`${name}: nothing sticks out of a narrow window, nor is cut off`, async () => {
+        const page = await openPage(browser, hash);
+        await reach(page);
+        for (const { what, viewport, textSize } of windows) {
+            await page.setViewportSize(viewport);
+            await withText(page, textSize);
+            assert.deepEqual(await page.evaluate(sticksOut), [], what);
+            assert.deepEqual(await page.evaluate(cutOff), [], what);
+        }
+        await page.context().close();
+    });
+}
+
+test("what is wider than a narrow window scrolls in its own box, which the Tab key reaches", async () => {
+    const page = await openPage(browser, "#tables", { viewport: { width: 320, height: 640 } });
+    for (const name of ["Relative atomic masses", "Solubility in water"]) {
+        const box = page.getByRole("region", { name });
+        assert.equal(await box.evaluate((element) => element.scrollWidth > element.clientWidth && element.tabIndex === 0), true, name);
+    }
+    await page.context().close();
+});
+
+test("the field is on the screen when it is zoomed to 400 % and has the focus", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration:3", { viewport: { width: 320, height: 256 }, reducedMotion: "reduce" });
+    await page.locator("#answer").focus();
+    const { top, bottom } = await page.locator("#answer").evaluate((field) => field.getBoundingClientRect().toJSON());
+    assert.ok(top >= 0 && bottom <= 256, `from ${top} to ${bottom}`);
+    await page.context().close();
+});
+
+// 44 pixels are a fingertip; and a field with smaller text than 16 is zoomed into by Safari on a phone.
+test("what is pressed on a phone is as large as a fingertip", async () => {
+    for (const kind of ["compound-formula:3", "ion-formula:3", "neutralisation:3", "solubility:3", "titration:3"]) {
+        const page = await openPage(browser, `#practice/4821/3/${kind}`, { viewport: { width: 360, height: 740 }, hasTouch: true, isMobile: true });
+        const small = await page.locator("main button:visible, main input:visible").evaluateAll((all) =>
+            all.filter((one) => one.offsetWidth < 44 || one.offsetHeight < 44).map((one) => `${one.outerHTML.slice(0, 80)} ${one.offsetWidth} × ${one.offsetHeight}`),
+        );
+        assert.deepEqual(small, [], kind);
+        assert.ok((await page.locator("#answer").evaluate((field) => parseFloat(getComputedStyle(field).fontSize))) >= 16, kind);
+        await page.context().close();
+    }
+});
+
+test("each choice is as high as a fingertip, the words beside it included", async () => {
+    const page = await openPage(browser, "#practice/4821/3/solubility:1", { viewport: { width: 360, height: 740 }, hasTouch: true });
+    const heights = await page.locator("label.word:visible").evaluateAll((all) => all.map((one) => one.offsetHeight));
+    assert.equal(heights.length, 2);
+    assert.deepEqual(heights.filter((height) => height < 44), []);
+    await page.context().close();
+});
+
+const forced = { forcedColors: "active" };
+
+for (const colorScheme of ["light", "dark"]) {
+    test(`in forced colours, ${colorScheme}, what matters is drawn in the system's text colour`, async () => {
+        const page = await openPage(browser, "#practice/4821/3/titration:3", { ...forced, colorScheme });
+        await page.locator("#answer").fill("777");
+        await press(page, "Check");
+        const drawn = await page.evaluate(() => {
+            const probe = document.createElement("i");
+            document.body.append(probe);
+            probe.style.color = "CanvasText";
+            const text = getComputedStyle(probe).color;
+            probe.style.color = "ButtonText";
+            const buttonText = getComputedStyle(probe).color;
+            probe.remove();
+            const style = (selector) => getComputedStyle(document.querySelector(selector));
+            return {
+                glass: style(".glass").stroke === text,
+                mark: style(".mark").borderInlineStartColor !== style("body").backgroundColor && style(".mark").borderInlineStartStyle !== "none",
+                fraction: [...document.querySelectorAll(".over")].every((over) => getComputedStyle(over).borderBlockEndColor === text),
+                button: parseFloat(style("form button").borderTopWidth) >= 1 && style("form button").color === buttonText,
+                field: parseFloat(style("#answer").borderTopWidth) >= 1,
+            };
+        });
+        assert.deepEqual(drawn, { glass: true, mark: true, fraction: true, button: true, field: true });
+        await page.context().close();
+    });
+}
+
+test("nothing moves where less motion is wished", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration:3", { reducedMotion: "reduce" });
+    await press(page, "Show the answer");
+    const moving = await page.evaluate(() => ({
+        scrolling: getComputedStyle(document.documentElement).scrollBehavior,
+        animations: document.getAnimations().length,
+        transitions: [...document.querySelectorAll("*")].filter((one) => getComputedStyle(one).transitionDuration !== "0s").length,
+    }));
+    assert.deepEqual(moving, { scrolling: "auto", animations: 0, transitions: 0 });
+    await page.context().close();
+});
+
+// The lightest text and the darkest background on paper, each from 0, black, to 255, white.
+function onPaper() {
+    const shade = (colour) => {
+        const [red, green, blue, alpha = 1] = colour.match(/[\d.]+/g).map(Number);
+        return alpha === 0 ? 255 : Math.round((red + green + blue) / 3);
+    };
+    const seen = [...document.querySelectorAll("html, body, main, main *")].filter((one) => one.getClientRects().length > 0);
+    return {
+        text: Math.max(...seen.filter((one) => one.innerText?.trim()).map((one) => shade(getComputedStyle(one).color))),
+        background: Math.min(...seen.map((one) => shade(getComputedStyle(one).backgroundColor))),
+    };
+}
+
+for (const [name, hash, reach] of states.filter(([name]) => /titration:3|correct|summary|tables|reason/.test(name))) {
+    test(`${name}: from a dark screen it prints dark on white`, async () => {
+        const page = await openPage(browser, hash, { colorScheme: "dark" });
+        await reach(page);
+        await page.emulateMedia({ media: "print", colorScheme: "dark" });
+        const { text, background } = await page.evaluate(onPaper);
+        assert.ok(text <= 0x33, `text of ${text}`);
+        assert.ok(background >= 0xe0, `background of ${background}`);
+        await page.context().close();
+    });
+}
+
+test("a printed summary has the paper and each exercise, and no button", async () => {
+    const page = await openPage(browser, "#practice/4821/6/molar-mass:1?set=5");
+    const text = execFileSync("pdftotext", ["-layout", "-", "-"], { input: await page.pdf({ format: "A4" }), encoding: "utf8" });
+    assert.match(text, /Summary of paper 4821/);
+    assert.equal(text.match(/Exercise \d +Molar mass, level 1 +not solved/g)?.length, 5, text);
+    assert.doesNotMatch(text, /Print|Save|New set|Skip/);
+    await page.context().close();
+});

@@ -1,0 +1,120 @@
+// In WebKitGTK, from a file: the first exercise of each kind, a mark, the tables. Its driver is spoken
+// to in plain WebDriver requests, on a screen that nobody sees.
+import assert from "node:assert/strict";
+import { spawn } from "node:child_process";
+import { existsSync, readdirSync } from "node:fs";
+import { createServer } from "node:net";
+import { after, before, test } from "node:test";
+import { address, openLesson } from "./support.mjs";
+
+const driver = process.env.WEBKIT_DRIVER ?? "/usr/bin/WebKitWebDriver";
+const binary = process.env.MINIBROWSER ?? findMiniBrowser();
+const missing = [driver, binary, "/usr/bin/xvfb-run"].filter((path) => !existsSync(path));
+const skip = missing.length === 0 ? false : `there is no ${missing.join(", no ")}`;
+
+// Debian keeps it in a folder of the machine and the version.
+function findMiniBrowser() {
+    const folders = readdirSync("/usr/lib").filter((name) => name.endsWith("-linux-gnu"));
+    const candidates = folders.flatMap((folder) => ["4.1", "4.0"].map((version) => `/usr/lib/${folder}/webkit2gtk-${version}/MiniBrowser`));
+    return candidates.find((path) => existsSync(path)) ?? "MiniBrowser";
+}
+
+const lesson = await openLesson();
+let server;
+let base;
+let session;
+
+function freePort() {
+    return new Promise((done) => {
+        const probe = createServer().listen(0, "127.0.0.1", () => {
+            const { port } = probe.address();
+            probe.close(() => done(port));
+        });
+    });
+}
+
+async function request(method, path, body) {
+    const response = await fetch(base + path, { method, ...(body === undefined ? {} : { body: JSON.stringify(body) }) });
+    const { value } = await response.json();
+    assert.ok(response.ok, `${method} ${path}: ${value?.error}: ${value?.message}`);
+    return value;
+}
+
+async function until(isTrue, what) {
+    for (let tries = 0; tries < 300; ++tries) {
+        if (await isTrue().catch(() => false)) {
+            return;
+        }
+        await new Promise((done) => setTimeout(done, 100));
+    }
+    assert.fail(`waited 30 s for ${what}`);
+}
+
+before(async () => {
+    if (skip) {
+        return;
+    }
+    const port = await freePort();
+    base = `http://127.0.0.1:${port}`;
+    // A group of processes of its own, which ends as a whole.
+    server = spawn("xvfb-run", ["-a", driver, `--port=${port}`], { detached: true, stdio: "ignore" });
+    await until(async () => (await fetch(`${base}/status`)).ok, "the driver");
+    const capabilities = { alwaysMatch: { "webkitgtk:browserOptions": { binary, args: ["--automation"] } } };
+    const { sessionId } = await request("POST", "/session", { capabilities });
+    session = `/session/${sessionId}`;
+});
+
+after(async () => {
+    if (session !== undefined) {
+        await request("DELETE", session);
+    }
+    if (server !== undefined) {
+        process.kill(-server.pid);
+    }
+});
+
+const run = (script, ...args) => request("POST", `${session}/execute/sync`, { script, args });
+const isThere = (selector) => until(() => run("return document.querySelector(arguments[0]) !== null", selector), selector);
+const textOf = (selector) => run("return document.querySelector(arguments[0]).textContent", selector);
+
+async function find(selector) {
+    const found = await request("POST", `${session}/element`, { using: "css selector", value: selector });
+    return `${session}/element/${Object.values(found)[0]}`;
+}
+
+// The page scrolls smoothly, and what still moves cannot be pressed.
+async function click(selector) {
+    await run("document.querySelector(arguments[0]).scrollIntoView({ block: 'center', behavior: 'instant' })", selector);
+    await request("POST", `${await find(selector)}/click`, {});
+}
+
+const typeInto = async (selector, text) => request("POST", `${await find(selector)}/value`, { text });
+
+// From one address of the page to another it goes on, without loading anew.
+async function open(hash, heading, which) {
+    await request("POST", `${session}/url`, { url: address + hash });
+    const isShown = "return document.querySelector('h1')?.textContent === arguments[0] && (document.querySelector('.which')?.textContent ?? '') === arguments[1]";
+    await until(() => run(isShown, heading, which), `${heading}, ${which}`);
+}
+
+for (const { kind, title } of lesson.kinds()) {
+    test(`${kind}: its first exercise, and a right answer`, { skip }, async () => {
+        const exercise = lesson.exercise(1, 1, kind);
+        await open(`#practice/1/1/${kind}`, "Exercise 1", `${title}, level ${exercise.level} · Paper 1`);
+        if (exercise.ask.choices === undefined) {
+            await typeInto("#answer", exercise.key.text);
+        } else {
+            await click(`input[name=answer][value="${exercise.key.text}"]`);
+        }
+        await click("form button[type=submit]");
+        await isThere(".mark[data-verdict=correct]");
+        assert.equal(await run("return document.activeElement.textContent"), "Next");
+    });
+}
+
+test("the tables, and the reason of a pair", { skip }, async () => {
+    await open("#tables", "Tables", "");
+    assert.ok((await run("return document.querySelectorAll('.periodic abbr').length")) > 100);
+    await click(".solubility button");
+    assert.match(await textOf(".reason"), /: (soluble|insoluble|not asked)\. \w/);
+});
