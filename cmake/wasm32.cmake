@@ -6,5 +6,6 @@ set(CMAKE_CXX_COMPILER_TARGET wasm32-wasi)
 # The linker finds nothing in an archive by GNU ar, which writes no index for such objects.
 set(CMAKE_AR llvm-ar)
 set(CMAKE_RANLIB llvm-ranlib)
-# The libraries have nothing that could unwind.
-set(CMAKE_CXX_FLAGS_INIT "-fno-exceptions")
+# The libraries have nothing that could unwind, nor anything that destroys what is static: a module
+# has no end.
+set(CMAKE_CXX_FLAGS_INIT "-fno-exceptions -fno-c++-static-destructors")
