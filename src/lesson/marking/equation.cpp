@@ -66,11 +66,12 @@ Roles rolesOf(const EquationAnswer& answer)
     const IonRow* const acidAnion = &anionOf(*answer.acid);
     const IonRow* const cation = answer.base.cation;
     const IonRow* const baseAnion = answer.base.anion;
+    const States saltStates = statesOfSalt({cation, acidAnion});
     const Role inOrder[] = {
         {"acid", {"aq"}, findIon("hydrogen"), acidAnion},
         baseAnion == nullptr ? Role{"base", {"aq", "g"}, nullptr, nullptr}
                              : Role{"base", solidOrDissolved, cation, baseAnion},
-        {"salt", statesOfSalt({cation, acidAnion}), cation, acidAnion},
+        {"salt", saltStates, cation, acidAnion},
         {"", {"l"}, nullptr, nullptr},
         {"", {"g"}, nullptr, nullptr},
     };
