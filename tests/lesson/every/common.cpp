@@ -285,6 +285,18 @@ Exact valueOf(const Json& quantity)
     return Exact::read(quantity["value"]);
 }
 
+Exact volumeOf(const Json& quantity)
+{
+    if (!quantity.contains("titres")) {
+        return valueOf(quantity);
+    }
+    Exact sum;
+    for (std::size_t i = 1; i < quantity["titres"].size(); ++i) {
+        sum = sum + Exact::read(quantity["titres"][i]);
+    }
+    return sum / Exact(static_cast<std::int64_t>(quantity["titres"].size() - 1)) / 1000;
+}
+
 void checkWhatIsShown(Problems& problems, const Json& exercise, const std::string& kind,
                       unsigned paper, unsigned number)
 {

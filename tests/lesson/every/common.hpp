@@ -31,6 +31,8 @@ const Json* givenQuantity(const Json& exercise, const std::string& symbol,
 // Whether the prompt tells it.
 bool isTold(const Json& quantity);
 Exact valueOf(const Json& quantity);
+// A volume in litres, exactly: a mean of three titres has no end as a decimal.
+Exact volumeOf(const Json& quantity);
 
 // "titration:2"
 std::string kindAt(const std::string& slug, int level);

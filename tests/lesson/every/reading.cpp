@@ -66,11 +66,15 @@ Json exerciseAt(const std::string& kind, unsigned paper, unsigned number)
     return Json::parse(withNumbersAsTexts(lesson_exercise(paper, number, kind.c_str())));
 }
 
+Json markOn(const std::string& kind, unsigned paper, unsigned number, const std::string& typed)
+{
+    return Json::parse(lesson_mark(paper, number, kind.c_str(), typed.c_str()));
+}
+
 std::string verdictOn(const std::string& kind, unsigned paper, unsigned number,
                       const std::string& typed)
 {
-    const Json mark = Json::parse(lesson_mark(paper, number, kind.c_str(), typed.c_str()));
-    return mark.value("verdict", "none");
+    return markOn(kind, paper, number, typed).value("verdict", "none");
 }
 
 std::string textOf(const Json& spans)

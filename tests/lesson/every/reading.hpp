@@ -12,6 +12,8 @@
 using Json = nlohmann::json;
 
 Json exerciseAt(const std::string& kind, unsigned paper, unsigned number);
+// {"verdict": …, "sentence": …}
+Json markOn(const std::string& kind, unsigned paper, unsigned number, const std::string& typed);
 std::string verdictOn(const std::string& kind, unsigned paper, unsigned number,
                       const std::string& typed);
 
