@@ -9,7 +9,7 @@
 // A result of the lesson's interface, which has to be valid JSON.
 inline nlohmann::json parsed(const char* result)
 {
-    const nlohmann::json json = nlohmann::json::parse(result, nullptr, false);
+    nlohmann::json json = nlohmann::json::parse(result, nullptr, false);
     require(!json.is_discarded(), "the result is valid JSON");
     return json;
 }

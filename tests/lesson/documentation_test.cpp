@@ -27,7 +27,7 @@ struct Example {
 std::vector<Example> examples()
 {
     std::ifstream file(LESSON_DOCUMENTATION);
-    const std::regex call("lesson_\\w+\\([0-9]+, .*\"\\)");
+    const std::regex call(R"re(lesson_\w+\([0-9]+, .*"\))re");
     std::vector<Example> found;
     std::string lastCall;
     bool isInside = false;

@@ -72,7 +72,7 @@ TEST(JsonTest, EscapesWhatHasToBe)
     };
     const Case cases[] = {
         {"", R"("")"},
-        {"a \"b\" \\ c/d", R"("a \"b\" \\ c/d")"},
+        {R"(a "b" \ c/d)", R"("a \"b\" \\ c/d")"},
         {std::string("\0\n\x1f", 3), R"("\u0000\u000a\u001f")"},
         {"\x7f", "\"\x7f\""},
         {"³⁻ → ≤ 𝑐", "\"³⁻ → ≤ 𝑐\""},
