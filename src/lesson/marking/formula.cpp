@@ -117,7 +117,8 @@ std::optional<Mark> right(const Attempt& attempt)
 {
     const TypedFormula& read = attempt.read;
     const bool isRight =
-        isAmong(attempt.right, read.text) && !read.hasCharge && !read.hasRaisedNumber;
+        (isAmong(attempt.right, read.text) && !read.hasCharge && !read.hasRaisedNumber) ||
+        isAmong(attempt.right, bareFormula(attempt.plain)); // with blanks within a symbol
     return isRight ? std::optional(markOf(Verdict::correct, sentences::correct)) : std::nullopt;
 }
 
@@ -317,7 +318,7 @@ std::string onlyDifference(const Symbols& typed, const Symbols& rightOnes)
 Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
                  std::string_view typed)
 {
-    Attempt attempt = {answer, slips, withoutBond(plainTyped(typed)), {}, {}, {}};
+    Attempt attempt = {answer, slips, withoutBond(spelledOut(plainTyped(typed))), {}, {}, {}};
     attempt.read = readFormula(attempt.plain);
     attempt.right = spellingsOf(compoundFormula(*answer.cation, *answer.anion));
     attempt.rightAtoms = readFormula(attempt.right.front()).atoms;
