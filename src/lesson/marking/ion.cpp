@@ -335,6 +335,27 @@ std::optional<Mark> notRead(const Attempt& attempt)
     return unreadable(unread.empty() ? attempt.plain : unread);
 }
 
+// "Fe(III)", "FeIII", "Fe(III)3+"
+std::optional<Mark> numeralLeftIn(const Attempt& attempt)
+{
+    if (!hasRomanNumeral(attempt.ion)) {
+        return std::nullopt;
+    }
+    for (const std::string& other : withoutNumeral(bareFormula(attempt.plain))) {
+        Attempt mended = attempt;
+        mended.readings = readingsOf(other);
+        if (right(mended).has_value()) {
+            return markOf(Verdict::slip, "The charge is right. Leave out the Roman numeral.");
+        }
+        const Reading& first = mended.readings.front();
+        if (first.charge == 0 && hasRightFormula(mended, first)) {
+            return markOf(Verdict::slip,
+                          attempt.ion.charge > 0 ? sentences::romanCharge : sentences::noCharge);
+        }
+    }
+    return std::nullopt;
+}
+
 // "Fe", "Fe3", "Fe^3"
 std::optional<Mark> noCharge(const Attempt& attempt)
 {
@@ -416,8 +437,8 @@ std::optional<Mark> symbol(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped,      right,      capitals, listedSlip, lookalikes, notRead, noCharge, wrongCharge,
-    chargeAsSubscript, otherOrder, ending,   oxygens,    symbol,
+    nothingTyped, right,       capitals,          listedSlip, lookalikes, notRead, numeralLeftIn,
+    noCharge,     wrongCharge, chargeAsSubscript, otherOrder, ending,     oxygens, symbol,
 };
 
 } // namespace
