@@ -45,7 +45,8 @@ using Pool = std::vector<PoolClass>;
 // The member that exercise `number` (from 1) meets on a walk through the pool: each step draws the
 // group, then a class of it, then a member of that, each among those of which something is left;
 // when nothing is, the walk begins anew in another order. So no member comes again while there is a
-// new one, none follows itself, and at first every group and class comes equally often.
+// new one, and at first every group and class comes equally often; where the pool has more than two
+// members, none follows itself.
 int memberOnWalk(const Pool& pool, Seed seed, unsigned number);
 
 } // namespace lesson

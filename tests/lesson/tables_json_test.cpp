@@ -22,7 +22,7 @@ const Json& tables()
     return parsed;
 }
 
-const Json& pair(const std::string& cation, const std::string& anion)
+Json pair(const std::string& cation, const std::string& anion)
 {
     const Json& pairs = tables()["pairs"];
     const auto found = std::find_if(pairs.begin(), pairs.end(), [&](const Json& one) {
@@ -107,7 +107,7 @@ TEST(TablesJsonTest, VerdictsOfSomePairs)
         {"iron(III)", "iodide", "", "not asked", "Iron(III) turns iodide into iodine"},
     };
     for (const Case& one : cases) {
-        const Json& found = pair(one.cation, one.anion);
+        const Json found = pair(one.cation, one.anion);
         EXPECT_EQ(found.value("formula", ""), one.formula) << found;
         EXPECT_EQ(found["verdict"], one.verdict) << found;
         EXPECT_EQ(found["reason"].get<std::string>().find(one.reason), 0U) << found;

@@ -174,9 +174,10 @@ Spans promptOf(const Preparation& drawn, const Quantities& quantities)
 {
     const Spans substance = substanceOf(drawn, quantities.molarMass);
     if (drawn.asksForMass) {
-        return line("Calculate the mass in ", unit("g"), " of ", substance,
+        return line("Calculate the mass, in ", unit("g"), ", of ", substance,
                     " that has to be dissolved in water and made up to ", told(quantities.volume),
-                    " of solution for a concentration of ", told(quantities.concentration), ".");
+                    " of solution to give a concentration of ", told(quantities.concentration),
+                    ".");
     }
     return line(told(quantities.mass), " of ", substance, " is dissolved in water and made up to ",
                 told(quantities.volume),

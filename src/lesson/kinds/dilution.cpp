@@ -266,7 +266,7 @@ Spans promptOf(const Dilution& drawn, const Quantities& quantities)
                     ". Calculate the concentration of the diluted solution in ", unit("mol/L"),
                     ".");
     case Asked::V1:
-        return line("Calculate the volume in ", unit("mL"), " of ", told(c1), " ", solution,
+        return line("Calculate the volume, in ", unit("mL"), ", of ", told(c1), " ", solution,
                     " that has to be diluted to make ", told(V2), " of ", told(c2), " solution.");
     case Asked::c1:
         return line(told(V1), " of ", solution, " is diluted to ", told(V2),
@@ -275,9 +275,9 @@ Spans promptOf(const Dilution& drawn, const Quantities& quantities)
     case Asked::water:
         break;
     }
-    return line("Calculate the volume of water in ", unit("mL"), " that has to be added to ",
-                told(V1), " of ", told(c1), " ", solution, " to make its concentration ", told(c2),
-                ". Assume that the volumes add up.");
+    return line("Calculate the volume of water, in ", unit("mL"), ", that has to be added to ",
+                told(V1), " of ", told(c1), " ", solution, " to bring its concentration down to ",
+                told(c2), ". Assume that the volumes add up.");
 }
 
 // ------------------------------------------------------------------------------ the solution

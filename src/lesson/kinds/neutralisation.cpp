@@ -253,7 +253,7 @@ std::vector<Step> solutionFor(const Equation& equation, const AcidRow& acid, con
             isCarbonate(base) ? "the water and the carbon dioxide." : "the water.";
         steps.push_back({line((first.empty() ? "Balance " : "Then ") + what), spansOf(equation)});
     }
-    steps.push_back({line("Count: ", countsOf(equation), " on each side."), spansOf(equation)});
+    steps.push_back({line("Count."), line(countsOf(equation), " on each side")});
     return steps;
 }
 

@@ -12,6 +12,7 @@
 #include "lesson/marking/spellings.hpp"
 #include "lesson/marking/typed.hpp"
 #include "lesson/marking/typed_equation.hpp"
+#include "lesson/marking/typed_formula.hpp"
 #include "lesson/tables/elements.hpp"
 #include "lesson/tables/pairs.hpp"
 #include "lesson/values/decimal.hpp"
@@ -535,7 +536,7 @@ std::string sentences::isNot(std::string_view formula, std::string_view role, st
 
 Mark markEquation(const EquationAnswer& answer, std::string_view typed)
 {
-    const std::string plain = plainTyped(typed);
+    const std::string plain = spelledOut(plainTyped(typed));
     if (plain.empty()) {
         return {Verdict::unreadable, "Type formulas on both sides of an arrow: ->."};
     }

@@ -117,7 +117,8 @@ std::optional<Mark> right(const Attempt& attempt)
 {
     const TypedFormula& read = attempt.read;
     const bool isRight =
-        isAmong(attempt.right, read.text) && !read.hasCharge && !read.hasRaisedNumber;
+        (isAmong(attempt.right, read.text) && !read.hasCharge && !read.hasRaisedNumber) ||
+        isAmong(attempt.right, bareFormula(attempt.plain)); // with blanks within a symbol
     return isRight ? std::optional(markOf(Verdict::correct, sentences::correct)) : std::nullopt;
 }
 
@@ -179,18 +180,19 @@ std::optional<Mark> numberInFront(const Attempt& attempt)
     return slipWhen(first >= '0' && first <= '9', "Leave out the number in front.");
 }
 
-// "Fe(III)2O3" is read as one with iodine.
+// "Fe(III)2O3" is read as one with iodine. Where no iodide is asked for, the numeral shows even if
+// more is wrong.
 std::optional<Mark> numeralLeftIn(const Attempt& attempt)
 {
-    for (const std::string_view numeral : {"(I)", "(II)", "(III)"}) {
-        std::string text = attempt.read.text;
-        const std::size_t place = text.find(numeral);
-        if (place != std::string::npos &&
-            isAmong(attempt.right, text.erase(place, numeral.size()))) {
-            return markOf(Verdict::slip, sentences::romanNumeral);
-        }
-    }
-    return std::nullopt;
+    const bool isIodide = attempt.answer.anion->formula == "I";
+    const bool hasNumeral = attempt.read.text.find("(II)") != std::string::npos ||
+                            attempt.read.text.find("(III)") != std::string::npos;
+    const std::vector<std::string> others = withoutNumeral(attempt.read.text);
+    const bool isRightWithout =
+        std::any_of(others.begin(), others.end(), [&attempt](const std::string& other) {
+            return isAmong(attempt.right, readFormula(other).simplest);
+        });
+    return slipWhen(isRightWithout || (hasNumeral && !isIodide), sentences::romanNumeral);
 }
 
 std::optional<Mark> waterLeftIn(const Attempt& attempt)
@@ -317,7 +319,7 @@ std::string onlyDifference(const Symbols& typed, const Symbols& rightOnes)
 Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
                  std::string_view typed)
 {
-    Attempt attempt = {answer, slips, withoutBond(plainTyped(typed)), {}, {}, {}};
+    Attempt attempt = {answer, slips, withoutBond(spelledOut(plainTyped(typed))), {}, {}, {}};
     attempt.read = readFormula(attempt.plain);
     attempt.right = spellingsOf(compoundFormula(*answer.cation, *answer.anion));
     attempt.rightAtoms = readFormula(attempt.right.front()).atoms;
@@ -346,6 +348,20 @@ std::string withLetterI(std::string_view plain)
         }
     }
     return text;
+}
+
+std::vector<std::string> withoutNumeral(std::string_view text)
+{
+    std::vector<std::string> others;
+    for (const std::string_view numeral :
+         {"(VII)", "(III)", "(II)", "(I)", "VII", "III", "II", "I"}) {
+        const std::size_t place = text.find(numeral, 1);
+        if (place != std::string_view::npos) {
+            others.emplace_back(text);
+            others.back().erase(place, numeral.size());
+        }
+    }
+    return others;
 }
 
 std::string_view mistypedLetter(std::string_view plain)

@@ -21,6 +21,10 @@ std::string withLetterO(std::string_view plain);
 // The text with each small l that ends no symbol as the letter I: "Pbl2" -> "PbI2".
 std::string withLetterI(std::string_view plain);
 
+// The text without a Roman numeral behind its front, one for each way to read one: "CuIISO4" ->
+// "CuSO4", "CuISO4".
+std::vector<std::string> withoutNumeral(std::string_view text);
+
 // What to tell a learner whose text is right with these letters.
 std::string_view mistypedLetter(std::string_view plain);
 

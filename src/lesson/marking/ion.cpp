@@ -18,6 +18,10 @@ namespace lesson
 namespace
 {
 
+constexpr std::string_view digits = "0123456789";
+constexpr std::string_view signs = "+-";
+constexpr std::string_view digitsAndSigns = "0123456789+-";
+
 // Whether a learner typed the name in place of the formula, with or without "ion".
 bool isNameOf(std::string_view plain, const IonRow& ion)
 {
@@ -29,9 +33,22 @@ bool isNameOf(std::string_view plain, const IonRow& ion)
     return isTyped(ion.name) || isTyped(ion.american);
 }
 
-constexpr std::string_view digits = "0123456789";
-constexpr std::string_view signs = "+-";
-constexpr std::string_view digitsAndSigns = "0123456789+-";
+// "SO4**2-" -> "SO4^2-", as programmers raise
+std::string withCaret(std::string plain)
+{
+    const std::size_t stars = plain.find("**");
+    return stars == std::string::npos ? plain : plain.replace(stars, 2, "^");
+}
+
+// "Fe3+ ion" -> "Fe3+"
+std::string withoutIon(const std::string& plain)
+{
+    constexpr std::string_view word = " ion";
+    const std::size_t front = plain.size() - std::min(plain.size(), word.size());
+    const bool isBehindCharge = front > 0 && signs.find(plain[front - 1]) != std::string_view::npos;
+    return isBehindCharge && lowerCase(plain.substr(front)) == word ? plain.substr(0, front)
+                                                                    : plain;
+}
 
 // One way to read what was typed: "SO42-" is SO4 with 2-, SO42 with 1-, or SO with 42-.
 struct Reading {
@@ -318,6 +335,27 @@ std::optional<Mark> notRead(const Attempt& attempt)
     return unreadable(unread.empty() ? attempt.plain : unread);
 }
 
+// "Fe(III)", "FeIII", "Fe(III)3+"
+std::optional<Mark> numeralLeftIn(const Attempt& attempt)
+{
+    if (!hasRomanNumeral(attempt.ion)) {
+        return std::nullopt;
+    }
+    for (const std::string& other : withoutNumeral(bareFormula(attempt.plain))) {
+        Attempt mended = attempt;
+        mended.readings = readingsOf(other);
+        if (right(mended).has_value()) {
+            return markOf(Verdict::slip, "The charge is right. Leave out the Roman numeral.");
+        }
+        const Reading& first = mended.readings.front();
+        if (first.charge == 0 && hasRightFormula(mended, first)) {
+            return markOf(Verdict::slip,
+                          attempt.ion.charge > 0 ? sentences::romanCharge : sentences::noCharge);
+        }
+    }
+    return std::nullopt;
+}
+
 // "Fe", "Fe3", "Fe^3"
 std::optional<Mark> noCharge(const Attempt& attempt)
 {
@@ -399,15 +437,16 @@ std::optional<Mark> symbol(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped,      right,      capitals, listedSlip, lookalikes, notRead, noCharge, wrongCharge,
-    chargeAsSubscript, otherOrder, ending,   oxygens,    symbol,
+    nothingTyped, right,       capitals,          listedSlip, lookalikes, notRead, numeralLeftIn,
+    noCharge,     wrongCharge, chargeAsSubscript, otherOrder, ending,     oxygens, symbol,
 };
 
 } // namespace
 
 Mark markIon(const IonAnswer& answer, const std::vector<Slip>& slips, std::string_view typed)
 {
-    Attempt attempt = {*answer.ion, slips, withoutBond(plainTyped(typed)), {}, {}, {}};
+    const std::string plain = withoutIon(withCaret(spelledOut(plainTyped(typed))));
+    Attempt attempt = {*answer.ion, slips, withoutBond(plain), {}, {}, {}};
     attempt.readings = readingsOf(bareFormula(attempt.plain));
     attempt.right = spellingsOf(answer.ion->formula);
     attempt.rightAtoms = readFormula(answer.ion->formula).atoms;

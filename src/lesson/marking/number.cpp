@@ -154,18 +154,27 @@ Mark correctMark(const TypedNumber& number, const Target& key, const std::string
 
 Mark figuresMark(const TypedNumber& number, const Target& key, const std::string& rounded)
 {
-    const bool lacksZeros = number.mostFigures < key.figures && rounded.back() == '0' &&
-                            isEqual(number, roundedTo(key.value, key.figures));
+    const Decimal answer = roundedTo(key.value, key.figures);
+    const bool lacksZeros =
+        number.mostFigures < key.figures && answer.digits % 10 == 0 && isEqual(number, answer);
     return {Verdict::figures,
             lacksZeros ? "Keep the zero: " + rounded + "."
                        : "The value is right. Now give it to " + toFigures(key.figures) + "."};
 }
 
-Mark markRead(const TypedNumber& number, const NumberAnswer& answer, const std::vector<Slip>& slips,
-              int figures)
+// The answer as the sentences tell it: in the unit that was typed, where that is not the asked one.
+std::string roundedAsTyped(const Target& key, const NumberReading& reading)
 {
+    const std::string rounded = shown(key.value * powerOfTen(-reading.power), key.figures);
+    return reading.power == 0 ? rounded : rounded + " " + reading.unit;
+}
+
+Mark markRead(const NumberReading& reading, const NumberAnswer& answer,
+              const std::vector<Slip>& slips, int figures)
+{
+    const TypedNumber& number = reading.number;
     const Target key = {answer.value, figures, answer.isMolarMass};
-    const std::string rounded = shown(answer.value, figures);
+    const std::string rounded = roundedAsTyped(key, reading);
     const Fit fit = fitOf(number, key);
     if (fit == Fit::correct) {
         return correctMark(number, key, rounded);
@@ -222,7 +231,7 @@ Mark markNumber(const NumberAnswer& answer, const Ask& ask, const std::vector<Sl
                 std::string_view typed)
 {
     const NumberReading reading = readNumber(plainTyped(typed), ask);
-    return reading.problem.empty() ? markRead(reading.number, answer, slips, ask.figures)
+    return reading.problem.empty() ? markRead(reading, answer, slips, ask.figures)
                                    : Mark{Verdict::unreadable, reading.problem};
 }
 

@@ -8,13 +8,15 @@
 #include "lesson/marking/number_text.hpp"
 #include "lesson/marking/reading.hpp"
 #include "lesson/marking/sentences.hpp"
+#include "lesson/marking/typed.hpp"
 #include "lesson/marking/units.hpp"
 
 // What is read:
 //
-//   answer    = [front] [sign] number [unit] ["."]
+//   answer    = [front] [sign] number [unit] [note] ["."]
 //   front     = symbols, words and signs of equality; digits only as a part of a symbol: "c2",
 //               "M(CuSO4·5H2O)"
+//   note      = "(3 s.f.)", "to 3 significant figures", …
 //
 // Of a chain such as "c = n/V = 0.0456" that leaves the last part. Where two numbers stand, neither
 // is taken.
@@ -73,14 +75,22 @@ bool endsWith(std::string_view text, std::string_view ending)
 
 bool endsWithEquality(std::string_view front)
 {
-    constexpr std::string_view signs[] = {"=", ":", "~", "≈", "≅", "≃", "∼", "～", "(", "["};
+    constexpr std::string_view signs[] = {"=", ":", "~", "≈", "≅", "≃", "∼", "(", "[", "∴"};
     return std::any_of(std::begin(signs), std::end(signs),
                        [front](std::string_view sign) { return endsWith(front, sign); });
 }
 
-// Whether the number means the same without what stands in front of it and of its sign.
-bool canBeSkipped(std::string_view front, bool hasSign)
+// An arrow leads to the result: "c -> 0.0456", "=> 0.0456".
+std::string_view withoutArrow(std::string_view front)
 {
+    const bool isArrow = endsWith(front, "->") || endsWith(front, "=>");
+    return isArrow ? withoutAtTheEnd(front.substr(0, front.size() - 2), " -=") : front;
+}
+
+// Whether the number means the same without what stands in front of it and of its sign.
+bool canBeSkipped(std::string_view typed, bool hasSign)
+{
+    const std::string_view front = withoutArrow(typed);
     if (front.empty()) {
         return true;
     }
@@ -135,6 +145,34 @@ std::string_view withoutSubstance(std::string_view unit, std::string_view formul
     return left.size() < unit.size() ? withoutEnding(left, "of") : unitBeforeSubstance(unit);
 }
 
+// Without the blanks and letters of the ending; the whole text where it has another one.
+std::string_view withoutWord(std::string_view text, std::string_view ending)
+{
+    return lowerCase(text.substr(text.size() - std::min(text.size(), ending.size()))) == ending
+               ? withoutAtTheEnd(text.substr(0, text.size() - ending.size()), " ")
+               : text;
+}
+
+// Without the figures that someone tells, "mol/L (3 s.f.)" -> "mol/L": they are counted anyway.
+std::string_view withoutNote(std::string_view text)
+{
+    constexpr std::string_view words[] = {
+        "s.f",      "sf",        "significant figures",
+        "sig figs", "sig. figs", "sig fig",
+        "sig. fig", "sig.figs",  "figures",
+        "d.p",      "dp",        "decimal places",
+    };
+    std::string_view plain = withoutAtTheEnd(text, " .)]");
+    for (const std::string_view word : words) {
+        const std::string_view left = withoutWord(plain, word);
+        if (left.size() < plain.size() && !left.empty() && isDigit(left.back())) {
+            const std::string_view note = withoutAtTheEnd(left.substr(0, left.size() - 1), " ");
+            return withoutAtTheEnd(withoutWord(note, "to"), " ,;([");
+        }
+    }
+    return text;
+}
+
 // Whether it is the beginning of an exponent that could not be read.
 bool isPowerOfTenPart(std::string_view text)
 {
@@ -161,17 +199,20 @@ bool looksLikeUnit(std::string_view text)
 
 // Brings a number to the asked unit; the sentence to the learner if the unit cannot be that of the
 // answer.
-std::string convert(TypedNumber& number, std::string_view behind, const Ask& ask)
+std::string convert(NumberReading& reading, std::string_view behind, const Ask& ask)
 {
     takeBlanks(behind);
-    const std::string_view unit = withoutSubstance(withoutAtTheEnd(behind, " .,;!?"), ask.of);
+    const std::string_view noted = withoutNote(withoutAtTheEnd(behind, " .,;!?"));
+    const std::string_view unit = withoutSubstance(noted, ask.of);
     if (unit.find_first_not_of(" )]}") == std::string_view::npos) {
         return "";
     }
     const std::optional<Unit> typed = unitOf(unit);
     const std::optional<Unit> asked = unitOf(ask.unit);
     if (typed && asked && typed->measure == asked->measure) {
-        number.place += typed->power - asked->power;
+        reading.power = typed->power - asked->power;
+        reading.unit = unit;
+        reading.number.place += reading.power;
         return "";
     }
     return typed || looksLikeUnit(unit) ? "The answer should be in " + ask.unit + "."
@@ -197,10 +238,14 @@ NumberReading readNumber(std::string_view plain, const Ask& ask)
         return {{}, cannotRead(inFront)};
     }
     std::string_view rest = plain.substr(start);
-    NumberText text = takeNumber(rest);
-    text.number.isNegative = endsWith(inFront, "-");
-    const std::string problem = convert(text.number, rest, ask);
-    return {text.number, problem.empty() ? text.question : problem};
+    const NumberText text = takeNumber(rest);
+    NumberReading reading = {text.number, text.question};
+    reading.number.isNegative = endsWith(inFront, "-");
+    const std::string problem = convert(reading, rest, ask);
+    if (!problem.empty()) {
+        reading.problem = problem;
+    }
+    return reading;
 }
 
 } // namespace lesson

@@ -13,7 +13,9 @@ namespace lesson
 // it.
 struct NumberReading {
     TypedNumber number;
-    std::string problem;
+    std::string problem = {};
+    std::string unit = {}; // as it was typed; empty where none was
+    int power = 0;         // of ten, the typed unit in the asked one: 3 for L where mL is asked
 };
 
 // Reads a number, a symbol in front and a unit behind it, in the spelling of `plainTyped`.

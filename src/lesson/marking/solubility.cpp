@@ -18,19 +18,46 @@ namespace
 {
 
 // clang-format off
-constexpr std::string_view yes[] = {"y", "yes", "yep", "yeah", "yea"};
-constexpr std::string_view no[] = {"n", "no", "nope"};
-constexpr std::string_view dissolving[] = {"soluble", "dissolves", "dissolve", "does"};
+constexpr std::string_view yes[] = {"y", "yes", "yep", "yup", "yeah", "yea"};
+constexpr std::string_view no[] = {"n", "no", "nope", "nah"};
+constexpr std::string_view soluble[] = {
+    "soluble", "dissolves", "dissolve", "dissolved", "dissolvable", "does", "do",
+};
+constexpr std::string_view insoluble[] = {
+    "insoluble", "insol", "unsoluble", "indissoluble", "undissolved", "nonsoluble",
+};
 constexpr std::string_view negations[] = {
-    "not", "insoluble", "doesn't", "doesnt", "isn't", "isnt", "won't",
+    "not", "non", "doesn't", "doesnt", "don't", "dont", "isn't", "isnt", "won't", "wont", "cannot",
+    "can't", "cant", "wouldn't", "wouldnt",
 };
-constexpr std::string_view fillers[] = {"it", "it's", "its", "is", "in", "water", "will", "so"};
+constexpr std::string_view fillers[] = {
+    "it", "it's", "its", "this", "that", "they", "the", "a", "an", "i", "think", "answer", "salt",
+    "compound", "solid", "is", "are", "will", "would", "can", "in", "water", "so", "at", "all",
+    "very", "well", "easily", "readily", "highly", "freely", "fully", "completely", "quite",
+    "practically", "almost", "nearly", "only", "definitely", "always",
+};
+constexpr std::string_view reasons[] = {"because", "since"};
+// That nothing precipitates, in a word or in several.
 constexpr std::string_view none[] = {
-    "n", "no", "none", "nothing", "nil", "no precipitate", "no precipitates", "no precipitation",
-    "no precipitate forms", "no precipitate is formed", "there is no precipitate",
-    "there is none", "none forms", "none is formed", "nothing forms", "nothing precipitates",
-    "no ppt", "no rxn", "no solid", "no solid forms", "no reaction", "no product", "neither", "-", "--",
+    "n", "no", "none", "nothing", "nil", "neither", "neither is insoluble", "neither precipitates", "nr", "n.r", "n/a", "-", "--",
 };
+constexpr std::string_view denials[] = {"no", "none", "nothing", "nil"};
+constexpr std::string_view everything[] = {"both", "all", "everything", "they"};
+constexpr std::string_view inSolution[] = {
+    "soluble", "dissolved", "dissolve", "dissolves", "solution",
+};
+constexpr std::string_view precipitating[] = {
+    "precipitate", "precipitates", "precipitated", "precipitation", "ppt", "ppte", "ppts", "form",
+    "forms", "formed", "react", "reaction", "rxn", "solid", "solids", "product", "products",
+    "crystals", "change",
+};
+constexpr std::string_view aroundNone[] = {
+    "there", "there's", "theres", "is", "it", "are", "be", "will", "would", "does", "do", "so",
+    "a", "the", "of", "them", "these", "salt", "salts", "stay", "stays", "remain", "remains",
+    "remaining", "in", "occurs", "happens", "takes", "place", "visible", "insoluble", "new", "out",
+    "here", "at", "because", "since",
+};
+constexpr std::string_view exceptions[] = {"but", "except"};
 // clang-format on
 
 // In lower case, with single blanks, without quotation marks and what ends a sentence.
@@ -39,7 +66,7 @@ std::string wordsOf(std::string_view typed)
     std::string words;
     for (const char c : lowerCase(plainTyped(typed))) {
         if (c != ' ' || (!words.empty() && words.back() != ' ')) {
-            words += c;
+            words += c == '`' ? '\'' : c;
         }
     }
     constexpr std::string_view around = " .!\"'";
@@ -56,16 +83,26 @@ bool isAmong(const std::string_view (&list)[N], const std::string& words)
     return std::find(std::begin(list), std::end(list), words) != std::end(list);
 }
 
-// The words one by one, without commas; "in soluble" is one.
+// The words one by one, without what stands between them, up to where a reason begins; "in soluble"
+// is one.
 std::vector<std::string> splitWords(const std::string& words)
 {
-    std::vector<std::string> split(1);
-    for (const char c : words) {
-        if (c != ' ' && c != ',') {
-            split.back() += c;
-        } else if (!split.back().empty() && !(split.back() == "in" && split.size() == 1)) {
-            split.emplace_back();
+    constexpr std::string_view between = " ,;:.()-/\"";
+    std::vector<std::string> split;
+    std::size_t begin = words.find_first_not_of(between);
+    while (begin != std::string::npos) {
+        const std::size_t end = std::min(words.find_first_of(between, begin), words.size());
+        const std::string word = words.substr(begin, end - begin);
+        if (!split.empty() && isAmong(reasons, word)) {
+            break;
         }
+        const bool goesOn = word == "soluble" && !split.empty() && split.back() == "in";
+        if (goesOn) {
+            split.back() += word;
+        } else {
+            split.push_back(word);
+        }
+        begin = words.find_first_not_of(between, end);
     }
     return split;
 }
@@ -79,14 +116,16 @@ bool hasAny(const std::vector<std::string>& words, const std::string_view (&list
 
 bool isUnderstood(const std::string& word)
 {
-    return isAmong(yes, word) || isAmong(no, word) || isAmong(dissolving, word) ||
-           isAmong(negations, word) || isAmong(fillers, word);
+    return isAmong(yes, word) || isAmong(no, word) || isAmong(soluble, word) ||
+           isAmong(insoluble, word) || isAmong(negations, word) || isAmong(fillers, word);
 }
 
 // A sentence may begin with the substance: "magnesium carbonate is insoluble".
 bool areUnderstood(const std::vector<std::string>& words)
 {
-    constexpr std::string_view verbs[] = {"is", "isn't", "isnt", "does", "doesn't", "dissolves"};
+    constexpr std::string_view verbs[] = {
+        "is", "isn't", "isnt", "does", "doesn't", "doesnt", "dissolves", "will", "won't", "cannot",
+    };
     constexpr std::ptrdiff_t longestName = 3;
     const auto verb = std::find_if(words.begin(), words.end(), [&verbs](const std::string& word) {
         return isAmong(verbs, word);
@@ -98,25 +137,87 @@ bool areUnderstood(const std::vector<std::string>& words)
 
 enum class Said { itDissolves, itDoesNot, unclear };
 
+// "not insoluble"
+bool isNegatedTwice(const std::vector<std::string>& words)
+{
+    const auto pair = std::adjacent_find(
+        words.begin(), words.end(), [](const std::string& first, const std::string& second) {
+            return isAmong(negations, first) && isAmong(insoluble, second);
+        });
+    return pair != words.end();
+}
+
 Said saidBy(const std::vector<std::string>& words)
 {
     const bool isNegated = hasAny(words, negations);
-    const bool dissolves = hasAny(words, dissolving) && !isNegated;
-    if (!areUnderstood(words) || (hasAny(words, yes) && isNegated) ||
-        (hasAny(words, no) && dissolves)) {
+    const bool saysDissolves = hasAny(words, soluble) && !isNegated;
+    const bool saysNot = hasAny(words, insoluble) || isNegated;
+    if (!areUnderstood(words) || isNegatedTwice(words)) {
         return Said::unclear;
     }
-    if (isNegated || hasAny(words, no)) {
-        return Said::itDoesNot;
+    const bool isYes = hasAny(words, yes) || saysDissolves;
+    const bool isNo = hasAny(words, no) || saysNot;
+    if (isYes == isNo) { // neither, or both
+        return Said::unclear;
     }
-    return dissolves || hasAny(words, yes) ? Said::itDissolves : Said::unclear;
+    return isYes ? Said::itDissolves : Said::itDoesNot;
 }
 
-// "none", or a sentence that begins with it.
+bool isUnderstoodOfNone(const std::string& word)
+{
+    return isAmong(denials, word) || isAmong(everything, word) || isAmong(inSolution, word) ||
+           isAmong(precipitating, word) || isAmong(negations, word) || isAmong(aroundNone, word);
+}
+
+// "no precipitate forms", "all are soluble", "it doesn't precipitate"
+bool isSentenceOfNone(const std::vector<std::string>& words)
+{
+    if (!std::all_of(words.begin(), words.end(), isUnderstoodOfNone)) {
+        return false;
+    }
+    const bool isNegated = hasAny(words, negations);
+    const bool isDenied = hasAny(words, denials);
+    if (isNegated) {
+        return !isDenied && hasAny(words, precipitating) && !hasAny(words, everything);
+    }
+    return isDenied || (hasAny(words, everything) && hasAny(words, inSolution));
+}
+
+// Who begins with "none" may go on in any words but those that take it back.
 bool saysNone(const std::string& words)
 {
-    const std::string first = splitWords(words).front();
-    return isAmong(none, words) || first == "none" || first == "nothing";
+    if (isAmong(none, words)) {
+        return true;
+    }
+    const std::vector<std::string> split = splitWords(words);
+    if (split.empty()) {
+        return false;
+    }
+    const bool beginsWithNone = split.front() == "none" || split.front() == "nothing";
+    return (beginsWithNone && !hasAny(split, exceptions)) || isSentenceOfNone(split);
+}
+
+bool isCompound(std::string_view text)
+{
+    const TypedFormula read = readFormula(text);
+    return read.isRead && !read.hasCharge && read.atoms.size() > 1;
+}
+
+// "CuCO3 + NH4Cl", "PbI2, KNO3" or a whole equation: more than the precipitate.
+bool areSeveral(std::string_view plain)
+{
+    constexpr std::string_view arrows[] = {"->", "="};
+    constexpr std::string_view separators[] = {"+", ",", ";", "&", " and ", " or "};
+    const auto hasArrow = [plain](std::string_view arrow) {
+        return plain.find(arrow) != std::string_view::npos;
+    };
+    const auto separates = [plain](std::string_view separator) {
+        const std::size_t place = plain.find(separator);
+        return place != std::string_view::npos && isCompound(plain.substr(0, place)) &&
+               isCompound(plain.substr(place + separator.size()));
+    };
+    return std::any_of(std::begin(arrows), std::end(arrows), hasArrow) ||
+           std::any_of(std::begin(separators), std::end(separators), separates);
 }
 
 std::string joined(std::string_view first, std::string_view second)
@@ -193,6 +294,9 @@ Mark markPrecipitate(const PrecipitateAnswer& answer, const std::vector<Slip>& s
                               : Mark{Verdict::correct, joined(sentences::correct, answer.rule)};
     }
     const std::string plain = plainTyped(typed);
+    if (areSeveral(plain)) {
+        return markOf(Verdict::unreadable, "Type the formula of the precipitate alone, or none.");
+    }
     return hasPrecipitate ? markFormulaOf(answer, slips, plain) : markNone(slips, plain);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "lesson/marking/reading.hpp"
 #include "lesson/utf8.hpp"
 
 namespace lesson
@@ -18,34 +19,46 @@ struct Spelling {
 
 // clang-format off
 constexpr Spelling spellings[] = {
-    // Blanks: tab, line ends, no-break, the typographer's widths, ideographic, byte-order mark.
-    {"\t", " "}, {"\n", " "}, {"\v", " "}, {"\f", " "}, {"\r", " "},
-    {"\u00A0", " "}, {"\u2000", " "}, {"\u2001", " "}, {"\u2002", " "}, {"\u2003", " "},
-    {"\u2004", " "}, {"\u2005", " "}, {"\u2006", " "}, {"\u2007", " "}, {"\u2008", " "},
-    {"\u2009", " "}, {"\u200A", " "}, {"\u202F", " "}, {"\u205F", " "}, {"\u3000", " "},
-    // No width at all.
-    {"\u200B", ""}, {"\u200C", ""}, {"\u200D", ""}, {"\u2060", ""}, {"\uFEFF", ""},
-    {"\uFE0E", ""}, {"\uFE0F", ""},
-    // Minus signs and dashes.
+    // Blanks: tab, line ends, no-break, the typographer's widths, ideographic.
+    {"\t", " "}, {"\n", " "}, {"\v", " "}, {"\f", " "}, {"\r", " "}, {"\u0085", " "},
+    {"\u00A0", " "}, {"\u1680", " "}, {"\u2000", " "}, {"\u2001", " "}, {"\u2002", " "},
+    {"\u2003", " "}, {"\u2004", " "}, {"\u2005", " "}, {"\u2006", " "}, {"\u2007", " "},
+    {"\u2008", " "}, {"\u2009", " "}, {"\u200A", " "}, {"\u2028", " "}, {"\u2029", " "},
+    {"\u202F", " "}, {"\u205F", " "}, {"\u3000", " "},
+    // Nothing to see: soft hyphen, joiners, marks of direction, byte-order mark, variants.
+    {"\u00AD", ""}, {"\u200B", ""}, {"\u200C", ""}, {"\u200D", ""}, {"\u200E", ""},
+    {"\u200F", ""}, {"\u2060", ""}, {"\u2061", ""}, {"\u2062", ""}, {"\u2063", ""},
+    {"\u2064", ""}, {"\uFEFF", ""}, {"\uFE0E", ""}, {"\uFE0F", ""},
+    // Minus signs and dashes, and plus signs.
     {"\u2010", "-"}, {"\u2011", "-"}, {"\u2012", "-"}, {"\u2013", "-"}, {"\u2014", "-"},
-    {"\u2015", "-"}, {"\u2212", "-"}, {"\uFE63", "-"}, {"\uFF0D", "-"}, {"\u02D7", "-"},
-    {"\uFF0B", "+"},
+    {"\u2015", "-"}, {"\u2043", "-"}, {"\u2212", "-"}, {"\u2796", "-"}, {"\uFE58", "-"},
+    {"\uFE63", "-"}, {"\u02D7", "-"},
+    {"\u2795", "+"}, {"\uFE62", "+"},
     // Subscripts.
     {"\u2080", "0"}, {"\u2081", "1"}, {"\u2082", "2"}, {"\u2083", "3"}, {"\u2084", "4"},
     {"\u2085", "5"}, {"\u2086", "6"}, {"\u2087", "7"}, {"\u2088", "8"}, {"\u2089", "9"},
-    {"\u208D", "("}, {"\u208E", ")"},
+    {"\u208A", "+"}, {"\u208B", "-"}, {"\u208D", "("}, {"\u208E", ")"},
     // Arrows.
     {"\u2192", "->"}, {"\u27F6", "->"}, {"\u21D2", "->"}, {"\u27F9", "->"}, {"\u279D", "->"},
-    {"\u279C", "->"}, {"\u2794", "->"}, {"\u21C0", "->"}, {"\u21FE", "->"},
-    {"\u27A1", "->"}, {"\u2B95", "->"}, {"\u279E", "->"}, {"\u2799", "->"},
+    {"\u279C", "->"}, {"\u2794", "->"}, {"\u21C0", "->"}, {"\u21FE", "->"}, {"\u21C1", "->"},
+    {"\u27A1", "->"}, {"\u2B95", "->"}, {"\u279E", "->"}, {"\u2799", "->"}, {"\u279B", "->"},
+    {"\u279F", "->"}, {"\u27A0", "->"}, {"\u27A4", "->"}, {"\u27A8", "->"}, {"\u21A6", "->"},
+    {"\u21E2", "->"}, {"\u21E8", "->"}, {"\u21FC", "->"}, {"\u27FE", "->"}, {"\u2907", "->"},
+    {"\u2B62", "->"}, {"\U0001F812", "->"}, {"\U0001F816", "->"}, {"\U0001F852", "->"},
+    {"\U0001F862", "->"}, {"\U0001F872", "->"},
     {"\u21CC", "<->"}, {"\u21CB", "<->"}, {"\u21C4", "<->"}, {"\u2194", "<->"}, {"\u21D4", "<->"},
-    {"\u21C6", "<->"}, {"\u27F7", "<->"},
-    {"\u2190", "<-"}, {"\u27F5", "<-"}, {"\u21D0", "<-"}, {"\uFF1D", "="},
+    {"\u21C6", "<->"}, {"\u27F7", "<->"}, {"\u27FA", "<->"}, {"\u21FF", "<->"}, {"\u2B0C", "<->"},
+    {"\u2190", "<-"}, {"\u27F5", "<-"}, {"\u21D0", "<-"}, {"\u27F8", "<-"}, {"\u2B05", "<-"},
+    {"\u2B60", "<-"},
     // Multiplication signs, and dots above the line.
     {"\u00D7", "×"}, {"\u2715", "×"}, {"\u2A2F", "×"}, {"\u2217", "*"},
     {"\u00B7", "·"}, {"\u2022", "·"}, {"\u2219", "·"}, {"\u22C5", "·"}, {"\u2027", "·"},
-    // Quotation marks and apostrophes.
-    {"\u2018", "'"}, {"\u2019", "'"}, {"\u201C", "\""}, {"\u201D", "\""}, {"\u201E", "\""},
+    // Quotation marks and apostrophes, and the accents and primes that are typed for them.
+    {"\u2018", "'"}, {"\u2019", "'"}, {"\u201A", "'"}, {"\u00B4", "'"}, {"\u02BC", "'"},
+    {"\u2032", "'"},
+    {"\u201C", "\""}, {"\u201D", "\""}, {"\u201E", "\""}, {"\u00AB", "\""}, {"\u00BB", "\""},
+    // Roman numerals and the litre as one character.
+    {"\u2160", "I"}, {"\u2161", "II"}, {"\u2162", "III"}, {"\u2166", "VII"}, {"\u2113", "l"},
     // Fractions as one character: a blank keeps them apart from a number in front.
     {"\u00BD", " 1/2"}, {"\u2153", " 1/3"}, {"\u2154", " 2/3"}, {"\u00BC", " 1/4"},
     {"\u00BE", " 3/4"}, {"\u2159", " 1/6"}, {"\u2044", "/"}, {"\u2215", "/"},
@@ -54,7 +67,7 @@ constexpr Spelling spellings[] = {
 constexpr Spelling superscripts[] = {
     {"\u2070", "0"}, {"\u00B9", "1"}, {"\u00B2", "2"}, {"\u00B3", "3"}, {"\u2074", "4"},
     {"\u2075", "5"}, {"\u2076", "6"}, {"\u2077", "7"}, {"\u2078", "8"}, {"\u2079", "9"},
-    {"\u207A", "+"}, {"\u207B", "-"},
+    {"\u207A", "+"}, {"\u207B", "-"}, {"\u207D", "("}, {"\u207E", ")"},
 };
 // clang-format on
 
@@ -77,21 +90,49 @@ const Spelling* spellingAt(const Spelling (&table)[N], std::string_view text)
     return found == std::end(table) ? nullptr : found;
 }
 
-std::string_view withoutBlanksAtTheEnds(std::string_view text)
+// Letters, digits and signs as wide as Chinese characters: they stand in the order of ASCII, from
+// "!" at U+FF01 to "~" at U+FF5E, whose last bytes go from 0x80 to 0xBF and then begin anew.
+constexpr std::size_t wideLength = 3;
+std::string asciiOfWide(std::string_view text)
 {
-    while (!text.empty() && text.front() == ' ') {
-        text.remove_prefix(1);
+    if (text.size() < wideLength || text[0] != '\xEF' || (text[1] != '\xBC' && text[1] != '\xBD')) {
+        return "";
     }
-    while (!text.empty() && text.back() == ' ') {
-        text.remove_suffix(1);
+    const int last = static_cast<unsigned char>(text[2]);
+    const int code = (text[1] == '\xBC' ? 0x20 : 0x60) + last - 0x80;
+    const bool isWide = last >= 0x80 && last <= 0xBF && code > ' ' && code <= '~';
+    return isWide ? std::string(1, static_cast<char>(code)) : "";
+}
+
+bool isAround(char character)
+{
+    return character == '\'' || character == '"' || character == '`' || character == '$';
+}
+
+// Without blanks at the ends, what ends a sentence but changes no answer, and what some put around
+// an answer to show where it begins and ends.
+std::string_view withoutWrapping(std::string_view text)
+{
+    for (;;) {
+        const std::size_t before = text.size();
+        while (!text.empty() && text.front() == ' ') {
+            text.remove_prefix(1);
+        }
+        while (!text.empty() && isOneOf(text.back(), " ,;!")) {
+            text.remove_suffix(1);
+        }
+        if (text.size() > 2 && isAround(text.front()) && text.back() == text.front()) {
+            text = text.substr(1, text.size() - 2);
+        }
+        if (text.size() == before) {
+            return text;
+        }
     }
-    return text;
 }
 
 // How many characters at the front have no other spelling: of ASCII, all that can be printed.
 std::size_t ordinaryLength(std::string_view text)
 {
-    const auto isOrdinary = [](char c) { return c >= ' ' && c <= '~'; };
     return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isOrdinary) -
                                     text.begin());
 }
@@ -115,11 +156,17 @@ std::string plainTyped(std::string_view typed)
             plain += '^';
         }
         inSuperscript = superscript != nullptr;
+        const std::string wide = asciiOfWide(typed);
+        if (!wide.empty()) {
+            plain += wide;
+            typed.remove_prefix(wideLength);
+            continue;
+        }
         const Spelling* const known = inSuperscript ? superscript : spellingAt(spellings, typed);
         plain += known == nullptr ? typed.substr(0, 1) : known->plain;
         typed.remove_prefix(known == nullptr ? 1 : known->typed.size());
     }
-    return std::string(withoutBlanksAtTheEnds(plain));
+    return std::string(withoutWrapping(plain));
 }
 
 std::string quotable(std::string_view typed)

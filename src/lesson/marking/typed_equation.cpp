@@ -104,7 +104,7 @@ struct StateSpelling {
 
 // In lower case, without blanks.
 constexpr StateSpelling stateSpellings[] = {
-    {"s", "s"}, {"l", "l"}, {"ℓ", "l"}, {"g", "g"}, {"aq", "aq"}, {"aq.", "aq"},
+    {"s", "s"}, {"l", "l"}, {"g", "g"}, {"aq", "aq"}, {"aq.", "aq"},
 };
 
 std::string_view stateIn(std::string_view brackets)

@@ -21,7 +21,7 @@ namespace lesson
 //   number   = "_"? digits | "_"? "{" digits "}" | "^" digits     the last one raised by mistake
 //   charge   = "^"? sign+ digits? | "^" digits sign+              in any brackets behind the "^"
 //   dot      = "." | "·" | "*" | "×"
-//   state    = "(s)" | "(l)" | "(g)" | "(aq)" | "↓" | "↑"
+//   state    = "_"? ("(s)" | "(l)" | "(g)" | "(aq)") | "↓" | "↑"       perhaps in "_{" and "}"
 //
 // At most one number stands behind a unit: a second one is not read.
 
@@ -89,13 +89,20 @@ struct SplitState {
 SplitState splitState(std::string_view typed)
 {
     const std::string_view plain = withoutEnd(typed, endsWith(typed, ".") ? 1 : 0);
-    const auto* const spelling =
-        std::find_if(std::begin(stateSpellings), std::end(stateSpellings),
-                     [plain](const StateSpelling& known) { return endsWith(plain, known.typed); });
+    const bool isInBraces = endsWith(plain, "}"); // "NaCl_{(s)}"
+    const std::string_view inside = withoutEnd(plain, isInBraces ? 1 : 0);
+    const auto* const spelling = std::find_if(
+        std::begin(stateSpellings), std::end(stateSpellings),
+        [inside](const StateSpelling& known) { return endsWith(inside, known.typed); });
     if (spelling == std::end(stateSpellings)) {
         return {plain, ""};
     }
-    return {withoutEnd(plain, spelling->typed.size()), spelling->state};
+    const std::string_view formula = withoutEnd(inside, spelling->typed.size());
+    if (isInBraces && !endsWith(formula, "{")) {
+        return {plain, ""};
+    }
+    const std::string_view outside = withoutEnd(formula, isInBraces ? 1 : 0);
+    return {withoutEnd(outside, endsWith(outside, "_") ? 1 : 0), spelling->state};
 }
 
 // The bytes of the dot at the front, 0 where there is none.
@@ -503,6 +510,30 @@ std::string withoutBond(std::string plain)
         plain.erase(bond, 1);
     }
     return plain;
+}
+
+std::string spelledOut(std::string_view plain)
+{
+    struct Row {
+        std::string_view typed;
+        std::string_view formula;
+    };
+    // The longer ones first.
+    constexpr Row abbreviations[] = {
+        {"OAc", "CH3COO"}, {"AcO", "CH3COO"}, {"Ac", "CH3COO"}, {"Me", "CH3"}};
+    std::string text;
+    while (!plain.empty()) {
+        const auto* const row =
+            std::find_if(std::begin(abbreviations), std::end(abbreviations), [&](const Row& known) {
+                const std::string_view behind =
+                    plain.substr(std::min(known.typed.size(), plain.size()));
+                return startsWith(plain, known.typed) && (behind.empty() || !isSmall(behind[0]));
+            });
+        const bool isOrdinary = row == std::end(abbreviations);
+        text += isOrdinary ? plain.substr(0, 1) : row->formula;
+        plain.remove_prefix(isOrdinary ? 1 : row->typed.size());
+    }
+    return text;
 }
 
 std::string bareFormula(std::string_view plain)

@@ -30,6 +30,11 @@ struct TypedFormula {
 //   "Ca(OH)_2 (s)" -> "Ca(OH)2", state "s"    "[Na]_{2} SO4" -> "(Na)2SO4", simplest "Na2SO4"
 TypedFormula readFormula(std::string_view plain);
 
+// With the groups written out that chemists abbreviate: Ac is ethanoate here, for no exercise asks
+// for actinium.
+//   "Ca(OAc)2" -> "Ca(CH3COO)2"    "MeCOOH" -> "CH3COOH"    "Acid" as it is
+std::string spelledOut(std::string_view plain);
+
 // Without the bond that some write inside an ethanoate: "CH3-COO-" -> "CH3COO-".
 std::string withoutBond(std::string plain);
 

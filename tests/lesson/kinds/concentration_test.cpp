@@ -194,21 +194,22 @@ TEST(ConcentrationTest, PagesWorkedByHand)
               "! 0.0856 mol/L  That is an amount. One step is left.\n"
               "! 0.0171 mol/L  Check how amount, concentration and volume are related.\n"
               "! 0.0428 mol/L  How many mL are in a litre?\n");
-    EXPECT_EQ(pageOf(concentrationExercise({1, 3, Kind::concentration, 2})),
-              "Calculate the mass in g of sodium nitrate, NaNO3 (M = 85.00 g/mol), that has to be "
-              "dissolved in water and made up to 50.0 mL of solution for a concentration of 0.250 "
-              "mol/L.\n"
-              "  Convert the volume. | V = 50.0 mL = 0.0500 L\n"
-              "  Amount from concentration. | n = cV = 0.250 × 0.0500 = 0.01250 mol\n"
-              "  Mass from amount. | m = nM = 0.01250 × 85.00 = 1.06 g\n"
-              "= 1.06 g\n"
-              "! 0.0125 g  That is an amount. One step is left.\n"
-              "! 425 g  Check how amount, concentration and volume are related.\n"
-              "! 10.6 g  How many mL are in a litre?\n");
+    EXPECT_EQ(
+        pageOf(concentrationExercise({1, 3, Kind::concentration, 2})),
+        "Calculate the mass, in g, of sodium nitrate, NaNO3 (M = 85.00 g/mol), that has to be "
+        "dissolved in water and made up to 50.0 mL of solution to give a concentration of 0.250 "
+        "mol/L.\n"
+        "  Convert the volume. | V = 50.0 mL = 0.0500 L\n"
+        "  Amount from concentration. | n = cV = 0.250 × 0.0500 = 0.01250 mol\n"
+        "  Mass from amount. | m = nM = 0.01250 × 85.00 = 1.06 g\n"
+        "= 1.06 g\n"
+        "! 0.0125 g  That is an amount. One step is left.\n"
+        "! 425 g  Check how amount, concentration and volume are related.\n"
+        "! 10.6 g  How many mL are in a litre?\n");
     EXPECT_EQ(
         pageOf(concentrationExercise({1, 3, Kind::concentration, 3})),
-        "Calculate the mass in g of iron(II) sulfate heptahydrate, FeSO4.7H2O, that has to be "
-        "dissolved in water and made up to 50.0 mL of solution for a concentration of 0.200 "
+        "Calculate the mass, in g, of iron(II) sulfate heptahydrate, FeSO4.7H2O, that has to be "
+        "dissolved in water and made up to 50.0 mL of solution to give a concentration of 0.200 "
         "mol/L.\n"
         "  Molar mass; the water belongs to the crystal. | "
         "M = 55.85 + 32.06 + 4(16.00) + 7(18.016) = 278.022 g/mol\n"

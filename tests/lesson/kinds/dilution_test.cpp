@@ -220,7 +220,7 @@ TEST(DilutionTest, PagesWorkedByHand)
               "! 0.0323 mol/L  V2 is the volume of the whole diluted solution.\n"
               "! 0.0345 mol/L  V2 is the volume of the whole diluted solution.\n");
     EXPECT_EQ(pageOf(dilutionExercise({2, 1, Kind::dilution, 2})),
-              "Calculate the volume in mL of 2.00 mol/L ethanoic acid that has to be diluted to "
+              "Calculate the volume, in mL, of 2.00 mol/L ethanoic acid that has to be diluted to "
               "make 150 mL of 0.533 mol/L solution.\n"
               "  The amount stays the same. | c1V1 = c2V2\n"
               "  Rearrange; both volumes in the same unit. | "
@@ -242,21 +242,22 @@ TEST(DilutionTest, PagesWorkedByHand)
               "! 0.00222 mol/L  Should the result be larger or smaller?\n"
               "! 0.533 mol/L  V2 is the volume of the whole diluted solution.\n"
               "! 0.466 mol/L  V2 is the volume of the whole diluted solution.\n");
-    EXPECT_EQ(pageOf(dilutionExercise({2, 1, Kind::dilution, 3})),
-              "Calculate the volume of water in mL that has to be added to 100 mL of 1.00 mol/L "
-              "sodium hydroxide solution to make its concentration 0.333 mol/L. Assume that the "
-              "volumes add up.\n"
-              "  The amount stays the same. | c1V1 = c2V2\n"
-              "  Rearrange; both volumes in the same unit. | "
-              "V2 = c1V1/c2 = 1.00 × 100/0.333 = 300.3 mL\n"
-              "  Check: 3.003 times weaker, 3.003 times the volume. | "
-              "V2 = 3.003 × 100 = 300.3 mL\n"
-              "  The water is the rest of the diluted solution. | "
-              "V(H2O) = V2 − V1 = 300.3 − 100 = 200 mL\n"
-              "= 200 mL\n"
-              "! 300 mL  Read again which volume is asked for.\n"
-              "! 66.7 mL  Should the result be larger or smaller?\n"
-              "! 400 mL  V2 is the volume of the whole diluted solution.\n");
+    EXPECT_EQ(
+        pageOf(dilutionExercise({2, 1, Kind::dilution, 3})),
+        "Calculate the volume of water, in mL, that has to be added to 100 mL of 1.00 mol/L "
+        "sodium hydroxide solution to bring its concentration down to 0.333 mol/L. Assume that the "
+        "volumes add up.\n"
+        "  The amount stays the same. | c1V1 = c2V2\n"
+        "  Rearrange; both volumes in the same unit. | "
+        "V2 = c1V1/c2 = 1.00 × 100/0.333 = 300.3 mL\n"
+        "  Check: 3.003 times weaker, 3.003 times the volume. | "
+        "V2 = 3.003 × 100 = 300.3 mL\n"
+        "  The water is the rest of the diluted solution. | "
+        "V(H2O) = V2 − V1 = 300.3 − 100 = 200 mL\n"
+        "= 200 mL\n"
+        "! 300 mL  Read again which volume is asked for.\n"
+        "! 66.7 mL  Should the result be larger or smaller?\n"
+        "! 400 mL  V2 is the volume of the whole diluted solution.\n");
 }
 
 } // namespace

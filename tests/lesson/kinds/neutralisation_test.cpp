@@ -225,21 +225,27 @@ TEST(NeutralisationTest, PromptAndGivenNameAcidBaseAndSalt)
               "Write the balanced equation for the complete neutralisation");
 }
 
-TEST(NeutralisationTest, TheSolutionEndsWithTheKeyAndTheAtomsOfEachSide)
+TEST(NeutralisationTest, TheSolutionShowsTheKeyAndThenTheAtomsOfEachSide)
 {
     for (const Exercise& exercise : everyExercise()) {
         std::string key = exercise.key;
         key.replace(key.find("->"), 2, "→");
+        const std::size_t steps = exercise.solution.size();
+        ASSERT_GE(steps, 2U) << key;
+        EXPECT_EQ(textOf(exercise.solution[steps - 2].math), key);
         const Step& last = exercise.solution.back();
-        EXPECT_EQ(textOf(last.math), key);
-        std::string counts = textOf(last.say);
+        EXPECT_EQ(textOf(last.say), "Count.") << key;
+        const std::string counts = textOf(last.math);
         for (const auto& [symbol, count] : atomsOn(exercise.equation->right)) {
-            EXPECT_NE(counts.find(" " + symbol + " " + std::to_string(count)), std::string::npos)
-                << counts << " of " << key;
+            const std::string counted = ", " + symbol + " " + std::to_string(count);
+            EXPECT_NE((", " + counts).find(counted), std::string::npos) << counts << " of " << key;
         }
         const auto elements = std::count(counts.begin(), counts.end(), ',') + 1;
         EXPECT_EQ(static_cast<std::size_t>(elements), atomsOn(exercise.equation->left).size())
             << counts;
+        const std::string end = " on each side";
+        ASSERT_GT(counts.size(), end.size());
+        EXPECT_EQ(counts.substr(counts.size() - end.size()), end);
     }
 }
 
@@ -265,17 +271,14 @@ TEST(NeutralisationTest, SolutionsReadLikeATextbook)
                   "Write the formulas. | H2SO4 + Al(OH)3 → Al2(SO4)3 + H2O",
                   "Balance the aluminium, then the sulfate. | 3H2SO4 + 2Al(OH)3 → Al2(SO4)3 + H2O",
                   "Then the water. | 3H2SO4 + 2Al(OH)3 → Al2(SO4)3 + 6H2O",
-                  "Count: H 12, S 3, Al 2, O 18 on each side. | "
-                  "3H2SO4 + 2Al(OH)3 → Al2(SO4)3 + 6H2O"}));
+                  "Count. | H 12, S 3, Al 2, O 18 on each side"}));
     EXPECT_EQ(solutionText({findAcid("HCl"), {findIon("sodium"), findIon("hydroxide")}}),
-              (std::vector<std::string>{
-                  "Write the formulas. | HCl + NaOH → NaCl + H2O",
-                  "Count: H 2, Cl 1, Na 1, O 1 on each side. | HCl + NaOH → NaCl + H2O"}));
+              (std::vector<std::string>{"Write the formulas. | HCl + NaOH → NaCl + H2O",
+                                        "Count. | H 2, Cl 1, Na 1, O 1 on each side"}));
     EXPECT_EQ(solutionText({findAcid("H3PO4"), {findIon("aluminium"), findIon("hydroxide")}}),
-              (std::vector<std::string>{
-                  "Write the formulas. | H3PO4 + Al(OH)3 → AlPO4 + H2O",
-                  "Balance the water. | H3PO4 + Al(OH)3 → AlPO4 + 3H2O",
-                  "Count: H 6, P 1, Al 1, O 7 on each side. | H3PO4 + Al(OH)3 → AlPO4 + 3H2O"}));
+              (std::vector<std::string>{"Write the formulas. | H3PO4 + Al(OH)3 → AlPO4 + H2O",
+                                        "Balance the water. | H3PO4 + Al(OH)3 → AlPO4 + 3H2O",
+                                        "Count. | H 6, P 1, Al 1, O 7 on each side"}));
     EXPECT_EQ(solutionText({findAcid("H2SO4"), {findIon("sodium"), findIon("hydrogencarbonate")}}),
               (std::vector<std::string>{
                   "Write the formulas; a hydrogencarbonate gives carbon dioxide too. | "
@@ -283,15 +286,13 @@ TEST(NeutralisationTest, SolutionsReadLikeATextbook)
                   "Balance the sodium. | H2SO4 + 2NaHCO3 → Na2SO4 + H2O + CO2",
                   "Then the water and the carbon dioxide. | "
                   "H2SO4 + 2NaHCO3 → Na2SO4 + 2H2O + 2CO2",
-                  "Count: H 4, S 1, Na 2, C 2, O 10 on each side. | "
-                  "H2SO4 + 2NaHCO3 → Na2SO4 + 2H2O + 2CO2"}));
+                  "Count. | H 4, S 1, Na 2, C 2, O 10 on each side"}));
     EXPECT_EQ(solutionText({findAcid("CH3COOH"), {findIon("zinc"), findIon("carbonate")}}),
               (std::vector<std::string>{
                   "Write the formulas; a carbonate gives carbon dioxide too. | "
                   "CH3COOH + ZnCO3 → Zn(CH3COO)2 + H2O + CO2",
                   "Balance the ethanoate. | 2CH3COOH + ZnCO3 → Zn(CH3COO)2 + H2O + CO2",
-                  "Count: C 5, H 8, Zn 1, O 7 on each side. | "
-                  "2CH3COOH + ZnCO3 → Zn(CH3COO)2 + H2O + CO2"}));
+                  "Count. | C 5, H 8, Zn 1, O 7 on each side"}));
 }
 
 TEST(NeutralisationTest, AmericanNamesStandBesideTheOthers)

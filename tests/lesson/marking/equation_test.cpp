@@ -91,6 +91,17 @@ TEST(EquationMarkTest, RightInEverySpelling)
     }
 }
 
+TEST(EquationMarkTest, EthanoicAcidMayBeAbbreviated)
+{
+    for (const char* const typed :
+         {"2HOAc + Ca(OH)2 -> Ca(OAc)2 + 2H2O", "2AcOH + Ca(OH)2 -> (AcO)2Ca + 2H2O",
+          "2HAc + Ca(OH)2 -> Ca(Ac)2 + 2H2O", "2MeCOOH + Ca(OH)2 -> Ca(MeCOO)2 + 2H2O",
+          "2HOAc(aq) + Ca(OH)2(aq) → Ca(OAc)2(aq) + 2H2O(l)"}) {
+        const Mark mark = markEquation(vinegar(), typed);
+        EXPECT_EQ(mark.verdict, Verdict::correct) << typed << ": " << mark.sentence;
+    }
+}
+
 TEST(EquationMarkTest, TwoWayArrows)
 {
     expectMarks(soda(), {{"2HCl + Na2CO3 <=> 2NaCl + H2O + CO2", Verdict::correct, twoWay},

@@ -86,6 +86,11 @@ std::vector<std::string> spellingsTyped(const std::string& formula)
         formula + " (aq)",
         formula + "(AQ).",
         formula + "↓",
+        formula + "_(s)",
+        formula + "_{(aq)}",
+        "\"" + formula + "\"",
+        replaced(formula, "l", " l"),
+        formula + ",",
     };
 }
 
@@ -122,13 +127,15 @@ TEST(FormulaMarkTest, EthanoatesMayBeWrittenInTheirOtherWays)
         std::vector<std::string> typed;
     };
     const Row rows[] = {
-        {"sodium",
-         {"NaCH3COO", "CH3COONa", "NaC2H3O2", "NaCH3CO2", "CH3CO2Na", "Na(CH3COO)", "(CH3COO)Na",
-          "C2H3O2Na", "NaOOCCH3", "NaO2CCH3", "H3CCOONa", "CH₃COONa", "CH_3COONa (aq)"}},
+        {"sodium", {"NaCH3COO",   "CH3COONa",   "NaC2H3O2",       "NaCH3CO2", "CH3CO2Na",
+                    "Na(CH3COO)", "(CH3COO)Na", "C2H3O2Na",       "NaOOCCH3", "NaO2CCH3",
+                    "H3CCOONa",   "CH₃COONa",   "CH_3COONa (aq)", "NaOAc",    "AcONa",
+                    "Na(OAc)",    "NaAc",       "MeCOONa",        "MeCO2Na",  "Na OAc"}},
         {"ammonium", {"NH4CH3COO", "CH3COONH4", "NH4C2H3O2", "CH3CO2NH4"}},
         {"calcium",
          {"Ca(CH3COO)2", "(CH3COO)2Ca", "Ca(C2H3O2)2", "Ca(CH3CO2)2", "(CH3CO2)2Ca", "Ca[CH3COO]_2",
-          "Ca(OOCCH3)2", "Ca(O2CCH3)2", "(C2H3O2)2Ca"}},
+          "Ca(OOCCH3)2", "Ca(O2CCH3)2", "(C2H3O2)2Ca", "Ca(OAc)2", "Ca(OAc)₂", "(AcO)2Ca",
+          "Ca(Ac)2", "(MeCOO)2Ca"}},
         {"lead(II)", {"Pb(CH3COO)2", "(CH3COO)2Pb", "Pb(C2H3O2)2"}},
     };
     for (const Row& row : rows) {
@@ -222,6 +229,16 @@ TEST(FormulaMarkTest, SlipsGetTheirSentences)
         {"ammonium", "iodide", "NH4l (aq)", letterI},
         {"iron(III)", "oxide", "Fe(III)2O3", "The Roman numeral is a charge."},
         {"copper(II)", "sulfate", "Cu(II)SO4", "The Roman numeral is a charge."},
+        {"copper(II)", "sulfate", "Cu(II)(SO4)", "The Roman numeral is a charge."},
+        {"copper(II)", "sulfate", "CuIISO4", "The Roman numeral is a charge."},
+        {"iron(III)", "chloride", "Fe(III)Cl3", "The Roman numeral is a charge."},
+        {"iron(III)", "chloride", "Fe III Cl3", "The Roman numeral is a charge."},
+        {"iron(III)", "chloride", "Fe(Ⅲ)Cl3", "The Roman numeral is a charge."},
+        {"iron(III)", "chloride", "Fe(III)Cl", "The Roman numeral is a charge."},
+        {"iron(III)", "chloride", "FeCl(III)", "The Roman numeral is a charge."},
+        {"lead(II)", "iodide", "PbIII2", "The Roman numeral is a charge."},
+        {"aluminium", "iodide", "Al(I)3", notNeeded},
+        {"calcium", "ethanoate", "CaOAc2", bracketMissing},
         {"copper(II)", "sulfate", "CuSO4·5H2O",
          "Leave out the water: it belongs to the crystals, not to the compound."},
         {"aluminium", "oxide", "Al^2O^3",

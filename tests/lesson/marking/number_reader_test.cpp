@@ -217,6 +217,10 @@ TEST(NumberReaderTest, SkipsASymbolInFront)
         "c ≈ ",
         "c ~ ",
         "c = ≈ ",
+        "c -> ",
+        "c → ",
+        "⇒ ",
+        "=> ",
         "= ",
         "(",
         "c = (",
@@ -284,6 +288,19 @@ TEST(NumberReaderTest, ConvertsToTheAskedUnit)
         {"mol/L", "(0.0456)", "456e-4 (3)"},
         {"mol/L", "0.0456 mol/L H2O", "456e-4 (3)"},
         {"mol/L", "0.0456 mol/L!", "456e-4 (3)"},
+        {"mol/L", "0.0456 (3 s.f.)", "456e-4 (3)"},
+        {"mol/L", "0.0456 (3sf)", "456e-4 (3)"},
+        {"mol/L", "0.0456 (to 3 sig. figs.)", "456e-4 (3)"},
+        {"mol/L", "0.0456, 3 significant figures", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol/L to 3 s.f.", "456e-4 (3)"},
+        {"mol/L", "0.0456 M (4 d.p.)", "456e-4 (3)"},
+        {"mol/L", "45.6 mM [3 SF]", "456e-4 (3)"},
+        {"mol/L", "0.0456 mmol/mL", "456e-4 (3)"},
+        {"mol/L", "0.0456 mmol cm-3", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol per L", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol l^{-1}", "456e-4 (3)"},
+        {"mL", "250 mℓ (3 s.f.)", "25e1 (2 to 3)"},
+        {"g/mol", "0.2497 kg/mol", "2497e-1 (4)"},
         {"g/mol", "249.7", "2497e-1 (4)"},
         {"g/mol", "M = 249.7 g/mol", "2497e-1 (4)"},
         {"g/mol", "249.7 g mol⁻¹", "2497e-1 (4)"},
@@ -308,6 +325,7 @@ TEST(NumberReaderTest, TellsWhichUnitTheAnswerHas)
     for (const char* const other : others) {
         EXPECT_EQ(read(other), "The answer should be in mol/L.") << other;
     }
+    EXPECT_EQ(read("0.0456 sf"), "The answer should be in mol/L.");
     EXPECT_EQ(read("0.250 mol/L", litreAsk), "The answer should be in L.");
     EXPECT_EQ(read("0.250 M", litreAsk), "The answer should be in L.");
 }
@@ -335,6 +353,7 @@ TEST(NumberReaderTest, QuotesThePartThatItCannotRead)
         {"0.0456, 0.182", ", 0.182"},
         {"0.0456 ± 0.001", "± 0.001"},
         {"> 0.0456", ">"},
+        {"c >= 0.0456", "c >="},
         {"c < 0.0456", "c <"},
         {"c <= 0.0456", "c <="},
         {"c - 0.0456", "c -"},

@@ -312,7 +312,9 @@ TEST(MarkNumberTest, TheZerosOfAWholeNumberMayCountOrNot)
         {"250.", correct},
         {"250 mL", correct},
         {"0.250 L", correct},
-        {"0.25 L", "figures: Keep the zero: 250."},
+        {"0.25 L", "figures: Keep the zero: 0.250 L."},
+        {"0.25 dm³ (2 s.f.)", "figures: Keep the zero: 0.250 dm^3."},
+        {"0.249 L", "correct: Correct. To 3 significant figures it is 0.250 L."},
         {"2.5e2", "figures: Keep the zero: 250."},
         {"250.0", threeFigures},
         {"2.50e2", correct},
@@ -342,8 +344,8 @@ TEST(MarkNumberTest, TheZerosOfAWholeNumberMayCountOrNot)
     expectMarks({ratio(1995)}, volumeAsk, {}, {
         {"2000", correct},
         {"2.00 L", correct},
-        {"2.0 L", "figures: Keep the zero: 2000."},
-        {"2 L", "figures: Keep the zero: 2000."},
+        {"2.0 L", "figures: Keep the zero: 2.00 L."},
+        {"2 L", "figures: Keep the zero: 2.00 L."},
         {"1995", threeFigures},
     });
     // clang-format on

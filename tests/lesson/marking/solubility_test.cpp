@@ -15,20 +15,92 @@ const SolubilityAnswer doesNot = {false, "Carbonates are insoluble."};
 
 TEST(SolubilityMarkTest, YesAndNoInTheirUsualWords)
 {
-    for (const char* const yes :
-         {"y", "Y", "yes", "YES", " Yes. ", "yes!", "soluble", "Soluble", "dissolves",
-          "it  dissolves", "Yes, it does.", "Yes, it dissolves.", "yep", "Lead nitrate is soluble",
-          "it is soluble", "\u00A0yes\t"}) {
+    for (const char* const yes : {"y",
+                                  "Y",
+                                  "yes",
+                                  "YES",
+                                  " Yes. ",
+                                  "yes!",
+                                  "soluble",
+                                  "Soluble",
+                                  "dissolves",
+                                  "it  dissolves",
+                                  "Yes, it does.",
+                                  "Yes, it dissolves.",
+                                  "yep",
+                                  "Lead nitrate is soluble",
+                                  "it is soluble",
+                                  "\u00A0yes\t",
+                                  "yes,",
+                                  "\"yes\"",
+                                  "“yes”",
+                                  "(yes)",
+                                  "yes (soluble)",
+                                  "yes - soluble",
+                                  "Yes: it is soluble.",
+                                  "yes it does",
+                                  "soluble in water",
+                                  "It dissolves in water",
+                                  "it does dissolve",
+                                  "it will dissolve",
+                                  "readily soluble",
+                                  "very soluble",
+                                  "completely soluble",
+                                  "I think it is soluble",
+                                  "answer: yes",
+                                  "water soluble",
+                                  "they dissolve",
+                                  "this is soluble",
+                                  "yes, because all nitrates are",
+                                  "soluble since carbonates are insoluble but this one is not"}) {
         EXPECT_EQ(markSolubility(dissolves, yes).verdict, Verdict::correct) << yes;
         EXPECT_EQ(markSolubility(dissolves, yes).sentence, "Correct. All nitrates are soluble.");
         EXPECT_EQ(markSolubility(doesNot, yes).verdict, Verdict::wrong) << yes;
         EXPECT_EQ(markSolubility(doesNot, yes).sentence,
                   "Not right yet. Carbonates are insoluble.");
     }
-    for (const char* const no :
-         {"n", "N", "no", "No.", "NO", "insoluble", "INSOLUBLE", "not soluble", "in soluble",
-          "does not dissolve", "doesn't dissolve", "It doesn\u2019t dissolve.", "no, it doesn't",
-          "No, it is insoluble", "it's insoluble", "isn't soluble", "MgCO3 is insoluble", "nope"}) {
+    for (const char* const no : {"n",
+                                 "N",
+                                 "no",
+                                 "No.",
+                                 "NO",
+                                 "insoluble",
+                                 "INSOLUBLE",
+                                 "not soluble",
+                                 "in soluble",
+                                 "does not dissolve",
+                                 "doesn't dissolve",
+                                 "It doesn\u2019t dissolve.",
+                                 "no, it doesn't",
+                                 "No, it is insoluble",
+                                 "it's insoluble",
+                                 "isn't soluble",
+                                 "MgCO3 is insoluble",
+                                 "nope",
+                                 "no,",
+                                 "insoluble in water",
+                                 "not soluble in water",
+                                 "it does not dissolve in water",
+                                 "no it doesn't",
+                                 "no it does not",
+                                 "no, it isn’t",
+                                 "won't dissolve",
+                                 "cannot dissolve",
+                                 "can't dissolve",
+                                 "non-soluble",
+                                 "in-soluble",
+                                 "it is in soluble",
+                                 "unsoluble",
+                                 "insol.",
+                                 "no (insoluble)",
+                                 "no - insoluble",
+                                 "doesn`t dissolve",
+                                 "doesn´t dissolve",
+                                 "practically insoluble",
+                                 "it would not dissolve",
+                                 "No because carbonates are insoluble",
+                                 "not very soluble",
+                                 "no, it does not dissolve, it is insoluble"}) {
         EXPECT_EQ(markSolubility(doesNot, no).verdict, Verdict::correct) << no;
         EXPECT_EQ(markSolubility(doesNot, no).sentence, "Correct. Carbonates are insoluble.");
         EXPECT_EQ(markSolubility(dissolves, no).verdict, Verdict::wrong) << no;
@@ -43,8 +115,12 @@ TEST(SolubilityMarkTest, OtherWordsAreAskedBack)
               "I can't read this part: 'maybe'. Type yes or no.");
     for (const std::string& typed :
          {std::string("yesno"), std::string("not sure"), std::string("yes, insoluble"),
-          std::string("no, it dissolves"), std::string("I do not know"), std::string("\xFF"),
-          std::string(1000000, 'y'), std::string(1000000, ' ') + "x"}) {
+          std::string("no, it dissolves"), std::string("yes and no"), std::string("yes, no"),
+          std::string("soluble, insoluble"), std::string("not insoluble"),
+          std::string("it isn't insoluble"), std::string("yes, it isn't"),
+          std::string("soluble or insoluble"), std::string("it is"), std::string("-"),
+          std::string("because"), std::string("42"), std::string("I do not know"),
+          std::string("\xFF"), std::string(1000000, 'y'), std::string(1000000, ' ') + "x"}) {
         EXPECT_EQ(markSolubility(dissolves, typed).verdict, Verdict::unreadable);
     }
 }
@@ -71,6 +147,7 @@ TEST(PrecipitateMarkTest, TheFormulaInItsSpellings)
         const char* sentence;
     };
     const char* const lookAgain = "Not right yet. Check each new pair of ions against the rules.";
+    const char* const alone = "Type the formula of the precipitate alone, or none.";
     const Row rows[] = {
         {"pbi2", Verdict::slip, "Check the capitals: first letter large, second small."},
         {"KNO3", Verdict::slip, "That one stays in solution."},
@@ -79,6 +156,17 @@ TEST(PrecipitateMarkTest, TheFormulaInItsSpellings)
         {"Pb2+I-2", Verdict::slip, "A compound has no charge: leave out the charges of its ions."},
         {"none", Verdict::wrong, lookAgain},
         {"C6H12O6", Verdict::wrong, lookAgain},
+        {"all soluble", Verdict::wrong, lookAgain},
+        {"PbI2 + KNO3", Verdict::unreadable, alone},
+        {"PbI2+2KNO3", Verdict::unreadable, alone},
+        {"PbI2, KNO3", Verdict::unreadable, alone},
+        {"PbI2 and KNO3", Verdict::unreadable, alone},
+        {"PbI2 or KNO3", Verdict::unreadable, alone},
+        {"Pb(NO3)2 + 2KI -> PbI2 + 2KNO3", Verdict::unreadable, alone},
+        {"Pb^2+ + 2I^- → PbI2", Verdict::unreadable, alone},
+        {"neither dissolves", Verdict::unreadable, "I can't read this part: 'neither dissolves'"},
+        {"both are insoluble", Verdict::unreadable, "I can't read this part: 'both are insoluble'"},
+        {"nothing but PbI2", Verdict::unreadable, "I can't read this part: 'nothing but PbI2'"},
         {"", Verdict::unreadable, "Type a formula, or none."},
         {"lead(II) iodide", Verdict::unreadable, "That is its name. Type its formula."},
         {"yes", Verdict::unreadable, "I can't read this part: 'yes'"},
@@ -92,10 +180,49 @@ TEST(PrecipitateMarkTest, TheFormulaInItsSpellings)
 
 TEST(PrecipitateMarkTest, NoneInItsUsualWords)
 {
-    for (const char* const typed :
-         {"none", "None", "NONE.", "no", "No", "NO", "n", "nothing", "no precipitate",
-          "No precipitate.", "no  precipitate forms", "No ppt", "nil", "-", "–", "“none”",
-          "\"none\"", "none formed", "None, both are soluble"}) {
+    for (const char* const typed : {"none",
+                                    "None",
+                                    "NONE.",
+                                    "no",
+                                    "No",
+                                    "NO",
+                                    "n",
+                                    "nothing",
+                                    "no precipitate",
+                                    "No precipitate.",
+                                    "no  precipitate forms",
+                                    "No ppt",
+                                    "nil",
+                                    "-",
+                                    "–",
+                                    "“none”",
+                                    "\"none\"",
+                                    "none formed",
+                                    "None, both are soluble",
+                                    "none,",
+                                    "there's no precipitate",
+                                    "No precipitate will form",
+                                    "no precipitation occurs",
+                                    "no precipitates are formed",
+                                    "No, there is no precipitate",
+                                    "no precipitate (all soluble)",
+                                    "no - both soluble",
+                                    "both soluble",
+                                    "Both salts are soluble.",
+                                    "all are soluble",
+                                    "everything stays dissolved",
+                                    "they all stay in solution",
+                                    "no, nothing precipitates",
+                                    "nothing precipitates out",
+                                    "no visible reaction",
+                                    "no insoluble product",
+                                    "It is none",
+                                    "neither is insoluble",
+                                    "it doesn't precipitate",
+                                    "a precipitate does not form",
+                                    "NR",
+                                    "n/a",
+                                    "no, because all nitrates are soluble"}) {
         const Mark mark = markPrecipitate(nothing, slips, typed);
         EXPECT_EQ(mark.verdict, Verdict::correct) << typed;
         EXPECT_EQ(mark.sentence, "Correct. All nitrates are soluble.") << typed;
@@ -104,6 +231,8 @@ TEST(PrecipitateMarkTest, NoneInItsUsualWords)
     EXPECT_EQ(markPrecipitate(nothing, slips, "KNO₃").sentence, "That one stays in solution.");
     EXPECT_EQ(markPrecipitate(nothing, slips, "AgCl").verdict, Verdict::wrong);
     EXPECT_EQ(markPrecipitate(nothing, slips, "").verdict, Verdict::unreadable);
+    EXPECT_EQ(markPrecipitate(nothing, slips, "CuCO3 + NH4Cl").sentence,
+              "Type the formula of the precipitate alone, or none.");
     EXPECT_EQ(markPrecipitate(nothing, slips, "?").sentence, "I can't read this part: '?'");
     EXPECT_EQ(markPrecipitate(nothing, slips, std::string(1000000, '[')).verdict,
               Verdict::unreadable);

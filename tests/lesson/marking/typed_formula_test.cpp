@@ -229,6 +229,25 @@ TEST(TypedFormulaTest, EveryElementIsReadAndNothingElse)
     EXPECT_EQ(symbols, 118);
 }
 
+TEST(TypedFormulaTest, AbbreviatedGroupsAreWrittenOut)
+{
+    struct Row {
+        const char* typed;
+        const char* text;
+    };
+    const Row rows[] = {
+        {"NaOAc", "NaCH3COO"},  {"Ca(OAc)2", "Ca(CH3COO)2"},
+        {"AcOH", "CH3COOH"},    {"HOAc", "HCH3COO"},
+        {"HAc", "HCH3COO"},     {"MeCOO-", "CH3COO-"},
+        {"OAc", "CH3COO"},      {"Acetate", "Acetate"},
+        {"Mercury", "Mercury"}, {"AcOs", "CH3COOOs"},
+        {"NaCl", "NaCl"},       {"", ""},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(spelledOut(row.typed), row.text) << row.typed;
+    }
+}
+
 TEST(TypedFormulaTest, WithoutCapitalsSpellingsAreCompared)
 {
     struct Row {
