@@ -8,6 +8,7 @@ import { namesOf } from "./sentence";
 import * as storage from "./storage";
 import { texts } from "./texts";
 import type { Lesson, PracticeRoute, Route } from "./types";
+import { keepFieldInView } from "./views/answer";
 import { showMessage } from "./views/message";
 import { type Page, randomPaper } from "./views/page";
 import { showPractice } from "./views/practice";
@@ -105,6 +106,8 @@ async function start(): Promise<void> {
         window.scrollTo(0, 0);
         focus();
     });
+    // What a tablet's keyboard leaves of the window has to show the field.
+    window.visualViewport?.addEventListener("resize", keepFieldInView);
     byId("skip").addEventListener("click", (event) => {
         event.preventDefault();
         main.focus();

@@ -1,6 +1,6 @@
 // The field for an answer: its label and hint, the signs to insert, and what the page makes of what
 // is being typed. Nothing here knows chemistry: digits behind letters are set low, charges high.
-import { button, element, show, spoken } from "../dom";
+import { bringIntoView, button, element, show, spoken } from "../dom";
 import { formulaNodes, plainUnit, spokenUnit, localUnit, typeset } from "../spans";
 import { texts } from "../texts";
 import type { Ask, Settings, Span } from "../types";
@@ -14,7 +14,7 @@ export interface AnswerField {
 
 const keys: Partial<Record<Ask["form"], string[]>> = {
     formula: ["(", ")", "."],
-    ion: ["^2+", "^3+", "^2-", "^3-", "+", "-"],
+    ion: ["^+", "^2+", "^3+", "^-", "^2-", "^3-"],
     equation: ["->", "+", "(", ")"],
     solubility: ["(", ")"],
 };
@@ -58,7 +58,11 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
     });
     const preview = element("p", { class: "preview", hidden: true });
     const update = () => {
+        const wasHidden = preview.hidden;
         showPreview(preview, ask, input.value, settings);
+        if (wasHidden && !preview.hidden) {
+            keepFieldInView(); // It pushes Check down.
+        }
         changed();
     };
     input.addEventListener("input", update);
@@ -82,13 +86,22 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
     };
 }
 
+// While the reader is typing: the field with its preview, and the button that checks it.
+export function keepFieldInView(): void {
+    const focused = document.activeElement;
+    const form = focused?.closest(".exercise form");
+    if (focused && form) {
+        bringIntoView(focused, form);
+    }
+}
+
 function labelOf(ask: Ask, settings: Settings): (Node | string)[] {
     if (ask.quantity === undefined) {
         return [texts.answer];
     }
     const [symbol = "", index] = [ask.quantity.slice(0, 1), ask.quantity.slice(1)];
     const span: Span = { quantity: symbol, ...(index ? { index } : {}), ...(ask.of ? { of: ask.of } : {}) };
-    return [`${texts.answer}: `, typeset([span], settings), " ="];
+    return [`${texts.answer}: `, typeset([span], settings), element("span", { "aria-hidden": "true" }, " =")];
 }
 
 function unitOf(ask: Ask, settings: Settings): Node | string {
@@ -99,12 +112,18 @@ function unitOf(ask: Ask, settings: Settings): Node | string {
 
 function hintOf(ask: Ask, settings: Settings): Node | string {
     if (ask.unit === undefined || ask.figures === undefined) {
-        return texts.hints[ask.form] ?? "";
+        return withExamples(texts.hints[ask.form] ?? "");
     }
     const seen = texts.numberHint(ask.figures, plainUnit(ask.unit, settings));
     const said = texts.numberHint(ask.figures, spokenUnit(localUnit(ask.unit, settings)));
     const hint = document.createDocumentFragment();
     hint.append(element("span", { "aria-hidden": "true" }, seen), spoken(said));
+    return hint;
+}
+
+function withExamples(text: string): Node {
+    const hint = document.createDocumentFragment();
+    text.split("`").forEach((part, at) => hint.append(at % 2 === 0 ? part : element("span", { class: "example" }, part)));
     return hint;
 }
 
