@@ -103,7 +103,7 @@ async function start(): Promise<void> {
     render(page);
     window.addEventListener("hashchange", () => {
         const focus = render(page);
-        window.scrollTo(0, 0);
+        window.scrollTo({ top: 0, behavior: "instant" });
         focus();
     });
     // What a tablet's keyboard leaves of the window has to show the field.

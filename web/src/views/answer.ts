@@ -35,7 +35,7 @@ function choiceField(words: string[], changed: () => void): AnswerField {
         element: box,
         text: () => radios.find((radio) => radio.checked)?.value ?? "",
         set: (text) => radios.forEach((radio) => (radio.checked = radio.value === text)),
-        focus: () => (radios.find((radio) => radio.checked) ?? radios[0]!).focus(),
+        focus: () => (radios.find((radio) => radio.checked) ?? radios[0]!).focus({ preventScroll: true }),
     };
 }
 
@@ -82,7 +82,7 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
             input.value = text;
             showPreview(preview, ask, text, settings);
         },
-        focus: () => input.focus(),
+        focus: () => input.focus({ preventScroll: true }),
     };
 }
 
@@ -147,7 +147,7 @@ function keysOf(ask: Ask, input: HTMLInputElement, update: () => void): HTMLElem
 }
 
 function showPreview(preview: HTMLElement, ask: Ask, text: string, settings: Settings): void {
-    const nodes = ask.form === "number" ? numberNodes(text, settings) : previewNodes(text);
+    const nodes = ask.form === "number" ? numberNodes(text.trim(), settings) : previewNodes(ask.form === "ion" ? withCharge(text.trim()) : text.trim());
     const plain = nodes.every((node) => node.nodeType === Node.TEXT_NODE);
     preview.hidden = text.trim() === "" || (plain && !text.includes("->"));
     show(preview, `${texts.preview} `, ...nodes);
@@ -155,7 +155,7 @@ function showPreview(preview: HTMLElement, ask: Ask, text: string, settings: Set
 
 // "3.42e-2 mol/L" with its power of ten.
 function numberNodes(text: string, settings: Settings): Node[] {
-    const parts = /^\s*([-+]?[\d.,]+)\s*(?:e|(?:x|×|\*|·)\s*10\s*(?:\^|\*\*))\s*([-+−]?\d+)(.*)$/i.exec(text);
+    const parts = /^\s*([-+]?[\d.,]+)\s*(?:e|(?:x|×|\*|·)\s*10\s*(?:\^|\*\*))\s*\+?([-−]?\d+)(.*)$/i.exec(text);
     if (parts === null) {
         return [document.createTextNode(text)];
     }
@@ -163,6 +163,18 @@ function numberNodes(text: string, settings: Settings): Node[] {
     return [typeset([{ number: `${digits}e${exponent}` }], settings), document.createTextNode(rest)].flatMap((node) =>
         node instanceof DocumentFragment ? [...node.childNodes] : [node],
     );
+}
+
+// "SO42-" as "SO4^2-", "Ca2+" as "Ca^2+", "NH4+" as "NH4^+": of two digits in front of the sign, or one
+// behind the only symbol, the last is the charge's.
+function withCharge(text: string): string {
+    const [, formula = "", digits = "", sign = ""] = /^([^^]*?)(\d*)([-+−])$/.exec(text) ?? [];
+    if (formula === "") {
+        return text;
+    }
+    const isCharge = digits.length > 1 || /^[A-Z][a-z]?$/.test(formula);
+    const charge = isCharge ? digits.slice(-1) : "";
+    return `${formula}${digits.slice(0, digits.length - charge.length)}^${charge}${sign}`;
 }
 
 // A formula, an ion or an equation as it is being typed.

@@ -16,7 +16,8 @@ import { recordPanel } from "./record";
 
 // article        the exercise
 // aside          choice, display, record
-// Gives what puts the focus into the field, for a reader who comes from another exercise.
+// Gives what puts the focus into the field, for a reader who comes from another exercise; the question
+// stays in view, which is read first.
 export function showPractice(main: HTMLElement, route: PracticeRoute, exercise: Exercise, page: Page): () => void {
     const article = element("article", { class: "exercise" });
     const record = recordPanel(page);

@@ -226,10 +226,37 @@ test("storage that is refused is no error", async () => {
     await leave(page);
 });
 
+test("a number with a power of ten is shown as it is printed", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration");
+    for (const [typed, shown] of [["3.42e-2", "3.42 × 10−2"], ["1.3e+2", "1.3 × 102"], [" 3,4x10^-5 mol/L", "3,4 × 10−5 mol/L"]]) {
+        await type(page, typed);
+        const seen = await page.locator(".preview").evaluate((preview) => {
+            const copy = preview.cloneNode(true);
+            copy.querySelectorAll(".spoken").forEach((one) => one.remove());
+            return copy.textContent.replace(/\s/g, " ");
+        });
+        assert.equal(seen, `Read as ${shown}`, typed);
+    }
+    await leave(page);
+});
+
+test("the next exercise begins at its top, and its field has the focus", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration:3", { viewport: { width: 360, height: 480 } });
+    await page.getByRole("button", { name: "Next" }).click();
+    await page.getByRole("heading", { name: "Exercise 4" }).waitFor();
+    assert.equal(await focusedId(page), "answer");
+    assert.equal(await page.evaluate(() => scrollY), 0);
+    await leave(page);
+});
+
 const previews = [
     ["compound-formula:2", "Ca(OH)2", "Ca(OH)<sub>2</sub>"],
     ["compound-formula:2", "Mg^2+(I^-)2", "Mg<sup>2+</sup>(I<sup>−</sup>)<sub>2</sub>"],
     ["ion-formula:2", "SO4^2-", "SO<sub>4</sub><sup>2−</sup>"],
+    ["ion-formula:2", "SO42-", "SO<sub>4</sub><sup>2−</sup>"],
+    ["ion-formula:2", "NH4+", "NH<sub>4</sub><sup>+</sup>"],
+    ["ion-formula:1", "Ca2+", "Ca<sup>2+</sup>"],
+    ["ion-formula:1", "I-", "I<sup>−</sup>"],
     ["neutralisation:2", "2H2 + O2 -> 2H2O", "2H<sub>2</sub> + O<sub>2</sub> → 2H<sub>2</sub>O"],
 ];
 
