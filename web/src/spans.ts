@@ -80,7 +80,7 @@ function seenSpan(span: Span, settings: Settings): Node {
 }
 
 // A sign begins a line rather than ends one.
-function bound(text: string): string {
+export function bound(text: string): string {
     return text.replace(/ ([=+→×−]) /g, " $1\u00A0");
 }
 

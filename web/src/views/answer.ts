@@ -1,7 +1,7 @@
 // The field for an answer: its label and hint, the signs to insert, and what the page makes of what
 // is being typed. Nothing here knows chemistry: digits behind letters are set low, charges high.
 import { bringIntoView, button, element, show, spoken } from "../dom";
-import { formulaNodes, plainUnit, spokenUnit, localUnit, typeset } from "../spans";
+import { bound, formulaNodes, plainUnit, spokenUnit, localUnit, typeset } from "../spans";
 import { texts } from "../texts";
 import type { Ask, Settings, Span } from "../types";
 
@@ -179,7 +179,7 @@ function withCharge(text: string): string {
 
 // A formula, an ion or an equation as it is being typed.
 export function previewNodes(text: string): Node[] {
-    const arrows = text.replace(/ *(?:-+>|=>) */g, " → ").slice(0, 300);
+    const arrows = bound(text.replace(/ *(?:-+>|=>) */g, " → ").slice(0, 300));
     return arrows.split(/(\^\{?[\d+−-]*\}?)/).flatMap((part): Node[] =>
         part.startsWith("^")
             ? [element("sup", {}, part.replace(/[\^{}]/g, "").replaceAll("-", "−"))]
