@@ -58,11 +58,8 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
     });
     const preview = element("p", { class: "preview", hidden: true });
     const update = () => {
-        const wasHidden = preview.hidden;
         showPreview(preview, ask, input.value, settings);
-        if (wasHidden && !preview.hidden) {
-            keepFieldInView(); // It pushes Check down.
-        }
+        keepFieldInView(); // Each further line of the preview pushes Check down.
         changed();
     };
     input.addEventListener("input", update);
