@@ -27,6 +27,12 @@ export function button(label: string, press: () => void, attributes: Attributes 
     return made;
 }
 
+// What is too wide for a narrow window or large text scrolls in a box of its own, which the keyboard
+// reaches.
+export function scrollBox(kind: string, label: string, ...children: Child[]): HTMLElement {
+    return element("div", { class: kind, role: "region", "aria-label": label, tabindex: 0 }, ...children);
+}
+
 // Shown to a screen reader alone.
 export function spoken(text: string): HTMLElement {
     return element("span", { class: "spoken" }, text);
@@ -52,6 +58,29 @@ export function announce(text: string): void {
     window.setTimeout(() => {
         region.textContent = text;
     }, 50);
+}
+
+// Scrolls as little as shows everything from the first element to the last; where that is too much,
+// the beginning of it.
+export function bringIntoView(first: Element, last: Element): void {
+    const above = first.getBoundingClientRect().top - margin - seenWindow().top;
+    const below = last.getBoundingClientRect().bottom + margin - seenWindow().bottom;
+    if (above < 0 || below > 0) {
+        window.scrollBy({ top: above < 0 ? above : Math.min(above, below) });
+    }
+}
+
+export function fitIntoView(first: Element, last: Element): boolean {
+    const { top, bottom } = seenWindow();
+    return last.getBoundingClientRect().bottom - first.getBoundingClientRect().top + 2 * margin <= bottom - top;
+}
+
+const margin = 8;
+
+// What a tablet's keyboard leaves of the window, where the browser tells it.
+function seenWindow(): { top: number; bottom: number } {
+    const seen = window.visualViewport;
+    return seen === null ? { top: 0, bottom: window.innerHeight } : { top: seen.offsetTop, bottom: seen.offsetTop + seen.height };
 }
 
 // As a file that the browser saves.

@@ -8,6 +8,7 @@ import { namesOf } from "./sentence";
 import * as storage from "./storage";
 import { texts } from "./texts";
 import type { Lesson, PracticeRoute, Route } from "./types";
+import { keepFieldInView } from "./views/answer";
 import { showMessage } from "./views/message";
 import { type Page, randomPaper } from "./views/page";
 import { showPractice } from "./views/practice";
@@ -102,9 +103,11 @@ async function start(): Promise<void> {
     render(page);
     window.addEventListener("hashchange", () => {
         const focus = render(page);
-        window.scrollTo(0, 0);
+        window.scrollTo({ top: 0, behavior: "instant" });
         focus();
     });
+    // What a tablet's keyboard leaves of the window has to show the field.
+    window.visualViewport?.addEventListener("resize", keepFieldInView);
     byId("skip").addEventListener("click", (event) => {
         event.preventDefault();
         main.focus();

@@ -1,6 +1,6 @@
 // The library's sentences are plain text with plain formulas, in the usual units and names: here they
 // become spans, and so get the reader's units and names, subscripts and a spoken form.
-import { speech, typeset } from "./spans";
+import { seenOf, speech, typeset } from "./spans";
 import type { ElementInfo, IonInfo, Settings, Span } from "./types";
 
 // Names that differ, British to American.
@@ -14,8 +14,25 @@ export function typesetSentence(sentence: string, settings: Settings, names: Nam
     return typeset(spansOf(named(sentence, settings, names)), settings);
 }
 
+export function seenSentence(sentence: string, settings: Settings, names: Names): DocumentFragment {
+    return seenOf(spansOf(named(sentence, settings, names)), settings);
+}
+
 export function spokenSentence(sentence: string, settings: Settings, names: Names): string {
     return speech(spansOf(named(sentence, settings, names)), settings);
+}
+
+// A formula, an ion or an equation as it is typed: "2HNO3 + MgO -> Mg(NO3)2 + H2O". Another word is
+// what it is.
+export function spansOfFormulas(text: string): Span[] {
+    return text.split(/( (?:->|\+) )/).flatMap((part, at): Span[] => {
+        if (at % 2 === 1) {
+            return [{ text: part.replace("->", "→") }];
+        }
+        const [, count = "", formula = "", charge] = /^(\d*)([^^]*)(?:\^(.*))?$/.exec(part) ?? [];
+        const span: Span = !/^[A-Z([]/.test(formula) ? { text: part } : charge === undefined ? { formula } : { ion: formula, charge };
+        return count === "" ? [span] : [{ number: count }, span];
+    });
 }
 
 // A number, perhaps with its unit; a unit; a formula or an ion; any other word. Whole words are taken,

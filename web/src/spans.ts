@@ -3,25 +3,72 @@
 import { element, spoken } from "./dom";
 import type { Settings, Span } from "./types";
 
+const thin = "\u202F"; // a blank that does not break
+
 export function typeset(spans: Span[], settings: Settings): DocumentFragment {
+    return lineOf(spans, (span) => typesetSpan(span, settings));
+}
+
+// A whole sentence or line of mathematics. A screen reader gets it as one text, laid over what is seen
+// (.spoken.whole), so that it is read without a stop at each formula and is found where it stands.
+export function typesetLine(spans: Span[], settings: Settings): Node[] {
+    const seenLine = seenOf(spans, settings);
+    const isPlain = [...seenLine.childNodes].every((node) => node.nodeType === Node.TEXT_NODE);
+    return isPlain ? [seenLine] : [element("span", { "aria-hidden": "true" }, seenLine), wholeSpoken(speech(spans, settings))];
+}
+
+export function wholeSpoken(text: string): HTMLElement {
+    return element("span", { class: "spoken whole" }, text);
+}
+
+// The line for the eye alone.
+export function seenOf(spans: Span[], settings: Settings): DocumentFragment {
+    return lineOf(spans, (span) => seenSpan(span, settings));
+}
+
+function lineOf(spans: Span[], nodeOf: (span: Span) => Node): DocumentFragment {
     const line = document.createDocumentFragment();
     spans.forEach((span, at) => {
-        if (at > 0 && "unit" in span && "number" in spans[at - 1]!) {
-            line.append("\u202F"); // a thin blank that does not break
-        }
-        line.append(typesetSpan(span, settings));
+        const before = spans[at - 1];
+        const isUnit = "unit" in span && before !== undefined && "number" in before;
+        const isGap = "text" in span && span.text === " " && before !== undefined && ("number" in before || "fraction" in before);
+        line.append(...(isUnit ? [thin] : []), isGap ? thin : nodeOf(span));
     });
     return line;
 }
 
 // The same as a screen reader says it; for labels and announcements.
 export function speech(spans: Span[], settings: Settings): string {
-    return spans.map((span) => speechOf(span, settings)).join(" ").replace(/\s+/g, " ").replace(/ ([.,;:?])/g, "$1").trim();
+    const told = spans.filter((span) => !("text" in span) || span.text !== " ");
+    const said = told.map((span, at) => {
+        return `${isFactor(span, told[at - 1]) ? "times " : ""}${speechOf(span, settings)}`;
+    });
+    return said.join(" ").replace(/\s+/g, " ").replace(/ ([.,;:?)])/g, "$1").replaceAll("( ", "(").trim();
+}
+
+// Where the eye needs no sign: "2(16.00)", a fraction of a quantity.
+function isFactor(span: Span, before: Span | undefined): boolean {
+    if (before === undefined) {
+        return false;
+    }
+    return "text" in span ? "number" in before && span.text.startsWith("(") : "quantity" in span && "fraction" in before;
 }
 
 function typesetSpan(span: Span, settings: Settings): Node {
-    if ("text" in span && speechOf(span, settings) === span.text) {
-        return document.createTextNode(span.text);
+    if (isSaidAsSeen(span, settings)) {
+        return seenSpan(span, settings);
+    }
+    // The blank in front keeps it off what stands before, and no full stop off what it ends.
+    return element("span", { class: classOf(span) }, seen(span, settings), spoken(` ${speechOf(span, settings)}`));
+}
+
+function isSaidAsSeen(span: Span, settings: Settings): boolean {
+    return "name" in span || ("text" in span && speechOf(span, settings) === span.text) || ("number" in span && !span.number.includes("e"));
+}
+
+function seenSpan(span: Span, settings: Settings): Node {
+    if ("text" in span) {
+        return document.createTextNode(bound(span.text));
     }
     if ("name" in span) {
         return document.createTextNode(nameOf(span, settings));
@@ -29,14 +76,18 @@ function typesetSpan(span: Span, settings: Settings): Node {
     if ("number" in span && !span.number.includes("e")) {
         return element("span", { class: "number" }, localNumber(span.number, settings));
     }
-    // The blank in front keeps it off what stands before, and no full stop off what it ends.
-    return element("span", { class: classOf(span) }, seen(span, settings), spoken(` ${speechOf(span, settings)}`));
+    return element("span", { class: classOf(span) }, seen(span, settings));
+}
+
+// A sign begins a line rather than ends one.
+export function bound(text: string): string {
+    return text.replace(/ ([=+→×−]) /g, " $1\u00A0");
 }
 
 function seen(span: Span, settings: Settings): HTMLElement {
     const visible = element("span", { "aria-hidden": "true" });
     if ("text" in span) {
-        visible.append(span.text);
+        visible.append(bound(span.text));
     } else if ("formula" in span) {
         visible.append(...formulaNodes(span.formula));
     } else if ("ion" in span) {
@@ -51,13 +102,13 @@ function seen(span: Span, settings: Settings): HTMLElement {
         }
     } else if ("number" in span) {
         const [digits = "", exponent = ""] = localNumber(span.number, settings).split("e");
-        visible.append(`${digits}\u202F×\u202F10`, element("sup", {}, signed(exponent)));
+        visible.append(`${digits}${thin}×${thin}10`, element("sup", {}, signed(exponent)));
     } else if ("unit" in span) {
         visible.append(...unitNodes(localUnit(span.unit, settings)));
     } else if ("fraction" in span) {
         visible.append(
-            element("span", { class: "over" }, typeset(span.fraction[0], settings)),
-            element("span", { class: "under" }, typeset(span.fraction[1], settings)),
+            element("span", { class: "over" }, seenOf(span.fraction[0], settings)),
+            element("span", { class: "under" }, seenOf(span.fraction[1], settings)),
         );
     }
     return visible;
@@ -69,7 +120,7 @@ function classOf(span: Span): string {
 
 function speechOf(span: Span, settings: Settings): string {
     if ("text" in span) {
-        return span.text.replaceAll("→", " gives ").replaceAll("×", " times ").replaceAll("−", " minus ").replaceAll("/", " over ");
+        return saidOf(span.text);
     }
     if ("name" in span) {
         return nameOf(span, settings);
@@ -92,6 +143,20 @@ function speechOf(span: Span, settings: Settings): string {
         return spokenUnit(localUnit(span.unit, settings));
     }
     return `${speech(span.fraction[0], settings)} over ${speech(span.fraction[1], settings)}`;
+}
+
+const saidSigns: [string, string][] = [
+    ["= ?", " is to be found "],
+    ["=", " equals "],
+    ["→", " gives "],
+    ["+", " plus "],
+    ["×", " times "],
+    ["−", " minus "],
+    ["/", " over "],
+];
+
+function saidOf(text: string): string {
+    return saidSigns.reduce((said, [sign, word]) => said.replaceAll(sign, word), text);
 }
 
 // Digits behind a letter or a bracket are subscripts; those at the front of a part count it.
@@ -147,7 +212,7 @@ function unitNodes(unit: string): Node[] {
     const nodes: Node[] = [];
     for (const part of unit.match(/[A-Za-z]-?\d|[^]/g) ?? []) {
         const [letter = "", ...power] = part;
-        nodes.push(document.createTextNode(letter === " " ? "\u202F" : letter));
+        nodes.push(document.createTextNode(letter === " " ? thin : letter));
         if (power.length > 0) {
             nodes.push(element("sup", {}, signed(power.join(""))));
         }

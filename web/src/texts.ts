@@ -13,8 +13,8 @@ export const texts = {
 
     exercise: (number: number) => `Exercise ${number}`,
     exerciseOf: (number: number, all: number) => `Exercise ${number} of ${all}`,
-    paper: (paper: number) => `Paper ${paper}`,
-    kindAndLevel: (title: string, level: number) => `${title}, level ${level}`,
+    paper: (paper: number) => `Paper\u00A0${paper}`,
+    kindAndLevel: (title: string, level: number) => `${title}, level\u00A0${level}`,
 
     answer: "Your answer",
     dissolves: "Does it dissolve?",
@@ -37,11 +37,12 @@ export const texts = {
         "power-of-ten": "Not yet.",
     } as { [verdict: string]: string },
 
+    // What stands between backticks is an example of what is typed.
     hints: {
-        formula: "A formula, for example Ca(OH)2. Small numbers are typed as ordinary ones.",
-        ion: "An ion with its charge, for example SO4^2- or NH4+.",
-        equation: "A balanced equation, for example 2H2 + O2 -> 2H2O.",
-        solubility: "A formula, or the word none.",
+        formula: "A formula, for example `Ca(OH)2`. Small numbers are typed as ordinary ones.",
+        ion: "An ion with its charge, for example `SO4^2-` or `NH4+`.",
+        equation: "A balanced equation, for example `2H2 + O2 -> 2H2O`.",
+        solubility: "A formula, or the word `none`.",
     } as { [form: string]: string },
     numberHint: (figures: number, unit: string) => `A number in ${unit}, to ${figures} significant figures.`,
 
@@ -49,7 +50,8 @@ export const texts = {
     keyNames: {
         "->": "arrow",
         "+": "plus",
-        "-": "minus",
+        "^+": "charge plus",
+        "^-": "charge minus",
         "^2+": "charge two plus",
         "^3+": "charge three plus",
         "^2-": "charge two minus",
@@ -108,9 +110,17 @@ export const texts = {
     before: "before",
     after: "after",
     unknown: "?",
+    drawings: {
+        titration: "The burette and the flask, with what is known of each",
+        dilution: "The solution before and after",
+    },
 
     tablesTitle: "Tables",
     elementsTitle: "Relative atomic masses",
+    group: "Group",
+    period: "Period",
+    lanthanides: "Lanthanides",
+    actinides: "Actinides",
     elementsNote: "To four significant figures; a number in brackets is the mass number of an isotope of an element that has no stable one.",
     ionsTitle: "Ions",
     cations: "Cations",
@@ -120,6 +130,7 @@ export const texts = {
     solubilityTitle: "Solubility in water",
     solubilityNote: "Choose a cell to read the reason. With the keyboard: the arrow keys go from cell to cell.",
     differTitle: "Pairs that are not asked",
+    differShow: "Show them with the reasons",
     differNote: "School tables differ on these, or they react with water, or they do not exist.",
     signs: { soluble: "s", insoluble: "i", "not asked": "–" } as { [verdict: string]: string },
     signNotes: "s: soluble, i: insoluble, –: not asked",

@@ -33,7 +33,7 @@ const allowed = {
     "views/tables": ["dom", "sentence", "spans", "texts", "types", "views/page"],
     "main": [
         "address", "dom", "engine/lesson", "engine/memory", "lesson.bin", "sentence", "storage", "texts", "types",
-        "views/message", "views/page", "views/practice", "views/summary", "views/tables",
+        "views/answer", "views/message", "views/page", "views/practice", "views/summary", "views/tables",
     ],
 };
 

@@ -1,7 +1,7 @@
 // The field for an answer: its label and hint, the signs to insert, and what the page makes of what
 // is being typed. Nothing here knows chemistry: digits behind letters are set low, charges high.
-import { button, element, show, spoken } from "../dom";
-import { formulaNodes, plainUnit, spokenUnit, localUnit, typeset } from "../spans";
+import { bringIntoView, button, element, show, spoken } from "../dom";
+import { bound, formulaNodes, plainUnit, spokenUnit, localUnit, typeset } from "../spans";
 import { texts } from "../texts";
 import type { Ask, Settings, Span } from "../types";
 
@@ -14,7 +14,7 @@ export interface AnswerField {
 
 const keys: Partial<Record<Ask["form"], string[]>> = {
     formula: ["(", ")", "."],
-    ion: ["^2+", "^3+", "^2-", "^3-", "+", "-"],
+    ion: ["^+", "^2+", "^3+", "^-", "^2-", "^3-"],
     equation: ["->", "+", "(", ")"],
     solubility: ["(", ")"],
 };
@@ -35,7 +35,7 @@ function choiceField(words: string[], changed: () => void): AnswerField {
         element: box,
         text: () => radios.find((radio) => radio.checked)?.value ?? "",
         set: (text) => radios.forEach((radio) => (radio.checked = radio.value === text)),
-        focus: () => (radios.find((radio) => radio.checked) ?? radios[0]!).focus(),
+        focus: () => (radios.find((radio) => radio.checked) ?? radios[0]!).focus({ preventScroll: true }),
     };
 }
 
@@ -59,6 +59,7 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
     const preview = element("p", { class: "preview", hidden: true });
     const update = () => {
         showPreview(preview, ask, input.value, settings);
+        keepFieldInView(); // Each further line of the preview pushes Check down.
         changed();
     };
     input.addEventListener("input", update);
@@ -78,8 +79,17 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
             input.value = text;
             showPreview(preview, ask, text, settings);
         },
-        focus: () => input.focus(),
+        focus: () => input.focus({ preventScroll: true }),
     };
+}
+
+// While the reader is typing: the field with its preview, and the button that checks it.
+export function keepFieldInView(): void {
+    const focused = document.activeElement;
+    const form = focused?.closest(".exercise form");
+    if (focused && form) {
+        bringIntoView(focused, form);
+    }
 }
 
 function labelOf(ask: Ask, settings: Settings): (Node | string)[] {
@@ -88,7 +98,7 @@ function labelOf(ask: Ask, settings: Settings): (Node | string)[] {
     }
     const [symbol = "", index] = [ask.quantity.slice(0, 1), ask.quantity.slice(1)];
     const span: Span = { quantity: symbol, ...(index ? { index } : {}), ...(ask.of ? { of: ask.of } : {}) };
-    return [`${texts.answer}: `, typeset([span], settings), " ="];
+    return [`${texts.answer}: `, typeset([span], settings), element("span", { "aria-hidden": "true" }, " =")];
 }
 
 function unitOf(ask: Ask, settings: Settings): Node | string {
@@ -99,12 +109,18 @@ function unitOf(ask: Ask, settings: Settings): Node | string {
 
 function hintOf(ask: Ask, settings: Settings): Node | string {
     if (ask.unit === undefined || ask.figures === undefined) {
-        return texts.hints[ask.form] ?? "";
+        return withExamples(texts.hints[ask.form] ?? "");
     }
     const seen = texts.numberHint(ask.figures, plainUnit(ask.unit, settings));
     const said = texts.numberHint(ask.figures, spokenUnit(localUnit(ask.unit, settings)));
     const hint = document.createDocumentFragment();
     hint.append(element("span", { "aria-hidden": "true" }, seen), spoken(said));
+    return hint;
+}
+
+function withExamples(text: string): Node {
+    const hint = document.createDocumentFragment();
+    text.split("`").forEach((part, at) => hint.append(at % 2 === 0 ? part : element("span", { class: "example" }, part)));
     return hint;
 }
 
@@ -128,7 +144,7 @@ function keysOf(ask: Ask, input: HTMLInputElement, update: () => void): HTMLElem
 }
 
 function showPreview(preview: HTMLElement, ask: Ask, text: string, settings: Settings): void {
-    const nodes = ask.form === "number" ? numberNodes(text, settings) : previewNodes(text);
+    const nodes = ask.form === "number" ? numberNodes(text.trim(), settings) : previewNodes(ask.form === "ion" ? withCharge(text.trim()) : text.trim());
     const plain = nodes.every((node) => node.nodeType === Node.TEXT_NODE);
     preview.hidden = text.trim() === "" || (plain && !text.includes("->"));
     show(preview, `${texts.preview} `, ...nodes);
@@ -136,7 +152,7 @@ function showPreview(preview: HTMLElement, ask: Ask, text: string, settings: Set
 
 // "3.42e-2 mol/L" with its power of ten.
 function numberNodes(text: string, settings: Settings): Node[] {
-    const parts = /^\s*([-+]?[\d.,]+)\s*(?:e|(?:x|×|\*|·)\s*10\s*(?:\^|\*\*))\s*([-+−]?\d+)(.*)$/i.exec(text);
+    const parts = /^\s*([-+]?[\d.,]+)\s*(?:e|(?:x|×|\*|·)\s*10\s*(?:\^|\*\*))\s*\+?([-−]?\d+)(.*)$/i.exec(text);
     if (parts === null) {
         return [document.createTextNode(text)];
     }
@@ -146,9 +162,21 @@ function numberNodes(text: string, settings: Settings): Node[] {
     );
 }
 
+// "SO42-" as "SO4^2-", "Ca2+" as "Ca^2+", "NH4+" as "NH4^+": of two digits in front of the sign, or one
+// behind the only symbol, the last is the charge's.
+function withCharge(text: string): string {
+    const [, formula = "", digits = "", sign = ""] = /^([^^]*?)(\d*)([-+−])$/.exec(text) ?? [];
+    if (formula === "") {
+        return text;
+    }
+    const isCharge = digits.length > 1 || /^[A-Z][a-z]?$/.test(formula);
+    const charge = isCharge ? digits.slice(-1) : "";
+    return `${formula}${digits.slice(0, digits.length - charge.length)}^${charge}${sign}`;
+}
+
 // A formula, an ion or an equation as it is being typed.
 export function previewNodes(text: string): Node[] {
-    const arrows = text.replace(/ *(?:-+>|=>) */g, " → ").slice(0, 300);
+    const arrows = bound(text.replace(/ *(?:-+>|=>) */g, " → ").slice(0, 300));
     return arrows.split(/(\^\{?[\d+−-]*\}?)/).flatMap((part): Node[] =>
         part.startsWith("^")
             ? [element("sup", {}, part.replace(/[\^{}]/g, "").replaceAll("-", "−"))]

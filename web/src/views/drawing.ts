@@ -1,7 +1,7 @@
 // A drawing where a look says more than a sentence: the burette over the flask, the two solutions of
 // a dilution. The labels are ordinary text beside the shapes, so the drawing needs no other words.
 import { element, svg } from "../dom";
-import { typeset } from "../spans";
+import { typeset, typesetLine } from "../spans";
 import { texts } from "../texts";
 import type { Exercise, GivenQuantity, Settings, Span } from "../types";
 
@@ -30,7 +30,7 @@ function titration(exercise: Exercise, settings: Settings): HTMLElement | null {
     }
     return element(
         "figure",
-        { class: "drawing titration" },
+        { class: "drawing titration", "aria-label": texts.drawings.titration },
         apparatus(),
         element(
             "div",
@@ -63,7 +63,7 @@ function label(place: string, formula: string, lines: Span[][], settings: Settin
         "div",
         { class: "label" },
         element("p", {}, element("span", { class: "place" }, `${place}: `), typeset([{ formula }], settings)),
-        ...lines.map((line) => element("p", {}, typeset(line, settings))),
+        ...lines.map((line) => element("p", {}, ...typesetLine(line, settings))),
     );
 }
 
@@ -80,7 +80,7 @@ function dilution(exercise: Exercise, settings: Settings): HTMLElement | null {
     };
     return element(
         "figure",
-        { class: "drawing dilution" },
+        { class: "drawing dilution", "aria-label": texts.drawings.dilution },
         element("div", { class: "side" }, beaker(0.35, "strong"), side("1", texts.before)),
         element("div", { class: "side" }, beaker(0.8, "weak"), side("2", texts.after)),
     );

@@ -1,12 +1,12 @@
 // One exercise at a time: the question, a field, the mark, the solution step by step.
 import { addressOf, atNumber } from "../address";
-import { announce, button, element, show } from "../dom";
-import { spokenSentence, typesetSentence } from "../sentence";
-import { speech, typeset } from "../spans";
+import { announce, bringIntoView, button, element, fitIntoView, show } from "../dom";
+import { seenSentence, spansOf, spansOfFormulas, spokenSentence } from "../sentence";
+import { speech, typesetLine, wholeSpoken } from "../spans";
 import * as storage from "../storage";
 import * as state from "../state";
 import { texts } from "../texts";
-import type { Exercise, Mark, PracticeRoute } from "../types";
+import type { Exercise, Mark, PracticeRoute, Span } from "../types";
 import { answerField } from "./answer";
 import { choicePanel } from "./choice";
 import { displayPanel } from "./display";
@@ -16,7 +16,8 @@ import { recordPanel } from "./record";
 
 // article        the exercise
 // aside          choice, display, record
-// Gives what puts the focus into the field, for a reader who comes from another exercise.
+// Gives what puts the focus into the field, for a reader who comes from another exercise; the question
+// stays in view, which is read first.
 export function showPractice(main: HTMLElement, route: PracticeRoute, exercise: Exercise, page: Page): () => void {
     const article = element("article", { class: "exercise" });
     const record = recordPanel(page);
@@ -32,8 +33,10 @@ export function showPractice(main: HTMLElement, route: PracticeRoute, exercise: 
 // figure       where there is a drawing
 // form         the field, Check
 // p.mark
-// div.help     Show a step, Show the answer, Next, Another like this
+// p.offer
+// div.help     Show a step, Show the answer
 // section.solution
+// div.help     Next, Another like this
 function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exercise, page: Page, solved: () => void): () => void {
     const place = placeOf(route);
     let progress = storage.progressOf(place);
@@ -49,7 +52,8 @@ function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exer
     const answerButton = button(texts.showAnswer, () => advance(state.afterAnswer(progress, steps)));
     const nextButton = button(isLast(route) ? texts.finish : texts.next, () => page.go(addressOf(atNumber(route, route.number + 1))));
     const another = button(texts.another, () => page.go(addressOf(likeThis(route, exercise))));
-    const help = element("div", { class: "help" }, stepButton, answerButton, nextButton, another);
+    const help = element("div", { class: "help" }, stepButton, answerButton);
+    const goOn = element("div", { class: "help" }, nextButton, another);
 
     function keep(next: state.Progress): void {
         if (next.result !== null && progress.result === null) {
@@ -65,15 +69,15 @@ function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exer
         update();
         announce(lastStepSpoken(exercise, progress, page));
         if (state.isShownWhole(progress, steps)) {
-            nextButton.focus();
+            nextButton.focus({ preventScroll: true });
         }
+        bringIntoView(solution, goOn);
     }
 
     function update(): void {
         showSolution(solution, exercise, progress, page);
         const whole = state.isShownWhole(progress, steps);
-        stepButton.hidden = whole;
-        answerButton.hidden = whole;
+        help.hidden = whole;
         offer.hidden = !state.offersHelp(progress);
         nextButton.classList.toggle("main", progress.result !== null);
         check.classList.toggle("main", progress.result === null);
@@ -82,8 +86,8 @@ function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exer
     function marked(mark: Mark): void {
         markLine.hidden = false;
         markLine.dataset["verdict"] = mark.verdict;
-        const word = element("strong", { "aria-hidden": mark.verdict === "correct" ? "true" : undefined }, texts.verdicts[mark.verdict] ?? "");
-        show(markLine, word, " ", typesetSentence(mark.sentence, page.settings, page.names));
+        const seen = element("span", { "aria-hidden": "true" }, element("strong", {}, texts.verdicts[mark.verdict] ?? ""), " ", seenSentence(mark.sentence, page.settings, page.names));
+        show(markLine, seen, wholeSpoken(spokenMark(mark, page)));
     }
 
     form.addEventListener("submit", (event) => {
@@ -93,7 +97,14 @@ function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exer
         marked(mark);
         update();
         announce(spokenMark(mark, page));
-        (mark.verdict === "correct" ? nextButton : field).focus();
+        if (mark.verdict === "correct") {
+            nextButton.focus();
+            bringIntoView(markLine, goOn);
+        } else {
+            field.focus();
+            const focused = document.activeElement ?? form;
+            bringIntoView(fitIntoView(focused, markLine) ? focused : markLine, markLine);
+        }
     });
 
     field.set(progress.typed);
@@ -105,13 +116,14 @@ function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exer
     show(
         article,
         headerOf(route, exercise, page),
-        element("p", { class: "prompt" }, typeset(exercise.prompt, page.settings)),
+        element("p", { class: "prompt" }, ...typesetLine(exercise.prompt, page.settings)),
         ...(drawing === null ? [] : [drawing]),
         form,
         markLine,
         offer,
         help,
         solution,
+        goOn,
     );
     return () => field.focus();
 }
@@ -150,18 +162,22 @@ function showSolution(box: HTMLElement, exercise: Exercise, progress: state.Prog
     const shownSteps = exercise.solution.slice(0, Math.max(1, steps - 1));
     const list = element("ol", {});
     for (const step of shownSteps) {
-        const row = element("li", {}, element("p", { class: "say" }, typeset(step.say, page.settings)));
+        const row = element("li", {}, element("p", { class: "say" }, ...typesetLine(step.say, page.settings)));
         if (steps > 1 && step.math !== undefined && step.math.length > 0) {
-            row.append(element("p", { class: "math" }, typeset(step.math, page.settings)));
+            row.append(element("p", { class: "math" }, ...typesetLine(step.math, page.settings)));
         }
         list.append(row);
     }
     const heading = element("h2", {}, steps === 1 ? texts.hint : texts.solution);
     show(box, heading, list);
     if (state.isShownWhole(progress, exercise.solution.length)) {
-        const key = typesetSentence(exercise.key.text.replace("->", "→"), page.settings, page.names);
-        box.append(element("p", { class: "key" }, element("strong", {}, `${texts.key} `), key));
+        const key = typesetLine(spansOfKey(exercise), page.settings);
+        box.append(element("p", { class: "key" }, element("strong", {}, `${texts.key}: `), element("span", { class: "line" }, ...key)));
     }
+}
+
+function spansOfKey({ ask, key }: Exercise): Span[] {
+    return ask.form === "number" ? spansOf(key.text) : spansOfFormulas(key.text);
 }
 
 function spokenMark(mark: Mark, page: Page): string {

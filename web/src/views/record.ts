@@ -1,5 +1,5 @@
 // What the reader has solved on this device, by kind.
-import { announce, button, element, show } from "../dom";
+import { announce, button, element, scrollBox, show } from "../dom";
 import * as storage from "../storage";
 import { texts } from "../texts";
 import type { Page } from "./page";
@@ -33,5 +33,5 @@ function contents(page: Page, clear: () => void): Node[] {
         return element("tr", {}, element("th", { scope: "row" }, info.title, ...tick), ...numbers);
     });
     const table = element("table", {}, element("thead", {}, head), element("tbody", {}, ...rows));
-    return [table, element("p", { class: "hint" }, `✓ ${texts.ticked}`), button(texts.clearRecord, clear)];
+    return [scrollBox("box", texts.recordTitle, table), element("p", { class: "hint" }, `✓ ${texts.ticked}`), button(texts.clearRecord, clear)];
 }

@@ -1,6 +1,6 @@
 // What a set of exercises has come to: to print or to save, for a teacher.
 import { addressOf, atNumber } from "../address";
-import { button, element, save, show } from "../dom";
+import { button, element, save, scrollBox, show } from "../dom";
 import * as storage from "../storage";
 import { texts } from "../texts";
 import type { PracticeRoute } from "../types";
@@ -27,7 +27,7 @@ export function showSummary(main: HTMLElement, route: PracticeRoute, page: Page)
             { class: "summary" },
             heading,
             element("p", {}, countsOf(rows)),
-            element("table", {}, element("tbody", {}, ...lines)),
+            scrollBox("box", texts.summary, element("table", {}, element("tbody", {}, ...lines))),
             element(
                 "div",
                 { class: "help" },

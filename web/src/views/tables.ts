@@ -1,5 +1,5 @@
 // The data that the exercises use, read from the library.
-import { button, element, show } from "../dom";
+import { button, element, scrollBox, show, spoken } from "../dom";
 import { typeset } from "../spans";
 import { typesetSentence } from "../sentence";
 import { texts } from "../texts";
@@ -29,11 +29,6 @@ function section(title: string, note: string, body: Node): HTMLElement {
     return element("section", {}, element("h2", {}, title), ...notes, body);
 }
 
-// A wide table scrolls in a box of its own, which the keyboard reaches.
-function scrolling(label: string, table: HTMLElement): HTMLElement {
-    return element("div", { class: "scrolling", role: "region", "aria-label": label, tabindex: 0 }, table);
-}
-
 // Rows 8 and 9 are the lanthanides and actinides, column by column below the others.
 function periodicTable(elements: ElementInfo[], page: Page): HTMLElement {
     const rows = Array.from({ length: 9 }, () => new Map<number, ElementInfo>());
@@ -47,9 +42,19 @@ function periodicTable(elements: ElementInfo[], page: Page): HTMLElement {
             rows[7 + series]!.set(3 + seriesLength[series]!, row);
         }
     }
-    const body = rows.map((row) => element("tr", {}, ...Array.from({ length: 18 }, (_, at) => elementCell(row.get(at + 1), page))));
-    const table = element("table", { class: "periodic" }, element("tbody", {}, ...body));
-    return scrolling(texts.elementsTitle, table);
+    const heads = groups.map((group) => element("th", { scope: "col" }, spoken(`${texts.group} `), String(group)));
+    const body = rows.map((row, at) => element("tr", {}, ...periodHead(at + 1), ...groups.slice(at < 7 ? 0 : 2).map((group) => elementCell(row.get(group), page))));
+    const head = element("thead", {}, element("tr", {}, element("td", { class: "none" }), ...heads));
+    return scrollBox("scrolling", texts.elementsTitle, element("table", { class: "periodic" }, head, element("tbody", {}, ...body)));
+}
+
+const groups = Array.from({ length: 18 }, (_, at) => at + 1);
+
+// The two rows below have room for their name, where others have the first two groups.
+function periodHead(row: number): HTMLElement[] {
+    return row <= 7
+        ? [element("th", { scope: "row" }, spoken(`${texts.period} `), String(row))]
+        : [element("th", { scope: "row", colspan: 3, class: "series" }, row === 8 ? texts.lanthanides : texts.actinides)];
 }
 
 function elementCell(row: ElementInfo | undefined, page: Page): HTMLElement {
@@ -61,6 +66,7 @@ function elementCell(row: ElementInfo | undefined, page: Page): HTMLElement {
         {},
         element("span", { class: "atomic" }, String(row.number)),
         element("abbr", { title: nameOf(row, page) }, row.symbol),
+        spoken(` ${nameOf(row, page)} `),
         element("span", { class: "mass" }, row.mass.replace(".", page.settings.decimal)),
     );
 }
@@ -78,9 +84,9 @@ function ionTables(ions: IonInfo[], page: Page): HTMLElement {
             element("thead", {}, element("tr", {}, element("th", { scope: "col" }, texts.ionName), element("th", { scope: "col" }, texts.ionFormula))),
             element("tbody", {}, ...ions.filter((ion) => wanted(ion.charge)).map((ion) => ionRow(ion, page))),
         );
-    return element(
-        "div",
-        { class: "halves" },
+    return scrollBox(
+        "halves box",
+        texts.ionsTitle,
         half(texts.cations, (charge) => charge > 0),
         half(texts.anions, (charge) => charge < 0),
     );
@@ -116,7 +122,7 @@ function solubilityGrid(tables: Tables, page: Page): HTMLElement {
     const heads = anions.map((anion) => element("th", { scope: "col" }, element("span", {}, named.has(anion) ? nameOf(named.get(anion)!, page) : anion)));
     const table = element("table", { class: "solubility" }, element("thead", {}, element("tr", {}, element("td", {}), ...heads)), element("tbody", {}, ...rows));
     walkWithArrows([...cells.values()], anions.length);
-    return element("div", {}, element("p", { class: "hint" }, texts.signNotes), reason, scrolling(texts.solubilityTitle, table));
+    return element("div", {}, element("p", { class: "hint" }, texts.signNotes), scrollBox("scrolling grid", texts.solubilityTitle, table), reason);
 }
 
 function pairButton(pair: PairInfo, reason: HTMLElement, page: Page): HTMLButtonElement {
@@ -164,14 +170,9 @@ function notAsked(pairs: PairInfo[], page: Page): HTMLElement {
     for (const pair of pairs.filter((candidate) => candidate.verdict === "not asked")) {
         reasons.set(pair.reason, [...(reasons.get(pair.reason) ?? []), pair]);
     }
-    const rows = [...reasons].map(([reason, those]) =>
-        element(
-            "li",
-            {},
-            ...those.flatMap((pair, at) => [at === 0 ? "" : ", ", compoundOf(pair, page)]),
-            ": ",
-            typesetSentence(reason, page.settings, page.names),
-        ),
-    );
-    return element("details", {}, element("summary", {}, texts.differTitle), element("ul", {}, ...rows));
+    const rows = [...reasons].flatMap(([reason, those]) => [
+        element("dt", {}, typesetSentence(reason, page.settings, page.names)),
+        element("dd", {}, ...those.flatMap((pair, at) => [at === 0 ? "" : ", ", compoundOf(pair, page)])),
+    ]);
+    return element("details", {}, element("summary", {}, texts.differShow), element("dl", {}, ...rows));
 }

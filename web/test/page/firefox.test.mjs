@@ -37,7 +37,7 @@ for (const { kind, title } of lesson.kinds()) {
         const exercise = lesson.exercise(1, 1, kind);
         await open(`#practice/1/1/${kind}`);
         assert.equal(await textOf("h1"), "Exercise 1");
-        assert.equal(await textOf(".which"), `${title}, level ${exercise.level} · Paper 1`);
+        assert.equal(await textOf(".which"), `${title}, level\u00A0${exercise.level} · Paper\u00A01`);
         if (exercise.ask.choices === undefined) {
             await page.type("#answer", exercise.key.text);
         } else {

@@ -1,7 +1,7 @@
 // Whole exercises without a mouse: from the first Tab after the page has loaded.
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
-import { announced, openChromium, openLesson, openPage, panel } from "./support.mjs";
+import { announced, leave, openChromium, openLesson, openPage, panel } from "./support.mjs";
 
 let browser;
 let lesson;
@@ -93,8 +93,7 @@ for (const { form, kind } of forms) {
         await page.getByRole("heading", { name: "Exercise 4" }).waitFor();
         const next = lesson.exercise(4821, 4, kind);
         assert.equal(await isFocused(firstField(page, next.ask)), true);
-        assert.deepEqual(page.problems, []);
-        await page.context().close();
+        await leave(page);
     });
 }
 
@@ -108,7 +107,7 @@ test("steps of the solution are asked for one by one, and the last one leads to 
         assert.notEqual(await announced(page), "");
     }
     assert.equal(await isFocused(button(page, "Next")), true);
-    await page.context().close();
+    await leave(page);
 });
 
 const inserted = [
@@ -127,7 +126,7 @@ for (const { kind, before: start, sign, behind, all } of inserted) {
         assert.equal(await isFocused(page.locator("#answer")), true);
         await page.keyboard.type(behind);
         assert.equal(await page.locator("#answer").inputValue(), all);
-        await page.context().close();
+        await leave(page);
     });
 }
 
@@ -142,7 +141,7 @@ test("the first Tab is the link that skips to the exercise", async () => {
     await page.keyboard.press("Tab");
     assert.equal(await isFocused(page.locator("#answer")), true);
     assert.equal(new URL(page.url()).hash, hash);
-    await page.context().close();
+    await leave(page);
 });
 
 test("kinds, levels, paper and length are chosen, and the focus is in the first field", async () => {
@@ -162,7 +161,7 @@ test("kinds, levels, paper and length are chosen, and the focus is in the first 
     await page.getByRole("heading", { name: "Exercise 1 of 5" }).waitFor();
     assert.equal(new URL(page.url()).hash, "#practice/77/1/dilution:1?set=5&v=1");
     assert.equal(await isFocused(page.locator("#answer")), true);
-    await page.context().close();
+    await leave(page);
 });
 
 test("how it is written is chosen with the arrow keys", async () => {
@@ -173,7 +172,7 @@ test("how it is written is chosen with the arrow keys", async () => {
     await page.keyboard.press("ArrowDown");
     assert.equal(await isFocused(page.getByRole("radio", { name: "cm³, dm³" })), true);
     assert.doesNotMatch(await page.locator(".prompt").innerText(), /mL/);
-    await page.context().close();
+    await leave(page);
 });
 
 test("the record is cleared, and the focus goes to what opened it", async () => {
@@ -186,7 +185,7 @@ test("the record is cleared, and the focus goes to what opened it", async () => 
     await page.keyboard.press("Enter");
     assert.equal(await announced(page), "Your record is cleared.");
     assert.equal(await isFocused(panel(page, "My record")), true);
-    await page.context().close();
+    await leave(page);
 });
 
 test("a bad address is left by its button", async () => {
@@ -194,7 +193,7 @@ test("a bad address is left by its button", async () => {
     await tabTo(page, button(page, "Start with a new paper"));
     await page.keyboard.press("Enter");
     await page.getByRole("heading", { name: "Exercise 1" }).waitFor();
-    await page.context().close();
+    await leave(page);
 });
 
 test("the solubility grid is one stop; the arrow keys go from cell to cell, and Enter tells why", async () => {
@@ -215,5 +214,5 @@ test("the solubility grid is one stop; the arrow keys go from cell to cell, and 
     assert.equal(await at(), -1);
     await page.keyboard.press("Shift+Tab");
     assert.equal(await at(), 1);
-    await page.context().close();
+    await leave(page);
 });

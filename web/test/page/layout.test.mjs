@@ -3,7 +3,7 @@ import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { after, before, test } from "node:test";
 import { press, states } from "./states.mjs";
-import { openChromium, openPage } from "./support.mjs";
+import { leave, openChromium, openPage } from "./support.mjs";
 
 let browser;
 before(async () => {
@@ -21,7 +21,7 @@ const windows = [
 
 // What sticks out of the window, but for what scrolls in a box of its own or is for the ear alone.
 function sticksOut() {
-    const ownBox = ".scrolling, .math, .preview, .spoken, .skip";
+    const ownBox = ".scrolling, .box, .math, .preview, .spoken, .skip";
     const wide = [...document.querySelectorAll("body *")].filter((element) => {
         const { left, right } = element.getBoundingClientRect();
         return element.parentElement.closest(ownBox) === null && !element.matches(".spoken, .skip") && element.checkVisibility() && (right > innerWidth + 0.5 || left < -0.5);
@@ -58,7 +58,7 @@ for (const [name, hash, reach] of states) {
             assert.deepEqual(await page.evaluate(sticksOut), [], what);
             assert.deepEqual(await page.evaluate(cutOff), [], what);
         }
-        await page.context().close();
+        await leave(page);
     });
 }
 
@@ -68,7 +68,7 @@ test("what is wider than a narrow window scrolls in its own box, which the Tab k
         const box = page.getByRole("region", { name });
         assert.equal(await box.evaluate((element) => element.scrollWidth > element.clientWidth && element.tabIndex === 0), true, name);
     }
-    await page.context().close();
+    await leave(page);
 });
 
 test("the field is on the screen when it is zoomed to 400 % and has the focus", async () => {
@@ -76,7 +76,61 @@ test("the field is on the screen when it is zoomed to 400 % and has the focus", 
     await page.locator("#answer").focus();
     const { top, bottom } = await page.locator("#answer").evaluate((field) => field.getBoundingClientRect().toJSON());
     assert.ok(top >= 0 && bottom <= 256, `from ${top} to ${bottom}`);
-    await page.context().close();
+    await leave(page);
+});
+
+// Half of the window is what a tablet's or a phone's keyboard leaves.
+for (const [what, viewport] of [["a tablet, upright", { width: 768, height: 1024 }], ["a tablet", { width: 1024, height: 768 }], ["a phone", { width: 360, height: 640 }]]) {
+    test(`the field, its preview and Check stay in view while the keyboard of ${what} is open, and so does the mark`, async () => {
+        for (const [kind, typed] of [["titration:3", "7.7e-7"], ["neutralisation:3", "H2SO4 + NaOH -> Na2SO4 + H2O"], ["ion-formula:3", "SO4^3-"]]) {
+            const page = await openPage(browser, `#practice/4821/3/${kind}`, { viewport, reducedMotion: "reduce" });
+            await page.locator("#answer").focus();
+            await page.setViewportSize({ ...viewport, height: viewport.height / 2 });
+            await page.keyboard.type(typed);
+            await isInView(page, ["#answer", ".preview", ".exercise form > button"]);
+            await page.keyboard.press("Enter");
+            await isInView(page, viewport.width < 500 ? [".mark"] : ["#answer", ".mark"]);
+            await leave(page);
+        }
+    });
+}
+
+async function isInView(page, selectors) {
+    for (const selector of selectors) {
+        const seen = page.locator(selector);
+        await seen.waitFor();
+        await page.waitForFunction((one) => {
+            const { top, bottom } = document.querySelector(one).getBoundingClientRect();
+            const { offsetTop, height } = window.visualViewport;
+            return top >= offsetTop && bottom <= offsetTop + height;
+        }, selector);
+    }
+}
+
+test("each step of a solution is brought into view, and in the end its beginning", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration:3", { viewport: { width: 360, height: 640 }, reducedMotion: "reduce" });
+    await press(page, "Show a step");
+    await isInView(page, [".solution"]);
+    await press(page, "Show the answer");
+    await isInView(page, [".solution h2"]);
+    await leave(page);
+});
+
+test("the heads of the tables stay where the rest is scrolled", async () => {
+    const page = await openPage(browser, "#tables", { viewport: { width: 360, height: 640 } });
+    const corner = (selector) => page.locator(selector).evaluate((one) => one.getBoundingClientRect().toJSON());
+    for (const [name, head] of [["Relative atomic masses", ".periodic tbody tr:nth-child(4) th"], ["Solubility in water", ".solubility tbody tr:nth-child(9) th"]]) {
+        const box = page.getByRole("region", { name });
+        const { left } = await corner(head);
+        await box.evaluate((one) => one.scrollTo(200, 0));
+        assert.equal(await box.evaluate((one) => one.scrollLeft), 200, name);
+        assert.ok(Math.abs((await corner(head)).left - left) <= 1, name);
+    }
+    const names = ".solubility thead th:nth-child(5)";
+    const { top } = await corner(names);
+    await page.getByRole("region", { name: "Solubility in water" }).evaluate((one) => one.scrollTo(200, 150));
+    assert.ok(Math.abs((await corner(names)).top - top) <= 1);
+    await leave(page);
 });
 
 // 44 pixels are a fingertip; and a field with smaller text than 16 is zoomed into by Safari on a phone.
@@ -88,7 +142,7 @@ test("what is pressed on a phone is as large as a fingertip", async () => {
         );
         assert.deepEqual(small, [], kind);
         assert.ok((await page.locator("#answer").evaluate((field) => parseFloat(getComputedStyle(field).fontSize))) >= 16, kind);
-        await page.context().close();
+        await leave(page);
     }
 });
 
@@ -97,7 +151,7 @@ test("each choice is as high as a fingertip, the words beside it included", asyn
     const heights = await page.locator("label.word:visible").evaluateAll((all) => all.map((one) => one.offsetHeight));
     assert.equal(heights.length, 2);
     assert.deepEqual(heights.filter((height) => height < 44), []);
-    await page.context().close();
+    await leave(page);
 });
 
 const forced = { forcedColors: "active" };
@@ -125,7 +179,7 @@ for (const colorScheme of ["light", "dark"]) {
             };
         });
         assert.deepEqual(drawn, { glass: true, mark: true, fraction: true, button: true, field: true });
-        await page.context().close();
+        await leave(page);
     });
 }
 
@@ -138,7 +192,7 @@ test("nothing moves where less motion is wished", async () => {
         transitions: [...document.querySelectorAll("*")].filter((one) => getComputedStyle(one).transitionDuration !== "0s").length,
     }));
     assert.deepEqual(moving, { scrolling: "auto", animations: 0, transitions: 0 });
-    await page.context().close();
+    await leave(page);
 });
 
 // The lightest text and the darkest background on paper, each from 0, black, to 255, white.
@@ -162,7 +216,7 @@ for (const [name, hash, reach] of states.filter(([name]) => /titration:3|correct
         const { text, background } = await page.evaluate(onPaper);
         assert.ok(text <= 0x33, `text of ${text}`);
         assert.ok(background >= 0xe0, `background of ${background}`);
-        await page.context().close();
+        await leave(page);
     });
 }
 
@@ -172,5 +226,5 @@ test("a printed summary has the paper and each exercise, and no button", async (
     assert.match(text, /Summary of paper 4821/);
     assert.equal(text.match(/Exercise \d +Molar mass, level 1 +not solved/g)?.length, 5, text);
     assert.doesNotMatch(text, /Print|Save|New set|Skip/);
-    await page.context().close();
+    await leave(page);
 });

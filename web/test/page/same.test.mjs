@@ -6,43 +6,63 @@ import { after, before, test } from "node:test";
 import { openChromium, openLesson, openPage } from "./support.mjs";
 
 const paper = 7;
-const count = 500;
+const countEach = 500;
+const shownOnes = 100;
+
+const kinds = (await openLesson()).kinds().flatMap(({ kind, levels }) => levels.map((_, at) => `${kind}:${at + 1}`));
+const all = kinds.join(",");
+const count = countEach * kinds.length;
 
 let browser;
 let page;
+let native;
 before(async () => {
+    assert.ok(process.env.NATIVE, "NATIVE is to be the path of print_json");
+    native = execFileSync(process.env.NATIVE, ["exercises", all, paper, count], { encoding: "utf8", maxBuffer: 1 << 28 }).trimEnd().split("\n");
     browser = await openChromium();
-    page = await openPage(browser, "", { before: keepTexts });
+    page = await openPage(browser, "", { before: listen });
 });
 after(() => browser.close());
 
-// Keeps each exercise as the page's own script is about to read it.
-function keepTexts() {
-    const parse = JSON.parse;
-    window.texts = [];
+// Keeps the module that the page instantiates, and each exercise as its script is about to read it.
+function listen() {
+    const { instantiate } = WebAssembly;
+    WebAssembly.instantiate = async (...source) => {
+        const made = await instantiate(...source);
+        window.lesson = made.instance.exports;
+        return made;
+    };
+    const { parse } = JSON;
+    window.read = [];
     JSON.parse = (text, ...more) => {
         if (text.includes('"prompt":')) {
-            window.texts.push(text);
+            window.read.push(text);
         }
         return parse(text, ...more);
     };
 }
 
+function makeAll({ paper, count, kinds }) {
+    const module = window.lesson;
+    const bytes = new TextEncoder().encode(`${kinds}\0`);
+    const at = module.malloc(bytes.length);
+    new Uint8Array(module.memory.buffer).set(bytes, at);
+    return Array.from({ length: count }, (_, made) => {
+        const text = module.lesson_exercise(paper, made + 1, at);
+        const memory = new Uint8Array(module.memory.buffer);
+        return new TextDecoder().decode(memory.subarray(text, memory.indexOf(0, text)));
+    });
+}
+
 // Goes from exercise to exercise by their addresses.
-async function visitAll({ paper, count, kinds }) {
-    window.texts.length = 0;
+async function visit({ paper, count, kinds }) {
+    window.read.length = 0;
     for (let number = 1; number <= count; ++number) {
         const shown = new Promise((done) => window.addEventListener("hashchange", done, { once: true }));
         location.hash = `#practice/${paper}/${number}/${kinds}`;
         await shown;
     }
-    return window.texts;
-}
-
-function nativeTexts(kinds) {
-    assert.ok(process.env.NATIVE, "NATIVE is to be the path of print_json");
-    const lines = execFileSync(process.env.NATIVE, ["exercises", kinds, paper, count], { encoding: "utf8", maxBuffer: 1 << 28 });
-    return lines.trimEnd().split("\n");
+    return window.read;
 }
 
 // From a little before the place where two texts part.
@@ -52,16 +72,22 @@ function difference(page = "", native = "") {
     return `the page has …${page.slice(from, at + 60)}…, the native library …${native.slice(from, at + 60)}…`;
 }
 
-for (const { kind, levels } of (await openLesson()).kinds()) {
-    test(`${count} exercises of ${kind} at its levels are the native ones`, async () => {
-        const kinds = levels.map((_, at) => `${kind}:${at + 1}`).join(",");
-        const expected = nativeTexts(kinds);
-        const made = await page.evaluate(visitAll, { paper, count, kinds });
-        assert.equal(made.length, count);
-        assert.equal(expected.length, count);
-        const other = made.findIndex((text, at) => text !== expected[at]);
-        assert.equal(other, -1, `exercise ${other + 1} of ${kinds}: ${difference(made[other], expected[other])}`);
-        assert.equal(new Set(made.map((text) => JSON.parse(text).level)).size, levels.length);
-        assert.deepEqual(page.problems, []);
-    });
+function assertSame(made, expected) {
+    assert.equal(made.length, expected.length);
+    const other = made.findIndex((text, at) => text !== expected[at]);
+    assert.equal(other, -1, `exercise ${other + 1} of ${all}: ${difference(made[other], expected[other])}`);
 }
+
+test(`${countEach} exercises of each kind and level, made by the module of the page, are the native ones`, async () => {
+    assert.equal(native.length, count);
+    const found = native.map((text) => JSON.parse(text)).map(({ kind, level }) => `${kind}:${level}`);
+    for (const kind of kinds) {
+        assert.equal(found.filter((one) => one === kind).length, countEach, kind);
+    }
+    assertSame(await page.evaluate(makeAll, { paper, count, kinds: all }), native);
+});
+
+test(`what the page shows at ${shownOnes} addresses is made of the native exercises`, async () => {
+    assertSame(await page.evaluate(visit, { paper, count: shownOnes, kinds: all }), native.slice(0, shownOnes));
+    assert.deepEqual(page.problems, []);
+});

@@ -45,6 +45,6 @@ export const states = [
     ["the tables", "#tables", async () => {}],
     ["the reason of a pair", "#tables", async (page) => {
         await page.locator(".solubility button").first().click();
-        await panel(page, "Pairs that are not asked").click();
+        await panel(page, "Show them with the reasons").click();
     }],
 ];

@@ -1,5 +1,6 @@
 // What the browser tests share. They run on the built file:
 //   PAGE    the page, LESSON the module it was built with, whose answers the tests type
+import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
 import { pathToFileURL } from "node:url";
 import { chromium } from "playwright-core";
@@ -13,20 +14,65 @@ export function openChromium() {
     return chromium.launch({ executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium", args: quiet });
 }
 
-// A tab on an address of the page, once it shows something; what goes wrong in it fails the test.
+const usual = { viewport: { width: 800, height: 900 }, colorScheme: "light", reducedMotion: "no-preference", forcedColors: "none", media: null };
+const shared = new WeakMap();
+
+// An address of the page in a tab that remembers nothing, once it shows something. What goes wrong in it
+// is in `problems`. The tests of a file take turns on one tab, since to start one costs more than a test
+// does; with other options than `usual` has, such as a touch screen, it is a tab of its own.
 export async function openPage(browser, hash = "", options = {}) {
-    const context = options.context ?? (await browser.newContext({ viewport: { width: 800, height: 900 }, ...options }));
+    const isOrdinary = Object.keys(options).every((name) => name in usual);
+    return isOrdinary ? openShared(browser, hash, { ...usual, ...options }) : openOwn(browser, hash, options);
+}
+
+// What each test does with its tab at its end: nothing went wrong in it, and nothing was asked of any
+// network.
+export async function leave(page) {
+    assert.deepEqual(page.problems, []);
+    if (!page.isShared) {
+        await page.context().close();
+    }
+}
+
+async function openOwn(browser, hash, options) {
+    const context = options.context ?? (await browser.newContext({ viewport: usual.viewport, ...options }));
     const page = await context.newPage();
-    page.problems = [];
-    page.on("pageerror", (error) => page.problems.push(`error: ${error.message}`));
-    page.on("console", (message) => message.type() === "error" && page.problems.push(`console: ${message.text()}`));
-    page.on("request", (request) => request.url().split("#")[0] !== address && !request.url().startsWith("data:") && page.problems.push(`request: ${request.url()}`));
+    watch(page);
     if (options.before !== undefined) {
         await page.addInitScript(options.before);
     }
     await page.goto(address + hash);
     await page.locator("h1").waitFor();
     return page;
+}
+
+async function openShared(browser, hash, { viewport, ...media }) {
+    const page = shared.get(browser) ?? (await openOwn(browser, "", {}));
+    shared.set(browser, page);
+    page.isShared = true;
+    page.problems = [];
+    await page.setViewportSize(viewport);
+    await page.emulateMedia(media);
+    await page.evaluate((to) => {
+        localStorage.clear();
+        sessionStorage.clear();
+        history.replaceState(null, "", to);
+    }, hash === "" ? address : hash);
+    await page.reload();
+    await page.locator("h1").waitFor();
+    return page;
+}
+
+// The page itself, its empty icon, and a file that it made for the reader to save.
+function isOwn(url) {
+    return url.split("#")[0] === address || url.startsWith("data:") || url.startsWith("blob:");
+}
+
+function watch(page) {
+    page.problems = [];
+    page.on("pageerror", (error) => page.problems.push(`error: ${error.message}`));
+    page.on("console", (message) => message.type() === "error" && page.problems.push(`console: ${message.text()}`));
+    page.on("request", (request) => !isOwn(request.url()) && page.problems.push(`request: ${request.url()}`));
 }
 
 // Goes to another address of the page, as a link does.

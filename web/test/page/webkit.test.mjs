@@ -100,7 +100,7 @@ async function open(hash, heading, which) {
 for (const { kind, title } of lesson.kinds()) {
     test(`${kind}: its first exercise, and a right answer`, { skip }, async () => {
         const exercise = lesson.exercise(1, 1, kind);
-        await open(`#practice/1/1/${kind}`, "Exercise 1", `${title}, level ${exercise.level} · Paper 1`);
+        await open(`#practice/1/1/${kind}`, "Exercise 1", `${title}, level\u00A0${exercise.level} · Paper\u00A01`);
         if (exercise.ask.choices === undefined) {
             await typeInto("#answer", exercise.key.text);
         } else {

@@ -1,6 +1,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { spansOf, spokenSentence } from "../../src/sentence";
+import { spansOf, spansOfFormulas, spokenSentence } from "../../src/sentence";
+import { speech } from "../../src/spans";
 import type { Settings, Span } from "../../src/types";
 
 const usual: Settings = { volume: "mL", per: "slash", decimal: ".", names: "british" };
@@ -34,3 +35,33 @@ test("a sentence is said in the reader's units and names", () => {
         "Take 12,5 cubic centimetres of aluminum nitrate, 0,5 moles per cubic decimetre, and H 2 O.",
     );
 });
+
+const formulas: [string, Span[]][] = [
+    ["none", [{ text: "none" }]],
+    ["BaSO4", [{ formula: "BaSO4" }]],
+    ["CuSO4.5H2O", [{ formula: "CuSO4.5H2O" }]],
+    ["CH3COO^-", [{ ion: "CH3COO", charge: "-" }]],
+    [
+        "2HCl + Mg(OH)2 -> MgCl2 + 2H2O",
+        [
+            { number: "2" }, { formula: "HCl" }, { text: " + " }, { formula: "Mg(OH)2" }, { text: " → " },
+            { formula: "MgCl2" }, { text: " + " }, { number: "2" }, { formula: "H2O" },
+        ],
+    ],
+];
+
+for (const [text, expected] of formulas) {
+    test(`"${text}" as formulas`, () => assert.deepEqual(spansOfFormulas(text), expected));
+}
+
+const said: [string, Span[]][] = [
+    ["M equals 2 times (22.99) plus 12.01 grams per mole", [{ quantity: "M" }, { text: " = " }, { number: "2" }, { text: "(" }, { number: "22.99" }, { text: ") + " }, { number: "12.01" }, { unit: "g/mol" }]],
+    ["1 over 2 times n of H C l", [{ fraction: [[{ number: "1" }], [{ number: "2" }]] }, { text: " " }, { quantity: "n", of: "HCl" }]],
+    ["c 1 is to be found", [{ quantity: "c", index: "1" }, { text: " = ?" }]],
+    ["4 O plus 7 times (2 H plus O)", [{ number: "4" }, { text: " " }, { formula: "O" }, { text: " + " }, { number: "7" }, { text: "(" }, { number: "2" }, { text: " " }, { formula: "H" }, { text: " + " }, { formula: "O" }, { text: ")" }]],
+    ["3.1 times 10 to the minus 3 moles.", [{ number: "3.1e-3" }, { unit: "mol" }, { text: "." }]],
+];
+
+for (const [expected, spans] of said) {
+    test(`a line is said "${expected}"`, () => assert.equal(speech(spans, usual), expected));
+}
