@@ -10,17 +10,16 @@ const endings: Record<ExportFormat, string> = { moodle: "xml", anki: "txt" };
 // div.files
 //   label, select    which version, where there are several
 //   button, button
-//   p.message        why there is no file
-export function filesPanel(page: Page, opened: SheetRoute): { element: HTMLElement; update(route: SheetRoute): void } {
+// Says by `complain` why there is no file, and nothing where there is one.
+export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: string) => void): { element: HTMLElement; update(route: SheetRoute): void } {
     let present = opened;
     const version = element("select", { id: "version" });
     const which = element("div", { class: "which-version" }, element("label", { for: "version" }, texts.fileOf), version);
-    const message = element("p", { class: "message", role: "alert" });
 
     function download(format: ExportFormat): void {
         const paper = Number(version.value);
         const result = page.lesson.exported(paper, listOf(present.entries), format);
-        show(message, "error" in result ? result.error : "");
+        complain("error" in result ? result.error : "");
         if ("file" in result) {
             save(`paper-${paper}-${format}.${endings[format]}`, result.file);
         }
@@ -31,12 +30,11 @@ export function filesPanel(page: Page, opened: SheetRoute): { element: HTMLEleme
         const papers = papersOf(route);
         const options = papers.map((paper, at) => element("option", { value: paper, selected: String(paper) === chosen }, texts.paperAndVersion(paper, at + 1)));
         show(version, ...options);
-        show(message);
         which.hidden = papers.length === 1;
         present = route;
     }
 
     update(opened);
     const buttons = [button(texts.moodle, () => download("moodle")), button(texts.anki, () => download("anki"))];
-    return { element: element("div", { class: "files" }, which, ...buttons, message), update };
+    return { element: element("div", { class: "files" }, which, ...buttons), update };
 }

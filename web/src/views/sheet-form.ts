@@ -14,9 +14,9 @@ interface CountField {
 }
 
 // form
-//   table, p.hint    a row a kind, a field a level; what the level of the field asks for
-//   div.fields       the paper, versions, title and layout
-//   label            drawings
+//   fieldset      how many of each kind and level
+//   div.fields    the paper, versions, title and layout
+//   label         drawings
 export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => void): { element: HTMLElement; read(): Reading } {
     const counts = kinds.flatMap((info) => info.levels.map((_, at) => countField(opened, info, at + 1)));
     const paper = element("input", { type: "text", inputmode: "numeric", value: opened.paper, autocomplete: "off" });
@@ -35,7 +35,7 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
     const form = element(
         "form",
         { class: "choice sheet-form", autocomplete: "off" },
-        ...countTable(counts, kinds),
+        countRows(counts, kinds),
         element(
             "div",
             { class: "fields" },
@@ -100,7 +100,7 @@ function countField(opened: SheetRoute, info: KindInfo, level: number): CountFie
     const entry = { kind: info.kind, level };
     const count = opened.entries.find((one) => kindOf(one) === kindOf({ ...entry, count: 0 }))?.count ?? "";
     const label = texts.fieldOf(info.title, level, info.levels[level - 1]!);
-    return { entry, input: element("input", { type: "number", min: 0, max: mostExercises, value: count, "aria-label": label, title: label }) };
+    return { entry, input: element("input", { type: "number", min: 0, max: mostExercises, value: count, class: "count", "aria-label": label, title: label }) };
 }
 
 // Null where a field holds no count. In the order of the table, but an address may have its own.
@@ -124,22 +124,22 @@ function inOrderOf(first: SheetEntry[], entries: SheetEntry[]): SheetEntry[] {
     return [...entries].sort((one, other) => placeOf(one) - placeOf(other));
 }
 
-function countTable(counts: CountField[], kinds: KindInfo[]): HTMLElement[] {
+// fieldset
+//   legend
+//   div.row.heads    what the columns are; each field's own label says it too
+//   div.row          the kind, and in div.levels a field a level
+//   p.hint           what the level of the field asks for
+function countRows(counts: CountField[], kinds: KindInfo[]): HTMLElement {
     const hint = element("p", { class: "hint" }, texts.howManyHint);
-    const levels = [1, 2, 3].map((level) => element("th", { scope: "col" }, texts.level(level)));
+    const heads = [1, 2, 3].map((level) => element("span", { class: "count" }, texts.level(level)));
     const rows = kinds.map((info) => {
-        const cells = counts.filter(({ entry }) => entry.kind === info.kind).map(({ input }) => element("td", {}, input));
-        return element("tr", {}, element("th", { scope: "row" }, info.title), ...cells);
+        const fields = counts.filter(({ entry }) => entry.kind === info.kind).map(({ input }) => input);
+        return element("div", { class: "row" }, element("span", { class: "title", "aria-hidden": "true" }, info.title), element("div", { class: "levels" }, ...fields));
     });
-    const table = element(
-        "table",
-        { class: "counts" },
-        element("caption", {}, texts.howMany),
-        element("thead", {}, element("tr", {}, element("th", { scope: "col" }, texts.columns.kind), ...levels)),
-        element("tbody", {}, ...rows),
-    );
-    table.addEventListener("focusin", (event) => show(hint, (event.target as HTMLInputElement).title));
-    return [table, hint];
+    const head = element("div", { class: "row heads", "aria-hidden": "true" }, element("span", { class: "title" }, texts.columns.kind), element("div", { class: "levels" }, ...heads));
+    const box = element("fieldset", { class: "counts" }, element("legend", {}, texts.howMany), head, ...rows, hint);
+    box.addEventListener("focusin", (event) => show(hint, (event.target as HTMLInputElement).title));
+    return box;
 }
 
 function labelled(id: string, label: string, control: HTMLElement, ...further: HTMLElement[]): HTMLElement {

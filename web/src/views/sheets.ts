@@ -14,8 +14,8 @@ const pause = 150; // milliseconds behind the last key press, so that nothing is
 //   h1
 //   form             what is chosen
 //   aside            how it is written
-//   p.message
 //   div.help         Print, the files
+//   p.message        what is wrong in the form, or why there is no file
 //   p.size
 // section.leaves     the pages
 // Null for kinds that the library does not know.
@@ -27,7 +27,7 @@ export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (
     const heading = element("h1", { tabindex: -1 }, texts.sheetsTitle);
     const message = element("p", { class: "message", role: "alert" });
     const preview = previewOf(page);
-    const files = filesPanel(page, opened);
+    const files = filesPanel(page, opened, (sentence) => show(message, sentence));
     const form = sheetForm(opened, page.kinds, () => {
         window.clearTimeout(timer);
         timer = window.setTimeout(changed, pause);
@@ -60,7 +60,7 @@ export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (
     };
 
     const display = element("aside", { "aria-label": texts.display }, displayPanel(page, changed));
-    show(main, element("article", { class: "sheets" }, heading, form.element, display, message, actions, preview.size), preview.box);
+    show(main, element("article", { class: "sheets" }, heading, form.element, display, actions, message, preview.size), preview.box);
     preview.show(opened, false);
     return () => heading.focus();
 }
