@@ -1,7 +1,9 @@
 // What the browser tests share. They run on the built file:
 //   PAGE    the page, LESSON the module it was built with, whose answers the tests type
-import { readFile } from "node:fs/promises";
-import { pathToFileURL } from "node:url";
+//   APPROVE=1    writes the approved texts anew instead of comparing with them
+import assert from "node:assert/strict";
+import { readFile, writeFile } from "node:fs/promises";
+import { fileURLToPath, pathToFileURL } from "node:url";
 import { chromium } from "playwright-core";
 
 export const address = pathToFileURL(process.env.PAGE).href;
@@ -90,4 +92,12 @@ export function panel(page, title) {
 export async function announced(page) {
     await page.waitForFunction(() => document.getElementById("announcement").textContent !== "");
     return page.locator("#announcement").textContent();
+}
+
+export async function compareWithApproved(name, text) {
+    const file = fileURLToPath(new URL(`approved/${name}`, import.meta.url));
+    if (process.env.APPROVE === "1") {
+        await writeFile(file, text);
+    }
+    assert.equal(text, await readFile(file, "utf8"));
 }
