@@ -44,6 +44,19 @@ export function plain(text) {
     return text.replace(/&\w+;/g, (entity) => entities[entity] ?? entity).replace(/\s/g, "").replace(/[\uFB00-\uFB06]/g, (letters) => letters.normalize("NFKC"));
 }
 
+// Fractions are read in another order from paper, so letters are compared in theirs.
+export const letters = (text) => [...plain(text)].sort().join("");
+
+// The text of each page of the preview as it is seen, the numbers of its lists included. Runs in the page.
+export function leafTexts() {
+    return [...document.querySelectorAll(".leaf")].map((leaf) => {
+        const seen = leaf.cloneNode(true);
+        seen.querySelectorAll(".spoken").forEach((one) => one.remove());
+        seen.querySelectorAll("ol").forEach((list) => [...list.children].forEach((item, at) => item.prepend(`${list.start + at}.`)));
+        return seen.textContent;
+    });
+}
+
 // Each page as grey values, 0 black and 255 white.
 export function shadesOf(pdf) {
     const pictures = read("pdftoppm", ["-r", "40", "-gray", "-", "-"], pdf, "buffer");

@@ -1,7 +1,7 @@
 // Sheets, as a printer gets them: through Chromium's own PDF, read back by poppler.
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
-import { pageSize, pagesOf, plain, shadesOf } from "./pdf.mjs";
+import { leafTexts, letters, pageSize, pagesOf, plain, shadesOf } from "./pdf.mjs";
 import { compareWithApproved, openChromium, openLesson, openPage } from "./support.mjs";
 
 let browser;
@@ -41,20 +41,7 @@ async function change(page, work) {
 
 const printed = (page) => page.pdf({ preferCSSPageSize: true });
 
-// The text of each page of the preview as it is seen, the numbers of its lists included.
-function previewTexts(page) {
-    return page.locator(".leaf").evaluateAll((leaves) =>
-        leaves.map((leaf) => {
-            const seen = leaf.cloneNode(true);
-            seen.querySelectorAll(".spoken").forEach((one) => one.remove());
-            seen.querySelectorAll("ol").forEach((list) => [...list.children].forEach((item, at) => item.prepend(`${list.start + at}.`)));
-            return seen.textContent;
-        }),
-    );
-}
-
-// Fractions are read in another order from paper, so letters are compared in theirs.
-const letters = (text) => [...plain(text)].sort().join("");
+const previewTexts = (page) => page.evaluate(leafTexts);
 
 const textOf = (lines) => lines.map((line) => line.text).join("\n");
 
