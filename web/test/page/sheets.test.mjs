@@ -1,14 +1,14 @@
 // Sheets, as a printer gets them: through Chromium's own PDF, read back by poppler.
 import assert from "node:assert/strict";
+import { readFile } from "node:fs/promises";
 import { after, before, test } from "node:test";
 import { leafTexts, letters, pageSize, pagesOf, plain, shadesOf } from "./pdf.mjs";
 import { compareWithApproved, openChromium, openLesson, openPage } from "./support.mjs";
 
+const lesson = await openLesson();
 let browser;
-let lesson;
 before(async () => {
     browser = await openChromium();
-    lesson = await openLesson();
 });
 after(() => browser.close());
 
@@ -364,6 +364,33 @@ test("Sheets leads back to the sheet, and Back to what was before it", async () 
     assert.equal(page.url().split("#")[1], "sheet/4821/2*titration?v=1");
     await page.goBack();
     await page.getByRole("heading", { name: "Tables" }).waitFor();
+    await page.context().close();
+});
+
+const skip = lesson.canExport ? false : "this module makes no files";
+const downloads = [
+    ["Moodle quiz", "moodle", "xml"],
+    ["Anki cards", "anki", "txt"],
+];
+for (const [label, format, ending] of downloads) {
+    test(`${label} saves the exercises of the chosen version`, { skip }, async () => {
+        const page = await openSheet("#sheet/4821/2*ion-formula,compound-formula:3?versions=3&v=1", { acceptDownloads: true });
+        await page.getByLabel("Version to save").selectOption("4823");
+        const [download] = await Promise.all([page.waitForEvent("download"), page.getByRole("button", { name: label }).click()]);
+        assert.equal(download.suggestedFilename(), `paper-4823-${format}.${ending}`);
+        assert.equal(await readFile(await download.path(), "utf8"), lesson.exportText(4823, "2*ion-formula,compound-formula:3", format));
+        assert.deepEqual(page.problems.filter((problem) => !problem.startsWith("request: blob:")), []);
+        await page.context().close();
+    });
+}
+
+test("cards of calculations are no file but the library's sentence, which goes when the sheet changes", { skip }, async () => {
+    const page = await openSheet("#sheet/4821/2*titration?v=1");
+    await page.getByRole("button", { name: "Anki cards" }).click();
+    const { error } = JSON.parse(lesson.exportText(4821, "2*titration", "anki"));
+    await page.getByRole("alert").filter({ hasText: error }).waitFor();
+    await change(page, () => page.getByRole("spinbutton", { name: /^Formula of an ion, level 1/ }).fill("1"));
+    assert.equal(await page.getByRole("alert").textContent(), "");
     await page.context().close();
 });
 

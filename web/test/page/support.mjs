@@ -59,8 +59,16 @@ export async function openLesson() {
         module.free(at);
         return text;
     };
+    const exportText = (paper, sheet, format) => {
+        const [list, name] = [put(sheet), put(format)];
+        const text = take(module.lesson_export(paper, list, name));
+        [list, name].forEach(module.free);
+        return text;
+    };
     return {
         exerciseText,
+        exportText,
+        canExport: "lesson_export" in module,
         exercise: (paper, number, kind) => JSON.parse(exerciseText(paper, number, kind)),
         kinds: () => JSON.parse(take(module.lesson_kinds())),
     };
