@@ -13,6 +13,7 @@ const { address, openChromium, openLesson, type } = await import("./test/page/su
 const starts = 10;
 const marksEach = 30;
 const slowed = 6;
+const classSets = 5;
 
 const bytes = readFileSync(page);
 const empty = resolve(page, "../empty.html");
@@ -93,6 +94,49 @@ async function allMarks() {
     return byKind;
 }
 
+// From the press of a link until all pages of a class set, 30 papers of 20 exercises and their keys, are
+// there and laid out.
+function classSetTime(hash) {
+    return new Promise((done) => {
+        const from = performance.now();
+        const watch = new MutationObserver(() => {
+            if (document.querySelector(".size:not(:empty)") !== null) {
+                watch.disconnect();
+                document.body.getBoundingClientRect();
+                done(performance.now() - from);
+            }
+        });
+        watch.observe(document.querySelector("main"), { childList: true, subtree: true });
+        location.hash = hash;
+    });
+}
+
+// Each in a tab of its own; and the processor time of its thread, which other work on the machine does
+// not lengthen.
+async function allClassSets() {
+    const browser = await openChromium();
+    const times = [];
+    const busy = [];
+    for (let set = 0; set < classSets; ++set) {
+        const tab = await browser.newPage();
+        await tab.goto(`${address}#tables`);
+        await tab.locator("h1").waitFor();
+        const client = await tab.context().newCDPSession(tab);
+        await client.send("Performance.enable", { timeDomain: "threadTicks" });
+        const before = await threadTime(client);
+        times.push(await tab.evaluate(classSetTime, `#sheet/${1 + 30 * set}/7*concentration,7*dilution,6*titration?versions=30`));
+        busy.push((await threadTime(client)) - before);
+        await tab.close();
+    }
+    await browser.close();
+    return { times, busy };
+}
+
+async function threadTime(client) {
+    const { metrics } = await client.send("Performance.getMetrics");
+    return 1000 * metrics.find(({ name }) => name === "TaskDuration").value;
+}
+
 function line(what, value) {
     console.log(`${what.padEnd(46)} ${value.padStart(10)}`);
 }
@@ -118,3 +162,8 @@ console.log(`\nA mark: medians of ${marksEach}`);
 for (const [kind, times] of await allMarks()) {
     timeLine(kind, times);
 }
+
+const { times, busy } = await allClassSets();
+console.log(`\nA class set, 30 papers of 20 exercises with keys: medians of ${classSets}`);
+timeLine("until all pages are there", times);
+timeLine("processor time of the page", busy);

@@ -1,5 +1,6 @@
 // The address behind the "#", to a route and back. Whatever it holds, it stays text.
-import type { PracticeRoute, Route } from "./types";
+import { sheetAddress, sheetOf } from "./sheet";
+import type { PracticeRoute, Route, SheetRoute } from "./types";
 import { texts } from "./texts";
 
 // Raised with the library's exercises: an address made for others says so.
@@ -10,7 +11,7 @@ const longest = 2000;
 export function routeOf(hash: string): Route {
     const address = hash.replace(/^#/, "");
     if (address === "") {
-        return { view: "none" };
+        return { view: "none", of: "practice" };
     }
     if (address.length > longest) {
         return bad();
@@ -22,7 +23,7 @@ export function routeOf(hash: string): Route {
         case "practice":
             return practice(parts, options);
         case "sheet":
-            return { view: "sheet", rest: address };
+            return sheet(parts, options);
         case "tables":
             return parts.length === 0 ? { view: "tables" } : bad();
         default:
@@ -30,7 +31,10 @@ export function routeOf(hash: string): Route {
     }
 }
 
-export function addressOf(route: PracticeRoute): string {
+export function addressOf(route: PracticeRoute | SheetRoute): string {
+    if (route.view === "sheet") {
+        return sheetAddress(route, version);
+    }
     const set = route.set > 0 ? `set=${route.set}&` : "";
     return `#practice/${route.paper}/${route.number}/${route.kinds}?${set}v=${version}`;
 }
@@ -43,15 +47,14 @@ export function atNumber(route: PracticeRoute, number: number): PracticeRoute {
 function practice(parts: string[], options: URLSearchParams): Route {
     const [paper, number, kinds] = parts;
     const set = options.get("set");
-    const made = options.get("v");
     if (parts.length !== 3 || !isNumber(paper) || !isNumber(number) || kinds === undefined) {
         return bad();
     }
     if (!/^[a-z0-9:,-]+$/.test(kinds) || (set !== null && !isSet(set))) {
         return bad();
     }
-    if (made !== null && made !== String(version)) {
-        return { view: "bad", message: texts.otherVersion };
+    if (isOfOtherVersion(options)) {
+        return { view: "bad", of: "practice", message: texts.otherVersion };
     }
     return {
         view: "practice",
@@ -62,8 +65,23 @@ function practice(parts: string[], options: URLSearchParams): Route {
     };
 }
 
+function sheet(parts: string[], options: URLSearchParams): Route {
+    if (parts.length === 0) {
+        return { view: "none", of: "sheet" };
+    }
+    if (isOfOtherVersion(options)) {
+        return { view: "bad", of: "sheet", message: texts.otherVersion };
+    }
+    return sheetOf(parts, options) ?? { view: "bad", of: "sheet", message: texts.badSheet };
+}
+
+function isOfOtherVersion(options: URLSearchParams): boolean {
+    const made = options.get("v");
+    return made !== null && made !== String(version);
+}
+
 function bad(): Route {
-    return { view: "bad", message: texts.badAddress };
+    return { view: "bad", of: "practice", message: texts.badAddress };
 }
 
 function isNumber(text: string | undefined): boolean {

@@ -6,20 +6,23 @@ import { lessonOf } from "./engine/lesson";
 import { instantiate } from "./engine/memory";
 import { namesOf } from "./sentence";
 import * as storage from "./storage";
+import { usualSheet } from "./sheet";
 import { texts } from "./texts";
-import type { Lesson, PracticeRoute, Route } from "./types";
+import type { Lesson, PracticeRoute, Route, SheetRoute } from "./types";
 import { keepFieldInView } from "./views/answer";
 import { showMessage } from "./views/message";
 import { type Page, randomPaper } from "./views/page";
 import { showPractice } from "./views/practice";
+import { showSheets } from "./views/sheets";
 import { showSummary } from "./views/summary";
 import { showTables } from "./views/tables";
 
 type Focus = () => void;
 
 const main = byId("main");
-// Where "Practice" leads back to.
+// Where "Practice" and "Sheets" lead back to.
 let practised: PracticeRoute | null = null;
+let printed: SheetRoute | null = null;
 
 function pageOf(lesson: Lesson): Page {
     const tables = lesson.tables();
@@ -29,6 +32,11 @@ function pageOf(lesson: Lesson): Page {
         names: namesOf([...tables.ions, ...tables.elements]),
         settings: storage.settings(),
         go: (address) => (location.hash = address),
+        stay(route) {
+            history.replaceState(null, "", addressOf(route));
+            printed = route;
+            showViews(route);
+        },
     };
 }
 
@@ -36,11 +44,15 @@ function newPaper(): string {
     return addressOf({ view: "practice", paper: randomPaper(), number: 1, kinds: practised?.kinds ?? "mixed", set: 0 });
 }
 
+function newSheet(): string {
+    return addressOf({ ...(printed ?? usualSheet), paper: randomPaper() });
+}
+
 // Shows the view of the present address.
 function render(page: Page): Focus {
     const route = routeOf(location.hash);
     if (route.view === "none") {
-        history.replaceState(null, "", newPaper());
+        history.replaceState(null, "", route.of === "sheet" ? newSheet() : newPaper());
         return render(page);
     }
     const focus = showView(route, page);
@@ -49,17 +61,22 @@ function render(page: Page): Focus {
 }
 
 function showView(route: Exclude<Route, { view: "none" }>, page: Page): Focus {
-    const goOn = () => page.go(newPaper());
     switch (route.view) {
         case "practice":
-            return showExercise(route, page) ?? showMessage(main, texts.badAddress, goOn);
+            return showExercise(route, page) ?? showBad("practice", texts.badAddress, page);
         case "tables":
             return showTables(main, page);
         case "sheet":
-            return showMessage(main, texts.noSheets, goOn);
+            return showSheet(route, page) ?? showBad("sheet", texts.badSheet, page);
         case "bad":
-            return showMessage(main, route.message, goOn);
+            return showBad(route.of, route.message, page);
     }
+}
+
+function showBad(of: "practice" | "sheet", message: string, page: Page): Focus {
+    return of === "sheet"
+        ? showMessage(main, message, texts.startSheet, () => page.go(newSheet()))
+        : showMessage(main, message, texts.startAnew, () => page.go(newPaper()));
 }
 
 // Null for kinds that the library does not know. Behind the last exercise of a set is its summary.
@@ -73,10 +90,17 @@ function showExercise(route: PracticeRoute, page: Page): Focus | null {
     return isBehind ? showSummary(main, route, page) : showPractice(main, route, exercise, page);
 }
 
+function showSheet(route: SheetRoute, page: Page): Focus | null {
+    const focus = showSheets(main, route, page);
+    printed = focus === null ? printed : route;
+    return focus;
+}
+
 function showViews(route: Route): void {
+    document.documentElement.dataset["view"] = route.view;
     const links = [
         { text: texts.practice, href: practised === null ? "#" : addressOf(practised), view: "practice" },
-        { text: texts.sheets, href: "#sheet", view: "sheet" },
+        { text: texts.sheets, href: printed === null ? "#sheet" : addressOf(printed), view: "sheet" },
         { text: texts.tables, href: "#tables", view: "tables" },
     ];
     const items = links.map(({ text, href, view }) => element("a", { href, "aria-current": route.view === view ? "page" : undefined }, text));
@@ -89,7 +113,7 @@ function titleOf(route: Route): string {
         case "practice":
             return `${texts.exercise(route.number)} of ${texts.paper(route.paper).toLowerCase()}`;
         case "sheet":
-            return texts.sheets;
+            return texts.sheetOf(route.paper);
         case "tables":
             return texts.tables;
         default:

@@ -114,7 +114,11 @@ export interface Lesson {
     exercise(paper: number, number: number, kinds: string): Exercise | null;
     mark(paper: number, number: number, kinds: string, typed: string): Mark;
     tables(): Tables;
+    // The text of a file, or why there is none.
+    exported(paper: number, sheet: string, format: ExportFormat): { file: string } | { error: string };
 }
+
+export type ExportFormat = "moodle" | "anki";
 
 export interface PracticeRoute {
     view: "practice";
@@ -124,12 +128,33 @@ export interface PracticeRoute {
     set: number; // so many exercises and then a summary; 0 without end
 }
 
+export interface SheetEntry {
+    kind: string;
+    level: number;
+    count: number;
+}
+
+// What a teacher prints.
+export interface SheetRoute {
+    view: "sheet";
+    paper: number; // of the first version; the others follow
+    entries: SheetEntry[]; // no kind and level twice
+    versions: number;
+    title: string;
+    room: "none" | "some" | "much"; // to write, below each exercise
+    drawings: boolean;
+    parts: "both" | "sheet" | "key";
+    key: "line" | "working";
+    keys: "together" | "apart"; // of several versions: one after another, or each from a new page on
+    size: "A4" | "Letter";
+}
+
 export type Route =
     | PracticeRoute
-    | { view: "sheet"; rest: string }
+    | SheetRoute
     | { view: "tables" }
-    | { view: "none" } // nothing is asked for: the page chooses
-    | { view: "bad"; message: string };
+    | { view: "none"; of: "practice" | "sheet" } // nothing is asked for: the page chooses
+    | { view: "bad"; of: "practice" | "sheet"; message: string };
 
 // How quantities and names are written; chosen by the reader, kept on the device.
 export interface Settings {

@@ -19,5 +19,12 @@ export function lessonOf(module: Exports): Lesson {
             );
             return JSON.parse(json) as Mark;
         },
+        exported(paper, sheet, format) {
+            const text = withTexts(module, [sheet, format], (list, name) =>
+                module.lesson_export(paper, list!, name!),
+            );
+            // No file of these formats begins with a brace.
+            return text.startsWith("{") ? (JSON.parse(text) as { error: string }) : { file: text };
+        },
     };
 }

@@ -10,6 +10,7 @@ export interface Exports {
     lesson_exercise(paper: number, number: number, kind: number): number;
     lesson_mark(paper: number, number: number, kind: number, typed: number): number;
     lesson_tables(): number;
+    lesson_export(paper: number, sheet: number, format: number): number;
 }
 
 const encoder = new TextEncoder();

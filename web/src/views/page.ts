@@ -1,5 +1,5 @@
 import type { Names } from "../sentence";
-import type { KindInfo, Lesson, Settings } from "../types";
+import type { KindInfo, Lesson, Settings, SheetRoute } from "../types";
 
 // What every view gets from the page around it.
 export interface Page {
@@ -9,6 +9,8 @@ export interface Page {
     settings: Settings;
     // Goes to another address, which the reader can leave with Back.
     go(address: string): void;
+    // Gives the present address another sheet, which is shown already.
+    stay(route: SheetRoute): void;
 }
 
 export function titleOf(page: Page, kind: string): string {

@@ -1,12 +1,9 @@
 // What axe finds in every state of the page, and what a screen reader gets of an exercise.
-//   APPROVE=1    writes the approved texts anew instead of comparing with them
 import axe from "axe-core";
 import assert from "node:assert/strict";
-import { readFile, writeFile } from "node:fs/promises";
 import { after, before, test } from "node:test";
-import { fileURLToPath } from "node:url";
 import { answerWith, press, states, verdicts } from "./states.mjs";
-import { announced, check, leave, openChromium, openLesson, openPage, type } from "./support.mjs";
+import { announced, check, compareWithApproved, leave, openChromium, openLesson, openPage, type } from "./support.mjs";
 
 let browser;
 let lesson;
@@ -101,14 +98,6 @@ test("choices are a group with a question", async () => {
     assert.deepEqual(await group.getByRole("radio").count(), 2);
     await leave(page);
 });
-
-async function compareWithApproved(name, text) {
-    const file = fileURLToPath(new URL(`approved/${name}`, import.meta.url));
-    if (process.env.APPROVE === "1") {
-        await writeFile(file, text);
-    }
-    assert.equal(text, await readFile(file, "utf8"));
-}
 
 test("a screen reader's view of a titration, its mark and its solution is the approved one", async () => {
     const page = await openPage(browser, "#practice/4821/3/titration:2");

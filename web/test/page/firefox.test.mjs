@@ -1,8 +1,9 @@
-// In Firefox, from a file: the first exercise of each kind, a mark, the tables.
+// In Firefox, from a file: the first exercise of each kind, a mark, a sheet, the tables.
 import assert from "node:assert/strict";
 import { existsSync } from "node:fs";
 import { after, before, test } from "node:test";
 import puppeteer from "puppeteer-core";
+import { leafTexts, letters, pageSize, pagesOf } from "./pdf.mjs";
 import { address, openLesson } from "./support.mjs";
 
 const executablePath = process.env.FIREFOX ?? "/usr/bin/firefox-esr";
@@ -46,6 +47,26 @@ for (const { kind, title } of lesson.kinds()) {
         await page.click("form button[type=submit]");
         await page.waitForSelector(".mark[data-verdict=correct]");
         assert.equal(await page.evaluate(() => document.activeElement.textContent), "Next");
+        assert.deepEqual(problems, []);
+    });
+}
+
+const sheets = {
+    A4: "#sheet/4821/3*titration:3,2*dilution:3,3*molar-mass:3,2*ion-formula?versions=2&drawings=1&v=1",
+    Letter: "#sheet/4821/6*titration:3,6*concentration:3,6*neutralisation?versions=2&key=working&size=Letter&v=1",
+};
+
+// The driver gives the size and the margins itself, so they have to be told here.
+const margin = { top: "15mm", bottom: "15mm", left: "18mm", right: "18mm" };
+
+for (const [format, hash] of Object.entries(sheets)) {
+    test(`a sheet on ${format}: what is printed is the preview, page by page`, { skip }, async () => {
+        await open(hash);
+        await page.waitForSelector(".size:not(:empty)");
+        const preview = await page.evaluate(leafTexts);
+        const pdf = Buffer.from(await page.pdf({ format, margin }));
+        assert.deepEqual(pagesOf(pdf).map((lines) => letters(lines.map((line) => line.text).join(""))), preview.map(letters));
+        assert.equal(pageSize(pdf), { A4: "210 × 297", Letter: "216 × 279" }[format]);
         assert.deepEqual(problems, []);
     });
 }

@@ -27,7 +27,6 @@ const addresses = [
     `#practice/1/1/mixed?v=${encoded}`,
     `#${encoded}`,
     `#tables/${encoded}`,
-    `#sheet/${encoded}`,
     "#%",
     "#/",
     "#?",
@@ -43,6 +42,46 @@ for (const hash of addresses) {
         await leave(page);
     });
 }
+
+const sheets = [
+    `#sheet/${encoded}`,
+    "#sheet/4821",
+    "#sheet/0/titration",
+    "#sheet/4821/titration/more",
+    "#sheet/4821/4*alchemy",
+    "#sheet/4821/titration:4",
+    "#sheet/4821/titration,titration:2",
+    "#sheet/4821/mixed",
+    "#sheet/4821/1001*titration",
+    "#sheet/4821/34*titration?versions=30",
+    "#sheet/4821/titration?versions=31",
+    `#sheet/4821/${encoded}`,
+    `#sheet/4821/titration?size=${encoded}`,
+    `#sheet/4821/titration?title=${"x".repeat(81)}`,
+    "#sheet/4821/titration?v=2",
+];
+
+for (const hash of sheets) {
+    test(`${decodeURIComponent(hash).slice(0, 60)}: a plain message, and on to a sheet`, async () => {
+        const page = await openPage(browser, hash);
+        assert.equal(await page.locator("main img, main b").count(), 0);
+        assert.equal(await page.evaluate(() => window.hit), undefined);
+        await page.getByRole("button", { name: "Make a new sheet" }).click();
+        await page.getByRole("heading", { name: "Sheets to print" }).waitFor();
+        assert.ok(await page.locator(".leaf li").count() > 0);
+        assert.deepEqual(page.problems, []);
+        await page.context().close();
+    });
+}
+
+test("markup as the title of a sheet stays text, in the field and on the page", async () => {
+    const page = await openPage(browser, `#sheet/4821/titration?title=${encoded}`);
+    assert.equal(await page.getByLabel("Title").inputValue(), markup);
+    assert.equal(await page.getByRole("heading", { level: 2 }).first().textContent(), markup);
+    assert.equal(await page.locator("main img, main b").count(), 0);
+    assert.equal(await page.evaluate(() => window.hit), undefined);
+    await page.context().close();
+});
 
 test("an address of ten million characters is a bad address like any other", async () => {
     const page = await openPage(browser);

@@ -216,3 +216,24 @@ test("the solubility grid is one stop; the arrow keys go from cell to cell, and 
     assert.equal(await at(), 1);
     await leave(page);
 });
+
+test("a whole sheet: counts, layout, another version, and Print", async () => {
+    const page = await openPage(browser, "#sheet/4821/2*titration?v=1", { reducedMotion: "reduce", before: () => (window.print = () => (window.printed = location.hash)) });
+    await tabTo(page, page.getByRole("spinbutton", { name: /^Dilution, level 1/ }));
+    await page.keyboard.type("3");
+    await tabTo(page, page.getByRole("spinbutton", { name: "Versions" }));
+    await page.keyboard.press("ArrowUp");
+    await tabTo(page, page.getByLabel("Title"));
+    await page.keyboard.press("Control+A");
+    await page.keyboard.type("Monday");
+    await tabTo(page, page.getByLabel("Room to write"));
+    await page.keyboard.press("Home");
+    await tabTo(page, page.getByLabel("Drawings of burettes and beakers"));
+    await page.keyboard.press("Space");
+    await tabTo(page, button(page, "Print"));
+    await page.keyboard.press("Enter");
+    assert.equal(await page.evaluate(() => window.printed), "#sheet/4821/3*dilution:1,2*titration?versions=2&title=Monday&room=none&drawings=1&v=1");
+    await tabTo(page, page.getByRole("region", { name: "Pages" }));
+    assert.deepEqual(page.problems, []);
+    await page.context().close();
+});

@@ -21,7 +21,7 @@ const windows = [
 
 // What sticks out of the window, but for what scrolls in a box of its own or is for the ear alone.
 function sticksOut() {
-    const ownBox = ".scrolling, .box, .math, .preview, .spoken, .skip";
+    const ownBox = ".scrolling, .box, .leaves, .math, .preview, .spoken, .skip";
     const wide = [...document.querySelectorAll("body *")].filter((element) => {
         const { left, right } = element.getBoundingClientRect();
         return element.parentElement.closest(ownBox) === null && !element.matches(".spoken, .skip") && element.checkVisibility() && (right > innerWidth + 0.5 || left < -0.5);

@@ -42,6 +42,13 @@ export const states = [
     ["a summary", "#practice/4821/6/molar-mass:1?set=5", async () => {}],
     ["a bad address", "#practice/0/1/titration", async () => {}],
     ["the sheets", "#sheet", async () => {}],
+    ["a sheet with drawings, room and a worked key", "#sheet/4821/titration:3,dilution:1,molar-mass:3,solubility:1,ion-formula?drawings=1&key=working&v=1", async () => {}],
+    ["a sheet in versions", "#sheet/4821/3*titration?versions=3&size=Letter&v=1", async () => {}],
+    ["a sheet of nothing", "#sheet/4821/2*titration", async (page) => {
+        await page.getByRole("spinbutton", { name: /^Acid-base titration, level 2/ }).fill("");
+        await page.getByRole("alert").filter({ hasText: "Fill in" }).waitFor();
+    }],
+    ["a bad address of a sheet", "#sheet/4821/4*alchemy", async () => {}],
     ["the tables", "#tables", async () => {}],
     ["the reason of a pair", "#tables", async (page) => {
         await page.locator(".solubility button").first().click();

@@ -1,8 +1,9 @@
 // What the browser tests share. They run on the built file:
 //   PAGE    the page, LESSON the module it was built with, whose answers the tests type
+//   APPROVE=1    writes the approved texts anew instead of comparing with them
 import assert from "node:assert/strict";
-import { readFile } from "node:fs/promises";
-import { pathToFileURL } from "node:url";
+import { readFile, writeFile } from "node:fs/promises";
+import { fileURLToPath, pathToFileURL } from "node:url";
 import { chromium } from "playwright-core";
 
 export const address = pathToFileURL(process.env.PAGE).href;
@@ -103,8 +104,16 @@ export async function openLesson() {
         module.free(at);
         return text;
     };
+    const exportText = (paper, sheet, format) => {
+        const [list, name] = [put(sheet), put(format)];
+        const text = take(module.lesson_export(paper, list, name));
+        [list, name].forEach(module.free);
+        return text;
+    };
     return {
         exerciseText,
+        exportText,
+        canExport: "lesson_export" in module,
         exercise: (paper, number, kind) => JSON.parse(exerciseText(paper, number, kind)),
         kinds: () => JSON.parse(take(module.lesson_kinds())),
     };
@@ -136,4 +145,12 @@ export function panel(page, title) {
 export async function announced(page) {
     await page.waitForFunction(() => document.getElementById("announcement").textContent !== "");
     return page.locator("#announcement").textContent();
+}
+
+export async function compareWithApproved(name, text) {
+    const file = fileURLToPath(new URL(`approved/${name}`, import.meta.url));
+    if (process.env.APPROVE === "1") {
+        await writeFile(file, text);
+    }
+    assert.equal(text, await readFile(file, "utf8"));
 }

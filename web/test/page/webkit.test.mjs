@@ -1,4 +1,4 @@
-// In WebKitGTK, from a file: the first exercise of each kind, a mark, the tables. Its driver is spoken
+// In WebKitGTK, from a file: the first exercise of each kind, a mark, a sheet, the tables. Its driver is spoken
 // to in plain WebDriver requests, on a screen that nobody sees.
 import assert from "node:assert/strict";
 import { spawn } from "node:child_process";
@@ -111,6 +111,19 @@ for (const { kind, title } of lesson.kinds()) {
         assert.equal(await run("return document.activeElement.textContent"), "Next");
     });
 }
+
+// The driver knows no command to print; what would be printed are these pages.
+test("a sheet: its pages with their paper, nothing cut", { skip }, async () => {
+    await open("#sheet/4821/3*titration:3,2*dilution:3,3*molar-mass:3,2*ion-formula?versions=2&drawings=1&v=1", "Sheets to print", "");
+    await isThere(".size:not(:empty)");
+    const pages = await run("return [...document.querySelectorAll('.leaf')].map((leaf) => [leaf.querySelector('.running').textContent, leaf.scrollHeight <= leaf.clientHeight])");
+    assert.equal(await textOf(".size"), `10 exercises, 2 versions, ${pages.length} pages`);
+    for (const [line, isWhole] of pages) {
+        assert.match(line, /^(Paper 482[12], version [12]|Papers 4821 to 4822)Page \d of \d$/);
+        assert.ok(isWhole, line);
+    }
+    assert.equal(await run("return document.querySelectorAll('.leaf li').length"), 40);
+});
 
 test("the tables, and the reason of a pair", { skip }, async () => {
     await open("#tables", "Tables", "");

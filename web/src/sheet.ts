@@ -1,0 +1,129 @@
+// What a sheet is, as data: its address and back, its papers, its exercises in order.
+import type { SheetEntry, SheetRoute } from "./types";
+
+export const mostVersions = 30;
+export const mostExercises = 1000; // of one sheet, and of all its versions together
+export const longestTitle = 80;
+const greatestPaper = 999999;
+const usualLevel = 2;
+
+export const usualSheet: Omit<SheetRoute, "paper"> = {
+    view: "sheet",
+    entries: [
+        { kind: "concentration", level: 1, count: 2 },
+        { kind: "dilution", level: 1, count: 2 },
+        { kind: "titration", level: 2, count: 2 },
+    ],
+    versions: 1,
+    title: "Chemical calculations",
+    room: "some",
+    drawings: false,
+    parts: "both",
+    key: "line",
+    keys: "together",
+    size: "A4",
+};
+
+// The first of each is what an address without it means.
+const choices = {
+    room: ["some", "much", "none"],
+    parts: ["both", "sheet", "key"],
+    key: ["line", "working"],
+    keys: ["together", "apart"],
+    size: ["A4", "Letter"],
+} as const;
+
+type Choice = keyof typeof choices;
+
+// Of the parts behind "#sheet/" and the options behind "?"; null where they name no sheet.
+export function sheetOf(parts: string[], options: URLSearchParams): SheetRoute | null {
+    const [paper = "", list = ""] = parts;
+    const entries = entriesOf(list);
+    const versions = options.get("versions") ?? "1";
+    const title = options.get("title") ?? usualSheet.title;
+    const drawings = options.get("drawings") ?? "0";
+    const chosen = choicesOf(options);
+    const isRead = parts.length === 2 && isPaper(paper) && entries !== null && chosen !== null;
+    if (!isRead || !isCount(versions, mostVersions) || title.length > longestTitle || !/^[01]$/.test(drawings)) {
+        return null;
+    }
+    const route: SheetRoute = {
+        ...usualSheet,
+        ...chosen,
+        paper: Number(paper),
+        entries,
+        versions: Number(versions),
+        title,
+        drawings: drawings === "1",
+    };
+    return isFew(route) ? route : null;
+}
+
+export function sheetAddress(route: SheetRoute, version: number): string {
+    const options = new URLSearchParams();
+    const usual = { ...usualSheet, drawings: "0" };
+    const written = { ...route, drawings: route.drawings ? "1" : "0" };
+    for (const key of ["versions", "title", "room", "drawings", "parts", "key", "keys", "size"] as const) {
+        if (written[key] !== usual[key]) {
+            options.set(key, String(written[key]));
+        }
+    }
+    options.set("v", String(version));
+    return `#sheet/${route.paper}/${listOf(route.entries)}?${options}`;
+}
+
+// As the library reads a sheet: "4*titration,dilution:1".
+export function listOf(entries: SheetEntry[]): string {
+    return entries.map((entry) => `${entry.count === 1 ? "" : `${entry.count}*`}${kindOf(entry)}`).join(",");
+}
+
+// As the library reads a kind: "titration", "dilution:1".
+export function kindOf({ kind, level }: SheetEntry): string {
+    return level === usualLevel ? kind : `${kind}:${level}`;
+}
+
+// One a version, consecutive; behind the greatest comes 1.
+export function papersOf(route: SheetRoute): number[] {
+    return Array.from({ length: route.versions }, (_, at) => ((route.paper - 1 + at) % greatestPaper) + 1);
+}
+
+export function countOf(entries: SheetEntry[]): number {
+    return entries.reduce((sum, entry) => sum + entry.count, 0);
+}
+
+export function isFew(route: SheetRoute): boolean {
+    return countOf(route.entries) * route.versions <= mostExercises;
+}
+
+// In the order of the sheet: each kind's exercises are numbered from 1.
+export function exercisesOf(entries: SheetEntry[]): { kind: string; number: number }[] {
+    return entries.flatMap((entry) => Array.from({ length: entry.count }, (_, at) => ({ kind: kindOf(entry), number: at + 1 })));
+}
+
+// Null for a list that cannot be read or names a kind and level twice.
+function entriesOf(list: string): SheetEntry[] | null {
+    const entries = list.split(",").map(entryOf);
+    const read = entries.filter((entry): entry is SheetEntry => entry !== null);
+    const names = new Set(read.map(kindOf));
+    return names.size === entries.length ? read : null;
+}
+
+function entryOf(text: string): SheetEntry | null {
+    const [, count = "1", kind, level = String(usualLevel)] = /^(?:(\d+)\*)?([a-z][a-z-]*)(?::([123]))?$/.exec(text) ?? [];
+    return kind === undefined || !isCount(count, mostExercises) ? null : { kind, level: Number(level), count: Number(count) };
+}
+
+function choicesOf(options: URLSearchParams): Pick<SheetRoute, Choice> | null {
+    const chosen = Object.entries(choices).map(([key, values]) => [key, options.get(key) ?? values[0]] as const);
+    const isKnown = chosen.every(([key, value]) => (choices[key as Choice] as readonly string[]).includes(value));
+    return isKnown ? (Object.fromEntries(chosen) as Pick<SheetRoute, Choice>) : null;
+}
+
+export function isPaper(text: string): boolean {
+    return isCount(text, greatestPaper);
+}
+
+// A whole number from 1, without zeros in front.
+export function isCount(text: string, most: number): boolean {
+    return /^[1-9]\d{0,5}$/.test(text) && Number(text) <= most;
+}

@@ -1,0 +1,40 @@
+// The exercises of a sheet as files for other programs, a version a file.
+import { button, element, save, show } from "../dom";
+import { listOf, papersOf } from "../sheet";
+import { texts } from "../texts";
+import type { ExportFormat, SheetRoute } from "../types";
+import type { Page } from "./page";
+
+const endings: Record<ExportFormat, string> = { moodle: "xml", anki: "txt" };
+
+// div.files
+//   label, select    which version, where there are several
+//   button, button
+// Says by `complain` why there is no file, and nothing where there is one.
+export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: string) => void): { element: HTMLElement; update(route: SheetRoute): void } {
+    let present = opened;
+    const version = element("select", { id: "version" });
+    const which = element("div", { class: "which-version" }, element("label", { for: "version" }, texts.fileOf), version);
+
+    function download(format: ExportFormat): void {
+        const paper = Number(version.value);
+        const result = page.lesson.exported(paper, listOf(present.entries), format);
+        complain("error" in result ? result.error : "");
+        if ("file" in result) {
+            save(`paper-${paper}-${format}.${endings[format]}`, result.file);
+        }
+    }
+
+    function update(route: SheetRoute): void {
+        const chosen = version.value;
+        const papers = papersOf(route);
+        const options = papers.map((paper, at) => element("option", { value: paper, selected: String(paper) === chosen }, texts.paperAndVersion(paper, at + 1)));
+        show(version, ...options);
+        which.hidden = papers.length === 1;
+        present = route;
+    }
+
+    update(opened);
+    const buttons = [button(texts.moodle, () => download("moodle")), button(texts.anki, () => download("anki"))];
+    return { element: element("div", { class: "files" }, which, ...buttons), update };
+}
