@@ -124,7 +124,7 @@ export const texts = {
     keysOf: { together: "One after another", apart: "Each from a new page on" },
     pageSize: "Page size",
     pageSizes: { A4: "A4", Letter: "Letter" },
-    drawings: "Drawings of burettes and beakers",
+    withDrawings: "Drawings of burettes and beakers",
     moodle: "Moodle quiz",
     anki: "Anki cards",
     fileOf: "Version to save",
@@ -148,7 +148,6 @@ export const texts = {
     continued: (title: string) => `${title}, continued`,
     nameBlank: "Name",
     dateBlank: "Date",
-    typedAndWritten: ["Type the formula", "Write the formula"] as const,
     massesLine: "Relative atomic masses",
 
     burette: "burette",

@@ -233,7 +233,7 @@ Exercise twoSolutions(const Place& place)
     exercise.place = place;
     exercise.prompt =
         line("Solutions of ", nameOf(*a.cation, *a.anion), " and ", nameOf(*b.cation, *b.anion),
-             " are mixed. Type the formula of the precipitate, or “none”.");
+             " are mixed. Write the formula of the precipitate, or “none”.");
     exercise.ask.form = Form::solubility;
     exercise.given = {GivenIon{a.cation}, GivenIon{a.anion}, GivenIon{b.cation}, GivenIon{b.anion}};
     exercise.key = hasPrecipitate(mixture) ? formulaOf(precipitate) : "none";

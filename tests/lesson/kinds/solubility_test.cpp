@@ -189,7 +189,7 @@ TEST(SolubilityTest, APageOfMixedSolutions)
     };
     EXPECT_EQ(pageWith("potassium iodide and lead(II) nitrate"),
               "Solutions of potassium iodide and lead(II) nitrate are mixed. "
-              "Type the formula of the precipitate, or “none”.\n"
+              "Write the formula of the precipitate, or “none”.\n"
               "  These ions come together. | K^+, I^-, Pb^2+, NO3^-\n"
               "  Exchange the partners: these are the new pairs. | PbI2, KNO3\n"
               "  All nitrates are soluble. | KNO3 is soluble\n"
@@ -201,7 +201,7 @@ TEST(SolubilityTest, APageOfMixedSolutions)
               "! Pb(NO3)2  That one was dissolved at the start. Look at the new pairs of ions.\n");
     EXPECT_EQ(pageWith("magnesium nitrate and sodium chloride"),
               "Solutions of magnesium nitrate and sodium chloride are mixed. "
-              "Type the formula of the precipitate, or “none”.\n"
+              "Write the formula of the precipitate, or “none”.\n"
               "  These ions come together. | Mg^2+, NO3^-, Na^+, Cl^-\n"
               "  Exchange the partners: these are the new pairs. | MgCl2, NaNO3\n"
               "  All nitrates are soluble. | NaNO3 is soluble\n"

@@ -68,16 +68,10 @@ export function exerciseItem(exercise: Exercise, route: SheetRoute, page: Page):
     return element(
         "li",
         {},
-        element("p", { class: "asks" }, typeset(onPaper(exercise.prompt), page.settings)),
+        element("p", { class: "asks" }, typeset(exercise.prompt, page.settings)),
         ...(drawing === null ? [] : [drawing]),
         ...(rules.length === 0 ? [] : [element("div", { class: "rules" }, ...rules)]),
     );
-}
-
-// Nobody types on paper.
-function onPaper(prompt: Span[]): Span[] {
-    const [typed, written] = texts.typedAndWritten;
-    return prompt.map((span) => ("text" in span ? { text: span.text.replace(typed, written) } : span));
 }
 
 export function keyItem(exercise: Exercise, route: SheetRoute, page: Page): HTMLElement {

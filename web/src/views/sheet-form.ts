@@ -48,7 +48,7 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
             labelled("keys", texts.keys, keys),
             labelled("size", texts.pageSize, size),
         ),
-        element("label", { class: "word" }, drawings, texts.drawings),
+        element("label", { class: "word" }, drawings, texts.withDrawings),
     );
 
     // Enter in a field is a change like any other, and sends nothing anywhere.
