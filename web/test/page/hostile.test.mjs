@@ -69,8 +69,7 @@ for (const hash of sheets) {
         await page.getByRole("button", { name: "Make a new sheet" }).click();
         await page.getByRole("heading", { name: "Sheets to print" }).waitFor();
         assert.ok(await page.locator(".leaf li").count() > 0);
-        assert.deepEqual(page.problems, []);
-        await page.context().close();
+        await leave(page);
     });
 }
 
@@ -80,7 +79,7 @@ test("markup as the title of a sheet stays text, in the field and on the page", 
     assert.equal(await page.getByRole("heading", { level: 2 }).first().textContent(), markup);
     assert.equal(await page.locator("main img, main b").count(), 0);
     assert.equal(await page.evaluate(() => window.hit), undefined);
-    await page.context().close();
+    await leave(page);
 });
 
 test("an address of ten million characters is a bad address like any other", async () => {

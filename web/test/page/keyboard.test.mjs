@@ -217,8 +217,16 @@ test("the solubility grid is one stop; the arrow keys go from cell to cell, and 
     await leave(page);
 });
 
+// In the place of the browser's own, which tells the page first and then waits for a person.
+function printForTests() {
+    window.print = () => {
+        window.dispatchEvent(new Event("beforeprint"));
+        window.printed = location.hash;
+    };
+}
+
 test("a whole sheet: counts, layout, another version, and Print", async () => {
-    const page = await openPage(browser, "#sheet/4821/2*titration?v=1", { reducedMotion: "reduce", before: () => (window.print = () => (window.printed = location.hash)) });
+    const page = await openPage(browser, "#sheet/4821/2*titration?v=1", { reducedMotion: "reduce", before: printForTests });
     await tabTo(page, page.getByRole("spinbutton", { name: /^Dilution, level 1/ }));
     await page.keyboard.type("3");
     await tabTo(page, page.getByRole("spinbutton", { name: "Versions" }));
@@ -234,6 +242,5 @@ test("a whole sheet: counts, layout, another version, and Print", async () => {
     await page.keyboard.press("Enter");
     assert.equal(await page.evaluate(() => window.printed), "#sheet/4821/3*dilution:1,2*titration?versions=2&title=Monday&room=none&drawings=1&v=1");
     await tabTo(page, page.getByRole("region", { name: "Pages" }));
-    assert.deepEqual(page.problems, []);
-    await page.context().close();
+    await leave(page);
 });
