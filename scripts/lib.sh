@@ -32,7 +32,8 @@ case ${CMAKE_GENERATOR-} in
 Ninja*) to_build=(c++:g++ cmake ninja:ninja-build) ;;
 *) to_build=(c++:g++ cmake make) ;;
 esac
-to_test=("${to_build[@]}" gtest/gtest.h:libgtest-dev gmock/gmock.h:libgmock-dev nlohmann/json.hpp:nlohmann-json3-dev)
+to_test=("${to_build[@]}" gtest/gtest.h:libgtest-dev gmock/gmock.h:libgmock-dev nlohmann/json.hpp:nlohmann-json3-dev \
+    python3)
 
 need_packages() {
     local name missing=()

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bitset>
 #include <cstdint>
+#include <optional>
 #include <utility>
 
 #include "lesson/draws.hpp"
@@ -63,8 +64,8 @@ int levelNamed(std::string_view text)
     return text.size() == 1 && text[0] >= '1' && text[0] < '1' + levelCount ? text[0] - '0' : 0;
 }
 
-// A slug with or without a level.
-Choice readOne(std::string_view name)
+// A slug with or without a level; what to tell where it is `mixed`.
+Choice readOne(std::string_view name, std::string_view errorOfMixed)
 {
     const std::size_t colon = name.find(':');
     const std::string_view slug = name.substr(0, colon);
@@ -72,7 +73,7 @@ Choice readOne(std::string_view name)
         return error("Name a kind of exercise.");
     }
     if (slug == mixed) {
-        return error("The kind mixed stands alone, without a level.");
+        return error(std::string(errorOfMixed));
     }
     const KindRow* const row = findKind(slug);
     if (row == nullptr) {
@@ -89,6 +90,83 @@ Choice readOne(std::string_view name)
 std::string slugAndLevel(KindAndLevel one)
 {
     return std::string(rowOf(one.kind).slug) + ":" + std::to_string(one.level);
+}
+
+// Adds a single kind to those before it; gives the error, if there is one.
+std::string add(Subset& subset, const Choice& one)
+{
+    if (!one.error.empty()) {
+        return one.error;
+    }
+    const std::size_t place = placeInSubset(one.kinds.front());
+    if (subset.test(place)) {
+        return "The kind " + slugAndLevel(one.kinds.front()) + " is there twice.";
+    }
+    subset.set(place);
+    return {};
+}
+
+// Hands the parts of a list to `read` up to the first with an error, which it gives.
+template <typename Read>
+std::string readParts(std::string_view list, const Read& read)
+{
+    for (std::size_t comma = 0; comma != std::string_view::npos;) {
+        comma = list.find(',');
+        std::string problem = read(list.substr(0, comma));
+        if (!problem.empty()) {
+            return problem;
+        }
+        list.remove_prefix(comma == std::string_view::npos ? list.size() : comma + 1);
+    }
+    return {};
+}
+
+// A whole number, as one more than a sheet may have where it is greater; none where it is no
+// number.
+std::optional<unsigned> countIn(std::string_view text)
+{
+    unsigned count = 0;
+    for (const char digit : text) {
+        if (digit < '0' || digit > '9') {
+            return std::nullopt;
+        }
+        count = std::min(count * 10 + static_cast<unsigned>(digit - '0'), greatestSheet + 1);
+    }
+    return text.empty() ? std::nullopt : std::optional(count);
+}
+
+// Adds "4*titration" to a sheet and the set of its kinds; gives the error, if there is one.
+std::string addEntry(Sheet& sheet, Subset& subset, std::string_view entry)
+{
+    const std::size_t star = entry.find('*');
+    const bool hasCount = star != std::string_view::npos;
+    const std::string_view countText = hasCount ? entry.substr(0, star) : "1";
+    const std::optional<unsigned> count = countIn(countText);
+    if (!count) {
+        return "The number of exercises has to be a whole number, not '" + quotable(countText) +
+               "'.";
+    }
+    const Choice one = readOne(entry.substr(hasCount ? star + 1 : 0),
+                               "A sheet names each of its kinds, and mixed is none.");
+    std::string problem = add(subset, one);
+    if (problem.empty()) {
+        sheet.entries.push_back({one.kinds.front(), *count});
+    }
+    return problem;
+}
+
+std::string errorInTotal(const std::vector<SheetEntry>& entries)
+{
+    unsigned total = 0;
+    for (const SheetEntry& entry : entries) {
+        total += entry.count;
+    }
+    if (total == 0) {
+        return "A sheet has at least one exercise.";
+    }
+    return total > greatestSheet
+               ? "A sheet has at most " + std::to_string(greatestSheet) + " exercises."
+               : std::string();
 }
 
 // The chosen set in one number, whatever the order in which it was named.
@@ -122,20 +200,35 @@ Choice readChoice(std::string_view names)
         return {kindsOf(everyKind()), {}};
     }
     Subset subset;
-    for (std::size_t comma = 0; comma != std::string_view::npos;) {
-        comma = names.find(',');
-        Choice one = readOne(names.substr(0, comma));
-        if (!one.error.empty()) {
-            return one;
-        }
-        const std::size_t place = placeInSubset(one.kinds.front());
-        if (subset.test(place)) {
-            return error("The kind " + slugAndLevel(one.kinds.front()) + " is there twice.");
-        }
-        subset.set(place);
-        names.remove_prefix(comma == std::string_view::npos ? names.size() : comma + 1);
+    std::string problem = readParts(names, [&subset](std::string_view name) {
+        return add(subset, readOne(name, "The kind mixed stands alone, without a level."));
+    });
+    return problem.empty() ? Choice{kindsOf(subset), {}} : error(std::move(problem));
+}
+
+Sheet readSheet(std::string_view list)
+{
+    Sheet sheet;
+    Subset subset;
+    if (!list.empty()) {
+        sheet.error =
+            readParts(list, [&](std::string_view entry) { return addEntry(sheet, subset, entry); });
     }
-    return {kindsOf(subset), {}};
+    if (sheet.error.empty()) {
+        sheet.error = errorInTotal(sheet.entries);
+    }
+    return sheet;
+}
+
+std::vector<Place> placesOf(const Sheet& sheet, unsigned paper)
+{
+    std::vector<Place> places;
+    for (const SheetEntry& entry : sheet.entries) {
+        for (unsigned number = 1; number <= entry.count; ++number) {
+            places.push_back({paper, number, entry.kind.kind, entry.kind.level});
+        }
+    }
+    return places;
 }
 
 Place placeOf(const Choice& choice, unsigned paper, unsigned number)

@@ -1,11 +1,17 @@
 #include "lesson/interface.hpp"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "lesson/choice.hpp"
 #include "lesson/exercise.hpp"
 #include "lesson/exercise_json.hpp"
+#include "lesson/export/anki.hpp"
+#include "lesson/export/moodle.hpp"
 #include "lesson/json.hpp"
 #include "lesson/tables/kinds.hpp"
 #include "lesson/tables_json.hpp"
@@ -41,11 +47,16 @@ bool isWithin(unsigned number, unsigned greatest)
     return number >= 1 && number <= greatest;
 }
 
+std::string errorOfPaper()
+{
+    return "The paper has to be a number from 1 to " + std::to_string(greatestPaper) + ".";
+}
+
 // What is wrong with the arguments; empty where nothing is.
 std::string errorIn(unsigned paper, unsigned number, const Choice& choice)
 {
     if (!isWithin(paper, greatestPaper)) {
-        return "The paper has to be a number from 1 to " + std::to_string(greatestPaper) + ".";
+        return errorOfPaper();
     }
     if (!isWithin(number, greatestNumber)) {
         return "The number of the exercise has to be from 1 to " + std::to_string(greatestNumber) +
@@ -69,6 +80,39 @@ std::string markedJson(const Exercise& exercise, const char* typed)
 {
     return typed == nullptr ? errorJson("There is no typed text.")
                             : markJson(markAnswer(exercise, typed));
+}
+
+struct Format {
+    std::string_view name;
+    std::string (*write)(const std::vector<Place>& places);
+};
+constexpr Format formats[] = {{"moodle", moodleXml}, {"anki", ankiCards}};
+
+const Format* findFormat(std::string_view name)
+{
+    const auto* const found =
+        std::find_if(std::begin(formats), std::end(formats),
+                     [name](const Format& format) { return format.name == name; });
+    return found == std::end(formats) ? nullptr : found;
+}
+
+std::string exported(unsigned paper, const char* sheetText, const char* formatName)
+{
+    if (!isWithin(paper, greatestPaper)) {
+        return errorJson(errorOfPaper());
+    }
+    const Sheet sheet = readSheet(sheetText == nullptr ? "" : sheetText);
+    if (!sheet.error.empty()) {
+        return errorJson(sheet.error);
+    }
+    const Format* const format = findFormat(formatName == nullptr ? "" : formatName);
+    if (format == nullptr) {
+        return errorJson("The format has to be moodle or anki.");
+    }
+    std::string file = format->write(placesOf(sheet, paper));
+    return file.empty() ? errorJson("Nothing on this sheet fits a card: formulas, ions and "
+                                    "solubility do.")
+                        : file;
 }
 
 // Puts a text where it holds until the next one, and gives it to C.
@@ -109,5 +153,11 @@ const char* lesson_tables(void)
 {
     thread_local std::string result;
     return lesson::kept(result, lesson::tablesJson());
+}
+
+const char* lesson_export(unsigned paper, const char* sheet, const char* format)
+{
+    thread_local std::string result;
+    return lesson::kept(result, lesson::exported(paper, sheet, format));
 }
 // NOLINTEND(clang-analyzer-cplusplus.InnerPointer)

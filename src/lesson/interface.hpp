@@ -1,11 +1,11 @@
 #pragma once
 
-// The lesson for a front end in any language: C linkage, UTF-8 in and out, every result a JSON text
-// that holds until the next call of the same function on the same thread. docs/lesson.md describes
-// the results.
+// The lesson for a front end in any language: C linkage, UTF-8 in and out, every result a JSON
+// text, but for a file by `lesson_export`, that holds until the next call of the same function on
+// the same thread. docs/lesson.md describes the results.
 //
 // Arguments that mean nothing give {"error": "…"}, a sentence: a null pointer, a paper or a number
-// outside 1 to 999999, kinds that cannot be read (lesson/choice.hpp).
+// outside 1 to 999999, kinds or a sheet that cannot be read (lesson/choice.hpp), an unknown format.
 
 #ifdef __cplusplus
 extern "C" {
@@ -24,6 +24,12 @@ const char* lesson_mark(unsigned paper, unsigned number, const char* kind, const
 
 // The data that the exercises rest on.
 const char* lesson_tables(void);
+
+// The exercises of a sheet ("4*titration:2,3*dilution"), those of each kind and level numbered from
+// 1, as the text of a file for another program: "moodle" gives XML for Moodle's question bank,
+// "anki" lines of cards, as many as fit a card. Only an error is JSON, and begins with "{", which
+// no file does; for Anki it is one too where no exercise of the sheet fits a card.
+const char* lesson_export(unsigned paper, const char* sheet, const char* format);
 
 #ifdef __cplusplus
 }

@@ -117,6 +117,109 @@ TEST(ChoiceTest, ALongNameIsCutInTheSentence)
     EXPECT_LT(error.size(), 200U);
 }
 
+// "7:2*4 5:2*3 ", kinds by their numbers, or the error.
+std::string textOf(const Sheet& sheet)
+{
+    std::string text = sheet.error;
+    for (const SheetEntry& entry : sheet.entries) {
+        text += std::to_string(static_cast<int>(entry.kind.kind)) + ":" +
+                std::to_string(entry.kind.level) + "*" + std::to_string(entry.count) + " ";
+    }
+    return text;
+}
+
+TEST(SheetTest, KindsWithTheirCountsInTheOrderOfTheList)
+{
+    struct Case {
+        const char* list;
+        const char* expected;
+    };
+    const Case cases[] = {
+        {"titration", "7:2*1 "},
+        {"4*titration:2,3*dilution", "7:2*4 5:2*3 "},
+        {"dilution:1,molar-mass,dilution:3", "5:1*1 0:2*1 5:3*1 "},
+        {"1000*solubility", "3:2*1000 "},
+        {"999*solubility:1,solubility:3", "3:1*999 3:3*1 "},
+        {"0*titration,2*dilution", "7:2*0 5:2*2 "},
+        {"007*ion-formula:3", "2:3*7 "},
+    };
+    for (const Case& one : cases) {
+        EXPECT_EQ(textOf(readSheet(one.list)), one.expected) << one.list;
+    }
+}
+
+TEST(SheetTest, WhatCannotBeReadIsToldInASentence)
+{
+    struct Case {
+        std::string list;
+        std::string error;
+    };
+    const std::string none = "A sheet has at least one exercise.";
+    const std::string many = "A sheet has at most 1000 exercises.";
+    const std::string name = "Name a kind of exercise.";
+    const std::string mixed = "A sheet names each of its kinds, and mixed is none.";
+    const auto noCount = [](const std::string& text) {
+        return "The number of exercises has to be a whole number, not '" + text + "'.";
+    };
+    const Case cases[] = {
+        {"", none},
+        {"0*titration", none},
+        {"0*titration,0*dilution", none},
+        {"1001*titration", many},
+        {"999999999999999999999*titration", many},
+        {"500*titration,501*dilution", many},
+        {"1000*titration,1*dilution:3", many},
+        {",", name},
+        {"titration,", name},
+        {"4*", name},
+        {"4*:2", name},
+        {"*titration", noCount("")},
+        {"x*titration", noCount("x")},
+        {"-1*titration", noCount("-1")},
+        {"+1*titration", noCount("+1")},
+        {"1.5*titration", noCount("1.5")},
+        {" 4*titration", noCount(" 4")},
+        {"4 *titration", noCount("4 ")},
+        {"4x*titration", noCount("4x")},
+        {"4* titration", "There is no kind of exercise called ' titration'."},
+        {"4**titration", "There is no kind of exercise called '*titration'."},
+        {"titration*4", noCount("titration")},
+        {"4titration", "There is no kind of exercise called '4titration'."},
+        {"Titration", "There is no kind of exercise called 'Titration'."},
+        {"4*titration:0", "The level of titration has to be 1, 2 or 3."},
+        {"4*titration:", "The level of titration has to be 1, 2 or 3."},
+        {"titration:4", "The level of titration has to be 1, 2 or 3."},
+        {"mixed", mixed},
+        {"4*mixed", mixed},
+        {"mixed:1,titration", mixed},
+        {"titration,titration", "The kind titration:2 is there twice."},
+        {"titration,3*titration:2", "The kind titration:2 is there twice."},
+        {"0*titration,titration", "The kind titration:2 is there twice."},
+    };
+    for (const Case& one : cases) {
+        EXPECT_EQ(readSheet(one.list).error, one.error) << one.list;
+    }
+}
+
+TEST(SheetTest, ALongTextIsCutInTheSentence)
+{
+    for (const std::string& list : {std::string(1000000, 'x'), std::string(1000000, 'x') + "*",
+                                    std::string(1000000, '9') + "*titration"}) {
+        EXPECT_LT(readSheet(list).error.size(), 200U) << list.substr(0, 20);
+    }
+}
+
+TEST(SheetTest, EachKindAndLevelIsNumberedFromOne)
+{
+    std::string text;
+    for (const Place& place : placesOf(readSheet("2*titration,dilution:3,2*titration:1"), 4821)) {
+        EXPECT_EQ(place.paper, 4821U);
+        text += std::to_string(static_cast<int>(place.kind)) + ":" + std::to_string(place.level) +
+                "#" + std::to_string(place.number) + " ";
+    }
+    EXPECT_EQ(text, "7:2#1 7:2#2 5:3#1 7:1#1 7:1#2 ");
+}
+
 TEST(PlaceTest, OneKindKeepsPaperAndNumber)
 {
     const Choice choice = readChoice("titration:3");

@@ -18,6 +18,8 @@ namespace
 constexpr unsigned papers = 100;
 constexpr unsigned numbers = 100;
 constexpr unsigned numbersMarked = 5;
+constexpr unsigned papersExported = 20;
+constexpr unsigned numbersExported = 20;
 
 class Digest
 {
@@ -65,6 +67,16 @@ void addMarks(Digest& digest, const Place& place, const std::string& kind)
     }
 }
 
+void addFiles(Digest& digest, const std::string& kind)
+{
+    const std::string sheet = std::to_string(numbersExported) + "*" + kind;
+    for (unsigned paper = 1; paper <= papersExported; ++paper) {
+        for (const char* const format : {"moodle", "anki"}) {
+            digest.add(lesson_export(paper, sheet.c_str(), format));
+        }
+    }
+}
+
 } // namespace
 
 std::vector<std::string> kindsAndLevels()
@@ -83,6 +95,8 @@ std::string digestLine(const std::string& kind)
     const Choice choice = readChoice(kind);
     Digest exercises;
     Digest marks;
+    Digest files;
+    addFiles(files, kind);
     for (unsigned paper = 1; paper <= papers; ++paper) {
         for (unsigned number = 1; number <= numbers; ++number) {
             exercises.add(lesson_exercise(paper, number, kind.c_str()));
@@ -91,7 +105,7 @@ std::string digestLine(const std::string& kind)
             addMarks(marks, placeOf(choice, paper, number), kind);
         }
     }
-    return kind + " " + exercises.text() + " " + marks.text();
+    return kind + " " + exercises.text() + " " + marks.text() + " " + files.text();
 }
 
 } // namespace lesson

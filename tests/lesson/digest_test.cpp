@@ -1,4 +1,4 @@
-// The same exercises and the same marks everywhere: this test runs with every compiler, on every
+// The same exercises, marks and files everywhere: this test runs with every compiler, on every
 // processor and under every sanitizer, and wasm/digest_test.mjs in WebAssembly.
 
 #include "lesson/digest.hpp"
@@ -33,7 +33,8 @@ class DigestTest : public ::testing::TestWithParam<std::string>
 TEST_P(DigestTest, IsTheApprovedOne)
 {
     EXPECT_EQ(digestLine(GetParam()), approvedLines()[GetParam()])
-        << "an exercise or a mark has changed: scripts/approve tells what to do if that is meant";
+        << "an exercise, a mark or a file has changed: scripts/approve tells what to do if that is "
+           "meant";
 }
 
 std::string testName(const ::testing::TestParamInfo<std::string>& info)

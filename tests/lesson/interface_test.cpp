@@ -123,6 +123,50 @@ TEST(InterfaceTest, BadArgumentsAreToldBySentences)
     EXPECT_EQ(Json::parse(lesson_mark(1, 1, "mixed", nullptr)), expected);
 }
 
+TEST(InterfaceTest, BadArgumentsOfAnExportAreToldBySentences)
+{
+    const std::string paper = "The paper has to be a number from 1 to 999999.";
+    const std::string none = "A sheet has at least one exercise.";
+    const std::string many = "A sheet has at most 1000 exercises.";
+    const std::string format = "The format has to be moodle or anki.";
+    const std::string noCard =
+        "Nothing on this sheet fits a card: formulas, ions and solubility do.";
+    struct Case {
+        unsigned paper;
+        const char* sheet;
+        const char* format;
+        std::string error;
+    };
+    const Case cases[] = {
+        {0, "titration", "moodle", paper},
+        {1000000, "titration", "anki", paper},
+        {4294967295U, nullptr, nullptr, paper},
+        {1, nullptr, "moodle", none},
+        {1, "", "anki", none},
+        {1, "0*titration", "moodle", none},
+        {1, "1001*titration", "moodle", many},
+        {1, "mixed", "moodle", "A sheet names each of its kinds, and mixed is none."},
+        {1, "tit\"ration", "moodle", "There is no kind of exercise called 'tit\"ration'."},
+        {1, "titration", nullptr, format},
+        {1, "titration", "", format},
+        {1, "titration", "Moodle", format},
+        {1, "ion-formula", "anki,moodle", format},
+        {1, "9*titration,neutralisation:3", "anki", noCard},
+    };
+    for (const Case& one : cases) {
+        const Json expected = {{"error", one.error}};
+        EXPECT_EQ(Json::parse(lesson_export(one.paper, one.sheet, one.format)), expected)
+            << (one.sheet == nullptr ? "null" : one.sheet);
+    }
+}
+
+TEST(InterfaceTest, AnExportIsAFileAndNoJson)
+{
+    EXPECT_EQ(std::string(lesson_export(999999, "1000*titration:3", "moodle")).substr(0, 5),
+              "<?xml");
+    EXPECT_EQ(std::string(lesson_export(1, "solubility", "anki")).substr(0, 11), "#separator:");
+}
+
 TEST(InterfaceTest, AResultHoldsUntilTheNextCallOfTheSameFunction)
 {
     const char* const made = lesson_exercise(4821, 3, "titration");
@@ -130,6 +174,7 @@ TEST(InterfaceTest, AResultHoldsUntilTheNextCallOfTheSameFunction)
     lesson_kinds();
     lesson_tables();
     lesson_mark(4821, 4, "titration", "1");
+    lesson_export(4821, "titration", "moodle");
     std::thread([] { lesson_exercise(1, 1, "dilution"); }).join();
     EXPECT_EQ(before, made);
 }

@@ -2,6 +2,7 @@
 //
 //   print_json tables                        one line
 //   print_json exercises KIND PAPER COUNT    exercises 1 to COUNT of a paper, one a line
+//   print_json export FORMAT PAPER SHEET     the file, or the error
 //
 // Ends with status 2 for other arguments, and with 1 when the output cannot be written.
 
@@ -16,7 +17,9 @@ namespace
 
 int tellUsage()
 {
-    std::fputs("usage: print_json tables | print_json exercises KIND PAPER COUNT\n", stderr);
+    std::fputs("usage: print_json tables | print_json exercises KIND PAPER COUNT | print_json "
+               "export FORMAT PAPER SHEET\n",
+               stderr);
     return 2;
 }
 
@@ -36,6 +39,8 @@ int main(int argc, char** argv)
         for (unsigned number = 1; number <= count; ++number) {
             std::puts(lesson_exercise(numberIn(argv[3]), number, argv[2]));
         }
+    } else if (argc == 5 && std::strcmp(argv[1], "export") == 0) {
+        std::fputs(lesson_export(numberIn(argv[3]), argv[4], argv[2]), stdout);
     } else {
         return tellUsage();
     }

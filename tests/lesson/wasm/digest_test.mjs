@@ -1,4 +1,4 @@
-// The module makes the same exercises and marks, byte for byte, as the native library does: see
+// The module makes the same exercises, marks and files, byte for byte, as the native library does: see
 // ../digest.hpp.
 import assert from 'node:assert/strict'
 import { readFileSync } from 'node:fs'
@@ -25,6 +25,12 @@ function typedTexts(exercise) {
 function digestLine(lesson, kind) {
   let exercises = 2166136261
   let marks = 2166136261
+  let files = 2166136261
+  for (let paper = 1; paper <= 20; ++paper) {
+    for (const format of ['moodle', 'anki']) {
+      files = add(files, lesson.bytes('lesson_export', paper, `20*${kind}`, format))
+    }
+  }
   for (let paper = 1; paper <= 100; ++paper) {
     for (let number = 1; number <= 100; ++number) {
       const bytes = lesson.bytes('lesson_exercise', paper, number, kind)
@@ -35,7 +41,7 @@ function digestLine(lesson, kind) {
       }
     }
   }
-  return `${kind} ${hexadecimal(exercises)} ${hexadecimal(marks)}`
+  return `${kind} ${hexadecimal(exercises)} ${hexadecimal(marks)} ${hexadecimal(files)}`
 }
 
 test('there are three levels of eight kinds', () => assert.equal(approved.length, 24))

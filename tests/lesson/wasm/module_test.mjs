@@ -8,7 +8,7 @@ test('the module imports nothing and exports the interface', async () => {
   assert.deepEqual(WebAssembly.Module.imports(module), [])
   assert.deepEqual(
     WebAssembly.Module.exports(module).map((one) => one.name).sort(),
-    ['_initialize', 'free', 'lesson_exercise', 'lesson_kinds', 'lesson_mark', 'lesson_tables',
+    ['_initialize', 'free', 'lesson_exercise', 'lesson_export', 'lesson_kinds', 'lesson_mark', 'lesson_tables',
       'malloc', 'memory'])
 })
 
@@ -34,6 +34,15 @@ test('bad arguments are told', async () => {
     assert.deepEqual(Object.keys(lesson.json('lesson_mark', ...args, '1')), ['error'], `${args}`)
   }
   assert.deepEqual(Object.keys(lesson.json('lesson_mark', 1, 1, 'mixed', null)), ['error'])
+})
+
+test('bad arguments of an export are told', async () => {
+  const lesson = await loadLesson()
+  const cases = [[0, 'titration', 'moodle'], [1, null, 'moodle'], [1, 'titration', null], [1, '', 'anki'],
+    [1, 'mixed', 'moodle'], [1, '1001*titration', 'moodle'], [1, 'titration', 'anki']]
+  for (const args of cases) {
+    assert.deepEqual(Object.keys(lesson.json('lesson_export', ...args)), ['error'], `${args}`)
+  }
 })
 
 test('any typed text gets a mark', async () => {

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "lesson/exercise.hpp"
+
+namespace lesson
+{
+
+// Exercises as a text file of cards for Anki: a header, then a line for each card with front, back
+// and tags between tabs. Formulas, ions and solubility fit a card; calculations and equations are
+// left out, and so is a question that an earlier card asks already, since Anki tells cards apart by
+// their fronts. The header tells how many are left out. Empty where no exercise fits.
+std::string ankiCards(const std::vector<Place>& places);
+
+} // namespace lesson

@@ -1,0 +1,265 @@
+#include <algorithm>
+#include <initializer_list>
+#include <iterator>
+#include <utility>
+#include <variant>
+
+#include "lesson/export/expected.hpp"
+#include "lesson/marking/spellings.hpp"
+#include "lesson/marking/typed.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+using Texts = std::vector<std::string>;
+
+// ------------------------------------------------------------------------- ways to type a text
+
+constexpr std::string_view lowDigits[] = {"₀", "₁", "₂", "₃", "₄", "₅", "₆", "₇", "₈", "₉"};
+constexpr std::string_view highDigits[] = {"⁰", "¹", "²", "³", "⁴", "⁵", "⁶", "⁷", "⁸", "⁹"};
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+// "SO4" -> "SO₄"
+std::string withLowDigits(std::string_view formula)
+{
+    std::string text;
+    for (const char c : formula) {
+        text += isDigit(c) ? lowDigits[c - '0'] : std::string_view(&c, 1);
+    }
+    return text;
+}
+
+// "Al2(SO4)3" -> "Al_2(SO_4)_3", or with brackets "Al_{2}(SO_{4})_{3}"
+std::string withUnderscores(std::string_view formula, bool hasBrackets)
+{
+    std::string text;
+    for (std::size_t i = 0; i < formula.size(); ++i) {
+        const bool begins = isDigit(formula[i]) && (i == 0 || !isDigit(formula[i - 1]));
+        const bool ends =
+            isDigit(formula[i]) && (i + 1 == formula.size() || !isDigit(formula[i + 1]));
+        text += begins ? (hasBrackets ? "_{" : "_") : "";
+        text += formula[i];
+        text += ends && hasBrackets ? "}" : "";
+    }
+    return text;
+}
+
+// A charge: its size, which may be left out where it is 1, and its sign.
+struct Charge {
+    std::string size;
+    char sign;
+};
+
+Charge chargeIn(std::string_view plain)
+{
+    return {std::string(plain.substr(0, plain.size() - 1)), plain.back()};
+}
+
+// How charges are typed: n stands for the size, s for the sign. The usual ways come first.
+constexpr std::string_view chargePatterns[] = {
+    "^ns", "ns", "^{ns}", " ns", "sn", "^sn", "^{sn}", "(ns)",
+};
+constexpr std::size_t usualPatterns = 2;
+
+std::string filled(std::string_view pattern, std::string_view size, std::string_view sign)
+{
+    std::string text;
+    for (const char c : pattern) {
+        text += c == 'n' ? size : c == 's' ? sign : std::string_view(&c, 1);
+    }
+    return text;
+}
+
+std::string raised(const Charge& charge)
+{
+    std::string text;
+    for (const char digit : charge.size) {
+        text += highDigits[digit - '0'];
+    }
+    return text + (charge.sign == '-' ? "⁻" : "⁺");
+}
+
+void addPatterns(Texts& texts, const Charge& charge, std::string_view sign, std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i) {
+        texts.push_back(filled(chargePatterns[i], charge.size, sign));
+    }
+}
+
+// "2-" -> "^2-", "2-", "²⁻"
+Texts usualCharges(const Charge& charge)
+{
+    Texts texts;
+    addPatterns(texts, charge, std::string_view(&charge.sign, 1), usualPatterns);
+    texts.push_back(raised(charge));
+    return texts;
+}
+
+// With a 1 written, two signs for a charge of 2, and the real minus sign.
+Texts allCharges(const Charge& charge)
+{
+    Texts texts = usualCharges(charge);
+    const std::string sign(1, charge.sign);
+    addPatterns(texts, charge, sign, std::size(chargePatterns));
+    if (charge.size.empty()) {
+        addPatterns(texts, {"1", charge.sign}, sign, std::size(chargePatterns));
+    } else {
+        texts.emplace_back(static_cast<std::size_t>(charge.size[0] - '0'), charge.sign);
+    }
+    if (charge.sign == '-') {
+        addPatterns(texts, charge, "−", usualPatterns);
+    }
+    return texts;
+}
+
+void addEach(Texts& texts, const std::string& formula, const Texts& charges)
+{
+    for (const std::string& charge : charges) {
+        texts.push_back(formula + charge);
+    }
+}
+
+// A formula, or an ion with its charge behind a "^", as most people type it.
+Texts usualSpellings(std::string_view text)
+{
+    const std::size_t place = text.find('^');
+    const std::string plain(text.substr(0, place));
+    if (place == std::string_view::npos) {
+        return {plain, withLowDigits(plain)};
+    }
+    Texts texts;
+    const Texts charges = usualCharges(chargeIn(text.substr(place + 1)));
+    addEach(texts, plain, charges);
+    addEach(texts, withLowDigits(plain), charges);
+    return texts;
+}
+
+// Of these, those that are rarer: as in TeX, and every way to type a charge.
+Texts rareSpellings(std::string_view text)
+{
+    const std::size_t place = text.find('^');
+    const std::string plain(text.substr(0, place));
+    const std::string low = withUnderscores(plain, false);
+    const std::string lowInBrackets = withUnderscores(plain, true);
+    if (place == std::string_view::npos) {
+        return {low, lowInBrackets};
+    }
+    const Charge charge = chargeIn(text.substr(place + 1));
+    Texts texts;
+    addEach(texts, plain, allCharges(charge));
+    addEach(texts, low, allCharges(charge));
+    addEach(texts, lowInBrackets, allCharges(charge));
+    return texts;
+}
+
+// ------------------------------------------------------------------------------- what is right
+
+constexpr std::string_view noneWords[] = {
+    "none",           "no",
+    "nothing",        "no precipitate",
+    "no ppt",         "no solid",
+    "no reaction",    "no precipitate forms",
+    "nothing forms",  "there is no precipitate",
+    "there is none",  "no precipitate is formed",
+    "none forms",     "nothing precipitates",
+    "none is formed", "-",
+};
+
+bool isNone(const Exercise& exercise)
+{
+    const auto* const answer = std::get_if<PrecipitateAnswer>(&exercise.answer);
+    return answer != nullptr && answer->cation == nullptr;
+}
+
+// The key, and its formula in other orders: "CH3COO^-", "CH3CO2^-".
+Texts rightFormulas(std::string_view key)
+{
+    const std::size_t place = std::min(key.find('^'), key.size());
+    Texts texts;
+    for (const std::string& spelling : spellingsOf(key.substr(0, place))) {
+        texts.push_back(spelling + std::string(key.substr(place)));
+    }
+    return texts;
+}
+
+// What is said of a solid may be said of a precipitate.
+void addStates(Texts& texts)
+{
+    const std::size_t count = texts.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        texts.push_back(texts[i] + "(s)");
+        texts.push_back(texts[i] + " (s)");
+    }
+}
+
+void addAll(Texts& texts, const Texts& more)
+{
+    texts.insert(texts.end(), more.begin(), more.end());
+}
+
+Texts rightTexts(const Exercise& exercise)
+{
+    if (isNone(exercise)) {
+        return {std::begin(noneWords), std::end(noneWords)};
+    }
+    Texts texts;
+    for (const std::string& right : rightFormulas(exercise.key)) {
+        addAll(texts, usualSpellings(right));
+    }
+    addAll(texts, rareSpellings(exercise.key));
+    if (exercise.ask.form == Form::solubility) {
+        addStates(texts);
+    }
+    return texts;
+}
+
+// What shows a mistake, besides the slips: capitals, and none where there is a precipitate.
+Texts wrongTexts(const Exercise& exercise)
+{
+    Texts texts;
+    for (const Slip& slip : exercise.slips) {
+        const bool hasSeveralCharges = slip.text.find('^') != slip.text.rfind('^');
+        addAll(texts, hasSeveralCharges ? Texts{slip.text} : usualSpellings(slip.text));
+    }
+    if (!isNone(exercise)) {
+        texts.push_back(lowerCase(exercise.key));
+        texts.emplace_back(noneWords[0]);
+    }
+    return texts;
+}
+
+bool isThere(const std::vector<Expected>& expected, const std::string& text)
+{
+    return std::any_of(expected.begin(), expected.end(),
+                       [&text](const Expected& one) { return one.text == text; });
+}
+
+} // namespace
+
+// The marking tells what each text gets, so that nothing here can contradict it.
+std::vector<Expected> expectedTexts(const Exercise& exercise)
+{
+    std::vector<Expected> expected;
+    const auto add = [&](const Texts& texts, std::initializer_list<Verdict> wanted) {
+        for (const std::string& text : texts) {
+            Mark mark = markAnswer(exercise, text);
+            const bool isWanted =
+                std::find(wanted.begin(), wanted.end(), mark.verdict) != wanted.end();
+            if (isWanted && !isThere(expected, text)) {
+                expected.push_back({percentFor(mark.verdict), text, "", std::move(mark.sentence)});
+            }
+        }
+    };
+    add(rightTexts(exercise), {Verdict::correct});
+    add(wrongTexts(exercise), {Verdict::slip, Verdict::wrong});
+    return expected;
+}
+
+} // namespace lesson

@@ -1,0 +1,226 @@
+#include "lesson/export/moodle.hpp"
+
+#include <string_view>
+#include <utility>
+
+#include "lesson/export/expected.hpp"
+#include "lesson/export/html.hpp"
+#include "lesson/tables/kinds.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+// The elements stand in the order in which Moodle writes them itself.
+
+// HTML goes in as it is: it never holds "]]>", since it has a reference for each ">" of a text.
+void addHtml(std::string& xml, std::string_view tag, std::string_view html)
+{
+    addAll(xml, {"<", tag, " format=\"html\"><text>"});
+    if (!html.empty()) {
+        addAll(xml, {"<![CDATA[", html, "]]>"});
+    }
+    addAll(xml, {"</text></", tag, ">\n"});
+}
+
+// ------------------------------------------------------------------------------ its four types
+
+enum class Type { numerical, shortAnswer, multipleChoice, cloze };
+
+struct TypeRow {
+    std::string_view name;
+    std::string_view advice; // what to type, below the question
+};
+
+constexpr TypeRow typeRows[] = {
+    {"numerical", ""},
+    {"shortanswer", "Type subscripts as ordinary digits, such as H2O."},
+    {"multichoice", ""},
+    {"cloze", "Type the smallest whole numbers, and 1 where a formula needs none."},
+};
+
+Type typeOf(const Ask& ask)
+{
+    if (ask.form == Form::number) {
+        return Type::numerical;
+    }
+    if (ask.form == Form::equation) {
+        return Type::cloze;
+    }
+    return ask.choices.empty() ? Type::shortAnswer : Type::multipleChoice;
+}
+
+const TypeRow& rowOf(Type type)
+{
+    return typeRows[static_cast<int>(type)];
+}
+
+std::string adviceFor(const Ask& ask)
+{
+    if (ask.form == Form::number) {
+        return "Give it to " + std::to_string(ask.figures) +
+               " significant figures. The unit may be left out.";
+    }
+    const std::string advice(rowOf(typeOf(ask)).advice);
+    return ask.form == Form::ion ? advice + " The charge stands behind a ^, such as ClO4^-."
+                                 : advice;
+}
+
+// --------------------------------------------------------------------------------- the question
+
+std::string gap(int coefficient)
+{
+    return "{1:NUMERICAL:=" + std::to_string(coefficient) + ":0}";
+}
+
+std::string sideOf(const std::vector<std::pair<int, std::string>>& side)
+{
+    std::string html;
+    for (const auto& [coefficient, species] : side) {
+        addAll(html,
+               {html.empty() ? "" : " + ", gap(coefficient), " ", htmlOf({formula(species)})});
+    }
+    return html;
+}
+
+std::string gapsOf(const Equation& equation)
+{
+    return "<p>" + sideOf(equation.left) + " → " + sideOf(equation.right) + "</p>";
+}
+
+std::string questionOf(const Exercise& exercise)
+{
+    std::string html;
+    addAll(html, {"<p>", htmlOf(exercise.prompt), "</p>"});
+    if (exercise.ask.form == Form::equation) {
+        html += gapsOf(*exercise.equation);
+    }
+    const std::string advice = adviceFor(exercise.ask);
+    if (!advice.empty()) {
+        addAll(html, {"<p>", advice, "</p>"});
+    }
+    return html;
+}
+
+std::string solutionOf(const Exercise& exercise)
+{
+    std::string html = "<ol>";
+    for (const Step& step : exercise.solution) {
+        addAll(html, {"<li>", htmlOf(step.say), step.math.empty() ? "" : "<br>", htmlOf(step.math),
+                      "</li>"});
+    }
+    return html + "</ol>";
+}
+
+// ---------------------------------------------------------------------------------- the answers
+
+void addAnswer(std::string& xml, const Expected& expected, std::string_view format)
+{
+    addAll(xml, {"<answer fraction=\"", std::to_string(expected.percent), "\" format=\"", format,
+                 "\"><text>", escaped(expected.text), "</text>\n"});
+    addHtml(xml, "feedback", escaped(expected.sentence));
+    if (!expected.tolerance.empty()) {
+        addAll(xml, {"<tolerance>", expected.tolerance, "</tolerance>\n"});
+    }
+    xml += "</answer>\n";
+}
+
+// A unit that may be typed behind a number, and how many of it make one of the asked unit. Moodle
+// takes out blanks before it looks, and reads a number with any other unit as one without.
+struct UnitRow {
+    std::string_view asked;
+    std::string_view typed;
+    std::string_view times;
+};
+
+constexpr UnitRow unitRows[] = {
+    {"mol/L", "mol/L", "1"},
+    {"mol/L", "mmol/L", "1000"},
+    {"mol/L", "mmol/dm3", "1000"},
+    {"mol/L", "mmolL-1", "1000"},
+    {"mol/L", "mmoldm-3", "1000"},
+    {"mol/L", "mM", "1000"},
+    {"mL", "mL", "1"},
+    {"mL", "L", "0.001"},
+    {"mL", "l", "0.001"},
+    {"mL", "dm3", "0.001"},
+    {"g", "g", "1"},
+    {"g", "mg", "1000"},
+    {"g", "kg", "0.001"},
+    {"g/mol", "g/mol", "1"},
+};
+
+void addUnits(std::string& xml, std::string_view asked)
+{
+    xml += "<units>\n";
+    for (const UnitRow& row : unitRows) {
+        if (row.asked == asked) {
+            addAll(xml, {"<unit><multiplier>", row.times, "</multiplier><unit_name>", row.typed,
+                         "</unit_name></unit>\n"});
+        }
+    }
+    xml += "</units>\n";
+    // Neither graded nor asked for: typed behind the number or not.
+    xml += "<unitgradingtype>0</unitgradingtype>\n<unitpenalty>0</unitpenalty>\n"
+           "<showunits>0</showunits>\n<unitsleft>0</unitsleft>\n";
+}
+
+void addAnswers(std::string& xml, const Exercise& exercise)
+{
+    const Type type = typeOf(exercise.ask);
+    if (type == Type::shortAnswer) {
+        // Capitals matter in formulas, and in "none" they do not.
+        xml += exercise.key == "none" ? "<usecase>0</usecase>\n" : "<usecase>1</usecase>\n";
+    } else if (type == Type::multipleChoice) {
+        xml += "<single>true</single>\n<shuffleanswers>false</shuffleanswers>\n"
+               "<answernumbering>none</answernumbering>\n";
+    }
+    for (const Expected& expected : expectedAnswers(exercise)) {
+        addAnswer(xml, expected, type == Type::multipleChoice ? "html" : "moodle_auto_format");
+    }
+    if (type == Type::numerical) {
+        addUnits(xml, exercise.ask.unit);
+    }
+}
+
+// ------------------------------------------------------------------------------------ the file
+
+void addQuestion(std::string& xml, const Place& place)
+{
+    const Exercise exercise = makeExercise(place);
+    const Type type = typeOf(exercise.ask);
+    const std::string_view slug = rowOf(place.kind).slug;
+    const std::string paper = std::to_string(place.paper);
+    const std::string level = std::to_string(place.level);
+    const std::string number = std::to_string(place.number);
+    addAll(xml, {"<question type=\"", rowOf(type).name, "\">\n<name><text>Paper ", paper, ", ",
+                 slug, ", level ", level, ", number ", number, "</text></name>\n"});
+    addHtml(xml, "questiontext", questionOf(exercise));
+    addHtml(xml, "generalfeedback", solutionOf(exercise));
+    if (type != Type::cloze) { // whose grade is that of its gaps
+        xml += "<defaultgrade>1</defaultgrade>\n";
+    }
+    addAll(xml, {"<penalty>0.3333333</penalty>\n<hidden>0</hidden>\n<idnumber>", paper, "-", slug,
+                 "-", level, "-", number, "</idnumber>\n"});
+    addAnswers(xml, exercise);
+    addAll(xml, {"<tags>\n<tag><text>", slug, "</text></tag>\n<tag><text>level ", level,
+                 "</text></tag>\n</tags>\n</question>\n"});
+}
+
+} // namespace
+
+std::string moodleXml(const std::vector<Place>& places)
+{
+    std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<quiz>\n"
+                      "<question type=\"category\">\n<category>";
+    addAll(xml, {"<text>$course$/top/Chemical calculations practice/Paper ",
+                 std::to_string(places.front().paper), "</text></category>\n</question>\n"});
+    for (const Place& place : places) {
+        addQuestion(xml, place);
+    }
+    return xml + "</quiz>\n";
+}
+
+} // namespace lesson
