@@ -22,6 +22,7 @@ share/doc/chempractice/docs/dialogue.svg
 share/doc/chempractice/docs/lesson.md
 share/doc/chempractice/docs/page.png
 share/doc/chempractice/docs/peculiarities.md
+share/doc/chempractice/docs/sheet.png
 share/man/man6/chempractice.6
 END
 }
