@@ -85,7 +85,8 @@ function seenWindow(): { top: number; bottom: number } {
 
 // As a file that the browser saves.
 export function save(fileName: string, text: string): void {
-    const address = URL.createObjectURL(new Blob([text], { type: "text/plain;charset=utf-8" }));
+    const type = fileName.endsWith(".xml") ? "application/xml" : "text/plain";
+    const address = URL.createObjectURL(new Blob([text], { type: `${type};charset=utf-8` }));
     element("a", { href: address, download: fileName }).click();
     window.setTimeout(() => URL.revokeObjectURL(address), 1000);
 }

@@ -60,8 +60,7 @@ const TypeRow& rowOf(Type type)
 std::string adviceFor(const Ask& ask)
 {
     if (ask.form == Form::number) {
-        return "Give it to " + std::to_string(ask.figures) +
-               " significant figures. The unit may be left out.";
+        return "Type the number alone, to " + std::to_string(ask.figures) + " significant figures.";
     }
     const std::string advice(rowOf(typeOf(ask)).advice);
     return ask.form == Form::ion ? advice + " The charge stands behind a ^, such as ClO4^-."
@@ -144,7 +143,6 @@ constexpr UnitRow unitRows[] = {
     {"mol/L", "mM", "1000"},
     {"mL", "mL", "1"},
     {"mL", "L", "0.001"},
-    {"mL", "l", "0.001"},
     {"mL", "dm3", "0.001"},
     {"g", "g", "1"},
     {"g", "mg", "1000"},

@@ -4,7 +4,7 @@ import { existsSync } from "node:fs";
 import { after, before, test } from "node:test";
 import puppeteer from "puppeteer-core";
 import { leafTexts, letters, pageSize, pagesOf } from "./pdf.mjs";
-import { address, openLesson } from "./support.mjs";
+import { address, leave, openChromium, openLesson, openPage } from "./support.mjs";
 
 const executablePath = process.env.FIREFOX ?? "/usr/bin/firefox-esr";
 const skip = existsSync(executablePath) ? false : `there is no ${executablePath}`;
@@ -56,6 +56,16 @@ const sheets = {
     Letter: "#sheet/4821/6*titration:3,6*concentration:3,6*neutralisation?versions=2&key=working&size=Letter&v=1",
 };
 
+async function leavesInChromium(hash) {
+    const chromium = await openChromium();
+    const tab = await openPage(chromium, hash);
+    await tab.locator(".size:not(:empty)").waitFor();
+    const leaves = await tab.locator(".leaf").count();
+    await leave(tab);
+    await chromium.close();
+    return leaves;
+}
+
 // The driver gives the size and the margins itself, so they have to be told here.
 const margin = { top: "15mm", bottom: "15mm", left: "18mm", right: "18mm" };
 
@@ -67,6 +77,7 @@ for (const [format, hash] of Object.entries(sheets)) {
         const pdf = Buffer.from(await page.pdf({ format, margin }));
         assert.deepEqual(pagesOf(pdf).map((lines) => letters(lines.map((line) => line.text).join(""))), preview.map(letters));
         assert.equal(pageSize(pdf), { A4: "210 × 297", Letter: "216 × 279" }[format]);
+        assert.equal(preview.length, await leavesInChromium(hash));
         assert.deepEqual(problems, []);
     });
 }

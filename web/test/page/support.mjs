@@ -113,7 +113,6 @@ export async function openLesson() {
     return {
         exerciseText,
         exportText,
-        canExport: "lesson_export" in module,
         exercise: (paper, number, kind) => JSON.parse(exerciseText(paper, number, kind)),
         kinds: () => JSON.parse(take(module.lesson_kinds())),
     };
