@@ -294,6 +294,16 @@ std::optional<Mark> capitals(const Attempt& attempt)
     return slipWhen(anyReading(attempt, differsInCapitals), sentences::capitals);
 }
 
+// "Fe^3": who raises a number means a charge, so none of the slips with a number of atoms is made.
+std::optional<Mark> raisedWithoutSign(const Attempt& attempt)
+{
+    const Reading& reading = attempt.readings.front();
+    return slipWhen(reading.formula.isRead && reading.charge == 0 &&
+                        reading.bare.find('^') != std::string::npos &&
+                        reading.bare.find_first_of(signs) == std::string::npos,
+                    "A charge has a sign: + or -.");
+}
+
 bool isSlip(const Reading& typed, const Slip& slip)
 {
     const Reading known = readingsOf(slip.text).front();
@@ -356,15 +366,12 @@ std::optional<Mark> numeralLeftIn(const Attempt& attempt)
     return std::nullopt;
 }
 
-// "Fe", "Fe3", "Fe^3"
+// "Fe", "Fe3"
 std::optional<Mark> noCharge(const Attempt& attempt)
 {
     const Reading& reading = attempt.readings.front();
     if (reading.bare.find_first_of(signs) != std::string::npos || reading.charge != 0) {
         return std::nullopt;
-    }
-    if (reading.bare.find('^') != std::string::npos) {
-        return markOf(Verdict::slip, "A charge has a sign: + or -.");
     }
     return markOf(Verdict::slip, hasChargeAsSubscript(attempt, reading)
                                      ? sentences::chargeAsSubscript
@@ -437,8 +444,9 @@ std::optional<Mark> symbol(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped, right,       capitals,          listedSlip, lookalikes, notRead, numeralLeftIn,
-    noCharge,     wrongCharge, chargeAsSubscript, otherOrder, ending,     oxygens, symbol,
+    nothingTyped,      right,      capitals,      raisedWithoutSign, listedSlip,
+    lookalikes,        notRead,    numeralLeftIn, noCharge,          wrongCharge,
+    chargeAsSubscript, otherOrder, ending,        oxygens,           symbol,
 };
 
 } // namespace

@@ -96,7 +96,7 @@ TEST(EquationMarkTest, EthanoicAcidMayBeAbbreviated)
     for (const char* const typed :
          {"2HOAc + Ca(OH)2 -> Ca(OAc)2 + 2H2O", "2AcOH + Ca(OH)2 -> (AcO)2Ca + 2H2O",
           "2HAc + Ca(OH)2 -> Ca(Ac)2 + 2H2O", "2MeCOOH + Ca(OH)2 -> Ca(MeCOO)2 + 2H2O",
-          "2HOAc(aq) + Ca(OH)2(aq) → Ca(OAc)2(aq) + 2H2O(l)"}) {
+          "2HOAc(aq) + Ca(OH)2(aq) → Ca(OAc)2(aq) + 2H2O(l)", "2HAc + Ca(OH)2 -> CaAc2 + 2H2O"}) {
         const Mark mark = markEquation(vinegar(), typed);
         EXPECT_EQ(mark.verdict, Verdict::correct) << typed << ": " << mark.sentence;
     }

@@ -135,7 +135,8 @@ TEST(FormulaMarkTest, EthanoatesMayBeWrittenInTheirOtherWays)
         {"calcium",
          {"Ca(CH3COO)2", "(CH3COO)2Ca", "Ca(C2H3O2)2", "Ca(CH3CO2)2", "(CH3CO2)2Ca", "Ca[CH3COO]_2",
           "Ca(OOCCH3)2", "Ca(O2CCH3)2", "(C2H3O2)2Ca", "Ca(OAc)2", "Ca(OAc)₂", "(AcO)2Ca",
-          "Ca(Ac)2", "(MeCOO)2Ca"}},
+          "Ca(Ac)2", "(MeCOO)2Ca", "CaAc2", "CaAc₂", "CaAc_2", "CaAc_{2}", "Ac2Ca"}},
+        {"copper(II)", {"CuAc2"}},
         {"lead(II)", {"Pb(CH3COO)2", "(CH3COO)2Pb", "Pb(C2H3O2)2"}},
     };
     for (const Row& row : rows) {

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "lesson/tables/ions.hpp"
@@ -49,10 +50,15 @@ std::string withSubscripts(const std::string& text)
     return spelled;
 }
 
-std::string superscript(int size, bool isNegative)
+std::string superscript(int size)
 {
     const char* const digits[] = {"", "\u00B9", "\u00B2", "\u00B3"};
-    return std::string(digits[size]) + (isNegative ? "\u207B" : "\u207A");
+    return digits[size];
+}
+
+std::string superscript(int size, bool isNegative)
+{
+    return superscript(size) + (isNegative ? "\u207B" : "\u207A");
 }
 
 // Everything behind the formula that tells the charge.
@@ -250,6 +256,26 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
             EXPECT_EQ(mark.sentence, row.sentence) << row.typed << " for " << row.ion;
         }
     }
+}
+
+// An exercise lists "Fe3" and "Fe" as slips, and neither is what was meant here.
+TEST(IonMarkTest, ARaisedNumberIsAChargeWithoutItsSign)
+{
+    int charges = 0;
+    for (unsigned number = 1; number <= 60; ++number) {
+        const Exercise exercise = makeExercise({1, number, Kind::ionFormula, 2});
+        const IonRow& ion = *std::get<IonAnswer>(exercise.answer).ion;
+        const std::string size = std::to_string(std::abs(ion.charge));
+        charges += std::abs(ion.charge) > 1 ? 1 : 0;
+        for (const std::string& raised :
+             {"^" + size, "^{" + size + "}", superscript(std::abs(ion.charge))}) {
+            const std::string typed = std::string(ion.formula).append(raised);
+            const Mark mark = markAnswer(exercise, typed);
+            EXPECT_EQ(mark.verdict, Verdict::slip) << typed;
+            EXPECT_EQ(mark.sentence, "A charge has a sign: + or -.") << typed;
+        }
+    }
+    EXPECT_GT(charges, 0);
 }
 
 TEST(IonMarkTest, WhatCannotBeReadIsTold)
