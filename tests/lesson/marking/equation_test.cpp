@@ -219,6 +219,19 @@ TEST(EquationMarkTest, WrongSubscripts)
                   "(NH4)2NO3 is not the salt. Check the charges."}});
 }
 
+TEST(EquationMarkTest, RomanNumeralsLeftIn)
+{
+    constexpr const char* numeral = "The Roman numeral is a charge.";
+    expectMarks(answerOf("HNO3", "copper(II)", "carbonate"),
+                {{"2HNO3 + CuCO3 -> Cu(II)(NO3)2 + H2O + CO2", Verdict::slip, numeral},
+                 {"2HNO3 + Cu(II)CO3 -> Cu(NO3)2 + H2O + CO2", Verdict::slip, numeral},
+                 {"2HNO3 + CuIICO3 -> Cu(II)(NO3)2 + H2O + CO2", Verdict::slip, numeral},
+                 {"2HNO3 + Cu(II)CO3 -> Cu(II)(NO3)2 + H2O", Verdict::slip, "One more product."}});
+    expectMarks(answerOf("HCl", "iron(III)", "oxide"),
+                {{"6HCl + Fe(III)2O3 -> 2FeCl3 + 3H2O", Verdict::slip, numeral},
+                 {"6HCl + Fe2O3 -> 2Fe(Ⅲ)Cl3 + 3H2O", Verdict::slip, numeral}});
+}
+
 TEST(EquationMarkTest, SaltsOfHalfTheWay)
 {
     constexpr const char* lessBase = "True with less base. Neutralise completely.";
