@@ -357,8 +357,9 @@ std::vector<std::string> withoutNumeral(std::string_view text)
          {"(VII)", "(III)", "(II)", "(I)", "VII", "III", "II", "I"}) {
         const std::size_t place = text.find(numeral, 1);
         if (place != std::string_view::npos) {
+            const std::size_t raised = text[place - 1] == '^' ? 1 : 0;
             others.emplace_back(text);
-            others.back().erase(place, numeral.size());
+            others.back().erase(place - raised, numeral.size() + raised);
         }
     }
     return others;

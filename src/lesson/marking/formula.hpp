@@ -22,7 +22,7 @@ std::string withLetterO(std::string_view plain);
 std::string withLetterI(std::string_view plain);
 
 // The text without a Roman numeral behind its front, one for each way to read one: "CuIISO4" ->
-// "CuSO4", "CuISO4".
+// "CuSO4", "CuISO4". A raised one goes with its "^".
 std::vector<std::string> withoutNumeral(std::string_view text);
 
 // What to tell a learner whose text is right with these letters.

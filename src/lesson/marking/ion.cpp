@@ -40,14 +40,20 @@ std::string withCaret(std::string plain)
     return stars == std::string::npos ? plain : plain.replace(stars, 2, "^");
 }
 
-// "Fe3+ ion" -> "Fe3+"
+// "Fe3+ ion" -> "Fe3+", "Fe(III) ions." -> "Fe(III)"
 std::string withoutIon(const std::string& plain)
 {
-    constexpr std::string_view word = " ion";
-    const std::size_t front = plain.size() - std::min(plain.size(), word.size());
-    const bool isBehindCharge = front > 0 && signs.find(plain[front - 1]) != std::string_view::npos;
-    return isBehindCharge && lowerCase(plain.substr(front)) == word ? plain.substr(0, front)
-                                                                    : plain;
+    constexpr std::string_view ends[] = {" ion", " ions", " ion.", " ions."};
+    constexpr std::string_view before = "+-)]}";
+    const std::string lower = lowerCase(plain);
+    for (const std::string_view end : ends) {
+        const std::size_t front = plain.size() - std::min(plain.size(), end.size());
+        if (front > 0 && lower.compare(front, end.size(), end) == 0 &&
+            before.find(plain[front - 1]) != std::string_view::npos) {
+            return plain.substr(0, front);
+        }
+    }
+    return plain;
 }
 
 // One way to read what was typed: "SO42-" is SO4 with 2-, SO42 with 1-, or SO with 42-.
@@ -345,7 +351,24 @@ std::optional<Mark> notRead(const Attempt& attempt)
     return unreadable(unread.empty() ? attempt.plain : unread);
 }
 
-// "Fe(III)", "FeIII", "Fe(III)3+"
+std::optional<Mark> wrongCharge(const Attempt& attempt)
+{
+    bool hasWrongSign = false;
+    bool hasWrongSize = false;
+    for (const Reading& reading : attempt.readings) {
+        if (hasRightFormula(attempt, reading)) {
+            const bool isOpposite = (reading.charge < 0) != (attempt.ion.charge < 0);
+            (isOpposite ? hasWrongSign : hasWrongSize) = true;
+        }
+    }
+    if (hasWrongSign) {
+        return markOf(Verdict::slip, sentences::wrongSign);
+    }
+    const bool isTold = hasRomanNumeral(attempt.ion) && attempt.ion.charge > 0;
+    return slipWhen(hasWrongSize, isTold ? sentences::romanCharge : sentences::wrongSize);
+}
+
+// "Fe(III)", "FeIII", "Fe^III", "Fe(III)3+", "Fe(III)+"
 std::optional<Mark> numeralLeftIn(const Attempt& attempt)
 {
     if (!hasRomanNumeral(attempt.ion)) {
@@ -362,6 +385,9 @@ std::optional<Mark> numeralLeftIn(const Attempt& attempt)
             return markOf(Verdict::slip,
                           attempt.ion.charge > 0 ? sentences::romanCharge : sentences::noCharge);
         }
+        if (const std::optional<Mark> charge = wrongCharge(mended)) {
+            return charge;
+        }
     }
     return std::nullopt;
 }
@@ -376,23 +402,6 @@ std::optional<Mark> noCharge(const Attempt& attempt)
     return markOf(Verdict::slip, hasChargeAsSubscript(attempt, reading)
                                      ? sentences::chargeAsSubscript
                                      : sentences::noCharge);
-}
-
-std::optional<Mark> wrongCharge(const Attempt& attempt)
-{
-    bool hasWrongSign = false;
-    bool hasWrongSize = false;
-    for (const Reading& reading : attempt.readings) {
-        if (hasRightFormula(attempt, reading)) {
-            const bool isOpposite = (reading.charge < 0) != (attempt.ion.charge < 0);
-            (isOpposite ? hasWrongSign : hasWrongSize) = true;
-        }
-    }
-    if (hasWrongSign) {
-        return markOf(Verdict::slip, sentences::wrongSign);
-    }
-    const bool isTold = hasRomanNumeral(attempt.ion) && attempt.ion.charge > 0;
-    return slipWhen(hasWrongSize, isTold ? sentences::romanCharge : sentences::wrongSize);
 }
 
 std::optional<Mark> chargeAsSubscript(const Attempt& attempt)
@@ -444,9 +453,9 @@ std::optional<Mark> symbol(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped,      right,      capitals,      raisedWithoutSign, listedSlip,
-    lookalikes,        notRead,    numeralLeftIn, noCharge,          wrongCharge,
-    chargeAsSubscript, otherOrder, ending,        oxygens,           symbol,
+    nothingTyped,      right,         capitals, raisedWithoutSign, listedSlip,
+    lookalikes,        numeralLeftIn, notRead,  noCharge,          wrongCharge,
+    chargeAsSubscript, otherOrder,    ending,   oxygens,           symbol,
 };
 
 } // namespace
