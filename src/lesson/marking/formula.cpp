@@ -147,8 +147,16 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
 
 std::optional<Mark> lookalikes(const Attempt& attempt)
 {
-    const std::string meant = withLetterI(withLetterO(attempt.plain));
-    return slipWhen(meant != attempt.plain && isAmong(attempt.right, readFormula(meant).text),
+    const auto isMeant = [&attempt](const std::string& meant) {
+        return meant != attempt.plain && isAmong(attempt.right, readFormula(meant).text);
+    };
+    if (isMeant(withLetterL(attempt.plain, 'I'))) {
+        return markOf(Verdict::slip, sentences::letterLNotI);
+    }
+    if (isMeant(withLetterL(attempt.plain, '1'))) {
+        return markOf(Verdict::slip, sentences::letterLNotOne);
+    }
+    return slipWhen(isMeant(withLetterI(withLetterO(attempt.plain))),
                     mistypedLetter(attempt.plain));
 }
 
@@ -269,7 +277,7 @@ std::optional<Mark> oxygens(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped,   right,         capitals,      listedSlip,         lookalikes,  notRead,
+    nothingTyped,   right,         capitals,      lookalikes,         listedSlip,  notRead,
     chargesLeftIn,  raisedNumber,  numberInFront, numeralLeftIn,      waterLeftIn, bracketNotNeeded,
     bracketMissing, notSimplified, otherOrder,    chargesDoNotCancel, symbol,      ending,
     oxygens,
@@ -345,6 +353,17 @@ std::string withLetterI(std::string_view plain)
         const bool endsSymbol = i > 0 && findElement(plain.substr(i - 1, 2)) != nullptr;
         if (plain[i] == 'l' && !endsSymbol) {
             text[i] = 'I';
+        }
+    }
+    return text;
+}
+
+std::string withLetterL(std::string_view plain, char typed)
+{
+    std::string text(plain);
+    for (std::size_t i = 1; i < plain.size(); ++i) {
+        if (plain[i] == typed && findElement(std::string{plain[i - 1], 'l'}) != nullptr) {
+            text[i] = 'l';
         }
     }
     return text;

@@ -330,13 +330,19 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
 
 std::optional<Mark> lookalikes(const Attempt& attempt)
 {
-    const std::string meant = withLetterI(withLetterO(attempt.plain));
-    if (meant == attempt.plain) {
-        return std::nullopt;
+    const auto isMeant = [&attempt](const std::string& meant) {
+        Attempt mended = attempt;
+        mended.readings = readingsOf(bareFormula(meant));
+        return meant != attempt.plain && right(mended).has_value();
+    };
+    if (isMeant(withLetterL(attempt.plain, 'I'))) {
+        return markOf(Verdict::slip, sentences::letterLNotI);
     }
-    Attempt mended = attempt;
-    mended.readings = readingsOf(bareFormula(meant));
-    return slipWhen(right(mended).has_value(), mistypedLetter(attempt.plain));
+    if (isMeant(withLetterL(attempt.plain, '1'))) {
+        return markOf(Verdict::slip, sentences::letterLNotOne);
+    }
+    return slipWhen(isMeant(withLetterI(withLetterO(attempt.plain))),
+                    mistypedLetter(attempt.plain));
 }
 
 std::optional<Mark> notRead(const Attempt& attempt)
@@ -453,8 +459,8 @@ std::optional<Mark> symbol(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped,      right,         capitals, raisedWithoutSign, listedSlip,
-    lookalikes,        numeralLeftIn, notRead,  noCharge,          wrongCharge,
+    nothingTyped,      right,         capitals, raisedWithoutSign, lookalikes,
+    listedSlip,        numeralLeftIn, notRead,  noCharge,          wrongCharge,
     chargeAsSubscript, otherOrder,    ending,   oxygens,           symbol,
 };
 

@@ -189,6 +189,8 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
     const std::string oxygens = "Check the number of oxygen atoms.";
     const std::string letterO = "There is a zero where the letter O should be.";
     const std::string letterI = "There is a small l where the letter I should be.";
+    const std::string largeI = "There is a large I where the small letter l should be.";
+    const std::string one = "There is a 1 where the small letter l should be.";
     const std::string noSign = "A charge has a sign: + or -.";
     const std::string order = "The atoms are right. Check their order.";
     struct Row {
@@ -253,6 +255,10 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
         {"sulfate", "S04^2-", letterO},
         {"hydroxide", "0H-", letterO},
         {"iodide", "l-", letterI},
+        {"chloride", "CI-", largeI},
+        {"aluminium", "AI3+", largeI},
+        {"chloride", "C1-", one},
+        {"aluminium", "A1^3+", one},
         {"sulfate", "SO4^2", noSign},
         {"sulfate", "O4S 2-", order},
         {"hydrogencarbonate", "CO3H-", order},
