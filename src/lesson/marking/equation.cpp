@@ -311,10 +311,22 @@ struct Extra {
     const Role* meant = nullptr; // the species instead of which it stands
 };
 
+// "Cu(II)(NO3)2", which is read as one with iodine.
+bool isRightButForNumeral(const TypedTerm& term, const Role& role)
+{
+    const std::vector<std::string> others = withoutNumeral(term.formula.text);
+    return std::any_of(others.begin(), others.end(), [&role](const std::string& other) {
+        return readFormula(other).atoms == role.atoms;
+    });
+}
+
 std::string_view misspelling(const TypedTerm& term, const Role& role)
 {
     if (isSpelledRightButForCapitals(term, role)) {
         return sentences::capitals;
+    }
+    if (isRightButForNumeral(term, role)) {
+        return sentences::romanNumeral;
     }
     return withLetterO(term.formula.text) == role.formula ? sentences::letterO : "";
 }

@@ -147,8 +147,16 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
 
 std::optional<Mark> lookalikes(const Attempt& attempt)
 {
-    const std::string meant = withLetterI(withLetterO(attempt.plain));
-    return slipWhen(meant != attempt.plain && isAmong(attempt.right, readFormula(meant).text),
+    const auto isMeant = [&attempt](const std::string& meant) {
+        return meant != attempt.plain && isAmong(attempt.right, readFormula(meant).text);
+    };
+    if (isMeant(withLetterL(attempt.plain, 'I'))) {
+        return markOf(Verdict::slip, sentences::letterLNotI);
+    }
+    if (isMeant(withLetterL(attempt.plain, '1'))) {
+        return markOf(Verdict::slip, sentences::letterLNotOne);
+    }
+    return slipWhen(isMeant(withLetterI(withLetterO(attempt.plain))),
                     mistypedLetter(attempt.plain));
 }
 
@@ -269,7 +277,7 @@ std::optional<Mark> oxygens(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped,   right,         capitals,      listedSlip,         lookalikes,  notRead,
+    nothingTyped,   right,         capitals,      lookalikes,         listedSlip,  notRead,
     chargesLeftIn,  raisedNumber,  numberInFront, numeralLeftIn,      waterLeftIn, bracketNotNeeded,
     bracketMissing, notSimplified, otherOrder,    chargesDoNotCancel, symbol,      ending,
     oxygens,
@@ -350,6 +358,17 @@ std::string withLetterI(std::string_view plain)
     return text;
 }
 
+std::string withLetterL(std::string_view plain, char typed)
+{
+    std::string text(plain);
+    for (std::size_t i = 1; i < plain.size(); ++i) {
+        if (plain[i] == typed && findElement(std::string{plain[i - 1], 'l'}) != nullptr) {
+            text[i] = 'l';
+        }
+    }
+    return text;
+}
+
 std::vector<std::string> withoutNumeral(std::string_view text)
 {
     std::vector<std::string> others;
@@ -357,8 +376,9 @@ std::vector<std::string> withoutNumeral(std::string_view text)
          {"(VII)", "(III)", "(II)", "(I)", "VII", "III", "II", "I"}) {
         const std::size_t place = text.find(numeral, 1);
         if (place != std::string_view::npos) {
+            const std::size_t raised = text[place - 1] == '^' ? 1 : 0;
             others.emplace_back(text);
-            others.back().erase(place, numeral.size());
+            others.back().erase(place - raised, numeral.size() + raised);
         }
     }
     return others;

@@ -21,8 +21,12 @@ std::string withLetterO(std::string_view plain);
 // The text with each small l that ends no symbol as the letter I: "Pbl2" -> "PbI2".
 std::string withLetterI(std::string_view plain);
 
+// The text with each of this character, a capital I or a digit 1, as the small l that makes a
+// symbol with the letter before it: "SnCI2" -> "SnCl2". Any other stays.
+std::string withLetterL(std::string_view plain, char typed);
+
 // The text without a Roman numeral behind its front, one for each way to read one: "CuIISO4" ->
-// "CuSO4", "CuISO4".
+// "CuSO4", "CuISO4". A raised one goes with its "^".
 std::vector<std::string> withoutNumeral(std::string_view text);
 
 // What to tell a learner whose text is right with these letters.

@@ -40,14 +40,20 @@ std::string withCaret(std::string plain)
     return stars == std::string::npos ? plain : plain.replace(stars, 2, "^");
 }
 
-// "Fe3+ ion" -> "Fe3+"
+// "Fe3+ ion" -> "Fe3+", "Fe(III) ions." -> "Fe(III)"
 std::string withoutIon(const std::string& plain)
 {
-    constexpr std::string_view word = " ion";
-    const std::size_t front = plain.size() - std::min(plain.size(), word.size());
-    const bool isBehindCharge = front > 0 && signs.find(plain[front - 1]) != std::string_view::npos;
-    return isBehindCharge && lowerCase(plain.substr(front)) == word ? plain.substr(0, front)
-                                                                    : plain;
+    constexpr std::string_view ends[] = {" ion", " ions", " ion.", " ions."};
+    constexpr std::string_view before = "+-)]}";
+    const std::string lower = lowerCase(plain);
+    for (const std::string_view end : ends) {
+        const std::size_t front = plain.size() - std::min(plain.size(), end.size());
+        if (front > 0 && lower.compare(front, end.size(), end) == 0 &&
+            before.find(plain[front - 1]) != std::string_view::npos) {
+            return plain.substr(0, front);
+        }
+    }
+    return plain;
 }
 
 // One way to read what was typed: "SO42-" is SO4 with 2-, SO42 with 1-, or SO with 42-.
@@ -294,6 +300,16 @@ std::optional<Mark> capitals(const Attempt& attempt)
     return slipWhen(anyReading(attempt, differsInCapitals), sentences::capitals);
 }
 
+// "Fe^3": who raises a number means a charge, so none of the slips with a number of atoms is made.
+std::optional<Mark> raisedWithoutSign(const Attempt& attempt)
+{
+    const Reading& reading = attempt.readings.front();
+    return slipWhen(reading.formula.isRead && reading.charge == 0 &&
+                        reading.bare.find('^') != std::string::npos &&
+                        reading.bare.find_first_of(signs) == std::string::npos,
+                    "A charge has a sign: + or -.");
+}
+
 bool isSlip(const Reading& typed, const Slip& slip)
 {
     const Reading known = readingsOf(slip.text).front();
@@ -314,13 +330,19 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
 
 std::optional<Mark> lookalikes(const Attempt& attempt)
 {
-    const std::string meant = withLetterI(withLetterO(attempt.plain));
-    if (meant == attempt.plain) {
-        return std::nullopt;
+    const auto isMeant = [&attempt](const std::string& meant) {
+        Attempt mended = attempt;
+        mended.readings = readingsOf(bareFormula(meant));
+        return meant != attempt.plain && right(mended).has_value();
+    };
+    if (isMeant(withLetterL(attempt.plain, 'I'))) {
+        return markOf(Verdict::slip, sentences::letterLNotI);
     }
-    Attempt mended = attempt;
-    mended.readings = readingsOf(bareFormula(meant));
-    return slipWhen(right(mended).has_value(), mistypedLetter(attempt.plain));
+    if (isMeant(withLetterL(attempt.plain, '1'))) {
+        return markOf(Verdict::slip, sentences::letterLNotOne);
+    }
+    return slipWhen(isMeant(withLetterI(withLetterO(attempt.plain))),
+                    mistypedLetter(attempt.plain));
 }
 
 std::optional<Mark> notRead(const Attempt& attempt)
@@ -333,42 +355,6 @@ std::optional<Mark> notRead(const Attempt& attempt)
     }
     const std::string& unread = attempt.readings.back().formula.unread;
     return unreadable(unread.empty() ? attempt.plain : unread);
-}
-
-// "Fe(III)", "FeIII", "Fe(III)3+"
-std::optional<Mark> numeralLeftIn(const Attempt& attempt)
-{
-    if (!hasRomanNumeral(attempt.ion)) {
-        return std::nullopt;
-    }
-    for (const std::string& other : withoutNumeral(bareFormula(attempt.plain))) {
-        Attempt mended = attempt;
-        mended.readings = readingsOf(other);
-        if (right(mended).has_value()) {
-            return markOf(Verdict::slip, "The charge is right. Leave out the Roman numeral.");
-        }
-        const Reading& first = mended.readings.front();
-        if (first.charge == 0 && hasRightFormula(mended, first)) {
-            return markOf(Verdict::slip,
-                          attempt.ion.charge > 0 ? sentences::romanCharge : sentences::noCharge);
-        }
-    }
-    return std::nullopt;
-}
-
-// "Fe", "Fe3", "Fe^3"
-std::optional<Mark> noCharge(const Attempt& attempt)
-{
-    const Reading& reading = attempt.readings.front();
-    if (reading.bare.find_first_of(signs) != std::string::npos || reading.charge != 0) {
-        return std::nullopt;
-    }
-    if (reading.bare.find('^') != std::string::npos) {
-        return markOf(Verdict::slip, "A charge has a sign: + or -.");
-    }
-    return markOf(Verdict::slip, hasChargeAsSubscript(attempt, reading)
-                                     ? sentences::chargeAsSubscript
-                                     : sentences::noCharge);
 }
 
 std::optional<Mark> wrongCharge(const Attempt& attempt)
@@ -386,6 +372,42 @@ std::optional<Mark> wrongCharge(const Attempt& attempt)
     }
     const bool isTold = hasRomanNumeral(attempt.ion) && attempt.ion.charge > 0;
     return slipWhen(hasWrongSize, isTold ? sentences::romanCharge : sentences::wrongSize);
+}
+
+// "Fe(III)", "FeIII", "Fe^III", "Fe(III)3+", "Fe(III)+"
+std::optional<Mark> numeralLeftIn(const Attempt& attempt)
+{
+    if (!hasRomanNumeral(attempt.ion)) {
+        return std::nullopt;
+    }
+    for (const std::string& other : withoutNumeral(bareFormula(attempt.plain))) {
+        Attempt mended = attempt;
+        mended.readings = readingsOf(other);
+        if (right(mended).has_value()) {
+            return markOf(Verdict::slip, "The charge is right. Leave out the Roman numeral.");
+        }
+        const Reading& first = mended.readings.front();
+        if (first.charge == 0 && hasRightFormula(mended, first)) {
+            return markOf(Verdict::slip,
+                          attempt.ion.charge > 0 ? sentences::romanCharge : sentences::noCharge);
+        }
+        if (const std::optional<Mark> charge = wrongCharge(mended)) {
+            return charge;
+        }
+    }
+    return std::nullopt;
+}
+
+// "Fe", "Fe3"
+std::optional<Mark> noCharge(const Attempt& attempt)
+{
+    const Reading& reading = attempt.readings.front();
+    if (reading.bare.find_first_of(signs) != std::string::npos || reading.charge != 0) {
+        return std::nullopt;
+    }
+    return markOf(Verdict::slip, hasChargeAsSubscript(attempt, reading)
+                                     ? sentences::chargeAsSubscript
+                                     : sentences::noCharge);
 }
 
 std::optional<Mark> chargeAsSubscript(const Attempt& attempt)
@@ -437,8 +459,9 @@ std::optional<Mark> symbol(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped, right,       capitals,          listedSlip, lookalikes, notRead, numeralLeftIn,
-    noCharge,     wrongCharge, chargeAsSubscript, otherOrder, ending,     oxygens, symbol,
+    nothingTyped,      right,         capitals, raisedWithoutSign, lookalikes,
+    listedSlip,        numeralLeftIn, notRead,  noCharge,          wrongCharge,
+    chargeAsSubscript, otherOrder,    ending,   oxygens,           symbol,
 };
 
 } // namespace

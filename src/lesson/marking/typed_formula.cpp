@@ -530,8 +530,14 @@ std::string spelledOut(std::string_view plain)
                 return startsWith(plain, known.typed) && (behind.empty() || !isSmall(behind[0]));
             });
         const bool isOrdinary = row == std::end(abbreviations);
-        text += isOrdinary ? plain.substr(0, 1) : row->formula;
-        plain.remove_prefix(isOrdinary ? 1 : row->typed.size());
+        const std::string_view typed = plain.substr(0, isOrdinary ? 1 : row->typed.size());
+        plain.remove_prefix(typed.size());
+        // "CaAc2": Ac looks like a symbol, and the number behind it is meant to count the group.
+        const bool isCounted =
+            typed == "Ac" && !plain.empty() && (isDigit(plain.front()) || plain.front() == '_');
+        text += isOrdinary  ? std::string(typed)
+                : isCounted ? "(" + std::string(row->formula) + ")"
+                            : std::string(row->formula);
     }
     return text;
 }

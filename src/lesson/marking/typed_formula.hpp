@@ -32,7 +32,8 @@ TypedFormula readFormula(std::string_view plain);
 
 // With the groups written out that chemists abbreviate: Ac is ethanoate here, for no exercise asks
 // for actinium.
-//   "Ca(OAc)2" -> "Ca(CH3COO)2"    "MeCOOH" -> "CH3COOH"    "Acid" as it is
+//   "Ca(OAc)2" -> "Ca(CH3COO)2"    "CaAc2" -> "Ca(CH3COO)2"    "MeCOOH" -> "CH3COOH"
+//   "Acid" as it is
 std::string spelledOut(std::string_view plain);
 
 // Without the bond that some write inside an ethanoate: "CH3-COO-" -> "CH3COO-".

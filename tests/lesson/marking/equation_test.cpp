@@ -96,7 +96,7 @@ TEST(EquationMarkTest, EthanoicAcidMayBeAbbreviated)
     for (const char* const typed :
          {"2HOAc + Ca(OH)2 -> Ca(OAc)2 + 2H2O", "2AcOH + Ca(OH)2 -> (AcO)2Ca + 2H2O",
           "2HAc + Ca(OH)2 -> Ca(Ac)2 + 2H2O", "2MeCOOH + Ca(OH)2 -> Ca(MeCOO)2 + 2H2O",
-          "2HOAc(aq) + Ca(OH)2(aq) → Ca(OAc)2(aq) + 2H2O(l)"}) {
+          "2HOAc(aq) + Ca(OH)2(aq) → Ca(OAc)2(aq) + 2H2O(l)", "2HAc + Ca(OH)2 -> CaAc2 + 2H2O"}) {
         const Mark mark = markEquation(vinegar(), typed);
         EXPECT_EQ(mark.verdict, Verdict::correct) << typed << ": " << mark.sentence;
     }
@@ -217,6 +217,19 @@ TEST(EquationMarkTest, WrongSubscripts)
                   "(NH3)2CO3 is not the base. Check the ions in it."},
                  {"2HNO3 + (NH4)2CO3 -> (NH4)2NO3 + H2O + CO2", Verdict::slip,
                   "(NH4)2NO3 is not the salt. Check the charges."}});
+}
+
+TEST(EquationMarkTest, RomanNumeralsLeftIn)
+{
+    constexpr const char* numeral = "The Roman numeral is a charge.";
+    expectMarks(answerOf("HNO3", "copper(II)", "carbonate"),
+                {{"2HNO3 + CuCO3 -> Cu(II)(NO3)2 + H2O + CO2", Verdict::slip, numeral},
+                 {"2HNO3 + Cu(II)CO3 -> Cu(NO3)2 + H2O + CO2", Verdict::slip, numeral},
+                 {"2HNO3 + CuIICO3 -> Cu(II)(NO3)2 + H2O + CO2", Verdict::slip, numeral},
+                 {"2HNO3 + Cu(II)CO3 -> Cu(II)(NO3)2 + H2O", Verdict::slip, "One more product."}});
+    expectMarks(answerOf("HCl", "iron(III)", "oxide"),
+                {{"6HCl + Fe(III)2O3 -> 2FeCl3 + 3H2O", Verdict::slip, numeral},
+                 {"6HCl + Fe2O3 -> 2Fe(Ⅲ)Cl3 + 3H2O", Verdict::slip, numeral}});
 }
 
 TEST(EquationMarkTest, SaltsOfHalfTheWay)

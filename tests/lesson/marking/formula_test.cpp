@@ -135,7 +135,8 @@ TEST(FormulaMarkTest, EthanoatesMayBeWrittenInTheirOtherWays)
         {"calcium",
          {"Ca(CH3COO)2", "(CH3COO)2Ca", "Ca(C2H3O2)2", "Ca(CH3CO2)2", "(CH3CO2)2Ca", "Ca[CH3COO]_2",
           "Ca(OOCCH3)2", "Ca(O2CCH3)2", "(C2H3O2)2Ca", "Ca(OAc)2", "Ca(OAc)₂", "(AcO)2Ca",
-          "Ca(Ac)2", "(MeCOO)2Ca"}},
+          "Ca(Ac)2", "(MeCOO)2Ca", "CaAc2", "CaAc₂", "CaAc_2", "CaAc_{2}", "Ac2Ca"}},
+        {"copper(II)", {"CuAc2"}},
         {"lead(II)", {"Pb(CH3COO)2", "(CH3COO)2Pb", "Pb(C2H3O2)2"}},
     };
     for (const Row& row : rows) {
@@ -158,6 +159,8 @@ TEST(FormulaMarkTest, SlipsGetTheirSentences)
     const std::string oxygens = "Check the number of oxygen atoms.";
     const std::string letterO = "There is a zero where the letter O should be.";
     const std::string letterI = "There is a small l where the letter I should be.";
+    const std::string largeI = "There is a large I where the small letter l should be.";
+    const std::string one = "There is a 1 where the small letter l should be.";
     const std::string order = "The atoms are right. Write ion after ion, the positive one first.";
     struct Row {
         const char* cation;
@@ -227,6 +230,13 @@ TEST(FormulaMarkTest, SlipsGetTheirSentences)
         {"aluminium", "iodide", "All3", letterI},
         {"potassium", "iodide", "Kl", letterI},
         {"ammonium", "iodide", "NH4l (aq)", letterI},
+        {"tin(II)", "chloride", "SnCI2", largeI},
+        {"sodium", "chloride", "NaCI", largeI},
+        {"aluminium", "iodide", "AII3", largeI},
+        {"aluminium", "chloride", "AICI3", largeI},
+        {"tin(II)", "chloride", "SnC12", one},
+        {"sodium", "chloride", "NaC1", one},
+        {"aluminium", "oxide", "A12O3", one},
         {"iron(III)", "oxide", "Fe(III)2O3", "The Roman numeral is a charge."},
         {"copper(II)", "sulfate", "Cu(II)SO4", "The Roman numeral is a charge."},
         {"copper(II)", "sulfate", "Cu(II)(SO4)", "The Roman numeral is a charge."},

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "lesson/tables/ions.hpp"
@@ -49,10 +50,15 @@ std::string withSubscripts(const std::string& text)
     return spelled;
 }
 
-std::string superscript(int size, bool isNegative)
+std::string superscript(int size)
 {
     const char* const digits[] = {"", "\u00B9", "\u00B2", "\u00B3"};
-    return std::string(digits[size]) + (isNegative ? "\u207B" : "\u207A");
+    return digits[size];
+}
+
+std::string superscript(int size, bool isNegative)
+{
+    return superscript(size) + (isNegative ? "\u207B" : "\u207A");
 }
 
 // Everything behind the formula that tells the charge.
@@ -138,8 +144,11 @@ TEST(IonMarkTest, SpellingsThatPeopleUse)
     };
     const Row rows[] = {
         {"iron(III)",
-         {"Fe3+", "Fe^3+", "Fe^{3+}", "Fe^+3", "Fe+3", "Fe³⁺", "Fe+++", "Fe(3+)", "Fe 3+", "Fe³+",
-          "Fe3⁺", "Fe^3⁺", "Fe+³", "Fe 3⁺", "Fe^+++", "Fe + + +", "[Fe]3+", "[Fe3+]", "Fe3+ (aq)"}},
+         {"Fe3+",      "Fe^3+",    "Fe^{3+}",   "Fe^+3",      "Fe+3",        "Fe³⁺",
+          "Fe+++",     "Fe(3+)",   "Fe 3+",     "Fe³+",       "Fe3⁺",        "Fe^3⁺",
+          "Fe+³",      "Fe 3⁺",    "Fe^+++",    "Fe + + +",   "[Fe]3+",      "[Fe3+]",
+          "Fe3+ (aq)", "Fe3+ ion", "Fe3+ ions", "Fe3+ Ions.", "Fe^{3+} ion", "Fe(3+) ions"}},
+        {"copper(II)", {"Cu2+ ion."}},
         {"sulfate",
          {"SO42-",      "SO4^2-",     "SO4 2-",    "SO4-2",       "SO₄²⁻",    "SO4--",   "[SO4]2-",
           "(SO4)2-",    "SO4²-",      "SO_4^{2-}", "SO_{4}^{2-}", "SO_42-",   "SO42⁻",   "SO⁴²⁻",
@@ -180,6 +189,8 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
     const std::string oxygens = "Check the number of oxygen atoms.";
     const std::string letterO = "There is a zero where the letter O should be.";
     const std::string letterI = "There is a small l where the letter I should be.";
+    const std::string largeI = "There is a large I where the small letter l should be.";
+    const std::string one = "There is a 1 where the small letter l should be.";
     const std::string noSign = "A charge has a sign: + or -.";
     const std::string order = "The atoms are right. Check their order.";
     struct Row {
@@ -200,6 +211,15 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
         {"iron(III)", "Fe(III)", roman},
         {"iron(III)", "FeIII", roman},
         {"copper(II)", "Cu II", roman},
+        {"iron(III)", "Fe(III)+", roman},
+        {"iron(III)", "Fe+III", roman},
+        {"iron(III)", "Fe^III", roman},
+        {"iron(III)", "Fe^(III)", roman},
+        {"iron(III)", "Fe^{III}", roman},
+        {"iron(III)", "Fe^III+", roman},
+        {"iron(III)", "Fe(III) ion", roman},
+        {"iron(III)", "Fe(III) ions.", roman},
+        {"iron(III)", "Fe(III)3-", sign},
         {"copper(II)", "Cu(II)2+", "The charge is right. Leave out the Roman numeral."},
         {"copper(II)", "Cu(II)^2+", "The charge is right. Leave out the Roman numeral."},
         {"manganate(VII)", "Mn(VII)O4-", "The charge is right. Leave out the Roman numeral."},
@@ -235,6 +255,10 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
         {"sulfate", "S04^2-", letterO},
         {"hydroxide", "0H-", letterO},
         {"iodide", "l-", letterI},
+        {"chloride", "CI-", largeI},
+        {"aluminium", "AI3+", largeI},
+        {"chloride", "C1-", one},
+        {"aluminium", "A1^3+", one},
         {"sulfate", "SO4^2", noSign},
         {"sulfate", "O4S 2-", order},
         {"hydrogencarbonate", "CO3H-", order},
@@ -250,6 +274,26 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
             EXPECT_EQ(mark.sentence, row.sentence) << row.typed << " for " << row.ion;
         }
     }
+}
+
+// An exercise lists "Fe3" and "Fe" as slips, and neither is what was meant here.
+TEST(IonMarkTest, ARaisedNumberIsAChargeWithoutItsSign)
+{
+    int charges = 0;
+    for (unsigned number = 1; number <= 60; ++number) {
+        const Exercise exercise = makeExercise({1, number, Kind::ionFormula, 2});
+        const IonRow& ion = *std::get<IonAnswer>(exercise.answer).ion;
+        const std::string size = std::to_string(std::abs(ion.charge));
+        charges += std::abs(ion.charge) > 1 ? 1 : 0;
+        for (const std::string& raised :
+             {"^" + size, "^{" + size + "}", superscript(std::abs(ion.charge))}) {
+            const std::string typed = std::string(ion.formula).append(raised);
+            const Mark mark = markAnswer(exercise, typed);
+            EXPECT_EQ(mark.verdict, Verdict::slip) << typed;
+            EXPECT_EQ(mark.sentence, "A charge has a sign: + or -.") << typed;
+        }
+    }
+    EXPECT_GT(charges, 0);
 }
 
 TEST(IonMarkTest, WhatCannotBeReadIsTold)

@@ -236,12 +236,14 @@ TEST(TypedFormulaTest, AbbreviatedGroupsAreWrittenOut)
         const char* text;
     };
     const Row rows[] = {
-        {"NaOAc", "NaCH3COO"},  {"Ca(OAc)2", "Ca(CH3COO)2"},
-        {"AcOH", "CH3COOH"},    {"HOAc", "HCH3COO"},
-        {"HAc", "HCH3COO"},     {"MeCOO-", "CH3COO-"},
-        {"OAc", "CH3COO"},      {"Acetate", "Acetate"},
-        {"Mercury", "Mercury"}, {"AcOs", "CH3COOOs"},
-        {"NaCl", "NaCl"},       {"", ""},
+        {"NaOAc", "NaCH3COO"},    {"Ca(OAc)2", "Ca(CH3COO)2"},
+        {"AcOH", "CH3COOH"},      {"HOAc", "HCH3COO"},
+        {"HAc", "HCH3COO"},       {"MeCOO-", "CH3COO-"},
+        {"OAc", "CH3COO"},        {"Acetate", "Acetate"},
+        {"Mercury", "Mercury"},   {"AcOs", "CH3COOOs"},
+        {"NaCl", "NaCl"},         {"", ""},
+        {"CaAc2", "Ca(CH3COO)2"}, {"Ac_2Ca", "(CH3COO)_2Ca"},
+        {"CaOAc2", "CaCH3COO2"},  {"NaAc", "NaCH3COO"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(spelledOut(row.typed), row.text) << row.typed;
