@@ -16,7 +16,7 @@
 //   answer    = [front] [sign] number [unit] [note] ["."]
 //   front     = symbols, words and signs of equality; digits only as a part of a symbol: "c2",
 //               "M(CuSO4·5H2O)"
-//   note      = "(3 s.f.)", "to 3 significant figures", …
+//   note      = "(3 s.f.)", "to 3 significant figures", …; in brackets also before the unit
 //
 // Of a chain such as "c = n/V = 0.0456" that leaves the last part. Where two numbers stand, neither
 // is taken.
@@ -153,24 +153,80 @@ std::string_view withoutWord(std::string_view text, std::string_view ending)
                : text;
 }
 
+// Without the count of figures at its end, a digit or a word; the whole text where there is none.
+std::string_view withoutCount(std::string_view text)
+{
+    constexpr std::string_view counts[] = {"one", "two", "three", "four", "five", "six"};
+    if (!text.empty() && isDigit(text.back())) {
+        return text.substr(0, text.size() - 1);
+    }
+    for (const std::string_view count : counts) {
+        const std::string_view left = withoutWord(text, count);
+        if (left.size() < text.size()) {
+            return left;
+        }
+    }
+    return text;
+}
+
 // Without the figures that someone tells, "mol/L (3 s.f.)" -> "mol/L": they are counted anyway.
 std::string_view withoutNote(std::string_view text)
 {
     constexpr std::string_view words[] = {
-        "s.f",      "sf",        "significant figures",
-        "sig figs", "sig. figs", "sig fig",
-        "sig. fig", "sig.figs",  "figures",
-        "d.p",      "dp",        "decimal places",
+        "s.f",
+        "sf",
+        "significant figures",
+        "sig figs",
+        "sig. figs",
+        "sig fig",
+        "sig. fig",
+        "sig.figs",
+        "sigfigs",
+        "sigfig",
+        "sig figures",
+        "sig. figures",
+        "figures",
+        "d.p",
+        "dp",
+        "decimal places",
     };
-    std::string_view plain = withoutAtTheEnd(text, " .)]");
+    constexpr std::string_view leads[] = {"to", "correct", "rounded"};
+    const std::string_view plain = withoutAtTheEnd(text, " .,;!?)]");
     for (const std::string_view word : words) {
         const std::string_view left = withoutWord(plain, word);
-        if (left.size() < plain.size() && !left.empty() && isDigit(left.back())) {
-            const std::string_view note = withoutAtTheEnd(left.substr(0, left.size() - 1), " ");
-            return withoutAtTheEnd(withoutWord(note, "to"), " ,;([");
+        std::string_view note = withoutCount(left);
+        if (left.size() < plain.size() && note.size() < left.size()) {
+            note = withoutAtTheEnd(note, " ");
+            for (const std::string_view lead : leads) {
+                note = withoutWord(note, lead);
+            }
+            return withoutAtTheEnd(note, " ,;([");
         }
     }
     return text;
+}
+
+// The same of a text that begins with the number, whose own digits no note takes: "0.145 3 s.f." ->
+// "0.145", but "0.3 s.f." stays.
+std::string_view withoutNoteApart(std::string_view text)
+{
+    const std::string_view left = withoutNote(text);
+    const std::string_view note = text.substr(left.size());
+    const bool isApart = !note.empty() && (isOneOf(note[0], " ([") || startsWith(note, ", "));
+    return isApart ? left : text;
+}
+
+// The same where the note may stand in brackets between the number and the unit:
+// "0.145 (3 s.f.) mol/L" -> "0.145 mol/L".
+std::string withoutNotes(std::string_view text)
+{
+    const std::size_t close = text.find(')');
+    const bool hasBrackets = text.find('(') < close && close != std::string_view::npos;
+    const std::size_t length = hasBrackets ? close + 1 : text.size();
+    const std::string_view left = withoutNoteApart(text.substr(0, length));
+    const bool isNoted = hasBrackets && left.size() < length;
+    return isNoted ? std::string(left).append(text.substr(length))
+                   : std::string(withoutNoteApart(text));
 }
 
 // Whether it is the beginning of an exponent that could not be read.
@@ -237,7 +293,8 @@ NumberReading readNumber(std::string_view plain, const Ask& ask)
     if (!canBeSkipped(front, hasSign)) {
         return {{}, cannotRead(inFront)};
     }
-    std::string_view rest = plain.substr(start);
+    const std::string noted = withoutNotes(plain.substr(start));
+    std::string_view rest = noted;
     const NumberText text = takeNumber(rest);
     NumberReading reading = {text.number, text.question};
     reading.number.isNegative = endsWith(inFront, "-");

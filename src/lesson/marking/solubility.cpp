@@ -34,15 +34,23 @@ constexpr std::string_view fillers[] = {
     "it", "it's", "its", "this", "that", "they", "the", "a", "an", "i", "think", "answer", "salt",
     "compound", "solid", "is", "are", "will", "would", "can", "in", "water", "so", "at", "all",
     "very", "well", "easily", "readily", "highly", "freely", "fully", "completely", "quite",
-    "practically", "almost", "nearly", "only", "definitely", "always",
+    "practically", "almost", "nearly", "only", "definitely", "always", "they're", "theyre",
 };
-constexpr std::string_view reasons[] = {"because", "since"};
+constexpr std::string_view degrees[] = {
+    "at", "all", "very", "well", "easily", "readily", "highly", "freely", "fully", "completely",
+    "quite", "practically", "almost", "nearly", "only", "definitely", "always", "so", "a", "an",
+};
+constexpr std::string_view notQuite[] = {"almost", "nearly", "practically"};
+constexpr std::string_view pronouns[] = {"it", "it's", "its", "this", "they", "they're", "theyre"};
+constexpr std::string_view reasons[] = {"because", "since", "as"};
 // That nothing precipitates, in a word or in several.
 constexpr std::string_view none[] = {
     "n", "no", "none", "nothing", "nil", "neither", "neither is insoluble", "neither precipitates", "nr", "n.r", "n/a", "-", "--",
 };
 constexpr std::string_view denials[] = {"no", "none", "nothing", "nil"};
-constexpr std::string_view everything[] = {"both", "all", "everything", "they"};
+constexpr std::string_view everything[] = {
+    "both", "all", "everything", "they", "they're", "theyre",
+};
 constexpr std::string_view inSolution[] = {
     "soluble", "dissolved", "dissolve", "dissolves", "solution",
 };
@@ -51,13 +59,25 @@ constexpr std::string_view precipitating[] = {
     "forms", "formed", "react", "reaction", "rxn", "solid", "solids", "product", "products",
     "crystals", "change",
 };
+// What "no" can stand before, perhaps with one of the adjectives.
+constexpr std::string_view nouns[] = {
+    "precipitate", "precipitates", "precipitation", "ppt", "ppte", "ppts", "reaction", "rxn",
+    "solid", "solids", "product", "products", "salt", "salts", "crystals", "change",
+};
+constexpr std::string_view adjectives[] = {"visible", "new", "insoluble"};
+// Between a denial and what it denies: "none of them is soluble".
+constexpr std::string_view betweenDenial[] = {
+    "of", "them", "these", "the", "is", "are", "be", "product", "products", "salt", "salts", "stay",
+    "stays", "remain", "remains", "in", "will", "would", "do", "does",
+};
 constexpr std::string_view aroundNone[] = {
     "there", "there's", "theres", "is", "it", "are", "be", "will", "would", "does", "do", "so",
     "a", "the", "of", "them", "these", "salt", "salts", "stay", "stays", "remain", "remains",
     "remaining", "in", "occurs", "happens", "takes", "place", "visible", "insoluble", "new", "out",
-    "here", "at", "because", "since",
+    "here", "at", "because", "since", "as", "produced", "made", "appear", "appears",
 };
-constexpr std::string_view exceptions[] = {"but", "except"};
+constexpr std::string_view exceptions[] = {"but", "except", "other", "apart"};
+constexpr std::string_view pauses = ",;:.()-/";
 // clang-format on
 
 // In lower case, with single blanks, without quotation marks and what ends a sentence.
@@ -83,8 +103,7 @@ bool isAmong(const std::string_view (&list)[N], const std::string& words)
     return std::find(std::begin(list), std::end(list), words) != std::end(list);
 }
 
-// The words one by one, without what stands between them, up to where a reason begins; "in soluble"
-// is one.
+// The words one by one, without what stands between them; "in soluble" is one.
 std::vector<std::string> splitWords(const std::string& words)
 {
     constexpr std::string_view between = " ,;:.()-/\"";
@@ -93,9 +112,6 @@ std::vector<std::string> splitWords(const std::string& words)
     while (begin != std::string::npos) {
         const std::size_t end = std::min(words.find_first_of(between, begin), words.size());
         const std::string word = words.substr(begin, end - begin);
-        if (!split.empty() && isAmong(reasons, word)) {
-            break;
-        }
         const bool goesOn = word == "soluble" && !split.empty() && split.back() == "in";
         if (goesOn) {
             split.back() += word;
@@ -105,6 +121,16 @@ std::vector<std::string> splitWords(const std::string& words)
         begin = words.find_first_not_of(between, end);
     }
     return split;
+}
+
+// Where a reason begins behind an answer; "not as soluble" is none.
+std::vector<std::string>::const_iterator reasonIn(const std::vector<std::string>& words)
+{
+    const auto place = std::adjacent_find(
+        words.begin(), words.end(), [](const std::string& first, const std::string& second) {
+            return isAmong(reasons, second) && !isAmong(negations, first);
+        });
+    return place == words.end() ? place : place + 1;
 }
 
 template <std::size_t N>
@@ -120,6 +146,14 @@ bool isUnderstood(const std::string& word)
            isAmong(insoluble, word) || isAmong(negations, word) || isAmong(fillers, word);
 }
 
+// The class of salts in "all nitrates are soluble"; "not all nitrates are soluble" tells nothing.
+bool isClass(const std::vector<std::string>& words, std::size_t i)
+{
+    const bool isBetween =
+        i > 0 && i + 1 < words.size() && words[i - 1] == "all" && words[i + 1] == "are";
+    return isBetween && (i == 1 || isAmong(yes, words[i - 2]) || isAmong(no, words[i - 2]));
+}
+
 // A sentence may begin with the substance: "magnesium carbonate is insoluble".
 bool areUnderstood(const std::vector<std::string>& words)
 {
@@ -131,20 +165,44 @@ bool areUnderstood(const std::vector<std::string>& words)
         return isAmong(verbs, word);
     });
     const bool hasName = verb != words.end() && verb - words.begin() <= longestName;
-    return std::all_of(hasName && !isUnderstood(words.front()) ? verb : words.begin(), words.end(),
-                       isUnderstood);
+    const bool skipsName = hasName && !isUnderstood(words.front());
+    for (auto i = static_cast<std::size_t>(skipsName ? verb - words.begin() : 0); i < words.size();
+         ++i) {
+        if (!isUnderstood(words[i]) && !isClass(words, i)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 enum class Said { itDissolves, itDoesNot, unclear };
 
-// "not insoluble"
+// Whether the last of these words before one of `second` is among `first`, but for degrees between.
+template <std::size_t N, std::size_t M>
+bool stands(const std::vector<std::string>& words, const std::string_view (&first)[N],
+            const std::string_view (&second)[M])
+{
+    bool isBehindFirst = false;
+    for (const std::string& word : words) {
+        if (isBehindFirst && isAmong(second, word)) {
+            return true;
+        }
+        isBehindFirst = isAmong(first, word) || (isBehindFirst && isAmong(degrees, word));
+    }
+    return false;
+}
+
+// "not insoluble", "not at all insoluble", "I don't think it is insoluble"; but "it isn't, it is
+// insoluble" denies once.
 bool isNegatedTwice(const std::vector<std::string>& words)
 {
-    const auto pair = std::adjacent_find(
-        words.begin(), words.end(), [](const std::string& first, const std::string& second) {
-            return isAmong(negations, first) && isAmong(insoluble, second);
-        });
-    return pair != words.end();
+    const auto doubt = std::adjacent_find(words.begin(), words.end(),
+                                          [](const std::string& first, const std::string& second) {
+                                              return isAmong(negations, first) && second == "think";
+                                          });
+    const bool isDoubted = std::any_of(
+        doubt, words.end(), [](const std::string& word) { return isAmong(insoluble, word); });
+    return isDoubted || stands(words, negations, insoluble);
 }
 
 Said saidBy(const std::vector<std::string>& words)
@@ -152,7 +210,8 @@ Said saidBy(const std::vector<std::string>& words)
     const bool isNegated = hasAny(words, negations);
     const bool saysDissolves = hasAny(words, soluble) && !isNegated;
     const bool saysNot = hasAny(words, insoluble) || isNegated;
-    if (!areUnderstood(words) || isNegatedTwice(words)) {
+    const bool isNearly = saysDissolves && stands(words, notQuite, soluble);
+    if (!areUnderstood(words) || isNegatedTwice(words) || isNearly) {
         return Said::unclear;
     }
     const bool isYes = hasAny(words, yes) || saysDissolves;
@@ -163,17 +222,45 @@ Said saidBy(const std::vector<std::string>& words)
     return isYes ? Said::itDissolves : Said::itDoesNot;
 }
 
+// A reason counts only where it tells the opposite of the same substance: "no, because it is
+// soluble".
+Said saidWithReason(const std::vector<std::string>& words)
+{
+    const auto reason = reasonIn(words);
+    const Said said = saidBy({words.begin(), reason});
+    if (words.end() - reason < 2 || !isAmong(pronouns, *(reason + 1))) {
+        return said;
+    }
+    const Said because = saidBy({reason + 1, words.end()});
+    return because == Said::unclear || because == said ? said : Said::unclear;
+}
+
 bool isUnderstoodOfNone(const std::string& word)
 {
     return isAmong(denials, word) || isAmong(everything, word) || isAmong(inSolution, word) ||
            isAmong(precipitating, word) || isAmong(negations, word) || isAmong(aroundNone, word);
 }
 
-// "no precipitate forms", "all are soluble", "it doesn't precipitate"
+// "no precipitate", "no visible change"
+bool deniesNoun(const std::vector<std::string>& words)
+{
+    const auto noun = std::find_if_not(words.begin() + 1, words.end(), [](const std::string& word) {
+        return isAmong(adjectives, word);
+    });
+    return noun != words.end() && isAmong(nouns, *noun) && !hasAny(words, negations);
+}
+
+// "no precipitate forms", "all are soluble", "it doesn't precipitate"; behind "no" either what it
+// denies or another such sentence.
 bool isSentenceOfNone(const std::vector<std::string>& words)
 {
-    if (!std::all_of(words.begin(), words.end(), isUnderstoodOfNone)) {
+    if (words.empty() || !std::all_of(words.begin(), words.end(), isUnderstoodOfNone)) {
         return false;
+    }
+    const auto sentence = std::find_if(words.begin(), words.end(),
+                                       [](const std::string& word) { return word != "no"; });
+    if (sentence != words.begin()) {
+        return deniesNoun({sentence - 1, words.end()}) || isSentenceOfNone({sentence, words.end()});
     }
     const bool isNegated = hasAny(words, negations);
     const bool isDenied = hasAny(words, denials);
@@ -183,18 +270,53 @@ bool isSentenceOfNone(const std::vector<std::string>& words)
     return isDenied || (hasAny(words, everything) && hasAny(words, inSolution));
 }
 
+// "none of them dissolves": the opposite of none. A pause parts: "none, soluble" is none.
+bool deniesSolution(const std::string& words)
+{
+    bool isBehindDenial = false;
+    std::size_t begin = 0;
+    while (begin < words.size()) {
+        const std::size_t end = std::min(words.find_first_of(pauses, begin), words.size());
+        for (const std::string& word : splitWords(words.substr(begin, end - begin))) {
+            if (isBehindDenial && isAmong(inSolution, word)) {
+                return true;
+            }
+            isBehindDenial =
+                isAmong(denials, word) || (isBehindDenial && isAmong(betweenDenial, word));
+        }
+        isBehindDenial = false;
+        begin = end + 1;
+    }
+    return false;
+}
+
+// "no, …" rather than "no precipitate"
+bool pausesBehindNo(const std::string& words)
+{
+    const std::size_t next = words.find_first_not_of(' ', 2);
+    return words.compare(0, 2, "no") == 0 && next != std::string::npos &&
+           pauses.find(words[next]) != std::string_view::npos;
+}
+
 // Who begins with "none" may go on in any words but those that take it back.
 bool saysNone(const std::string& words)
 {
     if (isAmong(none, words)) {
         return true;
     }
-    const std::vector<std::string> split = splitWords(words);
-    if (split.empty()) {
+    const std::vector<std::string> all = splitWords(words);
+    const std::vector<std::string> split(all.begin(), reasonIn(all));
+    if (split.empty() || deniesSolution(words)) {
         return false;
     }
-    const bool beginsWithNone = split.front() == "none" || split.front() == "nothing";
-    return (beginsWithNone && !hasAny(split, exceptions)) || isSentenceOfNone(split);
+    if (split.front() == "none" || split.front() == "nothing") {
+        const bool isOneOfTwo = split.size() > 1 && split[1] == "or";
+        return !isOneOfTwo && !hasAny(split, exceptions);
+    }
+    if (split.size() == 1 && isAmong(none, split.front())) {
+        return true;
+    }
+    return isSentenceOfNone({split.begin() + (pausesBehindNo(words) ? 1 : 0), split.end()});
 }
 
 bool isCompound(std::string_view text)
@@ -271,7 +393,7 @@ Mark markSolubility(const SolubilityAnswer& answer, std::string_view typed)
     if (words.empty()) {
         return markOf(Verdict::unreadable, typeYesOrNo);
     }
-    const Said said = saidBy(splitWords(words));
+    const Said said = saidWithReason(splitWords(words));
     if (said == Said::unclear) {
         return {Verdict::unreadable,
                 joined(unreadable(plainTyped(typed)).sentence + ".", typeYesOrNo)};

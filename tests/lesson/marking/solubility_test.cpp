@@ -52,6 +52,11 @@ TEST(SolubilityMarkTest, YesAndNoInTheirUsualWords)
                                   "they dissolve",
                                   "this is soluble",
                                   "yes, because all nitrates are",
+                                  "yes - all nitrates are soluble",
+                                  "All nitrates are soluble.",
+                                  "yes, as it is a nitrate",
+                                  "yes, because it is soluble",
+                                  "they're soluble",
                                   "soluble since carbonates are insoluble but this one is not"}) {
         EXPECT_EQ(markSolubility(dissolves, yes).verdict, Verdict::correct) << yes;
         EXPECT_EQ(markSolubility(dissolves, yes).sentence, "Correct. All nitrates are soluble.");
@@ -100,6 +105,16 @@ TEST(SolubilityMarkTest, YesAndNoInTheirUsualWords)
                                  "it would not dissolve",
                                  "No because carbonates are insoluble",
                                  "not very soluble",
+                                 "not at all soluble",
+                                 "I don't think it is soluble",
+                                 "almost insoluble",
+                                 "nearly insoluble",
+                                 "not nearly soluble",
+                                 "no it isn't, it is insoluble",
+                                 "it does not, it's insoluble",
+                                 "does not dissolve, it is insoluble",
+                                 "no, because it is not soluble",
+                                 "no - all carbonates are insoluble",
                                  "no, it does not dissolve, it is insoluble"}) {
         EXPECT_EQ(markSolubility(doesNot, no).verdict, Verdict::correct) << no;
         EXPECT_EQ(markSolubility(doesNot, no).sentence, "Correct. Carbonates are insoluble.");
@@ -113,14 +128,38 @@ TEST(SolubilityMarkTest, OtherWordsAreAskedBack)
     EXPECT_EQ(markSolubility(dissolves, " . ").sentence, "Type yes or no.");
     EXPECT_EQ(markSolubility(dissolves, "maybe").sentence,
               "I can't read this part: 'maybe'. Type yes or no.");
-    for (const std::string& typed :
-         {std::string("yesno"), std::string("not sure"), std::string("yes, insoluble"),
-          std::string("no, it dissolves"), std::string("yes and no"), std::string("yes, no"),
-          std::string("soluble, insoluble"), std::string("not insoluble"),
-          std::string("it isn't insoluble"), std::string("yes, it isn't"),
-          std::string("soluble or insoluble"), std::string("it is"), std::string("-"),
-          std::string("because"), std::string("42"), std::string("I do not know"),
-          std::string("\xFF"), std::string(1000000, 'y'), std::string(1000000, ' ') + "x"}) {
+    for (const std::string& typed : {std::string("yesno"),
+                                     std::string("not sure"),
+                                     std::string("yes, insoluble"),
+                                     std::string("no, it dissolves"),
+                                     std::string("yes and no"),
+                                     std::string("yes, no"),
+                                     std::string("soluble, insoluble"),
+                                     std::string("not insoluble"),
+                                     std::string("it isn't insoluble"),
+                                     std::string("it is not at all insoluble"),
+                                     std::string("not very insoluble"),
+                                     std::string("I don't think it is insoluble"),
+                                     std::string("not an insoluble salt"),
+                                     std::string("almost soluble"),
+                                     std::string("nearly soluble"),
+                                     std::string("practically soluble"),
+                                     std::string("almost completely soluble"),
+                                     std::string("no, because it is soluble"),
+                                     std::string("yes, since it is insoluble"),
+                                     std::string("not as insoluble as chalk"),
+                                     std::string("not all nitrates are soluble"),
+                                     std::string("no, all nitrates are soluble"),
+                                     std::string("yes, it isn't"),
+                                     std::string("soluble or insoluble"),
+                                     std::string("it is"),
+                                     std::string("-"),
+                                     std::string("because"),
+                                     std::string("42"),
+                                     std::string("I do not know"),
+                                     std::string("\xFF"),
+                                     std::string(1000000, 'y'),
+                                     std::string(1000000, ' ') + "x"}) {
         EXPECT_EQ(markSolubility(dissolves, typed).verdict, Verdict::unreadable);
     }
 }
@@ -222,12 +261,50 @@ TEST(PrecipitateMarkTest, NoneInItsUsualWords)
                                     "a precipitate does not form",
                                     "NR",
                                     "n/a",
-                                    "no, because all nitrates are soluble"}) {
+                                    "no, because all nitrates are soluble",
+                                    "no precipitate is produced",
+                                    "no precipitate is made",
+                                    "no precipitate appears",
+                                    "no, as both are soluble",
+                                    "as both are soluble",
+                                    "no precipitate as both are soluble",
+                                    "they're both soluble",
+                                    "no visible change",
+                                    "no new solid forms",
+                                    "no insoluble salt",
+                                    "no, both are soluble",
+                                    "no no precipitate",
+                                    "no, it does not precipitate",
+                                    "none, soluble",
+                                    "none (soluble)",
+                                    "no: everything stays in solution",
+                                    "none of them is insoluble",
+                                    "none of the products precipitates, they dissolve",
+                                    "nothing happens, both are soluble"}) {
         const Mark mark = markPrecipitate(nothing, slips, typed);
         EXPECT_EQ(mark.verdict, Verdict::correct) << typed;
         EXPECT_EQ(mark.sentence, "Correct. All nitrates are soluble.") << typed;
         EXPECT_EQ(markPrecipitate(leadIodide(), slips, typed).verdict, Verdict::wrong) << typed;
     }
+}
+
+TEST(PrecipitateMarkTest, TheOppositeOfNoneIsAskedBack)
+{
+    for (const char* const typed :
+         {"no, it forms a precipitate", "no there is a precipitate", "no, a solid forms",
+          "no, solid forms", "no, both form a solid", "no it will precipitate",
+          "no, it is insoluble", "no, none dissolve", "nothing dissolves",
+          "nothing stays in solution", "none are soluble", "none of them dissolve",
+          "none of the products is soluble", "no product is soluble", "nothing but KBr",
+          "nothing other than KBr", "nothing apart from KBr", "none or BaSO4", "BaSO4 or none"}) {
+        EXPECT_EQ(markPrecipitate(nothing, slips, typed).verdict, Verdict::unreadable) << typed;
+        EXPECT_EQ(markPrecipitate(leadIodide(), slips, typed).verdict, Verdict::unreadable)
+            << typed;
+    }
+}
+
+TEST(PrecipitateMarkTest, AFormulaWhereThereIsNone)
+{
     EXPECT_EQ(markPrecipitate(nothing, slips, "KNO₃").sentence, "That one stays in solution.");
     EXPECT_EQ(markPrecipitate(nothing, slips, "AgCl").verdict, Verdict::wrong);
     EXPECT_EQ(markPrecipitate(nothing, slips, "").verdict, Verdict::unreadable);
