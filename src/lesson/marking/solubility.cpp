@@ -45,7 +45,8 @@ constexpr std::string_view pronouns[] = {"it", "it's", "its", "this", "they", "t
 constexpr std::string_view reasons[] = {"because", "since", "as"};
 // That nothing precipitates, in a word or in several.
 constexpr std::string_view none[] = {
-    "n", "no", "none", "nothing", "nil", "neither", "neither is insoluble", "neither precipitates", "nr", "n.r", "n/a", "-", "--",
+    "n", "no", "none", "nothing", "nil", "neither", "neither is insoluble", "neither precipitates",
+    "nr", "n.r", "n/a", "-", "--",
 };
 constexpr std::string_view denials[] = {"no", "none", "nothing", "nil"};
 constexpr std::string_view everything[] = {
@@ -177,10 +178,10 @@ bool areUnderstood(const std::vector<std::string>& words)
 
 enum class Said { itDissolves, itDoesNot, unclear };
 
-// Whether the last of these words before one of `second` is among `first`, but for degrees between.
+// Whether a word of `first` stands before one of `second`, with nothing but degrees between them.
 template <std::size_t N, std::size_t M>
-bool stands(const std::vector<std::string>& words, const std::string_view (&first)[N],
-            const std::string_view (&second)[M])
+bool standsBefore(const std::vector<std::string>& words, const std::string_view (&first)[N],
+                  const std::string_view (&second)[M])
 {
     bool isBehindFirst = false;
     for (const std::string& word : words) {
@@ -202,7 +203,7 @@ bool isNegatedTwice(const std::vector<std::string>& words)
                                           });
     const bool isDoubted = std::any_of(
         doubt, words.end(), [](const std::string& word) { return isAmong(insoluble, word); });
-    return isDoubted || stands(words, negations, insoluble);
+    return isDoubted || standsBefore(words, negations, insoluble);
 }
 
 Said saidBy(const std::vector<std::string>& words)
@@ -210,7 +211,7 @@ Said saidBy(const std::vector<std::string>& words)
     const bool isNegated = hasAny(words, negations);
     const bool saysDissolves = hasAny(words, soluble) && !isNegated;
     const bool saysNot = hasAny(words, insoluble) || isNegated;
-    const bool isNearly = saysDissolves && stands(words, notQuite, soluble);
+    const bool isNearly = saysDissolves && standsBefore(words, notQuite, soluble);
     if (!areUnderstood(words) || isNegatedTwice(words) || isNearly) {
         return Said::unclear;
     }
