@@ -5,7 +5,7 @@ import { createHash } from "node:crypto";
 import { mkdir, readFile, writeFile } from "node:fs/promises";
 import { dirname, join, resolve } from "node:path";
 import { fileURLToPath } from "node:url";
-import { deflateRawSync } from "node:zlib";
+import { deflateSync } from "node:zlib";
 import { build } from "esbuild";
 
 const here = dirname(fileURLToPath(import.meta.url));
@@ -13,7 +13,7 @@ const [wasm, target] = process.argv.slice(2);
 
 await mkdir(dirname(target), { recursive: true });
 const compressed = resolve(dirname(target), "lesson.bin");
-await writeFile(compressed, deflateRawSync(await readFile(wasm), { level: 9 }));
+await writeFile(compressed, deflateSync(await readFile(wasm), { level: 9 }));
 
 const script = await bundle("src/main.ts");
 const style = await bundle("style/page.css");
@@ -40,7 +40,7 @@ async function bundle(entry) {
         minify: true,
         charset: "utf8",
         target: ["safari15", "chrome90", "firefox90"],
-        loader: { ".bin": "binary" },
+        loader: { ".bin": "base64" },
         alias: { "lesson.bin": compressed },
     });
     return result.outputFiles[0].text.trim().replaceAll("</script", "<\\/script").replaceAll("<!--", "<\\!--");

@@ -1,4 +1,4 @@
 declare module "lesson.bin" {
-    const bytes: Uint8Array<ArrayBuffer>;
-    export default bytes;
+    const base64: string;
+    export default base64;
 }

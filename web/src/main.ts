@@ -1,5 +1,5 @@
 // Wires the page together; imported by none.
-import compressed from "lesson.bin";
+import packed from "lesson.bin";
 import { addressOf, routeOf } from "./address";
 import { byId, element, show } from "./dom";
 import { lessonOf } from "./engine/lesson";
@@ -25,11 +25,10 @@ let practised: PracticeRoute | null = null;
 let printed: SheetRoute | null = null;
 
 function pageOf(lesson: Lesson): Page {
-    const tables = lesson.tables();
     return {
         lesson,
         kinds: lesson.kinds(),
-        names: namesOf([...tables.ions, ...tables.elements]),
+        names: namesOf(() => lesson.tables()),
         settings: storage.settings(),
         go: (address) => (location.hash = address),
         stay(route) {
@@ -123,7 +122,7 @@ function titleOf(route: Route): string {
 
 // The page lives as long as its window, so nothing is ever taken off again.
 async function start(): Promise<void> {
-    const page = pageOf(lessonOf(await instantiate(compressed)));
+    const page = pageOf(lessonOf(await instantiate(packed)));
     render(page);
     window.addEventListener("hashchange", () => {
         const focus = render(page);

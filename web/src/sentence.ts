@@ -1,13 +1,19 @@
 // The library's sentences are plain text with plain formulas, in the usual units and names: here they
 // become spans, and so get the reader's units and names, subscripts and a spoken form.
 import { seenOf, speech, typeset } from "./spans";
-import type { ElementInfo, IonInfo, Settings, Span } from "./types";
+import type { Settings, Span, Tables } from "./types";
 
-// Names that differ, British to American.
-export type Names = ReadonlyMap<string, string>;
+// Names that differ, British to American. Asked for only where they are wanted: the tables that tell
+// them take longer to make than an exercise.
+export type Names = () => ReadonlyMap<string, string>;
 
-export function namesOf(rows: (ElementInfo | IonInfo)[]): Names {
-    return new Map(rows.flatMap((row) => (row.american ? [[row.name, row.american]] : [])));
+export function namesOf(tables: () => Tables): Names {
+    let names: ReadonlyMap<string, string> | null = null;
+    return () => (names ??= differingNames(tables()));
+}
+
+function differingNames({ ions, elements }: Tables): ReadonlyMap<string, string> {
+    return new Map([...ions, ...elements].flatMap((row) => (row.american ? [[row.name, row.american]] : [])));
 }
 
 export function typesetSentence(sentence: string, settings: Settings, names: Names): DocumentFragment {
@@ -80,7 +86,7 @@ function named(sentence: string, settings: Settings, names: Names): string {
     if (settings.names !== "american") {
         return sentence;
     }
-    return [...names].reduce(
+    return [...names()].reduce(
         (text, [british, american]) => text.replaceAll(british, american).replaceAll(large(british), large(american)),
         sentence,
     );
