@@ -102,14 +102,16 @@ async function allMarks() {
 function classSetTime(hash) {
     return new Promise((done) => {
         const from = performance.now();
-        const watch = new MutationObserver(() => {
-            if (document.querySelector(".size:not(:empty)") !== null) {
-                watch.disconnect();
-                document.body.getBoundingClientRect();
-                done(performance.now() - from);
-            }
+        const laidOut = () => {
+            document.body.getBoundingClientRect();
+            done(performance.now() - from);
+        };
+        const main = document.querySelector("main");
+        const shown = new MutationObserver(() => {
+            shown.disconnect();
+            new MutationObserver(laidOut).observe(main.querySelector(".size"), { childList: true });
         });
-        watch.observe(document.querySelector("main"), { childList: true, subtree: true });
+        shown.observe(main, { childList: true });
         location.hash = hash;
     });
 }

@@ -17,15 +17,19 @@ function differingNames({ ions, elements }: Tables): ReadonlyMap<string, string>
 }
 
 export function typesetSentence(sentence: string, settings: Settings, names: Names): DocumentFragment {
-    return typeset(spansOf(named(sentence, settings, names)), settings);
+    return typeset(spansOfSentence(sentence, settings, names), settings);
+}
+
+export function spansOfSentence(sentence: string, settings: Settings, names: Names): Span[] {
+    return spansOf(named(sentence, settings, names));
 }
 
 export function seenSentence(sentence: string, settings: Settings, names: Names): DocumentFragment {
-    return seenOf(spansOf(named(sentence, settings, names)), settings);
+    return seenOf(spansOfSentence(sentence, settings, names), settings);
 }
 
 export function spokenSentence(sentence: string, settings: Settings, names: Names): string {
-    return speech(spansOf(named(sentence, settings, names)), settings);
+    return speech(spansOfSentence(sentence, settings, names), settings);
 }
 
 // A formula, an ion or an equation as it is typed: "2HNO3 + MgO -> Mg(NO3)2 + H2O". Another word is

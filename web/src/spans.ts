@@ -58,25 +58,20 @@ function typesetSpan(span: Span, settings: Settings): Node {
     if (isSaidAsSeen(span, settings)) {
         return seenSpan(span, settings);
     }
+    const visible = element("span", { "aria-hidden": "true" }, ...seenNodes(span, settings));
     // The blank in front keeps it off what stands before, and no full stop off what it ends.
-    return element("span", { class: classOf(span) }, seen(span, settings), spoken(` ${speechOf(span, settings)}`));
+    return element("span", { class: classOf(span) }, visible, spoken(` ${speechOf(span, settings)}`));
 }
 
 function isSaidAsSeen(span: Span, settings: Settings): boolean {
     return "name" in span || ("text" in span && speechOf(span, settings) === span.text) || ("number" in span && !span.number.includes("e"));
 }
 
+// One node a span. Text alone needs no element: a line breaks in it at its blanks only.
 function seenSpan(span: Span, settings: Settings): Node {
-    if ("text" in span) {
-        return document.createTextNode(bound(span.text));
-    }
-    if ("name" in span) {
-        return document.createTextNode(nameOf(span, settings));
-    }
-    if ("number" in span && !span.number.includes("e")) {
-        return element("span", { class: "number" }, localNumber(span.number, settings));
-    }
-    return element("span", { class: classOf(span) }, seen(span, settings));
+    const nodes = seenNodes(span, settings);
+    const isText = "text" in span || "name" in span || ("number" in span && nodes.length === 1);
+    return isText ? nodes[0]! : element("span", { class: classOf(span) }, ...nodes);
 }
 
 // A sign begins a line rather than ends one.
@@ -84,34 +79,39 @@ export function bound(text: string): string {
     return text.replace(/ ([=+→×−]) /g, " $1\u00A0");
 }
 
-function seen(span: Span, settings: Settings): HTMLElement {
-    const visible = element("span", { "aria-hidden": "true" });
+function seenNodes(span: Span, settings: Settings): Node[] {
     if ("text" in span) {
-        visible.append(bound(span.text));
-    } else if ("formula" in span) {
-        visible.append(...formulaNodes(span.formula));
-    } else if ("ion" in span) {
-        visible.append(...formulaNodes(span.ion), element("sup", {}, signed(span.charge)));
-    } else if ("quantity" in span) {
-        visible.append(element("var", {}, span.quantity));
-        if (span.index !== undefined) {
-            visible.append(element("sub", {}, span.index));
-        }
-        if (span.of !== undefined) {
-            visible.append("(", ...formulaNodes(span.of), ")");
-        }
-    } else if ("number" in span) {
-        const [digits = "", exponent = ""] = localNumber(span.number, settings).split("e");
-        visible.append(`${digits}${thin}×${thin}10`, element("sup", {}, signed(exponent)));
-    } else if ("unit" in span) {
-        visible.append(...unitNodes(localUnit(span.unit, settings)));
-    } else if ("fraction" in span) {
-        visible.append(
-            element("span", { class: "over" }, seenOf(span.fraction[0], settings)),
-            element("span", { class: "under" }, seenOf(span.fraction[1], settings)),
-        );
+        return [textNode(bound(span.text))];
     }
-    return visible;
+    if ("name" in span) {
+        return [textNode(nameOf(span, settings))];
+    }
+    if ("formula" in span) {
+        return formulaNodes(span.formula);
+    }
+    if ("ion" in span) {
+        return [...formulaNodes(span.ion), element("sup", {}, signed(span.charge))];
+    }
+    if ("quantity" in span) {
+        const index = span.index === undefined ? [] : [element("sub", {}, span.index)];
+        const of = span.of === undefined ? [] : [textNode("("), ...formulaNodes(span.of), textNode(")")];
+        return [element("var", {}, span.quantity), ...index, ...of];
+    }
+    if ("number" in span) {
+        const [digits = "", exponent] = localNumber(span.number, settings).split("e");
+        return exponent === undefined ? [textNode(digits)] : [textNode(`${digits}${thin}×${thin}10`), element("sup", {}, signed(exponent))];
+    }
+    if ("unit" in span) {
+        return unitNodes(localUnit(span.unit, settings));
+    }
+    const [over, under] = span.fraction;
+    return [
+        element("span", { class: "stacked" }, element("span", { class: "over" }, seenOf(over, settings)), element("span", { class: "under" }, seenOf(under, settings))),
+    ];
+}
+
+function textNode(text: string): Text {
+    return document.createTextNode(text);
 }
 
 function classOf(span: Span): string {
@@ -161,14 +161,14 @@ function saidOf(text: string): string {
 
 // Digits behind a letter or a bracket are subscripts; those at the front of a part count it.
 export function formulaNodes(formula: string): Node[] {
-    const nodes: Node[] = [];
-    for (const part of formula.replaceAll(".", "·").match(/[A-Za-z)\]]\d+|[^]/g) ?? []) {
-        nodes.push(document.createTextNode(part.slice(0, 1)));
-        if (part.length > 1) {
-            nodes.push(element("sub", {}, part.slice(1)));
-        }
-    }
-    return nodes;
+    return shiftedNodes(formula.replaceAll(".", "·"), /(.*?[A-Za-z)\]])(\d+)|.+/gs, "sub");
+}
+
+// The text in front of each match's second group as it stands, that group as a subscript or superscript.
+function shiftedNodes(text: string, pattern: RegExp, tag: "sub" | "sup"): Node[] {
+    return [...text.matchAll(pattern)].flatMap(([whole, level, shifted]) =>
+        level === undefined || shifted === undefined ? [textNode(whole)] : [textNode(level), element(tag, {}, signed(shifted))],
+    );
 }
 
 // "H2SO4" as it is said, "H 2 S O 4".
@@ -209,15 +209,7 @@ export function localUnit(unit: string, settings: Settings): string {
 }
 
 function unitNodes(unit: string): Node[] {
-    const nodes: Node[] = [];
-    for (const part of unit.match(/[A-Za-z]-?\d|[^]/g) ?? []) {
-        const [letter = "", ...power] = part;
-        nodes.push(document.createTextNode(letter === " " ? thin : letter));
-        if (power.length > 0) {
-            nodes.push(element("sup", {}, signed(power.join(""))));
-        }
-    }
-    return nodes;
+    return shiftedNodes(unit.replaceAll(" ", thin), /(.*?[A-Za-z])(-?\d)|.+/gs, "sup");
 }
 
 const spokenUnits: Record<string, string> = {

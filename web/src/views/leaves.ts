@@ -37,9 +37,10 @@ export function* leaves(box: HTMLElement, route: SheetRoute, page: Page): Genera
     box.append(measuring);
     const measure = measureIn(measuring, widths[route.size]);
     const elements = page.lesson.tables().elements;
+    const places = exercisesOf(route.entries);
     const keys: { label: string; run: Run }[] = [];
     for (const [at, paper] of papersOf(route).entries()) {
-        const version: Version = { paper, number: at + 1, exercises: [] };
+        const version: Version = { paper, number: at + 1, exercises: yield* exercisesOfPaper(paper, places, page) };
         const { sheet, key } = yield* runsOf(version, route, elements, measure, page);
         const label = labelOf(version, route);
         box.append(...leavesOf(label, [sheet], route));
@@ -51,26 +52,34 @@ export function* leaves(box: HTMLElement, route: SheetRoute, page: Page): Genera
 
 // What is not printed is not made.
 function* runsOf(version: Version, route: SheetRoute, elements: ElementInfo[], measure: Measure, page: Page): Generator<void, { sheet: Run; key: Run }> {
+    const heads: Item[] = [];
     const sheet: Item[] = [];
     const key: Item[] = [];
-    const places = exercisesOf(route.entries);
-    for (let from = 0; from < places.length; from += atOnce) {
-        const exercises = places.slice(from, from + atOnce).map(({ kind, number }) => exerciseAt(version.paper, number, kind, page));
-        version.exercises.push(...exercises);
+    for (let from = 0; from < version.exercises.length; from += atOnce) {
+        const exercises = version.exercises.slice(from, from + atOnce);
+        const headings = from > 0 ? [] : [sheetHead(version, route, elements, page), keyHead(version, route), keyHeadAgain(version, route)];
         const asked = route.parts === "key" ? [] : exercises.map((exercise) => exerciseItem(exercise, route, page));
         const answered = route.parts === "sheet" ? [] : exercises.map((exercise) => keyItem(exercise, route, page));
-        const items = measure([...asked, ...answered]);
-        sheet.push(...items.slice(0, asked.length));
-        key.push(...items.slice(asked.length));
+        const items = measure([...headings, ...asked, ...answered]);
+        heads.push(...items.splice(0, headings.length));
+        sheet.push(...items.splice(0, asked.length));
+        key.push(...items);
         yield;
     }
-    const [head, keyAtFirst, keyAgain] = measure([sheetHead(version, route, elements, page), keyHead(version, route), keyHeadAgain(version, route)]);
+    const [head, keyAtFirst, keyAgain] = heads;
     return { sheet: { head: head!, again: null, items: sheet }, key: { head: keyAtFirst!, again: keyAgain!, items: key } };
 }
 
 // Kinds that the library does not know were refused before.
-function exerciseAt(paper: number, number: number, kind: string, page: Page): Exercise {
-    return page.lesson.exercise(paper, number, kind)!;
+function* exercisesOfPaper(paper: number, places: { kind: string; number: number }[], page: Page): Generator<void, Exercise[]> {
+    const exercises: Exercise[] = [];
+    for (const { kind, number } of places) {
+        exercises.push(page.lesson.exercise(paper, number, kind)!);
+        if (exercises.length % atOnce === 0) {
+            yield;
+        }
+    }
+    return exercises;
 }
 
 function measureIn(measuring: HTMLElement, width: number): Measure {

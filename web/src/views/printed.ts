@@ -2,8 +2,8 @@
 // field and no mark, so it is all text.
 import { element } from "../dom";
 import { massesNeeded } from "../masses";
-import { typesetSentence } from "../sentence";
-import { typeset } from "../spans";
+import { spansOfSentence } from "../sentence";
+import { typeset, typesetLine } from "../spans";
 import { texts } from "../texts";
 import type { ElementInfo, Exercise, Form, SheetRoute, Span } from "../types";
 import { drawingOf } from "./drawing";
@@ -68,7 +68,7 @@ export function exerciseItem(exercise: Exercise, route: SheetRoute, page: Page):
     return element(
         "li",
         {},
-        element("p", { class: "asks" }, typeset(exercise.prompt, page.settings)),
+        element("p", { class: "asks" }, ...typesetLine(exercise.prompt, page.settings)),
         ...(drawing === null ? [] : [drawing]),
         ...(rules.length === 0 ? [] : [element("div", { class: "rules" }, ...rules)]),
     );
@@ -79,21 +79,21 @@ export function keyItem(exercise: Exercise, route: SheetRoute, page: Page): HTML
 }
 
 function lineItem(exercise: Exercise, page: Page): HTMLElement {
-    return element("li", {}, element("p", { class: "asks" }, answerOf(exercise, page)));
+    return element("li", {}, element("p", { class: "asks" }, ...answerOf(exercise, page)));
 }
 
 function workedItem(exercise: Exercise, page: Page): HTMLElement {
     const steps = exercise.solution.map((step) =>
-        element("p", { class: "step" }, typeset(step.say, page.settings), "\u2003", typeset(step.math ?? [], page.settings)),
+        element("p", { class: "step" }, ...typesetLine([...step.say, { text: "\u2003" }, ...(step.math ?? [])], page.settings)),
     );
-    return element("li", {}, ...steps, element("p", { class: "result" }, answerOf(exercise, page)));
+    return element("li", {}, ...steps, element("p", { class: "result" }, ...answerOf(exercise, page)));
 }
 
 // "c(KOH) = 0.290 mol/L", "Ca(OH)2", "yes".
-function answerOf({ ask, key }: Exercise, page: Page): DocumentFragment {
-    const line = typeset(ask.quantity === undefined ? [] : [quantityOf(ask.quantity, ask.of), { text: " = " }], page.settings);
-    line.append(typesetSentence(key.text.replace("->", "→"), page.settings, page.names));
-    return line;
+function answerOf({ ask, key }: Exercise, page: Page): Node[] {
+    const asked: Span[] = ask.quantity === undefined ? [] : [quantityOf(ask.quantity, ask.of), { text: " = " }];
+    const answer = spansOfSentence(key.text.replace("->", "→"), page.settings, page.names);
+    return typesetLine([...asked, ...answer], page.settings);
 }
 
 // "c2" is c with the index 2.

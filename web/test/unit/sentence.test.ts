@@ -6,7 +6,7 @@ import type { Settings, Span } from "../../src/types";
 
 const usual: Settings = { volume: "mL", per: "slash", decimal: ".", names: "british" };
 const other: Settings = { volume: "cm3", per: "power", decimal: ",", names: "american" };
-const names = new Map([["aluminium", "aluminum"]]);
+const names = () => new Map([["aluminium", "aluminum"]]);
 
 const taken: [string, Span[]][] = [
     ["", []],
