@@ -8,6 +8,7 @@
 
 #include "lesson/compound.hpp"
 #include "lesson/marking/formula.hpp"
+#include "lesson/marking/lookalikes.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/marking/typed.hpp"
@@ -328,7 +329,12 @@ std::string_view misspelling(const TypedTerm& term, const Role& role)
     if (isRightButForNumeral(term, role)) {
         return sentences::romanNumeral;
     }
-    return withLetterO(term.formula.text) == role.formula ? sentences::letterO : "";
+    for (const Lookalike& other : lookalikesOf(term.text)) {
+        if (readFormula(other.meant).text == role.formula) {
+            return other.sentence;
+        }
+    }
+    return {};
 }
 
 Extra misspelt(const TermOnSide& typed, const Role& role)
@@ -560,9 +566,11 @@ Mark markEquation(const EquationAnswer& answer, std::string_view typed)
         return markOf(Verdict::slip, sentences::capitals);
     }
     if (!equation.unread.empty()) {
-        const TypedEquation withLetters = readEquation(withLetterO(plain));
-        if (isRight(withLetters, assigned(withLetters, roles, false), roles)) {
-            return markOf(Verdict::slip, sentences::letterO);
+        for (const Lookalike& other : lookalikesOf(plain)) {
+            const TypedEquation meant = readEquation(other.meant);
+            if (isRight(meant, assigned(meant, roles, false), roles)) {
+                return markOf(Verdict::slip, other.sentence);
+            }
         }
         return unreadable(equation.unread);
     }

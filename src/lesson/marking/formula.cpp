@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "lesson/compound.hpp"
+#include "lesson/marking/lookalikes.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/marking/typed.hpp"
@@ -147,17 +148,12 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
 
 std::optional<Mark> lookalikes(const Attempt& attempt)
 {
-    const auto isMeant = [&attempt](const std::string& meant) {
-        return meant != attempt.plain && isAmong(attempt.right, readFormula(meant).text);
-    };
-    if (isMeant(withLetterL(attempt.plain, 'I'))) {
-        return markOf(Verdict::slip, sentences::letterLNotI);
+    for (const Lookalike& other : lookalikesOf(attempt.plain)) {
+        if (isAmong(attempt.right, readFormula(other.meant).text)) {
+            return markOf(Verdict::slip, other.sentence);
+        }
     }
-    if (isMeant(withLetterL(attempt.plain, '1'))) {
-        return markOf(Verdict::slip, sentences::letterLNotOne);
-    }
-    return slipWhen(isMeant(withLetterI(withLetterO(attempt.plain))),
-                    mistypedLetter(attempt.plain));
+    return std::nullopt;
 }
 
 std::optional<Mark> notRead(const Attempt& attempt)
@@ -339,36 +335,6 @@ Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
     return markOf(Verdict::wrong, sentences::notYet);
 }
 
-std::string withLetterO(std::string_view plain)
-{
-    std::string text(plain);
-    std::replace(text.begin(), text.end(), '0', 'O');
-    return text;
-}
-
-std::string withLetterI(std::string_view plain)
-{
-    std::string text(plain);
-    for (std::size_t i = 0; i < plain.size(); ++i) {
-        const bool endsSymbol = i > 0 && findElement(plain.substr(i - 1, 2)) != nullptr;
-        if (plain[i] == 'l' && !endsSymbol) {
-            text[i] = 'I';
-        }
-    }
-    return text;
-}
-
-std::string withLetterL(std::string_view plain, char typed)
-{
-    std::string text(plain);
-    for (std::size_t i = 1; i < plain.size(); ++i) {
-        if (plain[i] == typed && findElement(std::string{plain[i - 1], 'l'}) != nullptr) {
-            text[i] = 'l';
-        }
-    }
-    return text;
-}
-
 std::vector<std::string> withoutNumeral(std::string_view text)
 {
     std::vector<std::string> others;
@@ -382,11 +348,6 @@ std::vector<std::string> withoutNumeral(std::string_view text)
         }
     }
     return others;
-}
-
-std::string_view mistypedLetter(std::string_view plain)
-{
-    return plain.find('0') == std::string_view::npos ? sentences::letterI : sentences::letterO;
 }
 
 std::string wrongSymbol(std::string_view text, const std::vector<std::string>& rightTexts)

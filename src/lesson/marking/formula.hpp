@@ -14,23 +14,9 @@ namespace lesson
 Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
                  std::string_view typed);
 
-// The text with each zero as the letter O, which is how some type it; formulas of compounds that
-// exercises ask for have no zeros.
-std::string withLetterO(std::string_view plain);
-
-// The text with each small l that ends no symbol as the letter I: "Pbl2" -> "PbI2".
-std::string withLetterI(std::string_view plain);
-
-// The text with each of this character, a capital I or a digit 1, as the small l that makes a
-// symbol with the letter before it: "SnCI2" -> "SnCl2". Any other stays.
-std::string withLetterL(std::string_view plain, char typed);
-
 // The text without a Roman numeral behind its front, one for each way to read one: "CuIISO4" ->
 // "CuSO4", "CuISO4". A raised one goes with its "^".
 std::vector<std::string> withoutNumeral(std::string_view text);
-
-// What to tell a learner whose text is right with these letters.
-std::string_view mistypedLetter(std::string_view plain);
 
 // The one symbol in which a formula differs from one of those that are right, the rest being the
 // same; empty where it differs in more.

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "lesson/marking/formula.hpp"
+#include "lesson/marking/lookalikes.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/marking/typed.hpp"
@@ -330,19 +331,14 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
 
 std::optional<Mark> lookalikes(const Attempt& attempt)
 {
-    const auto isMeant = [&attempt](const std::string& meant) {
+    for (const Lookalike& other : lookalikesOf(attempt.plain)) {
         Attempt mended = attempt;
-        mended.readings = readingsOf(bareFormula(meant));
-        return meant != attempt.plain && right(mended).has_value();
-    };
-    if (isMeant(withLetterL(attempt.plain, 'I'))) {
-        return markOf(Verdict::slip, sentences::letterLNotI);
+        mended.readings = readingsOf(bareFormula(other.meant));
+        if (right(mended).has_value()) {
+            return markOf(Verdict::slip, other.sentence);
+        }
     }
-    if (isMeant(withLetterL(attempt.plain, '1'))) {
-        return markOf(Verdict::slip, sentences::letterLNotOne);
-    }
-    return slipWhen(isMeant(withLetterI(withLetterO(attempt.plain))),
-                    mistypedLetter(attempt.plain));
+    return std::nullopt;
 }
 
 std::optional<Mark> notRead(const Attempt& attempt)

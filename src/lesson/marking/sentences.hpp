@@ -18,10 +18,6 @@ constexpr std::string_view notYet =
     "Not right yet. Write down what you know, or press Show a step.";
 constexpr std::string_view capitals = "Check the capitals: first letter large, second small.";
 constexpr std::string_view ending = "The ending tells you whether there is oxygen.";
-constexpr std::string_view letterO = "There is a zero where the letter O should be.";
-constexpr std::string_view letterI = "There is a small l where the letter I should be.";
-constexpr std::string_view letterLNotI = "There is a large I where the small letter l should be.";
-constexpr std::string_view letterLNotOne = "There is a 1 where the small letter l should be.";
 
 // Of a symbol or a short formula.
 inline std::string checkSymbol(std::string_view symbol)

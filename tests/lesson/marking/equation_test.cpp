@@ -17,6 +17,8 @@ constexpr const char* twoWay = "Correct. A one-way arrow is usual here.";
 constexpr const char* notYet = "Not right yet. Write down what you know, or press Show a step.";
 constexpr const char* noArrow = "Put an arrow between the two sides. You can type ->.";
 constexpr const char* zero = "There is a zero where the letter O should be.";
+constexpr const char* largeI = "There is a large I where the small letter l should be.";
+constexpr const char* one = "There is a 1 where the small letter l should be.";
 
 EquationAnswer answerOf(const char* acid, const char* cation, const char* anion)
 {
@@ -109,7 +111,7 @@ TEST(EquationMarkTest, TwoWayArrows)
                          {"2HCl + Na2CO3 ⇌ 2NaCl + H2O + CO2", Verdict::correct, twoWay}});
 }
 
-TEST(EquationMarkTest, RightButForCapitalsOrZeros)
+TEST(EquationMarkTest, RightButForCapitalsOrLookalikes)
 {
     expectMarks(soda(), {{"2hcl + na2co3 -> 2nacl + h2o + co2", Verdict::slip, capitals},
                          {"2HCL + NA2CO3 -> 2NACL + H2O + CO2", Verdict::slip, capitals},
@@ -117,7 +119,10 @@ TEST(EquationMarkTest, RightButForCapitalsOrZeros)
                          {"2HCl + Na2CO3 -> 2NaCl + H2O + Co2", Verdict::slip, capitals},
                          {"2hcl(aq) + na2co3 -> 2nacl + h_2o (l) + co2", Verdict::slip, capitals},
                          {"2HCl + Na2C03 -> 2NaCl + H2O + CO2", Verdict::slip, zero},
-                         {"2HCl + Na2CO3 -> 2NaCl + H20 + CO2", Verdict::slip, zero}});
+                         {"2HCl + Na2CO3 -> 2NaCl + H20 + CO2", Verdict::slip, zero},
+                         {"2HCI + Na2CO3 -> 2NaCl + H2O + CO2", Verdict::slip, largeI},
+                         {"2HCI + Na2CO3 -> 2NaCI + H2O + CO2", Verdict::slip, largeI},
+                         {"2HCl + Na2CO3 -> 2NaC1 + H2O + CO2", Verdict::slip, one}});
     expectMarks(vinegar(), {{"2ch3cooh + ca(oh)2 -> (ch3coo)2ca + 2h2o", Verdict::slip, capitals}});
     expectMarks(answerOf("HCl", "cobalt(II)", "carbonate"),
                 {{"2HCl + COCO3 -> COCl2 + H2O + CO2", Verdict::slip, capitals},

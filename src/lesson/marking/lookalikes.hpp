@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lesson
+{
+
+// A text as it was meant where a letter was taken for another sign by its looks.
+struct Lookalike {
+    std::string meant;
+    std::string_view sentence; // tells the learner which sign stands for which letter
+};
+
+// The texts that may have been meant, but for the typed one itself:
+//   "SnCI2", "SnC12" -> "SnCl2"    a capital I or a digit 1 is the small l of a symbol
+//   "Na2S04"         -> "Na2SO4"   a zero is the letter O, as formulas have no zeros
+//   "Pbl2"           -> "PbI2"     a small l that ends no symbol is the letter I
+std::vector<Lookalike> lookalikesOf(std::string_view plain);
+
+} // namespace lesson
