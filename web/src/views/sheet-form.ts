@@ -53,7 +53,16 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
 
     // Enter in a field is a change like any other, and sends nothing anywhere.
     form.addEventListener("submit", (event) => event.preventDefault());
-    form.addEventListener("input", changed);
+    form.addEventListener("input", () => {
+        relate();
+        changed();
+    });
+    relate();
+
+    // What only concerns several versions.
+    function relate(): void {
+        keys.disabled = versions.value === "1";
+    }
 
     function read(): Reading {
         const entries = entriesIn(counts, opened);

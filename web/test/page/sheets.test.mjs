@@ -196,6 +196,15 @@ test("the page-break option does something", async () => {
     assert.deepEqual(await keyPages("apart"), ["Paper4821,version1", "Paper4822,version2", "Paper4823,version3"]);
 });
 
+test("how the keys of several versions are printed is chosen where there are several", async () => {
+    const page = await openSheet("#sheet/4821/2*titration");
+    const keys = page.getByLabel("Keys of several versions");
+    assert.ok(await keys.isDisabled());
+    await page.getByLabel("Versions", { exact: true }).fill("2");
+    assert.ok(await keys.isEnabled());
+    await leave(page);
+});
+
 const base = "#sheet/4821/6*titration,2*concentration:3?";
 const effects = {
     "title=Monday": ({ pages }) => pages[0][1].text === "Monday",
