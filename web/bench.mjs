@@ -15,7 +15,7 @@ const starts = 10;
 const settling = 1500;
 const marksEach = 30;
 const slowed = 6;
-const classSets = 5;
+const classSets = 10;
 
 const bytes = readFileSync(page);
 const empty = resolve(page, "../empty.html");
@@ -116,30 +116,20 @@ function classSetTime(hash) {
     });
 }
 
-// Each in a tab of its own; and the processor time of its thread, which other work on the machine does
-// not lengthen.
-async function allClassSets() {
+// Each in a tab of its own, so that nothing is compiled or laid out yet.
+async function classSetTimes() {
     const browser = await openChromium();
     const times = [];
-    const busy = [];
     for (let set = 0; set < classSets; ++set) {
         const tab = await browser.newPage();
         await tab.goto(`${address}#tables`);
         await tab.locator("h1").waitFor();
-        const client = await tab.context().newCDPSession(tab);
-        await client.send("Performance.enable", { timeDomain: "threadTicks" });
-        const before = await threadTime(client);
+        await tab.waitForTimeout(settling);
         times.push(await tab.evaluate(classSetTime, `#sheet/${1 + 30 * set}/7*concentration,7*dilution,6*titration?versions=30`));
-        busy.push((await threadTime(client)) - before);
         await tab.close();
     }
     await browser.close();
-    return { times, busy };
-}
-
-async function threadTime(client) {
-    const { metrics } = await client.send("Performance.getMetrics");
-    return 1000 * metrics.find(({ name }) => name === "TaskDuration").value;
+    return times;
 }
 
 function line(what, value) {
@@ -168,7 +158,4 @@ for (const [kind, times] of await allMarks()) {
     timeLine(kind, times);
 }
 
-const { times, busy } = await allClassSets();
-console.log(`\nA class set, 30 papers of 20 exercises with keys: medians of ${classSets}`);
-timeLine("until all pages are there", times);
-timeLine("processor time of the page", busy);
+timeLine(`\nA class set, 30 papers of 20 exercises with keys, median of ${classSets}`, await classSetTimes());

@@ -3,7 +3,7 @@ import packed from "lesson.bin";
 import { addressOf, routeOf } from "./address";
 import { byId, element, show } from "./dom";
 import { lessonOf } from "./engine/lesson";
-import { instantiate } from "./engine/memory";
+import { instantiate, unpacked } from "./engine/memory";
 import { namesOf } from "./sentence";
 import * as storage from "./storage";
 import { usualSheet } from "./sheet";
@@ -122,7 +122,9 @@ function titleOf(route: Route): string {
 
 // The page lives as long as its window, so nothing is ever taken off again.
 async function start(): Promise<void> {
-    const page = pageOf(lessonOf(await instantiate(packed)));
+    const instantiated = instantiate(await unpacked(packed));
+    storage.open(); // while the module is compiled
+    const page = pageOf(lessonOf(await instantiated));
     render(page);
     window.addEventListener("hashchange", () => {
         const focus = render(page);

@@ -37,6 +37,13 @@ export const usualSettings: Settings = {
 
 const forgetful = new Map<string, string>();
 
+// The first look into a store waits for the browser to fetch it. Who has time for that early has not to
+// wait later.
+export function open(): void {
+    read("localStorage", settingsKey);
+    read("sessionStorage", settingsKey);
+}
+
 function read(kind: "localStorage" | "sessionStorage", key: string): unknown {
     try {
         const text = window[kind].getItem(key) ?? forgetful.get(key) ?? "null";

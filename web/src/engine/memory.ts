@@ -16,13 +16,17 @@ export interface Exports {
 const encoder = new TextEncoder();
 const decoder = new TextDecoder();
 
-// From compressed bytes, written in base64. Compiled asynchronously: older browsers refuse a module of
-// this size at once.
-export async function instantiate(packed: string): Promise<Exports> {
-    const { instance } = await WebAssembly.instantiate(await unpacked(bytesOf(packed)), {});
+// Compiles in other threads; asynchronously, since older browsers refuse a module of this size at once.
+export async function instantiate(bytes: BufferSource): Promise<Exports> {
+    const { instance } = await WebAssembly.instantiate(bytes, {});
     const exports = instance.exports as unknown as Exports;
     exports._initialize();
     return exports;
+}
+
+// The module's bytes from compressed ones, written in base64.
+export function unpacked(packed: string): Promise<BufferSource> {
+    return inflated(bytesOf(packed));
 }
 
 // What browsers do in one step as far as they are new enough, in a tenth of the time that a script takes.
@@ -33,7 +37,7 @@ function bytesOf(base64: string): Uint8Array<ArrayBuffer> {
     return fromBase64?.(base64) ?? Uint8Array.from(atob(base64), (character) => character.charCodeAt(0));
 }
 
-async function unpacked(compressed: Uint8Array<ArrayBuffer>): Promise<BufferSource> {
+async function inflated(compressed: Uint8Array<ArrayBuffer>): Promise<BufferSource> {
     if (typeof DecompressionStream === "undefined") {
         return unzlibSync(compressed);
     }
