@@ -388,7 +388,7 @@ std::optional<Mark> numeralLeftIn(const Attempt& attempt)
                           attempt.ion.charge > 0 ? sentences::romanCharge : sentences::noCharge);
         }
         if (const std::optional<Mark> charge = wrongCharge(mended)) {
-            return charge;
+            return *charge;
         }
     }
     return std::nullopt;
