@@ -20,23 +20,53 @@ import { showTables } from "./views/tables";
 type Focus = () => void;
 
 const main = byId("main");
-// Where "Practice" and "Sheets" lead back to.
+// Where "Practice" and "Sheets" lead back to, after a reload as well.
 let practised: PracticeRoute | null = null;
 let printed: SheetRoute | null = null;
 
+function rememberPlaces(): void {
+    const practice = routeOf(storage.placeLeft("practice"));
+    const sheet = routeOf(storage.placeLeft("sheet"));
+    practised = practice.view === "practice" ? practice : null;
+    printed = sheet.view === "sheet" ? sheet : null;
+}
+
+function keepPlaces(): void {
+    if (practised !== null) {
+        storage.keepPlaceLeft("practice", addressOf(practised));
+    }
+    if (printed !== null) {
+        storage.keepPlaceLeft("sheet", addressOf(printed));
+    }
+}
+
 function pageOf(lesson: Lesson): Page {
-    return {
+    const page: Page = {
         lesson,
         kinds: lesson.kinds(),
         names: namesOf(() => lesson.tables()),
         settings: storage.settings(),
-        go: (address) => (location.hash = address),
+        go(address) {
+            if (location.hash === address) {
+                open(page);
+            } else {
+                location.hash = address;
+            }
+        },
         stay(route) {
             history.replaceState(null, "", addressOf(route));
             printed = route;
             showViews(route);
         },
     };
+    return page;
+}
+
+// Shows the present address from its beginning, for a reader who has asked for it.
+function open(page: Page): void {
+    const focus = render(page);
+    window.scrollTo({ top: 0, behavior: "instant" });
+    focus();
 }
 
 function newPaper(): string {
@@ -85,8 +115,11 @@ function showExercise(route: PracticeRoute, page: Page): Focus | null {
         return null;
     }
     practised = route;
-    const isBehind = route.set > 0 && route.number > route.set;
-    return isBehind ? showSummary(main, route, page) : showPractice(main, route, exercise, page);
+    return isSummary(route) ? showSummary(main, route, page) : showPractice(main, route, exercise, page);
+}
+
+function isSummary(route: PracticeRoute): boolean {
+    return route.set > 0 && route.number > route.set;
 }
 
 function showSheet(route: SheetRoute, page: Page): Focus | null {
@@ -104,13 +137,14 @@ function showViews(route: Route): void {
     ];
     const items = links.map(({ text, href, view }) => element("a", { href, "aria-current": route.view === view ? "page" : undefined }, text));
     show(byId("views"), ...items);
+    keepPlaces();
     document.title = `${titleOf(route)} – ${texts.title}`;
 }
 
 function titleOf(route: Route): string {
     switch (route.view) {
         case "practice":
-            return `${texts.exercise(route.number)} of ${texts.paper(route.paper).toLowerCase()}`;
+            return isSummary(route) ? texts.summaryOf(route.paper) : `${texts.exercise(route.number)} of ${texts.paper(route.paper).toLowerCase()}`;
         case "sheet":
             return texts.sheetOf(route.paper);
         case "tables":
@@ -125,12 +159,9 @@ async function start(): Promise<void> {
     const instantiated = instantiate(await unpacked(packed));
     storage.open(); // while the module is compiled
     const page = pageOf(lessonOf(await instantiated));
+    rememberPlaces();
     render(page);
-    window.addEventListener("hashchange", () => {
-        const focus = render(page);
-        window.scrollTo({ top: 0, behavior: "instant" });
-        focus();
-    });
+    window.addEventListener("hashchange", () => open(page));
     // What a tablet's keyboard leaves of the window has to show the field.
     window.visualViewport?.addEventListener("resize", keepFieldInView);
     byId("skip").addEventListener("click", (event) => {

@@ -7,12 +7,17 @@ export interface Work {
     stop(): void;
 }
 
-// Takes one step after another, the first slice at once; then says that it is done.
-export function inSlices(steps: Iterator<unknown>, done: () => void): Work {
+// Takes one step after another while they are wanted, the first slice at once; then says that it is done.
+export function inSlices(steps: Iterator<unknown>, isWanted: () => boolean, done: () => void): Work {
     let timer = 0;
     let isOver = false;
 
+    // Whether they are wanted can only change between slices.
     function run(until: number): void {
+        if (!isWanted()) {
+            isOver = true;
+            return;
+        }
         while (!isOver && performance.now() < until) {
             isOver = steps.next().done === true;
         }

@@ -114,12 +114,37 @@ export function addToRecord(kind: string, result: Result): void {
     write("localStorage", recordKey, { ...tallies, [kind]: tally });
 }
 
+// With what the exercises of this tab have come to, so that nobody sees the answers of who sat here before.
 export function clearRecord(): void {
     write("localStorage", recordKey, {});
+    [...forgetful.keys()].filter(isProgress).forEach((key) => forgetful.delete(key));
+    try {
+        Object.keys(window.sessionStorage).filter(isProgress).forEach((key) => window.sessionStorage.removeItem(key));
+    } catch {
+        // Refused: there was nothing but in `forgetful`.
+    }
+}
+
+function isProgress(key: string): boolean {
+    return key.startsWith(progressKey(""));
+}
+
+// Where a view leads back to, as an address; empty where it was not opened in this tab.
+export function placeLeft(view: "practice" | "sheet"): string {
+    const kept = read("sessionStorage", `chempractice.left.${view}`);
+    return typeof kept === "string" ? kept : "";
+}
+
+export function keepPlaceLeft(view: "practice" | "sheet", address: string): void {
+    write("sessionStorage", `chempractice.left.${view}`, address);
+}
+
+function progressKey(place: string): string {
+    return `chempractice.exercise.${place}`;
 }
 
 export function progressOf(place: string): Progress {
-    const kept = read("sessionStorage", `chempractice.${place}`);
+    const kept = read("sessionStorage", progressKey(place));
     const { typed, failed, checked, steps, result } = isObject(kept) ? kept : {};
     return {
         typed: typeof typed === "string" ? typed : "",
@@ -131,5 +156,5 @@ export function progressOf(place: string): Progress {
 }
 
 export function keepProgress(place: string, progress: Progress): void {
-    write("sessionStorage", `chempractice.${place}`, progress);
+    write("sessionStorage", progressKey(place), progress);
 }

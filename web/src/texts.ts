@@ -10,7 +10,7 @@ export const texts = {
     startAnew: "Start with a new paper",
     badSheet: "This address does not name a sheet of this page.",
     startSheet: "Make a new sheet",
-    broken: "The page could not start: this browser seems not to run WebAssembly. Any browser from 2021 or later does.",
+    broken: "The page could not start: this browser seems not to run WebAssembly. Any browser from 2023 or later does.",
 
     exercise: (number: number) => `Exercise ${number}`,
     exerciseOf: (number: number, all: number) => `Exercise ${number} of ${all}`,

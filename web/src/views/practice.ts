@@ -96,7 +96,7 @@ function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exer
         keep(state.afterMark(progress, mark));
         marked(mark);
         update();
-        announce(spokenMark(mark, page));
+        announce([spokenMark(mark, page), ...(offer.hidden ? [] : [texts.wouldHelp])].join(" "));
         if (mark.verdict === "correct") {
             nextButton.focus();
             bringIntoView(markLine, goOn);

@@ -32,12 +32,14 @@ export function previewOf(page: Page): Preview {
         show(route, isNews) {
             clear();
             box.className = `leaves ${route.size.toLowerCase()}`;
-            work = inSlices(leaves(box, route, page), () => {
+            const done = () => {
                 show(size, texts.sheetSize(countOf(route.entries), route.versions, box.childElementCount));
                 if (isNews) {
                     announce(size.textContent ?? "");
                 }
-            });
+            };
+            // Who goes to another view takes the box away.
+            work = inSlices(leaves(box, route, page), () => box.isConnected, done);
         },
         finish: () => work?.finish(),
         clear,

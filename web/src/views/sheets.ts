@@ -36,6 +36,9 @@ export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (
 
     function changed(): void {
         timer = 0;
+        if (!form.element.isConnected) {
+            return; // The reader has gone to another view meanwhile.
+        }
         const reading = form.read();
         const complaint = "complaint" in reading ? reading.complaint : "";
         show(message, complaint);

@@ -26,6 +26,7 @@ export function showSummary(main: HTMLElement, route: PracticeRoute, page: Page)
             "article",
             { class: "summary" },
             heading,
+            element("p", { class: "blanks on-paper" }, element("span", { class: "blank wide" }, texts.nameBlank), element("span", { class: "blank" }, texts.dateBlank)),
             element("p", {}, countsOf(rows)),
             scrollBox("box", texts.summary, element("table", {}, element("tbody", {}, ...lines))),
             element(
@@ -67,5 +68,7 @@ function countsOf(rows: Row[]): string {
 
 function textOf(route: PracticeRoute, rows: Row[]): string {
     const lines = rows.map((row) => `${row.number}. ${row.kind}: ${row.result}`);
-    return [texts.title, texts.summaryOf(route.paper), countsOf(rows), "", ...lines, "", location.href, ""].join("\n");
+    // From a disk the whole address would tell no more than whose disk it is.
+    const address = location.protocol === "file:" ? location.hash : location.href;
+    return [texts.title, texts.summaryOf(route.paper), `${texts.nameBlank}: `, countsOf(rows), "", ...lines, "", address, ""].join("\n");
 }

@@ -1,7 +1,7 @@
 // The data that the exercises use, read from the library.
 import { button, element, scrollBox, show, spoken } from "../dom";
 import { typeset } from "../spans";
-import { typesetSentence } from "../sentence";
+import { spokenSentence, typesetSentence } from "../sentence";
 import { texts } from "../texts";
 import type { ElementInfo, IonInfo, PairInfo, Tables } from "../types";
 import type { Page } from "./page";
@@ -126,8 +126,9 @@ function solubilityGrid(tables: Tables, page: Page): HTMLElement {
 }
 
 function pairButton(pair: PairInfo, reason: HTMLElement, page: Page): HTMLButtonElement {
+    const name = spokenSentence(`${pair.cation} ${pair.anion}`, page.settings, page.names);
     const made = button(texts.signs[pair.verdict] ?? pair.verdict, () => show(reason, ...reasonOf(pair, page)), {
-        "aria-label": `${pair.cation} ${pair.anion}: ${pair.verdict}`,
+        "aria-label": `${name}: ${pair.verdict}`,
         "data-verdict": pair.verdict,
         tabindex: -1,
     });

@@ -32,10 +32,11 @@ for (const [name, hash, reach] of states) {
 }
 
 test("the live region is there at load, and empty", async () => {
-    for (const hash of ["#practice/4821/3/titration:3", "#tables", "#practice/0/1/mixed"]) {
+    for (const hash of ["#practice/4821/3/titration:3", "#tables", "#practice/0/1/mixed", "#sheet/4821/2*titration"]) {
         const page = await openPage(browser, hash);
         const region = page.getByRole("status").and(page.locator("#announcement"));
         assert.equal(await region.count(), 1, hash);
+        await page.waitForTimeout(200); // An announcement takes a while to come.
         assert.equal(await region.textContent(), "", hash);
         await leave(page);
     }

@@ -134,7 +134,7 @@ test("the first Tab is the link that skips to the exercise", async () => {
     const page = await open("#practice/4821/3/titration");
     const hash = new URL(page.url()).hash;
     await page.keyboard.press("Tab");
-    assert.equal(await isFocused(page.getByRole("link", { name: "Skip to the exercise" })), true);
+    assert.equal(await isFocused(page.getByRole("link", { name: "Skip to the content" })), true);
     assert.equal((await page.evaluate(focusShown)).problem, "");
     await page.keyboard.press("Enter");
     assert.equal(await isFocused(page.getByRole("main")), true);

@@ -161,6 +161,8 @@ for (const colorScheme of ["light", "dark"]) {
         const page = await openPage(browser, "#practice/4821/3/titration:3", { ...forced, colorScheme });
         await page.locator("#answer").fill("777");
         await press(page, "Check");
+        await press(page, "Show the answer");
+        await page.locator(".over").first().waitFor();
         const drawn = await page.evaluate(() => {
             const probe = document.createElement("i");
             document.body.append(probe);

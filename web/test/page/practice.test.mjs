@@ -1,4 +1,5 @@
 import assert from "node:assert/strict";
+import { readFile } from "node:fs/promises";
 import { after, before, test } from "node:test";
 import { check, go, leave, openChromium, openLesson, openPage, panel, samples, type } from "./support.mjs";
 
@@ -129,11 +130,16 @@ test("a set of exercises ends in a summary of what was solved how", async () => 
     await page.getByRole("button", { name: "Next" }).click();
     await page.getByRole("button", { name: "Finish" }).click();
     await page.getByRole("heading", { name: "Summary of paper 4821" }).waitFor();
+    assert.match(await page.title(), /^Summary of paper 4821/);
     const cells = await page.locator(".summary tr td:last-child").allInnerTexts();
     assert.deepEqual(cells, ["solved at the first try", "solved with help", "answer shown", "not solved", "not solved"]);
     const download = page.waitForEvent("download");
     await page.getByRole("button", { name: "Save" }).click();
     assert.equal((await download).suggestedFilename(), "paper-4821-summary.txt");
+    const saved = await readFile(await (await download).path(), "utf8");
+    assert.match(saved, /^Name: $/m);
+    assert.match(saved, /^3\. Molar mass, level\s1: answer shown$/m);
+    assert.match(saved, /^#practice\/4821\/6\/molar-mass:1\?set=5&v=1$/m);
     await leave(page);
 });
 
@@ -152,6 +158,31 @@ test("three in a row at the first try tick a kind, and the record can be cleared
     assert.match(await row.innerText(), /3\s+0\s+0/);
     await page.getByRole("button", { name: "Clear my record" }).click();
     await page.getByText("Nothing solved yet on this device.").waitFor();
+    await go(page, "#practice/4821/1/ion-formula:1");
+    await page.getByRole("heading", { name: "Exercise 1" }).waitFor();
+    assert.equal(await page.locator("#answer").inputValue(), "", "what was typed is cleared as well");
+    assert.equal(await page.locator(".mark").isVisible(), false);
+    await leave(page);
+});
+
+test("a choice that stays as it is starts again too", async () => {
+    const page = await openPage(browser, "#practice/4821/1/ion-formula:1?v=1");
+    await panel(page, "Choose exercises").click();
+    await page.getByRole("button", { name: "Start" }).click();
+    await page.waitForFunction(() => document.activeElement?.id === "answer");
+    assert.equal(await page.getByRole("button", { name: "Start" }).isVisible(), false);
+    await leave(page);
+});
+
+test("Practice leads back to the exercise, after a reload of the tables as well", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration:1,dilution?set=5&v=1");
+    await page.getByRole("link", { name: "Tables" }).click();
+    await page.getByRole("heading", { name: "Relative atomic masses" }).waitFor();
+    await page.reload();
+    await page.getByRole("heading", { name: "Relative atomic masses" }).waitFor();
+    await page.getByRole("link", { name: "Practice" }).click();
+    await page.getByRole("heading", { name: "Exercise 3 of 5" }).waitFor();
+    assert.equal(new URL(page.url()).hash, "#practice/4821/3/titration:1,dilution?set=5&v=1");
     await leave(page);
 });
 
@@ -187,7 +218,24 @@ test("units, decimal sign and names are as the reader wishes, and stay so", asyn
     await page.reload();
     await page.locator(".prompt").waitFor();
     assert.equal(await page.locator(".prompt").innerText(), prompt);
-    await go(page, "#practice/4821/1/compound-formula:1");
+    assert.match(await page.locator(".asked").innerText(), /mol\s*dm\s*−1|mol\s*dm\s*−3/);
+    await leave(page);
+});
+
+test("American names stand in the question and in the tables", async () => {
+    const differs = (number) => lesson.exercise(4821, number, "compound-formula:2").prompt.find((span) => span.american !== undefined);
+    const number = Array.from({ length: 60 }, (_, at) => at + 1).find(differs);
+    const { name, american } = differs(number);
+    const page = await openPage(browser, `#practice/4821/${number}/compound-formula:2`);
+    await panel(page, "How it is written").click();
+    assert.ok((await page.locator(".prompt").innerText()).includes(name));
+    await page.getByLabel("American").check();
+    assert.ok((await page.locator(".prompt").innerText()).includes(american));
+    await go(page, "#tables");
+    await page.locator(".solubility").waitFor();
+    const names = await page.locator(".solubility").evaluate((table) => [...table.querySelectorAll("th, [aria-label]")].map((one) => one.getAttribute("aria-label") ?? one.textContent));
+    assert.ok(names.includes("lithium acetate: soluble") && names.includes("aluminum"), names.join("; "));
+    assert.deepEqual(names.filter((one) => /ethanoate|aluminium/.test(one)), []);
     await leave(page);
 });
 
@@ -196,6 +244,7 @@ test("two tabs keep their exercises apart and add to one record", async () => {
     const first = await openPage(browser, "#practice/4821/1/ion-formula:1", { context });
     const second = await openPage(browser, "#practice/4821/1/ion-formula:1", { context });
     await type(first, "Zz");
+    await second.reload();
     assert.equal(await second.locator("#answer").inputValue(), "");
     for (const page of [first, second]) {
         await type(page, lesson.exercise(4821, 1, "ion-formula:1").key.text);
@@ -204,6 +253,7 @@ test("two tabs keep their exercises apart and add to one record", async () => {
     }
     await panel(second, "My record").click();
     assert.match(await second.getByRole("row", { name: /Formula of an ion/ }).innerText(), /2\s+0\s+0/);
+    assert.deepEqual([...first.problems, ...second.problems], []);
     await context.close();
 });
 

@@ -3,7 +3,7 @@ import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
 import { after, before, test } from "node:test";
 import { leafTexts, letters, pageSize, pagesOf, plain, shadesOf } from "./pdf.mjs";
-import { compareWithApproved, leave, openChromium, openLesson, openPage } from "./support.mjs";
+import { compareWithApproved, go, leave, openChromium, openLesson, openPage } from "./support.mjs";
 
 const lesson = await openLesson();
 let browser;
@@ -194,6 +194,25 @@ test("the page-break option does something", async () => {
     };
     assert.deepEqual(await keyPages("together"), ["Papers4821to4823"]);
     assert.deepEqual(await keyPages("apart"), ["Paper4821,version1", "Paper4822,version2", "Paper4823,version3"]);
+});
+
+test("a sheet that is left while it is being made is given up", async () => {
+    const page = await openPage(browser, "#sheet/1/20*titration?versions=30");
+    await go(page, "#tables");
+    await page.getByRole("heading", { name: "Relative atomic masses" }).waitFor();
+    await page.waitForTimeout(500);
+    assert.equal(await page.locator("#announcement").textContent(), "");
+    await leave(page);
+});
+
+test("what is typed just before the sheet is left does not bring it back", async () => {
+    const page = await openSheet("#sheet/4821/2*titration");
+    await page.getByLabel("Title").fill("Monday");
+    await go(page, "#tables");
+    await page.waitForTimeout(400);
+    assert.equal(new URL(page.url()).hash, "#tables");
+    assert.match(await page.title(), /^Tables/);
+    await leave(page);
 });
 
 test("how the keys of several versions are printed is chosen where there are several", async () => {
