@@ -11,15 +11,21 @@ export function pageSize(pdf) {
     return [...found].join(", ");
 }
 
-// A page: its lines from top to bottom, each with its `text` without blanks, and its `top` and `bottom` in
-// millimetres from the upper edge. Small and raised or lowered words belong to the line that they are at.
+// A page: its lines from top to bottom, each with its `text` without blanks, its `top` and `bottom` in
+// millimetres from the upper edge, and its `left` and `right` from the left one. Small and raised or lowered words belong to the line that they are at.
 export function pagesOf(pdf) {
     const pages = read("pdftotext", ["-bbox", "-", "-"], pdf, "utf8").split("<page ").slice(1);
-    return pages.map((page) => linesOf([...page.matchAll(/xMin="([\d.-]+)" yMin="([\d.-]+)" xMax="[\d.-]+" yMax="([\d.-]+)">(.*?)<\/word>/g)]));
+    return pages.map((page) => linesOf([...page.matchAll(/xMin="([\d.-]+)" yMin="([\d.-]+)" xMax="([\d.-]+)" yMax="([\d.-]+)">(.*?)<\/word>/g)]));
 }
 
 function linesOf(words) {
-    const placed = words.map(([, x, top, bottom, text]) => ({ x: +x, top: top / millimetre, bottom: bottom / millimetre, text: plain(text) }));
+    const placed = words.map(([, left, top, right, bottom, text]) => ({
+        left: left / millimetre,
+        top: top / millimetre,
+        right: right / millimetre,
+        bottom: bottom / millimetre,
+        text: plain(text),
+    }));
     const lines = [];
     for (const word of placed.sort((one, other) => height(other) - height(one))) {
         const line = lines.find((one) => overlap(one, word) > 0.4 * height(word));
@@ -31,7 +37,11 @@ function linesOf(words) {
     }
     return lines
         .sort((one, other) => one.top - other.top)
-        .map(({ top, bottom, words: inside }) => ({ top, bottom, text: inside.sort((one, other) => one.x - other.x).map((word) => word.text).join("") }));
+        .map(({ top, bottom, words: inside }) => {
+            const inOrder = inside.sort((one, other) => one.left - other.left);
+            const right = Math.max(...inside.map((word) => word.right));
+            return { top, bottom, left: inOrder[0].left, right, text: inOrder.map((word) => word.text).join("") };
+        });
 }
 
 const height = ({ top, bottom }) => bottom - top;

@@ -165,6 +165,21 @@ test("three in a row at the first try tick a kind, and the record can be cleared
     await leave(page);
 });
 
+test("a tablet leaves alone what is typed", async () => {
+    for (const kind of ["titration", "compound-formula", "ion-formula", "solubility:3", "neutralisation"]) {
+        const page = await openPage(browser, `#practice/4821/1/${kind}`);
+        const given = await page.locator("#answer").evaluate((field) => ["autocapitalize", "autocorrect", "autocomplete", "spellcheck", "enterkeyhint"].map((name) => field.getAttribute(name)));
+        assert.deepEqual(given, ["off", "off", "off", "false", "go"], kind);
+        await leave(page);
+    }
+});
+
+test("an address tells the version of the library's exercises", async () => {
+    const page = await openPage(browser, "");
+    assert.match(new URL(page.url()).hash, new RegExp(`\\bv=${lesson.exercise(1, 1, "mixed").version}$`));
+    await leave(page);
+});
+
 test("a choice that stays as it is starts again too", async () => {
     const page = await openPage(browser, "#practice/4821/1/ion-formula:1?v=1");
     await panel(page, "Choose exercises").click();

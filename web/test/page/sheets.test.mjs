@@ -111,9 +111,10 @@ for (const [name, hash] of Object.entries(sheets)) {
 
     test(`${name}: nothing is outside the margins, and no exercise is cut by the end of a page`, async () => {
         const { overfull, pages } = await sheet(hash);
-        const height = hash.includes("Letter") ? 279.4 : 297;
-        for (const { top, bottom, text } of pages.flat()) {
-            assert.ok(top > 13 && bottom < height - 13, `${text}: ${top} to ${bottom} mm`);
+        const [width, height] = hash.includes("Letter") ? [215.9, 279.4] : [210, 297];
+        for (const { top, bottom, left, right, text } of pages.flat()) {
+            assert.ok(top > 13 && bottom < height - 13, `${text}: ${top} to ${bottom} mm down`);
+            assert.ok(left > 17.5 && right < width - 17.5, `${text}: ${left} to ${right} mm across`);
         }
         assert.equal(overfull, 0);
     });

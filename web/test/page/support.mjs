@@ -115,6 +115,7 @@ export async function openLesson() {
         exportText,
         exercise: (paper, number, kind) => JSON.parse(exerciseText(paper, number, kind)),
         kinds: () => JSON.parse(take(module.lesson_kinds())),
+        tables: () => JSON.parse(take(module.lesson_tables())),
     };
 }
 
