@@ -39,9 +39,9 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
         element(
             "div",
             { class: "fields" },
-            labelled("sheet-paper", texts.choosePaper, paper, anew),
-            labelled("versions", texts.versions, versions),
-            labelled("sheet-title", texts.sheetTitle, title),
+            hinted(labelled("sheet-paper", texts.choosePaper, paper, anew), paper, texts.sheetPaperHint),
+            hinted(labelled("versions", texts.versions, versions), versions, texts.versionsHint(mostVersions)),
+            hinted(labelled("sheet-title", texts.sheetTitle, title), title, texts.titleHint),
             labelled("room", texts.room, room),
             labelled("parts", texts.parts, parts),
             labelled("key", texts.keyForm, key),
@@ -154,6 +154,13 @@ function countRows(counts: CountField[], kinds: KindInfo[]): HTMLElement {
 function labelled(id: string, label: string, control: HTMLElement, ...further: HTMLElement[]): HTMLElement {
     control.id = id;
     return element("div", { class: "labelled" }, element("label", { for: id }, label), element("div", { class: "field" }, control, ...further));
+}
+
+function hinted(box: HTMLElement, control: HTMLElement, text: string): HTMLElement {
+    const hint = element("p", { class: "hint", id: `${control.id}-hint` }, text);
+    control.setAttribute("aria-describedby", hint.id);
+    box.append(hint);
+    return box;
 }
 
 function choice(words: Record<string, string>, present: string): HTMLSelectElement {

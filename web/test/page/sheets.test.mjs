@@ -220,7 +220,7 @@ test("how the keys of several versions are printed is chosen where there are sev
     const page = await openSheet("#sheet/4821/2*titration");
     const keys = page.getByLabel("Keys of several versions");
     assert.ok(await keys.isDisabled());
-    await page.getByLabel("Versions", { exact: true }).fill("2");
+    await change(page, () => page.getByLabel("Versions", { exact: true }).fill("2"));
     assert.ok(await keys.isEnabled());
     await leave(page);
 });
