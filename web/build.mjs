@@ -5,15 +5,16 @@ import { createHash } from "node:crypto";
 import { mkdir, readFile, writeFile } from "node:fs/promises";
 import { dirname, join, resolve } from "node:path";
 import { fileURLToPath } from "node:url";
-import { deflateSync } from "node:zlib";
 import { build } from "esbuild";
+import { zlibSync } from "fflate";
 
 const here = dirname(fileURLToPath(import.meta.url));
 const [wasm, target] = process.argv.slice(2);
 
 await mkdir(dirname(target), { recursive: true });
+// By fflate, whose bytes are the same with every version of Node.
 const compressed = resolve(dirname(target), "lesson.bin");
-await writeFile(compressed, deflateSync(await readFile(wasm), { level: 9 }));
+await writeFile(compressed, zlibSync(await readFile(wasm), { level: 9 }));
 
 const script = await bundle("src/main.ts");
 const style = await bundle("style/page.css");
