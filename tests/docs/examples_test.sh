@@ -5,11 +5,12 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
-# The blocks of a text between lines of two patterns, each with a form feed behind it.
+# The blocks of a text between lines of two patterns, each with a form feed behind it. The patterns
+# come by the environment, since awks differ in what `-v` makes of a backslash.
 blocks() {
-    awk -v from="$1" -v to="$2" '
-        !inside && $0 ~ from { inside = 1; next }
-        inside && $0 ~ to { inside = 0; printf "\f"; next }
+    from=$1 to=$2 awk '
+        !inside && $0 ~ ENVIRON["from"] { inside = 1; next }
+        inside && $0 ~ ENVIRON["to"] { inside = 0; printf "\f"; next }
         inside'
 }
 
