@@ -79,10 +79,13 @@ struct GivenCompound {
 };
 using Given = std::variant<GivenQuantity, GivenIon, GivenCompound>;
 
-// One step of a worked solution: a sentence, and a line of mathematics, which may be empty.
+// One step of a worked solution: a sentence, and a line of mathematics, which may be empty. The hint
+// is for who wants to take the step without seeing it: other words than the sentence, and nothing of
+// the result.
 struct Step {
     Spans say;
     Spans math;
+    Spans hint = {};
 };
 
 // A common mistake: the answer that it leads to, as it might be typed, and a sentence that helps

@@ -176,6 +176,7 @@ void add(Json& json, const Step& step)
     json.object([&] {
         add(json.key("say"), step.say);
         add(json.key("math"), step.math);
+        add(json.key("hint"), step.hint);
     });
 }
 

@@ -28,7 +28,8 @@ Exercise titration()
         Equation{{{2, "HCl"}, {1, "Na2CO3"}}, {{2, "NaCl"}, {1, "H2O"}, {1, "CO2"}}};
     exercise.key = "0.0456 mol/L";
     exercise.answer = NumberAnswer{ratio(45570, 1000000)};
-    exercise.solution = {{line("Ratio."), line(quantity("n", "HCl"), " = ", number("2.28e-3"))},
+    exercise.solution = {{line("Ratio."), line(quantity("n", "HCl"), " = ", number("2.28e-3")),
+                          line("How many react with one?")},
                          {line("Check."), {}}};
     exercise.slips = {{"0.182 mol/L", ratio(18228, 100000), "Look at the numbers."}};
     return exercise;
@@ -48,8 +49,9 @@ TEST(ExerciseJsonTest, ATitrationInItsOrder)
         "equation":{"left":[[2,"HCl"],[1,"Na2CO3"]],"right":[[2,"NaCl"],[1,"H2O"],[1,"CO2"]]},
         "key":{"text":"0.0456 mol/L","value":0.04557},
         "solution":[{"say":[{"text":"Ratio."}],
-                     "math":[{"quantity":"n","of":"HCl"},{"text":" = "},{"number":"2.28e-3"}]},
-                    {"say":[{"text":"Check."}],"math":[]}],
+                     "math":[{"quantity":"n","of":"HCl"},{"text":" = "},{"number":"2.28e-3"}],
+                     "hint":[{"text":"How many react with one?"}]},
+                    {"say":[{"text":"Check."}],"math":[],"hint":[]}],
         "slips":[{"text":"0.182 mol/L","value":0.18228,"sentence":"Look at the numbers."}]})";
     EXPECT_EQ(Json::parse(exerciseJson(titration())).dump(1), Json::parse(expected).dump(1));
     EXPECT_NE(exerciseJson(titration()).find("[22.10,21.70,21.75]"), std::string::npos)
