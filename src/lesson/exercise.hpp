@@ -79,9 +79,9 @@ struct GivenCompound {
 };
 using Given = std::variant<GivenQuantity, GivenIon, GivenCompound>;
 
-// One step of a worked solution: a sentence, and a line of mathematics, which may be empty. The hint
-// is for who wants to take the step without seeing it: other words than the sentence, and nothing of
-// the result.
+// One step of a worked solution: a sentence, and a line of mathematics, which may be empty. The
+// hint is for who wants to take the step without seeing it: other words than the sentence, and
+// nothing of the result.
 struct Step {
     Spans say;
     Spans math;
