@@ -545,6 +545,8 @@ Mark markCoefficients(const TypedEquation& typed, const Roles& roles, const Assi
     return markOf(Verdict::correct, sentences::correct);
 }
 
+constexpr std::string_view typeEquation = "Type formulas on both sides of an arrow: ->.";
+
 } // namespace
 
 std::string sentences::isNot(std::string_view formula, std::string_view role, std::string_view hint)
@@ -556,7 +558,7 @@ Mark markEquation(const EquationAnswer& answer, std::string_view typed)
 {
     const std::string plain = spelledOut(plainTyped(typed));
     if (plain.empty()) {
-        return {Verdict::unreadable, "Type formulas on both sides of an arrow: ->."};
+        return markOf(Verdict::unreadable, typeEquation);
     }
     const TypedEquation equation = readEquation(plain);
     const Roles roles = rolesOf(answer);
@@ -572,13 +574,13 @@ Mark markEquation(const EquationAnswer& answer, std::string_view typed)
                 return markOf(Verdict::slip, other.sentence);
             }
         }
-        return unreadable(equation.unread);
+        return unreadable(equation.unread, typeEquation);
     }
     if (equation.arrow == Arrow::none) {
         return {Verdict::unreadable, "Put an arrow between the two sides. You can type ->."};
     }
     if (assignment.tooMany != nullptr) {
-        return unreadable(assignment.tooMany->text);
+        return unreadable(assignment.tooMany->text, typeEquation);
     }
     return hasRightSubstances(assignment) ? markCoefficients(equation, roles, assignment)
                                           : markSubstances(roles, assignment);

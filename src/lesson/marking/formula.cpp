@@ -25,6 +25,7 @@ constexpr int oxygen = 8;
 struct Attempt {
     const FormulaAnswer& answer;
     const std::vector<Slip>& slips;
+    std::string_view whatToType;
     std::string plain;
     TypedFormula read;
     std::vector<std::string> right; // the key and its other spellings
@@ -110,7 +111,7 @@ std::optional<Mark> slipWhen(bool isMade, std::string_view sentence)
 
 std::optional<Mark> nothingTyped(const Attempt& attempt)
 {
-    return attempt.plain.empty() ? std::optional(markOf(Verdict::unreadable, "Type a formula."))
+    return attempt.plain.empty() ? std::optional(markOf(Verdict::unreadable, attempt.whatToType))
                                  : std::nullopt;
 }
 
@@ -164,7 +165,7 @@ std::optional<Mark> notRead(const Attempt& attempt)
     if (isNameOf(attempt.plain, *attempt.answer.cation, *attempt.answer.anion)) {
         return markOf(Verdict::unreadable, "That is its name. Type its formula.");
     }
-    return unreadable(attempt.read.unread);
+    return unreadable(attempt.read.unread, attempt.whatToType);
 }
 
 std::optional<Mark> chargesLeftIn(const Attempt& attempt)
@@ -321,9 +322,10 @@ std::string onlyDifference(const Symbols& typed, const Symbols& rightOnes)
 } // namespace
 
 Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
-                 std::string_view typed)
+                 std::string_view typed, std::string_view whatToType)
 {
-    Attempt attempt = {answer, slips, withoutBond(spelledOut(plainTyped(typed))), {}, {}, {}};
+    Attempt attempt = {answer, slips, whatToType, withoutBond(spelledOut(plainTyped(typed))),
+                       {},     {},    {}};
     attempt.read = readFormula(attempt.plain);
     attempt.right = spellingsOf(compoundFormula(*answer.cation, *answer.anion));
     attempt.rightAtoms = readFormula(attempt.right.front()).atoms;

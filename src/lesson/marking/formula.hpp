@@ -10,9 +10,10 @@
 namespace lesson
 {
 
-// Marks the typed formula of a compound.
+// Marks the typed formula of a compound; `whatToType` is told where it cannot be read.
 Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
-                 std::string_view typed);
+                 std::string_view typed,
+                 std::string_view whatToType = "Type a formula, such as H2O.");
 
 // The text without a Roman numeral behind its front, one for each way to read one: "CuIISO4" ->
 // "CuSO4", "CuISO4". A raised one goes with its "^".

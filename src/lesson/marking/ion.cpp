@@ -19,6 +19,9 @@ namespace lesson
 namespace
 {
 
+// Of an ion that is never asked for.
+constexpr std::string_view typeIon = "Type a formula with its charge, such as Sr2+.";
+
 constexpr std::string_view digits = "0123456789";
 constexpr std::string_view signs = "+-";
 constexpr std::string_view digitsAndSigns = "0123456789+-";
@@ -278,9 +281,8 @@ std::optional<Mark> slipWhen(bool isMade, std::string_view sentence)
 
 std::optional<Mark> nothingTyped(const Attempt& attempt)
 {
-    return attempt.plain.empty()
-               ? std::optional(markOf(Verdict::unreadable, "Type a formula with its charge."))
-               : std::nullopt;
+    return attempt.plain.empty() ? std::optional(markOf(Verdict::unreadable, typeIon))
+                                 : std::nullopt;
 }
 
 std::optional<Mark> right(const Attempt& attempt)
@@ -350,7 +352,7 @@ std::optional<Mark> notRead(const Attempt& attempt)
         return markOf(Verdict::unreadable, "That is its name. Type its formula with its charge.");
     }
     const std::string& unread = attempt.readings.back().formula.unread;
-    return unreadable(unread.empty() ? attempt.plain : unread);
+    return unreadable(unread.empty() ? attempt.plain : unread, typeIon);
 }
 
 std::optional<Mark> wrongCharge(const Attempt& attempt)

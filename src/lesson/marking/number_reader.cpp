@@ -29,7 +29,7 @@ namespace
 
 std::string cannotRead(std::string_view part)
 {
-    return unreadable(part).sentence;
+    return unreadable(part, "Type a number.").sentence;
 }
 
 // Where the number begins: at the first digits that are no part of a symbol, which they are behind

@@ -352,6 +352,7 @@ constexpr std::string_view lookAgain =
     "Not right yet. Check each new pair of ions against the rules.";
 
 constexpr std::string_view typeYesOrNo = "Type yes or no.";
+constexpr std::string_view typeFormulaOrNone = "Type a formula, or none.";
 
 // No precipitate forms, so that every formula is wrong.
 Mark markNone(const std::vector<Slip>& slips, const std::string& plain)
@@ -363,7 +364,8 @@ Mark markNone(const std::vector<Slip>& slips, const std::string& plain)
         return markOf(Verdict::slip, slip->sentence);
     }
     const TypedFormula read = readFormula(plain);
-    return read.isRead ? markOf(Verdict::wrong, lookAgain) : unreadable(read.unread);
+    return read.isRead ? markOf(Verdict::wrong, lookAgain)
+                       : unreadable(read.unread, typeFormulaOrNone);
 }
 
 // Whether the state in solution stands behind the formula.
@@ -378,7 +380,7 @@ bool isDissolved(const std::string& plain)
 Mark markFormulaOf(const PrecipitateAnswer& answer, const std::vector<Slip>& slips,
                    const std::string& plain)
 {
-    const Mark mark = markFormula({answer.cation, answer.anion}, slips, plain);
+    const Mark mark = markFormula({answer.cation, answer.anion}, slips, plain, typeFormulaOrNone);
     if (mark.verdict == Verdict::correct) {
         return isDissolved(plain) ? markOf(Verdict::slip, "A precipitate is a solid: (s).")
                                   : Mark{Verdict::correct, joined(sentences::correct, answer.rule)};
@@ -396,8 +398,7 @@ Mark markSolubility(const SolubilityAnswer& answer, std::string_view typed)
     }
     const Said said = saidWithReason(splitWords(words));
     if (said == Said::unclear) {
-        return {Verdict::unreadable,
-                joined(unreadable(plainTyped(typed)).sentence + ".", typeYesOrNo)};
+        return unreadable(plainTyped(typed), typeYesOrNo);
     }
     return (said == Said::itDissolves) == answer.isSoluble
                ? Mark{Verdict::correct, joined(sentences::correct, answer.rule)}
@@ -410,7 +411,7 @@ Mark markPrecipitate(const PrecipitateAnswer& answer, const std::vector<Slip>& s
     const std::string words = wordsOf(typed);
     const bool hasPrecipitate = answer.cation != nullptr;
     if (words.empty()) {
-        return markOf(Verdict::unreadable, "Type a formula, or none.");
+        return markOf(Verdict::unreadable, typeFormulaOrNone);
     }
     if (saysNone(words)) {
         return hasPrecipitate ? markOf(Verdict::wrong, lookAgain)

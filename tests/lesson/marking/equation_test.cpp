@@ -138,16 +138,20 @@ TEST(EquationMarkTest, WhatCannotBeRead)
         soda(),
         {{"", Verdict::unreadable, "Type formulas on both sides of an arrow: ->."},
          {" \t\u00A0", Verdict::unreadable, "Type formulas on both sides of an arrow: ->."},
-         {"hcl + na2co3 -> nacl + h2o + co2", Verdict::unreadable, "I can't read this part: 'hcl'"},
+         {"hcl + na2co3 -> nacl + h2o + co2", Verdict::unreadable,
+          "I can't read this part: 'hcl'. Type formulas on both sides of an arrow: ->."},
          {"2HCl + Na2CO3 -> 2NaCl + H2O + heat", Verdict::unreadable,
-          "I can't read this part: 'heat'"},
-         {"2HCl + Xy -> 2NaCl", Verdict::unreadable, "I can't read this part: 'Xy'"},
-         {"2H+ + Na2CO3 -> 2Na+ + H2O + CO2", Verdict::unreadable, "I can't read this part: '2H+'"},
+          "I can't read this part: 'heat'. Type formulas on both sides of an arrow: ->."},
+         {"2HCl + Xy -> 2NaCl", Verdict::unreadable,
+          "I can't read this part: 'Xy'. Type formulas on both sides of an arrow: ->."},
+         {"2H+ + Na2CO3 -> 2Na+ + H2O + CO2", Verdict::unreadable,
+          "I can't read this part: '2H+'. Type formulas on both sides of an arrow: ->."},
          {"0HCl + 0Na2CO3 -> 0NaCl + 0H2O + 0CO2", Verdict::unreadable,
-          "I can't read this part: '0HCl'"},
+          "I can't read this part: '0HCl'. Type formulas on both sides of an arrow: ->."},
          {"2HCl + Na2CO3(aqueous) -> 2NaCl", Verdict::unreadable,
-          "I can't read this part: 'aqueous)'"},
-         {"\xFF\xFE -> NaCl", Verdict::unreadable, "I can't read this part: '\uFFFD\uFFFD'"}});
+          "I can't read this part: 'aqueous)'. Type formulas on both sides of an arrow: ->."},
+         {"\xFF\xFE -> NaCl", Verdict::unreadable,
+          "I can't read this part: '\uFFFD\uFFFD'. Type formulas on both sides of an arrow: ->."}});
 }
 
 TEST(EquationMarkTest, NoArrow)

@@ -292,13 +292,13 @@ TEST(FormulaMarkTest, WhatCannotBeReadIsTold)
         const char* sentence;
     };
     const Row rows[] = {
-        {"", "Type a formula."},
-        {" \n ", "Type a formula."},
-        {"CaXy", "I can't read this part: 'Xy'"},
-        {"Ca(OH", "I can't read this part: '(OH'"},
-        {"what?", "I can't read this part: 'what?'"},
-        {"Ca\x80", "I can't read this part: '\uFFFD'"},
-        {"Ca\x01", "I can't read this part: '\uFFFD'"},
+        {"", "Type a formula, such as H2O."},
+        {" \n ", "Type a formula, such as H2O."},
+        {"CaXy", "I can't read this part: 'Xy'. Type a formula, such as H2O."},
+        {"Ca(OH", "I can't read this part: '(OH'. Type a formula, such as H2O."},
+        {"what?", "I can't read this part: 'what?'. Type a formula, such as H2O."},
+        {"Ca\x80", "I can't read this part: '\uFFFD'. Type a formula, such as H2O."},
+        {"Ca\x01", "I can't read this part: '\uFFFD'. Type a formula, such as H2O."},
         {"calcium hydroxide", "That is its name. Type its formula."},
         {"Calcium Hydroxide", "That is its name. Type its formula."},
     };

@@ -303,15 +303,16 @@ TEST(IonMarkTest, WhatCannotBeReadIsTold)
         const char* sentence;
     };
     const Row rows[] = {
-        {"", "Type a formula with its charge."},
-        {"  ", "Type a formula with its charge."},
-        {"2-", "I can't read this part: '2-'"},
-        {"-", "I can't read this part: '-'"},
-        {"Xy2-", "I can't read this part: 'Xy'"},
-        {"SO4)2-", "I can't read this part: ')'"},
+        {"", "Type a formula with its charge, such as Sr2+."},
+        {"  ", "Type a formula with its charge, such as Sr2+."},
+        {"2-", "I can't read this part: '2-'. Type a formula with its charge, such as Sr2+."},
+        {"-", "I can't read this part: '-'. Type a formula with its charge, such as Sr2+."},
+        {"Xy2-", "I can't read this part: 'Xy'. Type a formula with its charge, such as Sr2+."},
+        {"SO4)2-", "I can't read this part: ')'. Type a formula with its charge, such as Sr2+."},
         {"sulfate", "That is its name. Type its formula with its charge."},
         {"Sulfate ion", "That is its name. Type its formula with its charge."},
-        {"\xFF\xFE", "I can't read this part: '\uFFFD\uFFFD'"},
+        {"\xFF\xFE",
+         "I can't read this part: '\uFFFD\uFFFD'. Type a formula with its charge, such as Sr2+."},
     };
     for (const Row& row : rows) {
         const Mark mark = markFor("sulfate", row.typed);

@@ -411,11 +411,12 @@ TEST(NumberReaderTest, QuotesThePartThatItCannotRead)
     };
     // clang-format on
     for (const ReadCase& c : cases) {
-        EXPECT_EQ(read(c.typed), "I can't read this part: '" + std::string(c.expected) + "'")
+        EXPECT_EQ(read(c.typed),
+                  "I can't read this part: '" + std::string(c.expected) + "'. Type a number.")
             << c.typed;
     }
     EXPECT_EQ(read("0.0456 = " + std::string(100, 'x')),
-              "I can't read this part: '= " + std::string(38, 'x') + "…'");
+              "I can't read this part: '= " + std::string(38, 'x') + "…'. Type a number.");
 }
 
 TEST(NumberReaderTest, AsksForANumberWhereNothingIs)

@@ -474,11 +474,11 @@ TEST(MarkNumberTest, WhatCannotBeReadIsSaid)
     // clang-format off
     expectMarks({ratio(4557, 100000)}, molarAsk, {}, {
         {"", "unreadable: Type a number."},
-        {"no idea", "unreadable: I can't read this part: 'no idea'"},
+        {"no idea", "unreadable: I can't read this part: 'no idea'. Type a number."},
         {"0.0456 g/L", "unreadable: The answer should be in mol/L."},
         {"1,250", "unreadable: Do you mean 1250 or 1.250?"},
         {"c = n/V = 0.0456", correct},
-        {"c = 0.00114/0.025 = 0.0456", "unreadable: I can't read this part: '/0.025 = 0.0456'"},
+        {"c = 0.00114/0.025 = 0.0456", "unreadable: I can't read this part: '/0.025 = 0.0456'. Type a number."},
     });
     // clang-format on
 }

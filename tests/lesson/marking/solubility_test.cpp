@@ -203,12 +203,15 @@ TEST(PrecipitateMarkTest, TheFormulaInItsSpellings)
         {"PbI2 or KNO3", Verdict::unreadable, alone},
         {"Pb(NO3)2 + 2KI -> PbI2 + 2KNO3", Verdict::unreadable, alone},
         {"Pb^2+ + 2I^- → PbI2", Verdict::unreadable, alone},
-        {"neither dissolves", Verdict::unreadable, "I can't read this part: 'neither dissolves'"},
-        {"both are insoluble", Verdict::unreadable, "I can't read this part: 'both are insoluble'"},
-        {"nothing but PbI2", Verdict::unreadable, "I can't read this part: 'nothing but PbI2'"},
+        {"neither dissolves", Verdict::unreadable,
+         "I can't read this part: 'neither dissolves'. Type a formula, or none."},
+        {"both are insoluble", Verdict::unreadable,
+         "I can't read this part: 'both are insoluble'. Type a formula, or none."},
+        {"nothing but PbI2", Verdict::unreadable,
+         "I can't read this part: 'nothing but PbI2'. Type a formula, or none."},
         {"", Verdict::unreadable, "Type a formula, or none."},
         {"lead(II) iodide", Verdict::unreadable, "That is its name. Type its formula."},
-        {"yes", Verdict::unreadable, "I can't read this part: 'yes'"},
+        {"yes", Verdict::unreadable, "I can't read this part: 'yes'. Type a formula, or none."},
     };
     for (const Row& row : rows) {
         const Mark mark = markPrecipitate(leadIodide(), slips, row.typed);
@@ -310,7 +313,8 @@ TEST(PrecipitateMarkTest, AFormulaWhereThereIsNone)
     EXPECT_EQ(markPrecipitate(nothing, slips, "").verdict, Verdict::unreadable);
     EXPECT_EQ(markPrecipitate(nothing, slips, "CuCO3 + NH4Cl").sentence,
               "Type the formula of the precipitate alone, or none.");
-    EXPECT_EQ(markPrecipitate(nothing, slips, "?").sentence, "I can't read this part: '?'");
+    EXPECT_EQ(markPrecipitate(nothing, slips, "?").sentence,
+              "I can't read this part: '?'. Type a formula, or none.");
     EXPECT_EQ(markPrecipitate(nothing, slips, std::string(1000000, '[')).verdict,
               Verdict::unreadable);
 }
