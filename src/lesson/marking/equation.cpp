@@ -62,6 +62,12 @@ States statesOfSalt(const Pair& pair)
     return isSoluble(pair) ? States{"aq", ""} : States{"s", ""};
 }
 
+// One that dissolves may be taken as the solid all the same.
+States statesOfBase(const Pair& pair)
+{
+    return statesOfSalt(pair) == States{"s", ""} ? States{"s", ""} : solidOrDissolved;
+}
+
 Roles rolesOf(const EquationAnswer& answer)
 {
     const Equation equation = neutralisationOf(*answer.acid, answer.base);
@@ -72,7 +78,7 @@ Roles rolesOf(const EquationAnswer& answer)
     const Role inOrder[] = {
         {"acid", {"aq"}, findIon("hydrogen"), acidAnion},
         baseAnion == nullptr ? Role{"base", {"aq", "g"}, nullptr, nullptr}
-                             : Role{"base", solidOrDissolved, cation, baseAnion},
+                             : Role{"base", statesOfBase({cation, baseAnion}), cation, baseAnion},
         {"salt", saltStates, cation, acidAnion},
         {"", {"l"}, nullptr, nullptr},
         {"", {"g"}, nullptr, nullptr},

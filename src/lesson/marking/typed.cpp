@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "lesson/marking/markup.hpp"
 #include "lesson/marking/reading.hpp"
 #include "lesson/utf8.hpp"
 
@@ -45,7 +46,10 @@ constexpr Spelling spellings[] = {
     {"\u279F", "->"}, {"\u27A0", "->"}, {"\u27A4", "->"}, {"\u27A8", "->"}, {"\u21A6", "->"},
     {"\u21E2", "->"}, {"\u21E8", "->"}, {"\u21FC", "->"}, {"\u27FE", "->"}, {"\u2907", "->"},
     {"\u2B62", "->"}, {"\U0001F812", "->"}, {"\U0001F816", "->"}, {"\U0001F852", "->"},
-    {"\U0001F862", "->"}, {"\U0001F872", "->"},
+    {"\U0001F862", "->"}, {"\U0001F872", "->"}, {"\u21AA", "->"},
+    {"\u25B6", "->"}, {"\u25BA", "->"}, {"\u203A", ">"},
+    // What a word processor makes of "-->", "==>" and "<=>".
+    {"\uF0E0", "->"}, {"\uF0E8", "->"}, {"\uF0F3", "<->"},
     {"\u21CC", "<->"}, {"\u21CB", "<->"}, {"\u21C4", "<->"}, {"\u2194", "<->"}, {"\u21D4", "<->"},
     {"\u21C6", "<->"}, {"\u27F7", "<->"}, {"\u27FA", "<->"}, {"\u21FF", "<->"}, {"\u2B0C", "<->"},
     {"\u2190", "<-"}, {"\u27F5", "<-"}, {"\u21D0", "<-"}, {"\u27F8", "<-"}, {"\u2B05", "<-"},
@@ -141,6 +145,8 @@ std::size_t ordinaryLength(std::string_view text)
 
 std::string plainTyped(std::string_view typed)
 {
+    const std::string text = withoutMarkup(typed);
+    typed = text;
     std::string plain;
     bool inSuperscript = false;
     while (!typed.empty()) {

@@ -16,7 +16,7 @@ namespace lesson
 // The grammar; blanks may stand anywhere but inside a number.
 //
 //   equation    = side arrow side "."?
-//   arrow       = a run of "-", "=", "<", ">" with more than dashes in it
+//   arrow       = a run of "-", "=", "<", ">" with more than dashes in it | "_>" | "~>" | a word
 //   side        = "+"? term ("+" term)*
 //   term        = (coefficient times?)? formula state?
 //   coefficient = number | "(" number ")"
@@ -59,6 +59,57 @@ bool removeEnd(std::string_view& text, std::string_view end)
 // ---- Arrows
 
 constexpr std::string_view ofArrows = "-=<>";
+constexpr std::string_view slippedDashes = "_~"; // before ">": Shift was held too long
+// Between blanks; the last two are what a word processor makes of "-->" and "==>".
+constexpr std::string_view arrowWords[] = {"to",    "gives",    "yields", "makes", "forms", "give",
+                                           "yield", "produces", "arrow",  "à",     "è"};
+constexpr std::string_view arrowNames[] = {"rightarrow", "rarr"}; // not in any formula
+
+// Takes a word between two blanks, and the blank in front of it.
+bool takeArrowWord(std::string_view& rest)
+{
+    if (!startsWith(rest, " ")) {
+        return false;
+    }
+    const std::string_view behind = rest.substr(1);
+    const auto* const word = std::find_if(
+        std::begin(arrowWords), std::end(arrowWords), [behind](std::string_view known) {
+            return startsWith(behind, known) && startsWith(behind.substr(known.size()), " ");
+        });
+    if (word == std::end(arrowWords)) {
+        return false;
+    }
+    rest = behind.substr(word->size());
+    return true;
+}
+
+bool takeArrowName(std::string_view& rest)
+{
+    return std::any_of(std::begin(arrowNames), std::end(arrowNames),
+                       [&rest](std::string_view name) { return take(rest, name); });
+}
+
+// With "->" for every arrow that is spelt in other characters.
+std::string withPlainArrows(std::string_view rest)
+{
+    std::string text;
+    while (!rest.empty()) {
+        if (takeArrowWord(rest) || takeArrowName(rest)) {
+            text += " ->";
+            continue;
+        }
+        const std::size_t slipped = rest.find_first_not_of(slippedDashes);
+        const std::size_t length = slipped == std::string_view::npos ? rest.size() : slipped;
+        if (length == 0) {
+            text += rest.front();
+            rest.remove_prefix(1);
+            continue;
+        }
+        text += startsWith(rest.substr(length), ">") ? "-" : rest.substr(0, length);
+        rest.remove_prefix(length);
+    }
+    return text;
+}
 
 struct Run {
     std::size_t begin;
@@ -358,8 +409,10 @@ bool isFitCoefficient(Ratio value)
     return ratio(0) < value && value.numerator <= 99999 && value.denominator <= 10000;
 }
 
-TypedEquation readEquation(std::string_view plain)
+TypedEquation readEquation(std::string_view typed)
 {
+    const std::string text = withPlainArrows(typed);
+    std::string_view plain = text;
     TypedEquation equation;
     removeEnd(plain, ".");
     const std::optional<Run> arrow = firstArrow(plain);

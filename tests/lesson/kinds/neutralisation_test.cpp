@@ -405,6 +405,17 @@ std::string braced(std::string formula)
     return withEachDigit(formula, [](char digit) { return "_{" + std::string(1, digit) + "}"; });
 }
 
+std::string markedUp(std::string formula)
+{
+    return withEachDigit(formula,
+                         [](char digit) { return "<sub>" + std::string(1, digit) + "</sub>"; });
+}
+
+std::string inMhchem(std::string formula)
+{
+    return "\\ce{" + formula + "}";
+}
+
 std::string squareBracketed(std::string formula)
 {
     std::replace(formula.begin(), formula.end(), '(', '[');
@@ -434,14 +445,18 @@ std::string otherEthanoate(std::string formula)
 }
 
 constexpr Spelling spellings[] = {
-    {plain, "", "", " + ", " -> ", false},        {plain, "", "", "+", "->", true},
-    {plain, " ", "1 ", " + ", " --> ", false},    {plain, "*", "", " + ", " = ", true},
-    {plain, "·", "1", " +", " => ", false},       {subscripts, "", "", " + ", " → ", false},
-    {subscripts, " × ", "1", "+ ", "⟶", true},    {underscored, "", "", " + ", " -> ", true},
-    {braced, " ", "", " + ", " = ", false},       {squareBracketed, "", "", " + ", "->", false},
-    {ethanoateFirst, "", "", " + ", "->", false}, {otherEthanoate, "", "1", "+", "==>", true},
-    {plain, " x ", "", "  +  ", "  >  ", false},  {plain, "", "2/2", " + ", "->", false},
-    {plain, "", "1.0", " + ", "->", false},       {plain, "", "(1)", " + ", "->", true},
+    {plain, "", "", " + ", " -> ", false},          {plain, "", "", "+", "->", true},
+    {plain, " ", "1 ", " + ", " --> ", false},      {plain, "*", "", " + ", " = ", true},
+    {plain, "·", "1", " +", " => ", false},         {subscripts, "", "", " + ", " → ", false},
+    {subscripts, " × ", "1", "+ ", "⟶", true},      {underscored, "", "", " + ", " -> ", true},
+    {braced, " ", "", " + ", " = ", false},         {squareBracketed, "", "", " + ", "->", false},
+    {ethanoateFirst, "", "", " + ", "->", false},   {otherEthanoate, "", "1", "+", "==>", true},
+    {plain, " x ", "", "  +  ", "  >  ", false},    {plain, "", "2/2", " + ", "->", false},
+    {plain, "", "1.0", " + ", "->", false},         {plain, "", "(1)", " + ", "->", true},
+    {plain, "", "", " + ", " _> ", false},          {plain, "", "", " + ", " rarr ", false},
+    {plain, "", "", " + ", "\\rightarrow ", false}, {braced, "", "", " + ", " \\to ", false},
+    {underscored, "", "", "+", "_>", false},        {plain, "", "", " \\+ ", " -\\> ", false},
+    {markedUp, "", "", " + ", " &rarr; ", false},   {inMhchem, "", "", " + ", "\\ce{->}", false},
 };
 
 std::string sideText(Side side, const Spelling& spelling)
@@ -476,6 +491,30 @@ TEST(NeutralisationTest, TheKeyIsCorrectInEverySpelling)
     }
 }
 
+// The bases that the rules call insoluble, and all others that are asked: those that dissolve,
+// those on which school tables differ, and the oxides, for which there is no rule.
+const std::vector<std::string_view> onlySolidBases = {
+    "Mg(OH)2", "Mn(OH)2", "Fe(OH)2", "Co(OH)2", "Ni(OH)2", "Cu(OH)2", "Zn(OH)2", "Pb(OH)2",
+    "Al(OH)3", "Cr(OH)3", "Fe(OH)3", "Ag2CO3",  "MgCO3",   "CaCO3",   "BaCO3",   "MnCO3",
+    "FeCO3",   "CoCO3",   "NiCO3",   "CuCO3",   "ZnCO3",   "PbCO3",
+};
+const std::vector<std::string_view> solidOrDissolvedBases = {
+    "LiOH",  "NaOH",      "KOH",  "Ca(OH)2", "Ba(OH)2", "Li2CO3", "Na2CO3", "K2CO3", "NaHCO3",
+    "KHCO3", "(NH4)2CO3", "Li2O", "Na2O",    "K2O",     "Ag2O",   "MgO",    "CaO",   "BaO",
+    "MnO",   "FeO",       "CoO",  "NiO",     "CuO",     "ZnO",    "PbO",    "Al2O3", "Fe2O3",
+};
+
+TEST(NeutralisationTest, EveryBaseIsListedWithItsStates)
+{
+    std::set<std::string> asked;
+    for (const Exercise& exercise : everyExercise()) {
+        asked.insert(exercise.equation->left[1].second);
+    }
+    std::set<std::string> listed(onlySolidBases.begin(), onlySolidBases.end());
+    listed.insert(solidOrDissolvedBases.begin(), solidOrDissolvedBases.end());
+    EXPECT_EQ(asked, listed);
+}
+
 // The states that are right, as a teacher's list has them.
 std::vector<std::string> statesOf(const std::string& species, bool isOnTheLeft, bool isAcid)
 {
@@ -485,8 +524,12 @@ std::vector<std::string> statesOf(const std::string& species, bool isOnTheLeft, 
     if (species == "CO2") {
         return {"(g)"};
     }
+    if (isOnTheLeft && isAcid) {
+        return {"(aq)"};
+    }
     if (isOnTheLeft) {
-        return isAcid ? std::vector<std::string>{"(aq)"} : std::vector<std::string>{"(s)", "(aq)"};
+        return isOneOf(species, onlySolidBases) ? std::vector<std::string>{"(s)"}
+                                                : std::vector<std::string>{"(s)", "(aq)"};
     }
     if (isOneOf(species, {"BaSO4", "Mg3(PO4)2", "Ca3(PO4)2", "AlPO4"})) {
         return {"(s)"};

@@ -82,12 +82,47 @@ TEST(TypedEquationTest, CoefficientsInEverySpelling)
 
 TEST(TypedEquationTest, ArrowsInEverySpelling)
 {
-    for (const char* const arrow : {"->", "-->", "--->", "=>", "==>", "=", "==", ">", "- >", "→",
-                                    "⟶", "⇒", "➔", "➡️", "—>", "–>", "−>"}) {
+    for (const char* const arrow : {"->",
+                                    "-->",
+                                    "--->",
+                                    "=>",
+                                    "==>",
+                                    "=",
+                                    "==",
+                                    ">",
+                                    "- >",
+                                    "→",
+                                    "⟶",
+                                    "⇒",
+                                    "➔",
+                                    "➡️",
+                                    "—>",
+                                    "–>",
+                                    "−>",
+                                    "_>",
+                                    "__>",
+                                    "-_>",
+                                    "~>",
+                                    "—→",
+                                    "\\rightarrow ",
+                                    "\\longrightarrow ",
+                                    "\\to ",
+                                    "rarr",
+                                    "rightarrow",
+                                    "&rarr;",
+                                    "-&gt;",
+                                    "-\\>",
+                                    "\uF0E0",
+                                    "\uF0E8",
+                                    "►"}) {
         EXPECT_EQ(readBack(std::string("HCl") + arrow + "NaCl"), "1 HCl -> 1 NaCl") << arrow;
         EXPECT_EQ(readBack(std::string("HCl ") + arrow + " NaCl"), "1 HCl -> 1 NaCl") << arrow;
     }
-    for (const char* const arrow : {"<->", "<-->", "<=>", "<==>", "⇌", "⇋", "↔", "⇄", "<- ->"}) {
+    for (const char* const word : {"to", "gives", "yields", "forms", "makes", "à"}) {
+        EXPECT_EQ(readBack("HCl " + std::string(word) + " NaCl"), "1 HCl -> 1 NaCl") << word;
+    }
+    for (const char* const arrow :
+         {"\\rightleftharpoons ", "<->", "<-->", "<=>", "<==>", "⇌", "⇋", "↔", "⇄", "<- ->"}) {
         EXPECT_EQ(readBack(std::string("HCl ") + arrow + " NaCl"), "1 HCl <-> 1 NaCl") << arrow;
     }
     for (const char* const arrow : {"<-", "<--", "<=", "←", "⟵", "⇐"}) {
