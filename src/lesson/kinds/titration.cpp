@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "lesson/kinds/kinds.hpp"
+#include "lesson/kinds/orders.hpp"
 #include "lesson/kinds/quantities.hpp"
 #include "lesson/reaction.hpp"
 
@@ -174,38 +175,29 @@ bool isInRange(const Titration& drawn)
     return ratio(2, 100) <= answer && answer <= ratio(1) && areTitresReadable;
 }
 
-// A mean is a step; a single titre is read.
-Volumes volumesOf(const Titration& drawn, StepRounding& rounded)
+// One to one is no factor.
+Calculation calculationOf(const Titration& drawn)
 {
-    Titration read = drawn;
-    read.fromBurette = drawn.titres.empty() ? drawn.fromBurette : rounded(drawn.fromBurette);
-    return volumesOf(read);
+    const Volumes volumes = volumesOf(drawn);
+    const Ratio moles = ratioOf(drawn);
+    Calculation calculation = {{drawn.concentration, volumes.known}, {volumes.unknown}};
+    if (moles != ratio(1)) {
+        calculation.above.push_back(moles);
+    }
+    return calculation;
 }
 
-Ratio stepByStep(const Titration& drawn, StepRounding& rounded)
+// A mean is worked out beforehand, a single titre is read.
+bool bearsEveryOrder(const Titration& drawn)
 {
-    const auto [known, unknown] = volumesOf(drawn, rounded);
-    return rounded(rounded(drawn.concentration * known) * ratioOf(drawn)) / unknown;
-}
-
-Ratio withRatioAtOnce(const Titration& drawn, StepRounding& rounded)
-{
-    const auto [known, unknown] = volumesOf(drawn, rounded);
-    return rounded(drawn.concentration * known) * ratioOf(drawn) / unknown;
-}
-
-bool bothWaysStayCorrect(const Titration& drawn)
-{
-    const Ratio answer = answerOf(drawn);
-    return staysCorrect(answer, drawn, stepByStep) && staysCorrect(answer, drawn, withRatioAtOnce);
-}
-
-// A mean is a step too, but who has read four figures may well keep them.
-bool bearsRounding(const Titration& drawn)
-{
-    Titration meanKept = drawn;
-    meanKept.titres.clear();
-    return bothWaysStayCorrect(meanKept) && (drawn.titres.empty() || bothWaysStayCorrect(drawn));
+    const CorrectAnswers correct(answerOf(drawn));
+    const std::vector<Ratio> used = drawn.titres.empty() ? std::vector<Ratio>{drawn.fromBurette}
+                                                         : roundedOrKept(drawn.fromBurette);
+    return std::all_of(used.begin(), used.end(), [&](Ratio fromBurette) {
+        Titration worked = drawn;
+        worked.fromBurette = fromBurette;
+        return correct.haveEveryOrderOf(calculationOf(worked));
+    });
 }
 
 Titration draw(const Place& place)
@@ -214,7 +206,7 @@ Titration draw(const Place& place)
     const std::vector<const TitrationRow*> pairs = drawRatio(draws, place.level);
     for (;;) {
         Titration drawn = drawOnce(draws, pairs, place.level == 3);
-        if (isInRange(drawn) && bearsRounding(drawn)) {
+        if (isInRange(drawn) && bearsEveryOrder(drawn)) {
             return drawn;
         }
     }
