@@ -210,6 +210,15 @@ bool agrees(Decimal typed, Ratio exact, int figures, bool isMolarMass)
     return agrees(typedNumber(typed), Target{exact, figures, isMolarMass});
 }
 
+bool isVisible(const NumberAnswer& answer, int figures, Ratio slip)
+{
+    if (slip.numerator <= 0) {
+        return false;
+    }
+    const TypedNumber typed = typedNumber(roundedTo(slip, figures));
+    return !isRight(typed, answer, figures) && !isClose(typed, answer.value);
+}
+
 void addSlip(Exercise& exercise, Ratio value, std::string sentence)
 {
     const auto* const answer = std::get_if<NumberAnswer>(&exercise.answer);
@@ -219,8 +228,7 @@ void addSlip(Exercise& exercise, Ratio value, std::string sentence)
     const Ask& ask = exercise.ask;
     const Target key = {answer->value, ask.figures, answer->isMolarMass};
     const TypedNumber typed = typedNumber(roundedTo(value, ask.figures));
-    if (agrees(typedNumber(roundedTo(value, 17)), key) || isRight(typed, *answer, ask.figures) ||
-        slipOf(typed, exercise.slips, key) != nullptr) {
+    if (isRight(typed, *answer, ask.figures) || slipOf(typed, exercise.slips, key) != nullptr) {
         return;
     }
     exercise.slips.push_back(

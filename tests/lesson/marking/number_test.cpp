@@ -103,13 +103,58 @@ TEST(AddSlipTest, LeavesOutWhatWouldBeMarkedAsSomethingElse)
 }
 
 // 0.8046 is within half a per cent of 0.8006, but 0.805, which would be typed, is not.
-TEST(AddSlipTest, LeavesOutWhatAgreesUnrounded)
+TEST(AddSlipTest, LooksAtWhatWouldBeTyped)
 {
     Exercise exercise = exerciseOf({ratio(8006, 10000)}, "mol/L", 3);
-    addSlip(exercise, ratio(8046, 10000), "too near");
-    EXPECT_TRUE(exercise.slips.empty());
-    addSlip(exercise, ratio(8047, 10000), "far enough");
+    addSlip(exercise, ratio(80459, 100000), "typed as 0.805");
     EXPECT_EQ(textsOf(exercise.slips), (std::vector<std::string>{"0.805 mol/L"}));
+    exercise.slips.clear();
+    addSlip(exercise, ratio(80449, 100000), "typed as 0.804");
+    EXPECT_TRUE(exercise.slips.empty());
+}
+
+struct VisibleCase {
+    const char* typed; // the mistake to three figures, or to four of a molar mass
+    Ratio slip;
+    bool isVisible;
+};
+
+void expectVisible(const NumberAnswer& answer, int figures, const std::vector<VisibleCase>& cases)
+{
+    for (const VisibleCase& c : cases) {
+        EXPECT_EQ(isVisible(answer, figures, c.slip), c.isVisible) << c.typed;
+    }
+}
+
+TEST(IsVisibleTest, UnlessTheMistakeWouldBeMarkedRightOrClose)
+{
+    // clang-format off
+    expectVisible({ratio(8006, 10000), {ratio(9, 10)}}, 3, {
+        {"0.801", ratio(8006, 10000), false},
+        {"0.804", ratio(80449, 100000), false},  // half a per cent is 0.8046
+        {"0.805", ratio(80459, 100000), false},  // close, though a slip could tell it
+        {"0.808", ratio(80849, 100000), false},  // one per cent is 0.8086
+        {"0.809", ratio(80851, 100000), true},   // and this, unrounded, is within it
+        {"0.792", ratio(79249, 100000), true},
+        {"0.793", ratio(79251, 100000), false},
+        {"0.901", ratio(901, 1000), false},      // right with rounded masses
+        {"0.910", ratio(91, 100), true},
+        {"8.01",  ratio(8006, 1000), true},
+        {"0",     ratio(0), false},
+        {"-1.60", ratio(-16, 10), false},
+    });
+    // 2000 is 1951 to two figures.
+    expectVisible({ratio(1951)}, 3, {
+        {"2000", ratio(2000), false},
+        {"2010", ratio(2010), true},
+    });
+    expectVisible({ratio(24969, 100), {ratio(2495, 10)}, true}, 4, {
+        {"249.8", ratio(2498, 10), false},
+        {"249.4", ratio(2494, 10), false},
+        {"248.7", ratio(2487, 10), false},
+        {"231.7", ratio(2317, 10), true},
+    });
+    // clang-format on
 }
 
 // 1951 mL is 1950 to three figures and 2000 to two, so that "2000" tells nothing of a slip.
