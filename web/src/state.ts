@@ -25,7 +25,7 @@ function solvedHow(progress: Progress): Result {
     return progress.failed === 0 && progress.steps === 0 ? "first" : "help";
 }
 
-// The first press shows the first step's words alone, as a hint; each further one a whole step.
+// The first press shows the hint to the first step; each further one a step, and the hint to the next.
 export function afterStep(progress: Progress, all: number): Progress {
     const steps = Math.min(progress.steps + 1, all + 1);
     return { ...progress, steps, result: steps > all ? (progress.result ?? "shown") : progress.result };

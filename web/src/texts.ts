@@ -26,6 +26,7 @@ export const texts = {
     finish: "Finish",
     another: "Another like this",
     showStep: "Show a step",
+    orPressStep: ", or press Show a step", // in the library's sentences
     showAnswer: "Show the answer",
     wouldHelp: "A step of the solution may help: press Show a step.",
     hint: "Hint",

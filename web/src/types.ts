@@ -40,6 +40,7 @@ export type Given =
 export interface Step {
     say: Span[];
     math?: Span[];
+    hint: Span[]; // helps to take the step, and gives nothing of it away
 }
 
 export interface Exercise {

@@ -146,7 +146,7 @@ function keysOf(ask: Ask, input: HTMLInputElement, update: () => void): HTMLElem
 function showPreview(preview: HTMLElement, ask: Ask, text: string, settings: Settings): void {
     const nodes = ask.form === "number" ? numberNodes(text.trim(), settings) : previewNodes(ask.form === "ion" ? withCharge(text.trim()) : text.trim());
     const plain = nodes.every((node) => node.nodeType === Node.TEXT_NODE);
-    preview.hidden = text.trim() === "" || (plain && !text.includes("->"));
+    preview.hidden = text.trim() === "" || (plain && text.search(typedArrow) === -1);
     show(preview, `${texts.preview} `, ...nodes);
 }
 
@@ -174,9 +174,11 @@ function withCharge(text: string): string {
     return `${formula}${digits.slice(0, digits.length - charge.length)}^${charge}${sign}`;
 }
 
+const typedArrow = / *(?:[-–—_=]*>|\\(?:long)?rightarrow|\\to(?![a-z])|\brarr\b) */g;
+
 // A formula, an ion or an equation as it is being typed.
 export function previewNodes(text: string): Node[] {
-    const arrows = bound(text.replace(/ *(?:-+>|=>) */g, " → ").slice(0, 300));
+    const arrows = bound(text.replace(typedArrow, " → ").slice(0, 300));
     return arrows.split(/(\^\{?[\d+−-]*\}?)/).flatMap((part): Node[] =>
         part.startsWith("^")
             ? [element("sup", {}, part.replace(/[\^{}]/g, "").replaceAll("-", "−"))]

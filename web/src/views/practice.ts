@@ -6,7 +6,7 @@ import { speech, typesetLine, wholeSpoken } from "../spans";
 import * as storage from "../storage";
 import * as state from "../state";
 import { texts } from "../texts";
-import type { Exercise, Mark, PracticeRoute, Span } from "../types";
+import type { Exercise, Mark, PracticeRoute, Span, Step } from "../types";
 import { answerField } from "./answer";
 import { choicePanel } from "./choice";
 import { displayPanel } from "./display";
@@ -40,6 +40,7 @@ export function showPractice(main: HTMLElement, route: PracticeRoute, exercise: 
 function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exercise, page: Page, solved: () => void): () => void {
     const place = placeOf(route);
     let progress = storage.progressOf(place);
+    let mark: Mark | null = null;
     const steps = exercise.solution.length;
 
     const field = answerField(exercise.ask, page.settings, () => keep(state.typed(progress, field.text())));
@@ -76,6 +77,7 @@ function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exer
 
     function update(): void {
         showSolution(solution, exercise, progress, page);
+        showMark();
         const whole = state.isShownWhole(progress, steps);
         help.hidden = whole;
         offer.hidden = !state.offersHelp(progress);
@@ -83,20 +85,22 @@ function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exer
         check.classList.toggle("main", progress.result === null);
     }
 
-    function marked(mark: Mark): void {
-        markLine.hidden = false;
-        markLine.dataset["verdict"] = mark.verdict;
-        const seen = element("span", { "aria-hidden": "true" }, element("strong", {}, texts.verdicts[mark.verdict] ?? ""), " ", seenSentence(mark.sentence, page.settings, page.names));
-        show(markLine, seen, wholeSpoken(spokenMark(mark, page)));
+    function showMark(): void {
+        markLine.hidden = mark === null;
+        if (mark !== null) {
+            const { verdict, sentence } = whatCanBeDone(mark, progress, steps);
+            markLine.dataset["verdict"] = verdict;
+            const seen = element("span", { "aria-hidden": "true" }, element("strong", {}, texts.verdicts[verdict] ?? ""), " ", seenSentence(sentence, page.settings, page.names));
+            show(markLine, seen, wholeSpoken(spokenMark({ verdict, sentence }, page)));
+        }
     }
 
     form.addEventListener("submit", (event) => {
         event.preventDefault();
-        const mark = page.lesson.mark(route.paper, route.number, route.kinds, field.text());
+        mark = page.lesson.mark(route.paper, route.number, route.kinds, field.text());
         keep(state.afterMark(progress, mark));
-        marked(mark);
         update();
-        announce([spokenMark(mark, page), ...(offer.hidden ? [] : [texts.wouldHelp])].join(" "));
+        announce([spokenMark(whatCanBeDone(mark, progress, steps), page), ...(offer.hidden ? [] : [texts.wouldHelp])].join(" "));
         if (mark.verdict === "correct") {
             nextButton.focus();
             bringIntoView(markLine, goOn);
@@ -109,7 +113,7 @@ function showExercise(article: HTMLElement, route: PracticeRoute, exercise: Exer
 
     field.set(progress.typed);
     if (progress.checked) {
-        marked(page.lesson.mark(route.paper, route.number, route.kinds, progress.typed));
+        mark = page.lesson.mark(route.paper, route.number, route.kinds, progress.typed);
     }
     update();
     const drawing = drawingOf(exercise, page.settings);
@@ -150,34 +154,41 @@ function headerOf(route: PracticeRoute, exercise: Exercise, page: Page): HTMLEle
     );
 }
 
-// ol
-//   li   p.say, p.math
-// p.key  once all steps are shown
-function showSolution(box: HTMLElement, exercise: Exercise, progress: state.Progress, page: Page): void {
-    const { steps } = progress;
+// h2
+// ol        the steps that are shown
+//   li      p.say, p.math
+// p.next    the hint to the step that comes next
+// p.key     once all steps are shown
+function showSolution(box: HTMLElement, exercise: Exercise, { steps }: state.Progress, page: Page): void {
     box.hidden = steps === 0;
     if (steps === 0) {
         return;
     }
-    const shownSteps = exercise.solution.slice(0, Math.max(1, steps - 1));
-    const list = element("ol", {});
-    for (const step of shownSteps) {
-        const row = element("li", {}, element("p", { class: "say" }, ...typesetLine(step.say, page.settings)));
-        if (steps > 1 && step.math !== undefined && step.math.length > 0) {
-            row.append(element("p", { class: "math" }, ...typesetLine(step.math, page.settings)));
-        }
-        list.append(row);
+    const next = exercise.solution[steps - 1];
+    const end = next === undefined ? labelled("key", texts.key, spansOfKey(exercise), page) : labelled("next", texts.hint, next.hint, page);
+    const list = element("ol", {}, ...exercise.solution.slice(0, steps - 1).map((step) => rowOf(step, page)));
+    show(box, element("h2", {}, texts.solution), ...(steps === 1 ? [] : [list]), end);
+}
+
+function rowOf(step: Step, page: Page): HTMLElement {
+    const row = element("li", {}, element("p", { class: "say" }, ...typesetLine(step.say, page.settings)));
+    if (step.math !== undefined && step.math.length > 0) {
+        row.append(element("p", { class: "math" }, ...typesetLine(step.math, page.settings)));
     }
-    const heading = element("h2", {}, steps === 1 ? texts.hint : texts.solution);
-    show(box, heading, list);
-    if (state.isShownWhole(progress, exercise.solution.length)) {
-        const key = typesetLine(spansOfKey(exercise), page.settings);
-        box.append(element("p", { class: "key" }, element("strong", {}, `${texts.key}: `), element("span", { class: "line" }, ...key)));
-    }
+    return row;
+}
+
+function labelled(kind: string, label: string, line: Span[], page: Page): HTMLElement {
+    return element("p", { class: kind }, element("strong", {}, `${label}: `), element("span", { class: "line" }, ...typesetLine(line, page.settings)));
 }
 
 function spansOfKey({ ask, key }: Exercise): Span[] {
     return ask.form === "number" ? spansOf(key.text) : spansOfFormulas(key.text);
+}
+
+// Once all is shown there is no button any more that could be pressed for a step.
+function whatCanBeDone(mark: Mark, progress: state.Progress, steps: number): Mark {
+    return state.isShownWhole(progress, steps) ? { ...mark, sentence: mark.sentence.replace(texts.orPressStep, "") } : mark;
 }
 
 function spokenMark(mark: Mark, page: Page): string {
@@ -185,11 +196,14 @@ function spokenMark(mark: Mark, page: Page): string {
     return `${word} ${spokenSentence(mark.sentence, page.settings, page.names)}`.trim();
 }
 
-function lastStepSpoken(exercise: Exercise, progress: state.Progress, page: Page): string {
-    const step = exercise.solution[Math.max(0, Math.min(progress.steps - 1, exercise.solution.length) - 1)];
-    if (step === undefined) {
-        return "";
-    }
-    const math = progress.steps > 1 ? speech(step.math ?? [], page.settings) : "";
-    return `${speech(step.say, page.settings)} ${math}`.trim();
+// The step that was shown last, and the hint to the next one.
+function lastStepSpoken(exercise: Exercise, { steps }: state.Progress, page: Page): string {
+    const step = exercise.solution[Math.min(steps - 1, exercise.solution.length) - 1];
+    const next = exercise.solution[steps - 1];
+    return [
+        ...(step === undefined ? [] : [speech(step.say, page.settings), speech(step.math ?? [], page.settings)]),
+        ...(next === undefined ? [] : [`${texts.hint}: ${speech(next.hint, page.settings)}`]),
+    ]
+        .filter((line) => line !== "")
+        .join(" ");
 }

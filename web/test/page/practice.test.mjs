@@ -40,6 +40,20 @@ test("a wrong answer keeps the focus in the field, and after two of them help is
     await leave(page);
 });
 
+test("where all is shown no sentence names a button that is gone", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration");
+    const mark = page.locator(".mark");
+    await type(page, "777");
+    await check(page);
+    assert.match(await mark.innerText(), /press Show a step\.$/);
+    await page.getByRole("button", { name: "Show the answer" }).click();
+    assert.match(await mark.innerText(), /Write down what you know\.$/, "the mark that stands there");
+    await type(page, "7777");
+    await check(page);
+    assert.match(await mark.innerText(), /Write down what you know\.$/, "a further one");
+    await leave(page);
+});
+
 test("what cannot be read is no try", async () => {
     const page = await openPage(browser, "#practice/4821/3/titration");
     for (let i = 0; i < 3; ++i) {
@@ -51,18 +65,20 @@ test("what cannot be read is no try", async () => {
     await leave(page);
 });
 
-test("Show a step gives words first, then a step a press, and at last the answer", async () => {
-    const page = await openPage(browser, "#practice/4821/3/titration");
+test("Show a step gives a hint, then a step and the next hint a press, and at last the answer", async () => {
+    const page = await openPage(browser, "#practice/4821/3/concentration");
     const step = page.getByRole("button", { name: "Show a step" });
-    const all = lesson.exercise(4821, 3, "titration").solution.length;
-    await step.click();
-    assert.equal(await page.locator(".solution li").count(), 1);
-    assert.equal(await page.locator(".solution .math").count(), 0);
-    for (let shown = 1; shown <= all; ++shown) {
+    const { solution } = lesson.exercise(4821, 3, "concentration");
+    for (let shown = 0; shown < solution.length; ++shown) {
         await step.click();
         assert.equal(await page.locator(".solution li").count(), shown);
         assert.equal(await page.locator(".solution .math").count(), shown);
+        const [{ text }] = solution[shown].hint;
+        assert.ok((await page.locator(".solution .next").innerText()).startsWith(`Hint: ${text}`), text);
     }
+    await step.click();
+    assert.equal(await page.locator(".solution li").count(), solution.length);
+    assert.equal(await page.locator(".solution .next").count(), 0);
     assert.equal(await page.locator(".key").isVisible(), true);
     assert.equal(await step.isVisible(), false);
     assert.equal(await focusedText(page), "Next");
