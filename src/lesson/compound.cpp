@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "lesson/tables/elements.hpp"
+#include "lesson/values/decimal.hpp"
 
 namespace lesson
 {
@@ -126,19 +127,16 @@ Ratio molarMassOf(std::string_view formula)
     return massOf(compositionOf(formula).atoms);
 }
 
-std::string shownMass(Ratio mass)
+Ratio toHundredths(Ratio mass)
 {
-    const std::int64_t thousandths = mass.numerator * (1000 / mass.denominator);
-    std::string decimals = std::to_string(1000 + thousandths % 1000).substr(1);
-    if (decimals.back() == '0') {
-        decimals.pop_back();
-    }
-    return std::to_string(thousandths / 1000) + "." + decimals;
+    const Ratio hundredths = mass * ratio(100) + ratio(1, 2);
+    return ratio(hundredths.numerator / hundredths.denominator, 100);
 }
 
-std::string shownMolarMass(std::string_view formula)
+std::string shownMass(Ratio mass)
 {
-    return shownMass(molarMassOf(formula));
+    const Ratio hundredths = toHundredths(mass) * ratio(100);
+    return plainText({hundredths.numerator, -2});
 }
 
 } // namespace lesson

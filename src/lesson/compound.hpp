@@ -43,9 +43,10 @@ Composition compositionOf(std::string_view formula);
 Ratio massOf(const Atoms& atoms);
 Ratio molarMassOf(std::string_view formula);
 
-// Such a sum with all decimals that it has, two at least.
-//   NaCl -> "58.44"    NaOH -> "39.998"    KI -> "166.00"
+// Such a sum as exercises give it and work with it, and as they show it: to two decimals, since the
+// sum of masses with two has no third. A half goes up.
+//   NaOH, 39.998 -> 40.00, "40.00"    KI, 166 -> 166, "166.00"
+Ratio toHundredths(Ratio mass);
 std::string shownMass(Ratio mass);
-std::string shownMolarMass(std::string_view formula);
 
 } // namespace lesson

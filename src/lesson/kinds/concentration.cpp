@@ -61,7 +61,7 @@ Preparation drawOnce(Draws& draws, bool isHydrate, bool asksForMass)
     drawn.substance = &draws.oneOf(isHydrate ? hydrates() : solutes());
     drawn.isHydrate = isHydrate;
     drawn.asksForMass = asksForMass;
-    drawn.molarMass = molarMassOf(drawn.substance->formula);
+    drawn.molarMass = toHundredths(molarMassOf(drawn.substance->formula));
     if (asksForMass) {
         drawn.concentration = molesPerLitre(draws.oneOf(concentrations));
         drawn.volume = litres(draws.oneOf(flasks));
@@ -194,10 +194,9 @@ bool isInMillilitres(const GivenQuantity& volume)
 
 Step molarMassStep(const Preparation& drawn)
 {
-    const std::string_view formula = drawn.substance->formula;
     return {line("Molar mass; the water belongs to the crystal."),
-            line(quantity("M"), " = ", sumOfMasses(formula), " = ",
-                 measure(shownMolarMass(formula), "g/mol"))};
+            line(quantity("M"), " = ", sumOfMasses(drawn.substance->formula), " = ",
+                 measure(shownMass(drawn.molarMass), "g/mol"))};
 }
 
 Step volumeStep(const GivenQuantity& volume)

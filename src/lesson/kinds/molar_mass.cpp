@@ -127,7 +127,7 @@ Spans atomLine(const Composition& composition)
 Spans massLine(const Composition& composition)
 {
     const auto inside = [](const FormulaPart& part) {
-        return part.isWater ? line(number(shownMass(massOf(part.atoms))))
+        return part.isWater ? line(number(exactText(massOf(part.atoms))))
                             : sumOf(part.atoms, massTerm);
     };
     return sumOf(composition.parts, [&](const FormulaPart& part) { return termOf(part, inside); });
@@ -161,7 +161,7 @@ std::string firstSentence(const Composition& composition)
 // M = 249.69 = 249.7 g/mol, or M = 58.44 g/mol where the sum has no more figures than are asked.
 Spans total(const Exercise& exercise, Ratio mass)
 {
-    const bool isRounded = valueOf(roundedTo(mass, figures)) != mass;
+    const bool isRounded = valueOf(roundedTo(mass, figures)) != toHundredths(mass);
     const Spans unrounded = isRounded ? line(" = ", number(shownMass(mass))) : Spans();
     return line(quantity("M"), unrounded, " = ", keyMeasure(exercise));
 }

@@ -37,7 +37,7 @@ GivenQuantity givenMass(std::string_view of, Ratio inGrams)
 
 GivenQuantity givenMolarMass(std::string_view of)
 {
-    const Ratio mass = molarMassOf(of);
+    const Ratio mass = toHundredths(molarMassOf(of));
     return {"M", std::string(of), mass, "g/mol", shownMass(mass), "g/mol"};
 }
 

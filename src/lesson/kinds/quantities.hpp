@@ -20,7 +20,7 @@ namespace lesson
 
 // Quantities of the substance with the formula `of`, as prompts tell them; `symbol` as in Ask.
 GivenQuantity givenMass(std::string_view of, Ratio inGrams); // with two decimals
-GivenQuantity givenMolarMass(std::string_view of);           // with all decimals
+GivenQuantity givenMolarMass(std::string_view of);           // the same
 // Three figures, in litres from 1 L.
 GivenQuantity givenVolume(std::string symbol, std::string_view of, Ratio inLitres);
 // From a burette: two decimals of a millilitre.

@@ -161,6 +161,12 @@ bool isAffordable(const std::string& formula, const Exact& mass)
     return formula != "AgNO3" || mass <= 2;
 }
 
+// As exercises tell it, to two decimals.
+Exact toldMolarMass(const std::string& formula)
+{
+    return Exact((typedMolarMass(formula) * 100 + Exact(1, 2)).floor(), 100);
+}
+
 // All from m and V to c, which tells between which two masses they lie.
 void allowMasses(Spread& spread, const Ceilings& substances, double share)
 {
@@ -171,7 +177,7 @@ void allowMasses(Spread& spread, const Ceilings& substances, double share)
     for (const auto& [formula, ceiling] : substances) {
         const Exact greatest = isAffordable(formula, 10) ? 10 : 2;
         for (const Exact& volume : volumes) {
-            const Exact forOneMolar = typedMolarMass(formula) * volume;
+            const Exact forOneMolar = toldMolarMass(formula) * volume;
             const Exact from = std::max<Exact>(1, forOneMolar * Exact(2, 100));
             const Exact to = std::min(greatest, forOneMolar * std::min<Exact>(2, ceiling));
             const double masses = countSteps(counts, from, to, step, 1);
@@ -195,7 +201,7 @@ void allowConcentrations(Spread& spread, const Ceilings& substances, double shar
     for (const auto& [formula, ceiling] : substances) {
         for (const Exact& c : concentrations) {
             for (const Exact& volume : flasks) {
-                const Exact mass = c * volume * typedMolarMass(formula);
+                const Exact mass = c * volume * toldMolarMass(formula);
                 if (isBetween({1, 10}, mass, 50) && c <= ceiling && isAffordable(formula, mass)) {
                     spread.allow("substance", formula);
                     spread.allow("c", c.text());
@@ -221,7 +227,7 @@ Exact checkConcentration(Problems& problems, const Json& exercise, Spread& sprea
     const Exact molarMass = given(exercise, "M");
     const Exact volume = given(exercise, "V");
     const bool isHydrate = formula != dissolved(formula);
-    problems.expect(molarMass == typedMolarMass(formula), "M is that of the table", formula);
+    problems.expect(molarMass == toldMolarMass(formula), "M is that of the table", formula);
     problems.expect(isTold(*givenQuantity(exercise, "M")) != isHydrate,
                     "M is told but for hydrates", formula);
     checkShownFigures(problems, exercise);

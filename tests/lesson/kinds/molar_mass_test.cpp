@@ -147,7 +147,7 @@ TEST(MolarMassTest, PagesWorkedByHand)
               "  Count the atoms; the number after the bracket counts everything inside. | "
               "Ca + 2(2 C + 3 H + 2 O)\n"
               "  Put in the masses. | 40.08 + 2(2(12.01) + 3(1.008) + 2(16.00))\n"
-              "  Add. | M = 158.168 = 158.2 g/mol\n"
+              "  Add. | M = 158.17 = 158.2 g/mol\n"
               "= 158.2 g/mol\n"
               "! 99.12 g/mol  The number after the bracket counts everything inside.\n"
               "! 115.1 g/mol  The number after the bracket counts everything inside.\n"

@@ -22,7 +22,8 @@ TEST(QuantitiesTest, QuantitiesAreToldAsOnLabels)
     EXPECT_EQ(toldText(givenMass("NaCl", ratio(5))), "m(NaCl) = 5.00 g");
     EXPECT_EQ(toldText(givenMass("NaCl", ratio(10))), "m(NaCl) = 10.00 g");
     EXPECT_EQ(toldText(givenMolarMass("NaCl")), "M(NaCl) = 58.44 g/mol");
-    EXPECT_EQ(toldText(givenMolarMass("NaOH")), "M(NaOH) = 39.998 g/mol");
+    EXPECT_EQ(toldText(givenMolarMass("NaOH")), "M(NaOH) = 40.00 g/mol");
+    EXPECT_EQ(givenMolarMass("NaOH").value, ratio(40));
     EXPECT_EQ(toldText(givenVolume("V1", "HCl", litres(5))), "V1(HCl) = 5.00 mL");
     EXPECT_EQ(toldText(givenVolume("V", "HCl", litres(50))), "V(HCl) = 50.0 mL");
     EXPECT_EQ(toldText(givenVolume("V", "HCl", litres(750))), "V(HCl) = 750 mL");
