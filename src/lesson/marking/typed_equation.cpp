@@ -155,7 +155,8 @@ struct StateSpelling {
 
 // In lower case, without blanks.
 constexpr StateSpelling stateSpellings[] = {
-    {"s", "s"}, {"l", "l"}, {"g", "g"}, {"aq", "aq"}, {"aq.", "aq"},
+    {"s", "s"},     {"l", "l"},      {"g", "g"},   {"aq", "aq"},      {"aq.", "aq"},
+    {"solid", "s"}, {"liquid", "l"}, {"gas", "g"}, {"aqueous", "aq"},
 };
 
 std::string_view stateIn(std::string_view brackets)
@@ -363,7 +364,7 @@ TypedTerm readTerm(std::string_view typed)
 bool separates(std::string_view behind)
 {
     constexpr std::string_view noStart = "+-)]}^_/";
-    constexpr std::size_t longestState = 8;
+    constexpr std::size_t longestState = 10;
     behind = trimmed(behind);
     if (behind.empty() || isOneOf(behind.front(), noStart)) {
         return false;

@@ -1,0 +1,350 @@
+#include "lesson/marking/equation_extras.hpp"
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <string_view>
+
+#include "lesson/marking/equation.hpp"
+#include "lesson/marking/formula.hpp"
+#include "lesson/marking/lookalikes.hpp"
+#include "lesson/marking/sentences.hpp"
+#include "lesson/marking/spellings.hpp"
+#include "lesson/marking/typed_formula.hpp"
+#include "lesson/tables/pairs.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+constexpr int hydrogen = 1;
+
+// ---- A formula as ions
+
+struct IonsIn {
+    int cations;
+    int anions;
+    int protons; // besides
+};
+
+// A formula as cations, anions and protons; none where it is not made of these. An element that the
+// anion has and the cation has not tells how many anions there are, and the cation's own one how
+// many cations are left then.
+std::optional<IonsIn> ionsIn(const Atoms& atoms, const IonRow& cation, const IonRow& anion)
+{
+    constexpr int mostAtoms = 1000000;
+    if (std::any_of(atoms.begin(), atoms.end(),
+                    [](const AtomCount& atom) { return atom.count > mostAtoms; })) {
+        return std::nullopt;
+    }
+    const Atoms ofCation = atomsOf(cation.formula);
+    const Atoms ofAnion = atomsOf(anion.formula);
+    const auto marker = std::find_if(ofAnion.begin(), ofAnion.end(), [&](const AtomCount& atom) {
+        return atom.element != hydrogen && countOf(ofCation, atom.element) == 0;
+    });
+    const int anions = countOf(atoms, marker->element) / marker->count;
+    const AtomCount own = ofCation.back();
+    const int cations =
+        (countOf(atoms, own.element) - anions * countOf(ofAnion, own.element)) / own.count;
+    const auto left = [&](int element) {
+        return countOf(atoms, element) - anions * countOf(ofAnion, element) -
+               cations * countOf(ofCation, element);
+    };
+    const auto fits = [&left](const AtomCount& atom) {
+        return atom.element == hydrogen ? left(hydrogen) >= 0 : left(atom.element) == 0;
+    };
+    const bool isAll = std::all_of(atoms.begin(), atoms.end(), fits) &&
+                       std::all_of(ofAnion.begin(), ofAnion.end(), fits) &&
+                       std::all_of(ofCation.begin(), ofCation.end(), fits);
+    if (anions < 1 || cations < 1 || !isAll) {
+        return std::nullopt;
+    }
+    return IonsIn{cations, anions, left(hydrogen)};
+}
+
+bool isAcidSalt(const IonsIn& ions, const IonRow& cation, const IonRow& anion)
+{
+    return ions.protons > 0 && anion.charge < -1 &&
+           ions.cations * cation.charge + ions.protons + ions.anions * anion.charge == 0;
+}
+
+bool isAcidSaltOf(const Atoms& atoms, const IonRow& cation, const IonRow& anion)
+{
+    const std::optional<IonsIn> ions = ionsIn(atoms, cation, anion);
+    return ions.has_value() && isAcidSalt(*ions, cation, anion);
+}
+
+// ---- Substances that another question asks for
+
+bool isOfBase(const IonRow& anion)
+{
+    constexpr std::string_view anions[] = {"OH", "O", "CO3", "HCO3"};
+    return std::find(std::begin(anions), std::end(anions), anion.formula) != std::end(anions);
+}
+
+// A compound of the tables.
+struct Substance {
+    Atoms atoms;
+    std::string name;
+    std::string_view noun; // as that of a role
+    const IonRow* cation;  // null for an acid
+    const IonRow* anion;
+};
+
+std::vector<Substance> everySubstance()
+{
+    std::vector<Substance> all;
+    for (const AcidRow* const acid : acids()) {
+        all.push_back({atomsOf(acid->formula), std::string(acid->name), "acid", nullptr, nullptr});
+    }
+    for (const Pair& pair : pairsForFormulas()) {
+        all.push_back({atomsOf(compoundFormula(*pair.cation, *pair.anion)),
+                       compoundName(*pair.cation, *pair.anion),
+                       isOfBase(*pair.anion) ? "base" : "salt", pair.cation, pair.anion});
+    }
+    return all;
+}
+
+const Substance* findSubstance(const Atoms& atoms, std::string_view noun)
+{
+    static const std::vector<Substance> all = everySubstance();
+    const auto found = std::find_if(all.begin(), all.end(), [&](const Substance& substance) {
+        return substance.noun == noun && substance.atoms == atoms;
+    });
+    return found == all.end() ? nullptr : &*found;
+}
+
+bool isHydrogenIonOf(const IonRow& anion, const IonRow& other)
+{
+    return anion.formula == "H" + std::string(other.formula);
+}
+
+std::string readAgain(const TypedTerm& term, const Substance& substance)
+{
+    return quotable(term.formula.text) + " is " + substance.name + ". Read again which " +
+           std::string(substance.noun) + " is asked for.";
+}
+
+// ---- What the formula of an acid, base or salt was meant to be
+
+bool hasSameElements(const Atoms& a, const Atoms& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](AtomCount x, AtomCount y) { return x.element == y.element; });
+}
+
+std::string withoutBrackets(std::string text)
+{
+    text.erase(std::remove(text.begin(), text.end(), '('), text.end());
+    text.erase(std::remove(text.begin(), text.end(), ')'), text.end());
+    return text;
+}
+
+bool isBracketMissing(const TypedTerm& term, const Role& role)
+{
+    const std::vector<std::string> spellings = spellingsOf(role.formula);
+    return std::any_of(spellings.begin(), spellings.end(), [&term](const std::string& spelling) {
+        return spelling != term.formula.text && withoutBrackets(spelling) == term.formula.text;
+    });
+}
+
+// What helps to put the formula right, if its ions are those of the species; else empty.
+std::string_view hintFor(const TypedTerm& term, const Role& role)
+{
+    if (isBracketMissing(term, role)) {
+        return sentences::bracketMissing;
+    }
+    const std::optional<IonsIn> ions = ionsIn(term.formula.atoms, *role.cation, *role.anion);
+    if (!ions.has_value()) {
+        return "";
+    }
+    if (ions->protons == 0) {
+        const bool isNeutral =
+            ions->cations * role.cation->charge + ions->anions * role.anion->charge == 0;
+        return isNeutral ? sentences::simplify : sentences::charges;
+    }
+    const bool isOfTwoIons = isAcidSalt(*ions, *role.cation, *role.anion);
+    return role.anion->charge < -1 && !isOfTwoIons ? sentences::charges : "";
+}
+
+// "Cu(II)(NO3)2", which is read as one with iodine.
+bool isRightButForNumeral(const TypedTerm& term, const Role& role)
+{
+    const std::vector<std::string> others = withoutNumeral(term.formula.text);
+    return std::any_of(others.begin(), others.end(), [&role](const std::string& other) {
+        return readFormula(other).atoms == role.atoms;
+    });
+}
+
+std::string_view misspelling(const TypedTerm& term, const Role& role)
+{
+    if (isSpelledRightButForCapitals(term, role)) {
+        return sentences::capitals;
+    }
+    if (isRightButForNumeral(term, role)) {
+        return sentences::romanNumeral;
+    }
+    for (const Lookalike& other : lookalikesOf(term.text)) {
+        if (readFormula(other.meant).text == role.formula) {
+            return other.sentence;
+        }
+    }
+    return {};
+}
+
+// "H4O2" for two of H2O
+bool areSeveralMolecules(const Atoms& atoms, const Atoms& one)
+{
+    if (!hasSameElements(atoms, one)) {
+        return false;
+    }
+    const int times = atoms.front().count / one.front().count;
+    return times > 1 && std::equal(atoms.begin(), atoms.end(), one.begin(),
+                                   [times](AtomCount many, AtomCount single) {
+                                       return many.count == times * single.count;
+                                   });
+}
+
+// Another substance of its kind; one that only has a hydrogen more or less is a matter of two ions.
+std::optional<Extra> otherSubstance(const TermOnSide& typed, const Role& role)
+{
+    const Substance* const other = findSubstance(typed.term->formula.atoms, role.noun);
+    if (other == nullptr) {
+        return std::nullopt;
+    }
+    const bool hasSameCation = other->cation == role.cation;
+    if (hasSameCation && isHydrogenIonOf(*other->anion, *role.anion)) {
+        return Extra{typed, Mistake::otherSubstance,
+                     sentences::twoIons(role.anion->name, other->anion->name), &role};
+    }
+    if (hasSameCation && isHydrogenIonOf(*role.anion, *other->anion)) {
+        return Extra{typed, Mistake::otherSubstance,
+                     sentences::twoIons(other->anion->name, role.anion->name), &role};
+    }
+    return Extra{typed, Mistake::otherSubstance, readAgain(*typed.term, *other), &role};
+}
+
+Extra misspeltAs(const TermOnSide& typed, const Role& role, std::string sentence)
+{
+    return {typed, Mistake::misspelt, std::move(sentence), &role};
+}
+
+std::optional<Extra> misspeltMolecule(const TermOnSide& typed, const Role& role)
+{
+    return areSeveralMolecules(typed.term->formula.atoms, role.atoms)
+               ? std::optional(misspeltAs(typed, role, std::string(sentences::numberInFront)))
+               : std::nullopt;
+}
+
+// Who writes a salt for the acid, or the acid for a salt, took no symbol for another.
+std::string wrongSymbolIn(const TypedFormula& formula, const Role& role)
+{
+    const std::string wrong = wrongSymbol(formula.simplest, spellingsOf(role.formula));
+    const bool hasHydrogen = countOf(formula.atoms, hydrogen) > 0;
+    return wrong == "H" || (role.noun == "acid" && !hasHydrogen) ? "" : wrong;
+}
+
+std::optional<Extra> misspeltIons(const TermOnSide& typed, const Role& role)
+{
+    const TypedFormula& formula = typed.term->formula;
+    const std::string_view hint = hintFor(*typed.term, role);
+    if (!hint.empty()) {
+        return misspeltAs(typed, role, sentences::isNot(formula.text, role.noun, hint));
+    }
+    if (std::optional<Extra> other = otherSubstance(typed, role)) {
+        return other;
+    }
+    if (hasSameElements(formula.atoms, role.atoms)) {
+        return misspeltAs(typed, role,
+                          sentences::isNot(formula.text, role.noun, "Check the ions in it."));
+    }
+    const std::string wrong = wrongSymbolIn(formula, role);
+    return wrong.empty() ? std::nullopt
+                         : std::optional(misspeltAs(typed, role, sentences::checkSymbol(wrong)));
+}
+
+std::optional<Extra> misspelt(const TermOnSide& typed, const Role& role)
+{
+    const std::string_view misspelled = misspelling(*typed.term, role);
+    if (!misspelled.empty()) {
+        return misspeltAs(typed, role, std::string(misspelled));
+    }
+    return role.cation == nullptr ? misspeltMolecule(typed, role) : misspeltIons(typed, role);
+}
+
+// ---- What forms half of the way
+
+// With too little base the acid keeps a proton, with too little acid the carbonate takes only one;
+// but not every hydrogencarbonate can be had.
+std::optional<Extra> halfWay(const TermOnSide& typed, const Roles& roles)
+{
+    const TypedFormula& formula = typed.term->formula;
+    const Role& base = baseOf(roles);
+    const Role& salt = saltOf(roles);
+    if (isAcidSaltOf(formula.atoms, *salt.cation, *salt.anion)) {
+        return Extra{typed, Mistake::acidSalt,
+                     quotable(formula.text) + " is an acid salt. Neutralise completely.", &salt};
+    }
+    const bool isCarbonate = base.anion != nullptr && base.anion->formula == "CO3";
+    if (isCarbonate && isAcidSaltOf(formula.atoms, *base.cation, *base.anion) &&
+        findSubstance(formula.atoms, base.noun) != nullptr) {
+        return Extra{typed, Mistake::halfCarbonate,
+                     quotable(formula.text) +
+                         " still reacts with the acid. Neutralise completely."};
+    }
+    return std::nullopt;
+}
+
+std::optional<Extra> product(const TermOnSide& typed, const Roles& roles)
+{
+    static const Atoms carbonicAcid = atomsOf("H2CO3");
+    static const Atoms hydrogenGas = atomsOf("H2");
+    const Atoms& atoms = typed.term->formula.atoms;
+    const bool hasCarbonDioxide = roles.back().formula == "CO2";
+    if (hasCarbonDioxide && atoms == carbonicAcid) {
+        return Extra{typed, Mistake::carbonicAcid, std::string(sentences::carbonicAcid)};
+    }
+    if (atoms == hydrogenGas) {
+        return Extra{typed, Mistake::hydrogenGas, std::string(sentences::hydrogenGas)};
+    }
+    return halfWay(typed, roles);
+}
+
+Extra anElement(const TermOnSide& typed)
+{
+    const std::string_view rule = typed.isOnTheLeft ? " is an element. Acid and base are compounds."
+                                                    : " is an element. Only compounds form here.";
+    return {typed, Mistake::otherSubstance, quotable(typed.term->formula.text) + std::string(rule)};
+}
+
+Extra explained(const TermOnSide& typed, const Roles& roles, const Assignment& assignment)
+{
+    if (!typed.isOnTheLeft) {
+        if (std::optional<Extra> known = product(typed, roles)) {
+            return *known;
+        }
+    }
+    for (std::size_t i = 0; i < roles.size(); ++i) {
+        if (roles[i].isOnTheLeft == typed.isOnTheLeft && isMissing(assignment, i)) {
+            if (std::optional<Extra> wrong = misspelt(typed, roles[i])) {
+                return *wrong;
+            }
+        }
+    }
+    return typed.term->formula.atoms.size() == 1 ? anElement(typed) : Extra{typed};
+}
+
+} // namespace
+
+std::vector<Extra> explainedExtras(const Roles& roles, const Assignment& assignment)
+{
+    std::vector<Extra> extras;
+    for (const TermOnSide& typed : assignment.extras) {
+        extras.push_back(explained(typed, roles, assignment));
+    }
+    return extras;
+}
+
+} // namespace lesson
