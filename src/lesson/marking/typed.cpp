@@ -35,10 +35,6 @@ constexpr Spelling spellings[] = {
     {"\u2015", "-"}, {"\u2043", "-"}, {"\u2212", "-"}, {"\u2796", "-"}, {"\uFE58", "-"},
     {"\uFE63", "-"}, {"\u02D7", "-"},
     {"\u2795", "+"}, {"\uFE62", "+"},
-    // Subscripts.
-    {"\u2080", "0"}, {"\u2081", "1"}, {"\u2082", "2"}, {"\u2083", "3"}, {"\u2084", "4"},
-    {"\u2085", "5"}, {"\u2086", "6"}, {"\u2087", "7"}, {"\u2088", "8"}, {"\u2089", "9"},
-    {"\u208A", "+"}, {"\u208B", "-"}, {"\u208D", "("}, {"\u208E", ")"},
     // Arrows.
     {"\u2192", "->"}, {"\u27F6", "->"}, {"\u21D2", "->"}, {"\u27F9", "->"}, {"\u279D", "->"},
     {"\u279C", "->"}, {"\u2794", "->"}, {"\u21C0", "->"}, {"\u21FE", "->"}, {"\u21C1", "->"},
@@ -66,6 +62,12 @@ constexpr Spelling spellings[] = {
     // Fractions as one character: a blank keeps them apart from a number in front.
     {"\u00BD", " 1/2"}, {"\u2153", " 1/3"}, {"\u2154", " 2/3"}, {"\u00BC", " 1/4"},
     {"\u00BE", " 3/4"}, {"\u2159", " 1/6"}, {"\u2044", "/"}, {"\u2215", "/"},
+};
+
+constexpr Spelling subscripts[] = {
+    {"\u2080", "0"}, {"\u2081", "1"}, {"\u2082", "2"}, {"\u2083", "3"}, {"\u2084", "4"},
+    {"\u2085", "5"}, {"\u2086", "6"}, {"\u2087", "7"}, {"\u2088", "8"}, {"\u2089", "9"},
+    {"\u208A", "+"}, {"\u208B", "-"}, {"\u208D", "("}, {"\u208E", ")"},
 };
 
 constexpr Spelling superscripts[] = {
@@ -141,9 +143,8 @@ std::size_t ordinaryLength(std::string_view text)
                                     text.begin());
 }
 
-} // namespace
-
-std::string plainTyped(std::string_view typed)
+// `lowered` stands before each subscript.
+std::string inOneSpelling(std::string_view typed, std::string_view lowered)
 {
     const std::string text = withoutMarkup(typed);
     typed = text;
@@ -168,11 +169,27 @@ std::string plainTyped(std::string_view typed)
             typed.remove_prefix(wideLength);
             continue;
         }
-        const Spelling* const known = inSuperscript ? superscript : spellingAt(spellings, typed);
+        const Spelling* const subscript = spellingAt(subscripts, typed);
+        plain += subscript == nullptr ? "" : lowered;
+        const Spelling* const known = inSuperscript          ? superscript
+                                      : subscript != nullptr ? subscript
+                                                             : spellingAt(spellings, typed);
         plain += known == nullptr ? typed.substr(0, 1) : known->plain;
         typed.remove_prefix(known == nullptr ? 1 : known->typed.size());
     }
     return std::string(withoutWrapping(plain));
+}
+
+} // namespace
+
+std::string plainTyped(std::string_view typed)
+{
+    return inOneSpelling(typed, "");
+}
+
+std::string markedTyped(std::string_view typed)
+{
+    return inOneSpelling(typed, "_");
 }
 
 std::string quotable(std::string_view typed)

@@ -15,6 +15,10 @@ namespace lesson
 //   " 3.42×10⁻² " -> "3.42×10^-2"    "SO₄²⁻" -> "SO4^2-"    "CuSO₄•5H₂O" -> "CuSO4·5H2O"
 std::string plainTyped(std::string_view typed);
 
+// The same, but what was typed lowered stays so: each subscript is written behind a "_".
+//   "SO₄²⁻" -> "SO_4^2-"    "N₃⁻" -> "N_3^-"
+std::string markedTyped(std::string_view typed);
+
 // The text for a sentence to the learner: at most 40 characters of it and then "…", with a
 // replacement character for every byte that is no UTF-8 and for control characters.
 std::string quotable(std::string_view typed);

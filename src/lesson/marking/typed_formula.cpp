@@ -506,7 +506,7 @@ std::string withoutBond(std::string plain)
 {
     const std::size_t bond = plain.find("-CO");
     if (bond != std::string::npos && bond > 0 &&
-        (plain[bond - 1] == '3' || plain[bond - 1] == 'C')) {
+        std::string_view("3}C").find(plain[bond - 1]) != std::string_view::npos) {
         plain.erase(bond, 1);
     }
     return plain;
@@ -542,9 +542,14 @@ std::string spelledOut(std::string_view plain)
     return text;
 }
 
+std::string_view withoutState(std::string_view plain)
+{
+    return splitState(plain).formula;
+}
+
 std::string bareFormula(std::string_view plain)
 {
-    std::string_view left = splitState(plain).formula;
+    std::string_view left = withoutState(plain);
     std::string bare;
     while (!left.empty()) {
         const std::size_t dot = dotLength(left);

@@ -39,6 +39,9 @@ std::string spelledOut(std::string_view plain);
 // Without the bond that some write inside an ethanoate: "CH3-COO-" -> "CH3COO-".
 std::string withoutBond(std::string plain);
 
+// Without the state and the full stop behind it: "SO4^2- (aq)." -> "SO4^2-".
+std::string_view withoutState(std::string_view plain);
+
 // The formula in one spelling without reading it: no blanks, no state, round brackets, plain digits
 // and dots. So texts can be compared that are no formulas: "Jo_2" and "Jo2" are the same.
 std::string bareFormula(std::string_view plain);
