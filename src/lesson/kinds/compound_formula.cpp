@@ -7,6 +7,7 @@
 #include "lesson/kinds/classified.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/salts.hpp"
+#include "lesson/marking/confusions.hpp"
 #include "lesson/marking/formula.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
@@ -78,6 +79,20 @@ std::string lastSentence(bool repeatsGroup, bool repeatsNothing)
                           : "Write the positive ion first; small numbers count the ions.";
 }
 
+std::string ionsHint(const IonRow& cation)
+{
+    const std::string charges = hasRomanNumeral(cation)
+                                    ? " A Roman numeral tells the charge of the one in front of it."
+                                    : " What are their charges?";
+    return "The name begins with the positive ion and ends with the negative one." + charges;
+}
+
+std::string lastHint(bool repeatsGroup)
+{
+    return repeatsGroup ? "Which number belongs to a whole group of atoms?"
+                        : "Which ion comes first? A number stands behind what it counts.";
+}
+
 std::vector<Step> workedSolution(const IonRow& cation, const IonRow& anion)
 {
     const int positive = cationsIn(cation, anion);
@@ -87,13 +102,14 @@ std::vector<Step> workedSolution(const IonRow& cation, const IonRow& anion)
     return {
         {line(capitalised(nameOf(cation, anion)), " has these ions.",
               hasRomanNumeral(cation) ? " The Roman numeral is the charge of the metal ion." : ""),
-         line(spanOf(cation), ", ", spanOf(anion))},
+         line(spanOf(cation), ", ", spanOf(anion)), line(ionsHint(cation))},
         {line(isOneEach ? "One of each: the charges cancel."
                         : "Find the fewest ions whose charges cancel."),
          line(chargeTerm(positive, cation.charge) + " + " + chargeTerm(negative, anion.charge) +
-              " = 0")},
-        {line(lastSentence(repeatsGroup, isOneEach)),
-         line(formula(compoundFormula(cation, anion)))},
+              " = 0"),
+         line("A compound has no charge. How many of each ion does that take?")},
+        {line(lastSentence(repeatsGroup, isOneEach)), line(formula(compoundFormula(cation, anion))),
+         line(lastHint(repeatsGroup))},
     };
 }
 
@@ -114,11 +130,6 @@ std::string written(const Part& part)
     return (part.isGroup ? "(" + part.ion + ")" : part.ion) + std::to_string(part.times);
 }
 
-bool isGroup(std::string_view ion)
-{
-    return ion.size() > 2 || (ion.size() == 2 && ion[1] < 'a');
-}
-
 // The slips of one exercise, kind by kind.
 class Slips
 {
@@ -136,8 +147,8 @@ public:
         addRomanNumeral();
         addBracket();
         addCharges();
-        addEndings();
-        addOtherIons();
+        addOtherAnions();
+        addOtherCations();
         addSymbols();
         addChargesLeftIn();
         addOxygens();
@@ -159,10 +170,13 @@ private:
         if (!hasRomanNumeral(cation)) {
             return;
         }
-        addTimes(cation.charge, 1, sentences::romanNumeral);
-        if (cation.formula == "Fe" || cation.formula == "Cu") {
-            addCharge(cation.formula == "Cu" ? 1 : 5 - cation.charge, sentences::romanNumeral);
+        constexpr int greatest = 7;
+        for (int charge = 1; charge <= greatest; ++charge) {
+            if (hasOtherCharge(cation, charge)) {
+                addCharge(charge, sentences::chargeOfMetal);
+            }
         }
+        addTimes(cation.charge, 1, sentences::romanNumeral);
         if (second.times > 1) {
             addTimes(cation.charge, second.times, sentences::romanNumeral);
         }
@@ -195,41 +209,21 @@ private:
         addTimes(second.times, first.times, sentences::chargesDoNotCancel);
     }
 
-    void addAnion(std::string_view other, int charge, std::string_view sentence)
+    void addOtherAnions()
     {
-        const int common = std::gcd(cation.charge, charge);
-        add({first.ion, first.isGroup, -charge / common},
-            {std::string(other), isGroup(other), cation.charge / common}, sentence);
-    }
-
-    void addEndings()
-    {
-        for (const Sibling& sibling : siblingsOf(anion)) {
-            addAnion(sibling.formula, sibling.charge, sentences::ending);
+        for (const Confusion* const other : confusionsOf(anion)) {
+            const int common = std::gcd(cation.charge, other->charge);
+            add({first.ion, first.isGroup, -other->charge / common},
+                {std::string(other->formula), isGroup(other->formula), cation.charge / common},
+                other->sentence);
         }
     }
 
-    void addOtherIons()
+    void addOtherCations()
     {
-        struct Confused {
-            std::string_view anion;
-            std::string_view other;
-            int charge;
-            std::string_view sentence;
-        };
-        constexpr std::string_view oxides = "Oxide and hydroxide are two different ions.";
-        constexpr std::string_view carbonates =
-            "Carbonate and hydrogencarbonate are two different ions.";
-        constexpr Confused table[] = {
-            {"oxide", "OH", -1, oxides},
-            {"hydroxide", "O", -2, oxides},
-            {"carbonate", "HCO3", -1, carbonates},
-            {"hydrogencarbonate", "CO3", -2, carbonates},
-        };
-        for (const Confused& row : table) {
-            if (row.anion == anion.name) {
-                addAnion(row.other, row.charge, row.sentence);
-            }
+        for (const Confusion* const other : confusionsOf(cation)) {
+            add({std::string(other->formula), isGroup(other->formula), first.times}, second,
+                other->sentence);
         }
     }
 

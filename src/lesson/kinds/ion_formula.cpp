@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstdlib>
 #include <iterator>
 #include <string>
@@ -7,6 +8,7 @@
 #include "lesson/kinds/classified.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/salts.hpp"
+#include "lesson/marking/confusions.hpp"
 #include "lesson/marking/formula.hpp"
 #include "lesson/marking/ion.hpp"
 #include "lesson/marking/sentences.hpp"
@@ -89,6 +91,44 @@ std::string atomsInWords(const Atoms& atoms)
     return words;
 }
 
+// What helps to find the atoms of a group, and its charge; the rows without a name are for all that
+// end so.
+struct GroupHint {
+    std::string_view name;
+    std::string_view end;
+    const char* atoms;
+    const char* charge;
+};
+
+constexpr const char* acidCharge =
+    "Each hydrogen ion that its acid gives away leaves a charge of 1− behind.";
+
+// clang-format off
+constexpr GroupHint groupHints[] = {
+    {"ammonium", "", "It is a molecule of ammonia joined to a hydrogen ion.",
+     "The hydrogen ion brings its charge along."},
+    {"hydroxide", "", "Its name is made of those of two elements.",
+     "It is a water molecule that has given a hydrogen ion away."},
+    {"ethanoate", "", "Its acid is the one in vinegar, which has one hydrogen more.", acidCharge},
+    {"hydrogencarbonate", "", "Hydrogen comes first. What is the ion without it?", acidCharge},
+    {"hydrogensulfate", "", "Hydrogen comes first. What is the ion without it?", acidCharge},
+    {"dichromate", "", "di- tells of two chromium atoms, the ending -ate of oxygen.", acidCharge},
+    {"", "ite", "The ending -ite tells of oxygen, one atom less than -ate.", acidCharge},
+    {"", "", "The ending -ate tells of oxygen, the rest of the name of the other element.",
+     acidCharge},
+};
+// clang-format on
+
+const GroupHint& hintFor(const IonRow& ion)
+{
+    return *std::find_if(
+        std::begin(groupHints), std::end(groupHints), [&ion](const GroupHint& row) {
+            const std::string_view end =
+                ion.name.substr(ion.name.size() - std::min(ion.name.size(), row.end.size()));
+            return row.name == ion.name || (row.name.empty() && row.end == end);
+        });
+}
+
 std::vector<Step> groupSolution(const IonRow& ion)
 {
     const std::string remark =
@@ -96,9 +136,9 @@ std::vector<Step> groupSolution(const IonRow& ion)
     const std::string plain(ion.formula);
     return {
         {line(capitalised(nameOf(ion)), " is ", atomsInWords(compositionOf(plain).atoms), "."),
-         line(formula(plain))},
+         line(formula(plain)), line(hintFor(ion).atoms)},
         {line("The group as a whole has the charge ", chargeWords(ion), ".", remark),
-         line(spanOf(ion))},
+         line(spanOf(ion)), line(hintFor(ion).charge)},
     };
 }
 
@@ -116,7 +156,9 @@ std::string electrons(int count)
 Spans chargeSentence(const IonRow& ion, const ElementRow& row)
 {
     const int size = std::abs(ion.charge);
-    const std::string group = " is in group " + std::to_string(row.group) + ": ";
+    // Groups 13 to 18 were numbered 3 to 8 before.
+    const std::string former = row.group > 12 ? " (" + std::to_string(row.group - 10) + ")" : "";
+    const std::string group = " is in group " + std::to_string(row.group) + former + ": ";
     if (hasRomanNumeral(ion)) {
         return line("The Roman numeral tells the charge: " + chargeWords(ion) + ".");
     }
@@ -133,15 +175,31 @@ Spans chargeSentence(const IonRow& ion, const ElementRow& row)
     return line(capitalised(nameOf(row)), group, "its atom loses ", electrons(size), ".");
 }
 
+const char* chargeHint(const IonRow& ion, const ElementRow& row)
+{
+    if (hasRomanNumeral(ion)) {
+        return "The name itself tells the charge.";
+    }
+    if (ion.charge < 0) {
+        return "How many electrons are missing from the outer shell of its atom?";
+    }
+    return row.group > 2 && row.group < 13
+               ? "Its charge is always the same and has to be looked up."
+               : "How many electrons are in the outer shell of its atom? It loses them.";
+}
+
 std::vector<Step> atomSolution(const IonRow& ion)
 {
     const ElementRow& row = *findElement(ion.formula);
     const Spans symbol = ion.charge < 0
                              ? line(capitalised(nameOf(ion)), " is an ion of ", nameOf(row), ".")
                              : line("Take the symbol of ", nameOf(row), ".");
+    const char* const element =
+        ion.charge < 0 ? "Its name is that of an element with the ending -ide. Find the symbol."
+                       : "Which element is it? Find it in the periodic table.";
     return {
-        {symbol, line(formula(std::string(row.symbol)))},
-        {chargeSentence(ion, row), line(spanOf(ion))},
+        {symbol, line(formula(std::string(row.symbol))), line(element)},
+        {chargeSentence(ion, row), line(spanOf(ion)), line(chargeHint(ion, row))},
     };
 }
 
@@ -154,35 +212,28 @@ std::string textOf(std::string_view formulaWithoutCharge, int charge)
            (charge < 0 ? "-" : "+");
 }
 
-struct Confusion {
-    std::string_view of; // name of the ion
-    std::string_view text;
+// Beside those that are taken for another in formulas too.
+struct Mistaken {
+    std::string_view of;   // name of the ion
+    std::string_view text; // with the charge
     std::string_view sentence;
 };
 
-constexpr std::string_view oxides = "Oxide and hydroxide are two different ions.";
-constexpr std::string_view carbonates = "Carbonate and hydrogencarbonate are two different ions.";
-constexpr std::string_view sulfates = "Sulfate and hydrogensulfate are two different ions.";
 constexpr std::string_view hydrogens = "Check the number of hydrogen atoms.";
 constexpr std::string_view carbons = "Check the number of carbon atoms.";
-constexpr std::string_view moreOxygen = "Which one has more oxygen: -ite or -ate?";
+constexpr std::string_view ownCharge = "Hydrogen brings a charge of its own.";
 constexpr std::string_view notItsCharge =
     "The Roman numeral is the oxidation number of manganese, not the charge of the ion.";
 
 // clang-format off
-constexpr Confusion confusions[] = {
+constexpr Mistaken mistakes[] = {
     {"hydrogen", "H3O^+", "That is a hydrogen ion joined to a water molecule."},
-    {"ammonium", "NH3", "That is ammonia, which is no ion."},
+    {"hydrogen", "OH^-", "That is the hydroxide ion, which bases have."},
+    {"ammonium", "NH3", sentences::ammonia},
     {"ammonium", "NH3^+", hydrogens},
     {"ammonium", "NH2^+", hydrogens},
-    {"hydroxide", "O^2-", oxides},
-    {"oxide", "OH^-", oxides},
-    {"carbonate", "HCO3^-", carbonates},
-    {"hydrogencarbonate", "CO3^2-", carbonates},
-    {"hydrogencarbonate", "HCO3^2-", "Hydrogen brings a charge of its own."},
-    {"sulfate", "HSO4^-", sulfates},
-    {"hydrogensulfate", "SO4^2-", sulfates},
-    {"hydrogensulfate", "HSO4^2-", "Hydrogen brings a charge of its own."},
+    {"hydrogencarbonate", "HCO3^2-", ownCharge},
+    {"hydrogensulfate", "HSO4^2-", ownCharge},
     {"ethanoate", "HCOO^-", carbons},
     {"ethanoate", "CH3CH2COO^-", carbons},
     {"ethanoate", "CH3COOH", "That is the acid, which is no ion."},
@@ -192,9 +243,9 @@ constexpr Confusion confusions[] = {
 };
 // clang-format on
 
-void addConfusions(Exercise& exercise, const IonRow& ion, const std::vector<std::string>& right)
+void addMistakes(Exercise& exercise, const IonRow& ion, const std::vector<std::string>& right)
 {
-    for (const Confusion& row : confusions) {
+    for (const Mistaken& row : mistakes) {
         if (row.of == ion.name) {
             addSlip(exercise, right, std::string(row.text), row.sentence);
         }
@@ -219,11 +270,8 @@ void addCharges(Exercise& exercise, const IonRow& ion, const std::vector<std::st
 
 void addFormulas(Exercise& exercise, const IonRow& ion, const std::vector<std::string>& right)
 {
-    const bool hasOxygen = ion.formula.find('O') != std::string_view::npos;
-    for (const Sibling& sibling : siblingsOf(ion)) {
-        const bool haveBoth = hasOxygen && sibling.formula.find('O') != std::string_view::npos;
-        addSlip(exercise, right, textOf(sibling.formula, sibling.charge),
-                haveBoth ? moreOxygen : sentences::ending);
+    for (const Confusion* const other : confusionsOf(ion)) {
+        addSlip(exercise, right, textOf(other->formula, other->charge), other->sentence);
     }
     for (const std::string_view symbol : wrongSymbolsOf(ion)) {
         addSlip(exercise, right, textOf(symbol, ion.charge), sentences::checkSymbol(symbol));
@@ -261,7 +309,7 @@ Exercise ionFormulaExercise(const Place& place)
     exercise.answer = IonAnswer{&ion};
     exercise.solution = ion.isGroup ? groupSolution(ion) : atomSolution(ion);
     const std::vector<std::string> right = rightTexts(ion);
-    addConfusions(exercise, ion, right);
+    addMistakes(exercise, ion, right);
     addCharges(exercise, ion, right);
     addFormulas(exercise, ion, right);
     return exercise;

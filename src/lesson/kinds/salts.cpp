@@ -22,7 +22,7 @@ constexpr WrongSymbol wrongSymbols[] = {
     {"lithium", "L"},
     {"sodium", "S"}, {"sodium", "So"},
     {"potassium", "P"}, {"potassium", "Po"},
-    {"ammonium", "NH3"}, {"ammonium", "Am"},
+    {"ammonium", "Am"},
     {"silver", "S"}, {"silver", "Si"},
     {"magnesium", "Mn"}, {"magnesium", "M"},
     {"calcium", "C"},
@@ -45,21 +45,6 @@ constexpr WrongSymbol wrongSymbols[] = {
     {"sulfide", "Su"},
     {"nitride", "Ni"},
     {"phosphide", "Ph"},
-};
-
-constexpr Sibling siblings[] = {
-    {"sulfate", "S", -2},   {"sulfate", "SO3", -2},
-    {"sulfite", "S", -2},   {"sulfite", "SO4", -2},
-    {"sulfide", "SO4", -2}, {"sulfide", "SO3", -2},
-    {"nitrate", "N", -3},   {"nitrate", "NO2", -1},
-    {"nitrite", "N", -3},   {"nitrite", "NO3", -1},
-    {"nitride", "NO3", -1}, {"nitride", "NO2", -1},
-    {"phosphate", "P", -3}, {"phosphate", "PO3", -3},
-    {"phosphide", "PO4", -3},
-    {"chloride", "ClO3", -1},
-    {"bromide", "BrO3", -1},
-    {"iodide", "IO3", -1},
-    {"hydrogensulfate", "HSO3", -1},
 };
 // clang-format on
 
@@ -127,14 +112,6 @@ std::vector<std::string_view> wrongSymbolsOf(const IonRow& ion)
         }
     }
     return symbols;
-}
-
-std::vector<Sibling> siblingsOf(const IonRow& ion)
-{
-    std::vector<Sibling> found;
-    std::copy_if(std::begin(siblings), std::end(siblings), std::back_inserter(found),
-                 [&ion](const Sibling& sibling) { return sibling.of == ion.name; });
-    return found;
 }
 
 std::string withOxygens(const IonRow& ion, int more)

@@ -30,14 +30,6 @@ void addSlip(Exercise& exercise, const std::vector<std::string>& right, std::str
 // What learners write for the symbol of an ion: "P" for potassium, "Ni" for nitride.
 std::vector<std::string_view> wrongSymbolsOf(const IonRow& ion);
 
-// An ion whose name differs in its ending: nitride and nitrite for nitrate.
-struct Sibling {
-    std::string_view of;      // name of the ion
-    std::string_view formula; // of the other one
-    int charge;
-};
-std::vector<Sibling> siblingsOf(const IonRow& ion);
-
 // The formula with one oxygen atom more or less, "SO5" for SO4; empty where that is not asked
 // about.
 std::string withOxygens(const IonRow& ion, int more);

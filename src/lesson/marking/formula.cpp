@@ -6,7 +6,9 @@
 #include <optional>
 
 #include "lesson/compound.hpp"
+#include "lesson/marking/confusions.hpp"
 #include "lesson/marking/lookalikes.hpp"
+#include "lesson/marking/reading.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/marking/typed.hpp"
@@ -46,11 +48,34 @@ std::string withoutBrackets(std::string text)
 }
 
 // An ion as often as it is asked, in brackets if it needs them.
-std::string repeated(const IonRow& ion, int times)
+std::string repeated(std::string_view ion, int times)
 {
-    const std::string once(ion.formula);
+    const std::string once(ion);
     const std::string number = times == 1 ? "" : std::to_string(times);
-    return (ion.isGroup && times > 1 ? "(" + once + ")" : once) + number;
+    return (isGroup(ion) && times > 1 ? "(" + once + ")" : once) + number;
+}
+
+// How often each of two ions stands in a formula; none in one that is not made of them.
+struct Counts {
+    int positive = 0;
+    int negative = 0;
+};
+
+Counts countsIn(std::string_view formula, std::string_view cation, std::string_view anion)
+{
+    constexpr int most = 9;
+    for (int positive = 1; positive <= most; ++positive) {
+        const std::string first = repeated(cation, positive);
+        if (formula.substr(0, first.size()) != first) {
+            continue;
+        }
+        for (int negative = 1; negative <= most; ++negative) {
+            if (formula.substr(first.size()) == repeated(anion, negative)) {
+                return {positive, negative};
+            }
+        }
+    }
+    return {};
 }
 
 bool endsWith(std::string_view text, std::string_view end)
@@ -168,6 +193,30 @@ std::optional<Mark> notRead(const Attempt& attempt)
     return unreadable(attempt.read.unread, attempt.whatToType);
 }
 
+// "2Al + 3O"
+std::optional<Mark> sum(const Attempt& attempt)
+{
+    std::string_view left = attempt.plain;
+    bool isApart = false;
+    std::size_t plus = left.find('+');
+    if (plus == std::string_view::npos) {
+        return std::nullopt;
+    }
+    for (;;) {
+        const std::string_view part = left.substr(0, plus);
+        const TypedFormula read = readFormula(part);
+        if (!read.isRead || read.hasCharge) {
+            return std::nullopt;
+        }
+        isApart = isApart || startsWithDigit(part) || part.front() == ' ' || part.back() == ' ';
+        if (plus >= left.size()) {
+            return slipWhen(isApart, "Write one formula, without a plus sign.");
+        }
+        left.remove_prefix(plus + 1);
+        plus = left.find('+');
+    }
+}
+
 std::optional<Mark> chargesLeftIn(const Attempt& attempt)
 {
     return slipWhen(attempt.read.hasCharge, sentences::chargesLeftIn);
@@ -227,17 +276,38 @@ std::optional<Mark> notSimplified(const Attempt& attempt)
     return slipWhen(isMultiple(attempt.read.atoms, attempt.rightAtoms), sentences::simplify);
 }
 
-// The right ions in wrong numbers.
+// The right ions in wrong numbers; those of a metal may be right for another charge of it, "PbO2".
 std::optional<Mark> chargesDoNotCancel(const Attempt& attempt)
 {
-    constexpr int most = 9;
-    for (int positive = 1; positive <= most; ++positive) {
-        for (int negative = 1; negative <= most; ++negative) {
-            const std::string text = repeated(*attempt.answer.cation, positive) +
-                                     repeated(*attempt.answer.anion, negative);
-            if (text == attempt.read.simplest) {
-                return markOf(Verdict::slip, sentences::chargesDoNotCancel);
-            }
+    const IonRow& cation = *attempt.answer.cation;
+    const IonRow& anion = *attempt.answer.anion;
+    const Counts counts = countsIn(attempt.read.simplest, cation.formula, anion.formula);
+    if (counts.positive == 0) {
+        return std::nullopt;
+    }
+    const int charge = -anion.charge * counts.negative;
+    const bool isNeutral = hasRomanNumeral(cation) && charge % counts.positive == 0 &&
+                           hasOtherCharge(cation, charge / counts.positive);
+    return markOf(Verdict::slip,
+                  isNeutral ? sentences::chargeOfMetal : sentences::chargesDoNotCancel);
+}
+
+// Another ion for one of the two, whatever their numbers: "Na2SO3", "NaHSO4", "NH3Cl".
+std::optional<Mark> otherIon(const Attempt& attempt)
+{
+    const IonRow& cation = *attempt.answer.cation;
+    const IonRow& anion = *attempt.answer.anion;
+    const auto isMadeOf = [&](std::string_view positive, std::string_view negative) {
+        return countsIn(attempt.read.simplest, positive, negative).positive > 0;
+    };
+    for (const Confusion* const other : confusionsOf(anion)) {
+        if (isMadeOf(cation.formula, other->formula)) {
+            return markOf(Verdict::slip, other->sentence);
+        }
+    }
+    for (const Confusion* const other : confusionsOf(cation)) {
+        if (isMadeOf(other->formula, anion.formula)) {
+            return markOf(Verdict::slip, other->sentence);
         }
     }
     return std::nullopt;
@@ -247,8 +317,8 @@ std::optional<Mark> otherOrder(const Attempt& attempt)
 {
     const IonRow& cation = *attempt.answer.cation;
     const IonRow& anion = *attempt.answer.anion;
-    const std::string reversed =
-        repeated(anion, anionsIn(cation, anion)) + repeated(cation, cationsIn(cation, anion));
+    const std::string reversed = repeated(anion.formula, anionsIn(cation, anion)) +
+                                 repeated(cation.formula, cationsIn(cation, anion));
     if (attempt.read.simplest == reversed) {
         return markOf(Verdict::slip, sentences::positiveFirst);
     }
@@ -274,10 +344,10 @@ std::optional<Mark> oxygens(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped,   right,         capitals,      lookalikes,         listedSlip,  notRead,
-    chargesLeftIn,  raisedNumber,  numberInFront, numeralLeftIn,      waterLeftIn, bracketNotNeeded,
-    bracketMissing, notSimplified, otherOrder,    chargesDoNotCancel, symbol,      ending,
-    oxygens,
+    nothingTyped,     right,          capitals,      lookalikes,    listedSlip,         sum,
+    notRead,          chargesLeftIn,  raisedNumber,  numberInFront, numeralLeftIn,      waterLeftIn,
+    bracketNotNeeded, bracketMissing, notSimplified, otherOrder,    chargesDoNotCancel, otherIon,
+    symbol,           ending,         oxygens,
 };
 
 // A formula cut at its symbols: "K2SO4" -> K, S, O and "?2??4".
@@ -367,10 +437,10 @@ std::string wrongSymbol(std::string_view text, const std::vector<std::string>& r
     return "";
 }
 
-bool mistakesEnding(const IonRow& anion, const Atoms& typed, const Atoms& right)
+bool mistakesEnding(const IonRow& ion, const Atoms& typed, const Atoms& right)
 {
     const bool isDue = hasOxygen(right);
-    const bool isTold = !isDue || !endsWith(anion.name, "ide");
+    const bool isTold = ion.charge < 0 && (!isDue || !endsWith(ion.name, "ide"));
     return isTold && hasOxygen(typed) != isDue &&
            haveSameElements(withoutOxygen(typed), withoutOxygen(right));
 }

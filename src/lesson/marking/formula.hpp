@@ -25,8 +25,9 @@ std::vector<std::string> withoutNumeral(std::string_view text);
 std::string wrongSymbol(std::string_view text, const std::vector<std::string>& rightTexts);
 
 // Whether the one has oxygen where the other has none, and an ending tells which: of an anion in
-// -ate or -ite, or of one in -ide that is without oxygen, unlike oxide and hydroxide.
-bool mistakesEnding(const IonRow& anion, const Atoms& typed, const Atoms& right);
+// -ate or -ite, or of one in -ide that is without oxygen, unlike oxide and hydroxide. A cation has
+// no such ending.
+bool mistakesEnding(const IonRow& ion, const Atoms& typed, const Atoms& right);
 
 // Whether two formulas have the same atoms but for another number of oxygen atoms; each has some.
 bool differInOxygens(const Atoms& a, const Atoms& b);
@@ -35,6 +36,7 @@ namespace sentences
 {
 
 constexpr std::string_view romanNumeral = "The Roman numeral is a charge.";
+constexpr std::string_view chargeOfMetal = "The Roman numeral is the charge of the metal ion.";
 constexpr std::string_view simplify = "Simplify.";
 constexpr std::string_view bracketMissing = "What does the small number multiply?";
 constexpr std::string_view bracketNotNeeded =

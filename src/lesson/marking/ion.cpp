@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "lesson/marking/confusions.hpp"
 #include "lesson/marking/formula.hpp"
 #include "lesson/marking/lookalikes.hpp"
 #include "lesson/marking/sentences.hpp"
@@ -277,6 +278,20 @@ std::optional<Mark> otherOrder(const Attempt& attempt)
     return slipWhen(anyReading(attempt, hasItsAtoms), "The atoms are right. Check their order.");
 }
 
+// Whatever its charge.
+std::optional<Mark> otherIon(const Attempt& attempt)
+{
+    for (const Confusion* const other : confusionsOf(attempt.ion)) {
+        const auto isTyped = [&](const IonReading& reading) {
+            return reading.formula.simplest == other->formula;
+        };
+        if (anyReading(attempt, isTyped)) {
+            return markOf(Verdict::slip, other->sentence);
+        }
+    }
+    return std::nullopt;
+}
+
 std::optional<Mark> ending(const Attempt& attempt)
 {
     return slipWhen(anyReading(attempt,
@@ -309,9 +324,9 @@ std::optional<Mark> symbol(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped,  right,   capitals, raisedWithoutSign, misplaced,         lookalikes, listedSlip,
-    numeralLeftIn, notRead, noCharge, wrongCharge,       chargeAsSubscript, otherOrder, ending,
-    oxygens,       symbol,
+    nothingTyped, right,         capitals, raisedWithoutSign, misplaced,   lookalikes,
+    listedSlip,   numeralLeftIn, notRead,  noCharge,          wrongCharge, chargeAsSubscript,
+    otherOrder,   otherIon,      ending,   oxygens,           symbol,
 };
 
 } // namespace

@@ -17,7 +17,6 @@ constexpr std::string_view correct = "Correct.";
 constexpr std::string_view notYet =
     "Not right yet. Write down what you know, or press Show a step.";
 constexpr std::string_view capitals = "Check the capitals: first letter large, second small.";
-constexpr std::string_view ending = "The ending tells you whether there is oxygen.";
 
 // Of a symbol or a short formula.
 inline std::string checkSymbol(std::string_view symbol)

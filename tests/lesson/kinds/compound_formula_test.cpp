@@ -156,7 +156,8 @@ TEST(CompoundFormulaTest, APageOfEachLevel)
               "! AlSO4  The charges do not cancel yet. How many of each ion are needed?\n"
               "! Al3(SO4)2  The charges do not cancel yet. How many of each ion are needed?\n"
               "! Al2S3  The ending tells you whether there is oxygen.\n"
-              "! Al2(SO3)3  The ending tells you whether there is oxygen.\n"
+              "! Al2(SO3)3  Which one has more oxygen: -ite or -ate?\n"
+              "! Al(HSO4)3  Sulfate and hydrogensulfate are two different ions.\n"
               "! A2(SO4)3  Check this symbol: A.\n"
               "! (Al^3+)2(SO4^2-)3  A compound has no charge: leave out the charges of its ions.\n"
               "! Al2(SO5)3  Check the number of oxygen atoms.\n");
@@ -167,7 +168,7 @@ TEST(CompoundFormulaTest, APageOfEachLevel)
               "  One of each: the charges cancel. | (+2) + (−2) = 0\n"
               "  Write the positive ion first, and leave out the charges. | CuO\n"
               "= CuO\n"
-              "! Cu2O  The Roman numeral is a charge.\n"
+              "! Cu2O  The Roman numeral is the charge of the metal ion.\n"
               "! Cu2O2  Simplify.\n"
               "! Cu(OH)2  Oxide and hydroxide are two different ions.\n"
               "! CO  Check this symbol: C.\n"
@@ -194,15 +195,21 @@ TEST(CompoundFormulaTest, TheCommonSlipsAreListed)
     const Row rows[] = {
         {"K2SO4", "P2SO4", "Check this symbol: P."},
         {"NaCl", "SCl", "Check this symbol: S."},
-        {"(NH4)2SO4", "(NH3)2SO4", "Check this symbol: NH3."},
+        {"(NH4)2SO4", "(NH3)2SO4", "That is ammonia. The ammonium ion has one hydrogen more."},
         {"(NH4)2SO4", "NH42SO4", "What does the small number multiply?"},
         {"FeCl3", "Fe3Cl", "The Roman numeral is a charge."},
-        {"FeCl3", "FeCl2", "The Roman numeral is a charge."},
-        {"FeCl2", "FeCl3", "The Roman numeral is a charge."},
-        {"CuCl2", "CuCl", "The Roman numeral is a charge."},
+        {"FeCl3", "FeCl2", "The Roman numeral is the charge of the metal ion."},
+        {"FeCl2", "FeCl3", "The Roman numeral is the charge of the metal ion."},
+        {"CuCl2", "CuCl", "The Roman numeral is the charge of the metal ion."},
+        {"PbO", "PbO2", "The Roman numeral is the charge of the metal ion."},
+        {"SnCl2", "SnCl4", "The Roman numeral is the charge of the metal ion."},
+        {"CrCl3", "CrCl2", "The Roman numeral is the charge of the metal ion."},
+        {"Na2SO4", "NaHSO4", "Sulfate and hydrogensulfate are two different ions."},
+        {"Na3PO4", "Na2HPO4", "Phosphate and hydrogenphosphate are two different ions."},
+        {"Na3PO4", "NaH2PO4", "Phosphate and dihydrogenphosphate are two different ions."},
         {"PbSO4", "Pb2SO4", "The Roman numeral is a charge."},
         {"NaNO3", "Na3N", "The ending tells you whether there is oxygen."},
-        {"NaNO3", "NaNO2", "The ending tells you whether there is oxygen."},
+        {"NaNO3", "NaNO2", "Which one has more oxygen: -ite or -ate?"},
         {"Li3N", "LiNO3", "The ending tells you whether there is oxygen."},
         {"MgO", "Mg2O2", "Simplify."},
         {"Ca(OH)2", "CaOH2", "What does the small number multiply?"},

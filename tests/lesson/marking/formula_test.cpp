@@ -156,6 +156,11 @@ TEST(FormulaMarkTest, SlipsGetTheirSentences)
     const std::string charges = "A compound has no charge: leave out the charges of its ions.";
     const std::string cancel = "The charges do not cancel yet. How many of each ion are needed?";
     const std::string ending = "The ending tells you whether there is oxygen.";
+    const std::string moreOxygen = "Which one has more oxygen: -ite or -ate?";
+    const std::string sulfates = "Sulfate and hydrogensulfate are two different ions.";
+    const std::string ammonia = "That is ammonia. The ammonium ion has one hydrogen more.";
+    const std::string chargeOfMetal = "The Roman numeral is the charge of the metal ion.";
+    const std::string plus = "Write one formula, without a plus sign.";
     const std::string oxygens = "Check the number of oxygen atoms.";
     const std::string letterO = "There is a zero where the letter O should be.";
     const std::string letterI = "There is a small l where the letter I should be.";
@@ -220,8 +225,39 @@ TEST(FormulaMarkTest, SlipsGetTheirSentences)
         {"sodium", "sulfate", "Na2S", ending},
         {"sodium", "sulfide", "Na2SO4", ending},
         {"sodium", "chloride", "NaClO", ending},
-        {"sodium", "sulfate", "Na2SO3", oxygens},
-        {"calcium", "nitrate", "Ca(NO2)2", oxygens},
+        {"sodium", "sulfate", "Na2SO3", moreOxygen},
+        {"sodium", "sulfate", "NaSO3", moreOxygen},
+        {"calcium", "nitrate", "Ca(NO2)2", moreOxygen},
+        {"sodium", "sulfate", "Na2SO5", oxygens},
+        {"sodium", "sulfate", "NaHSO4", sulfates},
+        {"sodium", "sulfate", "Na2HSO4", sulfates},
+        {"aluminium", "sulfate", "Al(HSO4)3", sulfates},
+        {"sodium", "phosphate", "NaHPO4",
+         "Phosphate and hydrogenphosphate are two different ions."},
+        {"sodium", "phosphate", "NaH2PO4",
+         "Phosphate and dihydrogenphosphate are two different ions."},
+        {"calcium", "carbonate", "Ca(HCO3)2",
+         "Carbonate and hydrogencarbonate are two different ions."},
+        {"ammonium", "chloride", "NH3Cl", ammonia},
+        {"ammonium", "sulfate", "(NH3)2SO4", ammonia},
+        {"ammonium", "sulfate", "NH3SO4", ammonia},
+        {"lead(II)", "oxide", "PbO2", chargeOfMetal},
+        {"lead(II)", "oxide", "Pb2O4", chargeOfMetal},
+        {"manganese(II)", "oxide", "MnO2", chargeOfMetal},
+        {"manganese(II)", "oxide", "Mn2O7", chargeOfMetal},
+        {"tin(II)", "chloride", "SnCl4", chargeOfMetal},
+        {"lead(II)", "chloride", "PbCl4", chargeOfMetal},
+        {"chromium(III)", "chloride", "CrCl2", chargeOfMetal},
+        {"copper(II)", "sulfate", "Cu2SO4", chargeOfMetal},
+        {"iron(II)", "nitrate", "Fe(NO3)3", chargeOfMetal},
+        {"iron(III)", "oxide", "Fe3O4", cancel},
+        {"lead(II)", "chloride", "PbCl3", cancel},
+        {"magnesium", "oxide", "MgO2", cancel},
+        {"aluminium", "oxide", "2Al + 3O", plus},
+        {"aluminium", "oxide", "Al + O", plus},
+        {"sodium", "chloride", "Na + Cl", plus},
+        {"aluminium", "oxide", "2Al3+ + 3O2-", charges},
+        {"sodium", "chloride", "Na+ + Cl-", charges},
         {"sodium", "hydroxide", "Na0H", letterO},
         {"aluminium", "oxide", "Al203", letterO},
         {"lithium", "oxide", "Li20", letterO},

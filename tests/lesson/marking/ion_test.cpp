@@ -186,6 +186,7 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
     const std::string size = "The sign is right. Check the size of the charge.";
     const std::string roman = "The Roman numeral tells the size of the charge.";
     const std::string ending = "The ending tells you whether there is oxygen.";
+    const std::string moreOxygen = "Which one has more oxygen: -ite or -ate?";
     const std::string oxygens = "Check the number of oxygen atoms.";
     const std::string letterO = "There is a zero where the letter O should be.";
     const std::string letterI = "There is a small l where the letter I should be.";
@@ -246,9 +247,17 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
         {"sulfate", "S2-", ending},
         {"sulfide", "SO4^2-", ending},
         {"chloride", "ClO3-", ending},
-        {"sulfate", "SO3^2-", oxygens},
-        {"nitrate", "NO2-", oxygens},
-        {"nitrite", "NO3^-", oxygens},
+        {"sulfate", "SO3^2-", moreOxygen},
+        {"sulfate", "SO3-", moreOxygen},
+        {"sulfite", "SO4^2-", moreOxygen},
+        {"nitrate", "NO2-", moreOxygen},
+        {"nitrite", "NO3^-", moreOxygen},
+        {"sulfate", "SO5^2-", oxygens},
+        {"sulfate", "HSO4^2-", "Sulfate and hydrogensulfate are two different ions."},
+        {"carbonate", "HCO3-", "Carbonate and hydrogencarbonate are two different ions."},
+        {"phosphate", "HPO4^2-", "Phosphate and hydrogenphosphate are two different ions."},
+        {"hydroxide", "O2-", "Oxide and hydroxide are two different ions."},
+        {"ammonium", "NH3+", "That is ammonia. The ammonium ion has one hydrogen more."},
         {"potassium", "P+", "Check this symbol: P."},
         {"manganese(II)", "Mg2+", "Check this symbol: Mg."},
         {"sulfate", "S042-", letterO},
@@ -328,6 +337,20 @@ TEST(IonMarkTest, SloppyChargesAreNotRight)
           "+2Zn", "Zn^2", "Zn^", "Zn2", "Zn+2+", "Zn^2+^", "Zn2+Zn2+", "2Zn2+", "Zn 2+ 2e-"}) {
         EXPECT_NE(markFor("zinc", typed).verdict, Verdict::correct) << typed;
     }
+}
+
+// Only anions have an ending that tells of oxygen.
+TEST(IonMarkTest, NoCationGetsTheSentenceOnEndings)
+{
+    for (const IonRow* const cation : cations()) {
+        for (const char* const with : {"O", "O2", "O3", "OH"}) {
+            const std::string typed = std::string(cation->formula) + with + "^+";
+            EXPECT_NE(markIon({cation}, {}, typed).sentence,
+                      "The ending tells you whether there is oxygen.")
+                << typed << " for " << cation->name;
+        }
+    }
+    EXPECT_NE(markFor("hydrogen", "OH-").sentence, "The ending tells you whether there is oxygen.");
 }
 
 TEST(IonMarkTest, AnythingElseIsNotRightYet)
