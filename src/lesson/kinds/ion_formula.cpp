@@ -100,6 +100,8 @@ struct GroupHint {
     const char* charge;
 };
 
+constexpr const char* withHydrogen =
+    "What is the charge without the hydrogen, and what does a hydrogen ion add?";
 constexpr const char* acidCharge =
     "Each hydrogen ion that its acid gives away leaves a charge of 1− behind.";
 
@@ -110,9 +112,9 @@ constexpr GroupHint groupHints[] = {
     {"hydroxide", "", "Its name is made of those of two elements.",
      "It is a water molecule that has given a hydrogen ion away."},
     {"ethanoate", "", "Its acid is the one in vinegar, which has one hydrogen more.", acidCharge},
-    {"hydrogencarbonate", "", "Hydrogen comes first. What is the ion without it?", acidCharge},
-    {"hydrogensulfate", "", "Hydrogen comes first. What is the ion without it?", acidCharge},
-    {"dichromate", "", "di- tells of two chromium atoms, the ending -ate of oxygen.", acidCharge},
+    {"hydrogencarbonate", "", "Hydrogen comes first. What is the ion without it?", withHydrogen},
+    {"hydrogensulfate", "", "Hydrogen comes first. What is the ion without it?", withHydrogen},
+    {"dichromate", "", "di- means two, and the ending -ate tells of oxygen.", acidCharge},
     {"", "ite", "The ending -ite tells of oxygen, one atom less than -ate.", acidCharge},
     {"", "", "The ending -ate tells of oxygen, the rest of the name of the other element.",
      acidCharge},

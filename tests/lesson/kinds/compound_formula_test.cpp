@@ -184,6 +184,23 @@ TEST(CompoundFormulaTest, AmericanNamesAreTold)
     EXPECT_EQ(exercise.solution[0].say[0].detail, "Calcium acetate");
 }
 
+// A hint helps before the step is shown: it is no copy of it, and tells nothing of its result.
+TEST(CompoundFormulaTest, EachStepHasAHintThatGivesNothingAway)
+{
+    for (const int level : {1, 2, 3}) {
+        for (const Exercise& exercise : wholePool(level)) {
+            for (const Step& step : exercise.solution) {
+                const std::string hint = textOf(step.hint);
+                EXPECT_GT(hint.size(), 20U) << textOf(step.say);
+                EXPECT_NE(hint, textOf(step.say));
+                EXPECT_EQ((hint + " ").find(" " + textOf(step.math) + " "), std::string::npos)
+                    << hint;
+                EXPECT_EQ(hint.find_first_of("123456789"), std::string::npos) << hint;
+            }
+        }
+    }
+}
+
 // Sodium is written S, and potassium P; ammonium NH3.
 TEST(CompoundFormulaTest, TheCommonSlipsAreListed)
 {

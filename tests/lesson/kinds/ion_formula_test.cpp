@@ -138,6 +138,22 @@ TEST(IonFormulaTest, GroupsOfThePeriodicTableGiveTheCharge)
     }
 }
 
+// A hint helps before the step is shown: it is no copy of it, and tells nothing of its result.
+TEST(IonFormulaTest, EachStepHasAHintThatGivesNothingAway)
+{
+    for (const int level : {1, 2, 3}) {
+        for (const Exercise& exercise : wholePool(level)) {
+            for (const Step& step : exercise.solution) {
+                const std::string hint = textOf(step.hint);
+                EXPECT_GT(hint.size(), 20U) << textOf(step.say);
+                EXPECT_NE(hint, textOf(step.say));
+                EXPECT_EQ((hint + " ").find(" " + textOf(step.math) + " "), std::string::npos)
+                    << hint;
+            }
+        }
+    }
+}
+
 TEST(IonFormulaTest, TheCommonSlipsAreListed)
 {
     struct Row {
