@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "lesson/exercise.hpp"
@@ -16,9 +17,13 @@ struct Expected {
     std::string sentence;  // for whoever gives it
 };
 
+// The text of an answer that stands for every one.
+constexpr std::string_view anything = "*";
+
 // The answers to recognise, in the order in which to try them, the key first unless they are
-// choices; none for an equation. Percent and sentences are those of the marking: what it calls
-// right gets 100, what is no failed try for it (other figures, very close) 50, mistakes 0.
+// choices, and behind all others what is said of anything else; none for an equation. Percent and
+// sentences are those of the marking: what it calls right gets 100, what is no failed try for it
+// (other figures, very close) 50, mistakes 0.
 std::vector<Expected> expectedAnswers(const Exercise& exercise);
 
 // The same for one form of answer each: a number; a few words to choose from; a formula, an ion,

@@ -150,26 +150,29 @@ private:
     {
         const Decimal end = stepped(run.rounded, run.above);
         Mark marked = mark({end.digits * 10 + 4, end.exponent - 1});
-        if (marked.verdict != Verdict::figures) {
+        const int percent = percentFor(marked.verdict);
+        if (percent == 0) {
             return;
         }
         const Ratio step = powerOfTen(run.rounded.exponent);
         const Ratio lowest = powerOfTen(exercise.ask.figures - 1) * step;
         const Ratio below = least(run) < lowest + step ? step * ratio(1, 20) : step * ratio(1, 2);
-        addBetween(50, least(run) - below, greatest(run) + step * ratio(1, 2),
+        addBetween(percent, least(run) - below, greatest(run) + step * ratio(1, 2),
                    std::move(marked.sentence));
     }
 
     // Whether something else has to be told of a value that rounding to fewer figures leads to.
     // Nobody sees whether a zero at the end was typed: 0.410 by a slip looks like 0.41 for 0.406.
-    bool isTaken(Decimal fewer) const
+    // Nor is a slip's answer, rounded to as few, praised.
+    bool isTaken(Decimal fewer, int figures) const
     {
         const Ratio value = valueOf(fewer);
         const auto isRight = [value](const Run& one) {
             return least(one) <= value && value <= greatest(one);
         };
         const auto isSlip = [&](const Slip& slip) {
-            return valueOf(roundedTo(*slip.value, exercise.ask.figures)) == value;
+            return valueOf(roundedTo(*slip.value, exercise.ask.figures)) == value ||
+                   valueOf(roundedTo(*slip.value, figures)) == value;
         };
         return std::any_of(rightRuns.begin(), rightRuns.end(), isRight) ||
                std::any_of(exercise.slips.begin(), exercise.slips.end(), isSlip) ||
@@ -179,11 +182,11 @@ private:
     // A half may have been rounded up or down.
     void addFewerFigures()
     {
-        for (int figures = exercise.ask.figures - 1; figures >= 2; --figures) {
+        for (int figures = exercise.ask.figures - 1; figures >= 1; --figures) {
             const Decimal upper = roundedTo(answer.value, figures);
             for (const Decimal fewer : {upper, stepped(upper, -1)}) {
                 Mark marked = mark(fewer);
-                if (marked.verdict == Verdict::figures && !isTaken(fewer)) {
+                if (marked.verdict == Verdict::figures && !isTaken(fewer, figures)) {
                     add(50, plainText(fewer), ratio(0), std::move(marked.sentence));
                 }
             }
@@ -216,19 +219,36 @@ private:
         }
     }
 
+    // What is said of the first number beyond the runs that is very close; empty where none is.
+    // They are probed with a figure more than asked for, from where the band begins.
+    std::string sentenceOfClose(Decimal begin, int direction) const
+    {
+        const Ratio greatestMiss = answer.value * ratio(1, 100);
+        Decimal probe = {begin.digits * 10 + direction * 5, begin.exponent - 1};
+        do {
+            probe.digits += direction;
+            Mark marked = mark(probe);
+            if (marked.verdict == Verdict::close) {
+                return std::move(marked.sentence);
+            }
+        } while (magnitude(valueOf(probe) - answer.value) < greatestMiss);
+        return {};
+    }
+
     // 1 %, and a trace more where the text of the value is rounded.
     void addClose()
     {
+        std::string sentence = sentenceOfClose(stepped(run.rounded, -run.below), -1);
+        if (sentence.empty()) {
+            sentence = sentenceOfClose(stepped(run.rounded, run.above), 1);
+        }
+        if (sentence.empty()) {
+            return;
+        }
         const Ratio hundredth = answer.value * ratio(1, 100);
         Decimal tolerance = roundedTo(hundredth, 9);
         tolerance.digits += valueOf(tolerance) == hundredth ? 0 : 1;
-        for (const Ratio share : {ratio(992, 1000), ratio(1008, 1000)}) {
-            Mark marked = mark(roundedTo(answer.value * share, exercise.ask.figures + 1));
-            if (marked.verdict == Verdict::close) {
-                add(50, exactText(answer.value), valueOf(tolerance), std::move(marked.sentence));
-                return;
-            }
-        }
+        add(50, exactText(answer.value), valueOf(tolerance), std::move(sentence));
     }
 
     const Exercise& exercise;

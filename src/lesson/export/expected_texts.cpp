@@ -5,6 +5,7 @@
 #include <variant>
 
 #include "lesson/export/expected.hpp"
+#include "lesson/export/spelt.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/marking/typed.hpp"
 
@@ -15,151 +16,6 @@ namespace
 {
 
 using Texts = std::vector<std::string>;
-
-// ------------------------------------------------------------------------- ways to type a text
-
-constexpr std::string_view lowDigits[] = {"₀", "₁", "₂", "₃", "₄", "₅", "₆", "₇", "₈", "₉"};
-constexpr std::string_view highDigits[] = {"⁰", "¹", "²", "³", "⁴", "⁵", "⁶", "⁷", "⁸", "⁹"};
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-// "SO4" -> "SO₄"
-std::string withLowDigits(std::string_view formula)
-{
-    std::string text;
-    for (const char c : formula) {
-        text += isDigit(c) ? lowDigits[c - '0'] : std::string_view(&c, 1);
-    }
-    return text;
-}
-
-// "Al2(SO4)3" -> "Al_2(SO_4)_3", or with brackets "Al_{2}(SO_{4})_{3}"
-std::string withUnderscores(std::string_view formula, bool hasBrackets)
-{
-    std::string text;
-    for (std::size_t i = 0; i < formula.size(); ++i) {
-        const bool begins = isDigit(formula[i]) && (i == 0 || !isDigit(formula[i - 1]));
-        const bool ends =
-            isDigit(formula[i]) && (i + 1 == formula.size() || !isDigit(formula[i + 1]));
-        text += begins ? (hasBrackets ? "_{" : "_") : "";
-        text += formula[i];
-        text += ends && hasBrackets ? "}" : "";
-    }
-    return text;
-}
-
-// A charge: its size, which may be left out where it is 1, and its sign.
-struct Charge {
-    std::string size;
-    char sign;
-};
-
-Charge chargeIn(std::string_view plain)
-{
-    return {std::string(plain.substr(0, plain.size() - 1)), plain.back()};
-}
-
-// How charges are typed: n stands for the size, s for the sign. The usual ways come first.
-constexpr std::string_view chargePatterns[] = {
-    "^ns", "ns", "^{ns}", " ns", "sn", "^sn", "^{sn}", "(ns)",
-};
-constexpr std::size_t usualPatterns = 2;
-
-std::string filled(std::string_view pattern, std::string_view size, std::string_view sign)
-{
-    std::string text;
-    for (const char c : pattern) {
-        text += c == 'n' ? size : c == 's' ? sign : std::string_view(&c, 1);
-    }
-    return text;
-}
-
-std::string raised(const Charge& charge)
-{
-    std::string text;
-    for (const char digit : charge.size) {
-        text += highDigits[digit - '0'];
-    }
-    return text + (charge.sign == '-' ? "⁻" : "⁺");
-}
-
-void addPatterns(Texts& texts, const Charge& charge, std::string_view sign, std::size_t count)
-{
-    for (std::size_t i = 0; i < count; ++i) {
-        texts.push_back(filled(chargePatterns[i], charge.size, sign));
-    }
-}
-
-// "2-" -> "^2-", "2-", "²⁻"
-Texts usualCharges(const Charge& charge)
-{
-    Texts texts;
-    addPatterns(texts, charge, std::string_view(&charge.sign, 1), usualPatterns);
-    texts.push_back(raised(charge));
-    return texts;
-}
-
-// With a 1 written, two signs for a charge of 2, and the real minus sign.
-Texts allCharges(const Charge& charge)
-{
-    Texts texts = usualCharges(charge);
-    const std::string sign(1, charge.sign);
-    addPatterns(texts, charge, sign, std::size(chargePatterns));
-    if (charge.size.empty()) {
-        addPatterns(texts, {"1", charge.sign}, sign, std::size(chargePatterns));
-    } else {
-        texts.emplace_back(static_cast<std::size_t>(charge.size[0] - '0'), charge.sign);
-    }
-    if (charge.sign == '-') {
-        addPatterns(texts, charge, "−", usualPatterns);
-    }
-    return texts;
-}
-
-void addEach(Texts& texts, const std::string& formula, const Texts& charges)
-{
-    for (const std::string& charge : charges) {
-        texts.push_back(formula + charge);
-    }
-}
-
-// A formula, or an ion with its charge behind a "^", as most people type it.
-Texts usualSpellings(std::string_view text)
-{
-    const std::size_t place = text.find('^');
-    const std::string plain(text.substr(0, place));
-    if (place == std::string_view::npos) {
-        return {plain, withLowDigits(plain)};
-    }
-    Texts texts;
-    const Texts charges = usualCharges(chargeIn(text.substr(place + 1)));
-    addEach(texts, plain, charges);
-    addEach(texts, withLowDigits(plain), charges);
-    return texts;
-}
-
-// Of these, those that are rarer: as in TeX, and every way to type a charge.
-Texts rareSpellings(std::string_view text)
-{
-    const std::size_t place = text.find('^');
-    const std::string plain(text.substr(0, place));
-    const std::string low = withUnderscores(plain, false);
-    const std::string lowInBrackets = withUnderscores(plain, true);
-    if (place == std::string_view::npos) {
-        return {low, lowInBrackets};
-    }
-    const Charge charge = chargeIn(text.substr(place + 1));
-    Texts texts;
-    addEach(texts, plain, allCharges(charge));
-    addEach(texts, low, allCharges(charge));
-    addEach(texts, lowInBrackets, allCharges(charge));
-    return texts;
-}
-
-// ------------------------------------------------------------------------------- what is right
 
 constexpr std::string_view noneWords[] = {
     "none",           "no",
@@ -220,6 +76,36 @@ Texts rightTexts(const Exercise& exercise)
     return texts;
 }
 
+// For zeros that the marking cannot read.
+constexpr std::string_view zeroTyped = "There is a zero where the letter O should be.";
+
+std::string inCapitals(std::string text)
+{
+    for (char& c : text) {
+        c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    }
+    return text;
+}
+
+// Each O of the key as a zero, or all of them: "SO4^2-" -> "S04^2-", "S042-".
+Texts withZeros(std::string_view key)
+{
+    Texts texts;
+    std::string all(key);
+    for (std::size_t i = key.find('O'); i != std::string_view::npos; i = key.find('O', i + 1)) {
+        std::string one(key);
+        one[i] = all[i] = '0';
+        texts.push_back(std::move(one));
+    }
+    texts.push_back(std::move(all));
+    for (std::size_t i = texts.size(); i > 0; --i) {
+        std::string plain = texts[i - 1];
+        plain.erase(std::remove(plain.begin(), plain.end(), '^'), plain.end());
+        texts.push_back(std::move(plain));
+    }
+    return texts;
+}
+
 // What shows a mistake, besides the slips: capitals, and none where there is a precipitate.
 Texts wrongTexts(const Exercise& exercise)
 {
@@ -230,36 +116,66 @@ Texts wrongTexts(const Exercise& exercise)
     }
     if (!isNone(exercise)) {
         texts.push_back(lowerCase(exercise.key));
+        addAll(texts, usualSpellings(inCapitals(exercise.key)));
         texts.emplace_back(noneWords[0]);
     }
     return texts;
 }
 
-bool isThere(const std::vector<Expected>& expected, const std::string& text)
+class Answers
 {
-    return std::any_of(expected.begin(), expected.end(),
-                       [&text](const Expected& one) { return one.text == text; });
-}
+public:
+    explicit Answers(const Exercise& asked) : exercise(asked) {}
+
+    // Those of the texts of which the marking says what is wanted, each once.
+    void add(const Texts& texts, std::initializer_list<Verdict> wanted)
+    {
+        for (const std::string& text : texts) {
+            Mark mark = markAnswer(exercise, text);
+            const bool isWanted =
+                std::find(wanted.begin(), wanted.end(), mark.verdict) != wanted.end();
+            if (isWanted && !isThere(text)) {
+                expected.push_back({percentFor(mark.verdict), text, "", std::move(mark.sentence)});
+            }
+        }
+    }
+
+    // Wrong ones that the marking does not know.
+    void add(const Texts& texts, std::string_view sentence)
+    {
+        for (const std::string& text : texts) {
+            if (!isThere(text)) {
+                expected.push_back({0, text, "", std::string(sentence)});
+            }
+        }
+    }
+
+    std::vector<Expected> expected;
+
+private:
+    bool isThere(const std::string& text) const
+    {
+        return std::any_of(expected.begin(), expected.end(),
+                           [&text](const Expected& one) { return one.text == text; });
+    }
+
+    const Exercise& exercise;
+};
 
 } // namespace
 
 // The marking tells what each text gets, so that nothing here can contradict it.
 std::vector<Expected> expectedTexts(const Exercise& exercise)
 {
-    std::vector<Expected> expected;
-    const auto add = [&](const Texts& texts, std::initializer_list<Verdict> wanted) {
-        for (const std::string& text : texts) {
-            Mark mark = markAnswer(exercise, text);
-            const bool isWanted =
-                std::find(wanted.begin(), wanted.end(), mark.verdict) != wanted.end();
-            if (isWanted && !isThere(expected, text)) {
-                expected.push_back({percentFor(mark.verdict), text, "", std::move(mark.sentence)});
-            }
-        }
-    };
-    add(rightTexts(exercise), {Verdict::correct});
-    add(wrongTexts(exercise), {Verdict::slip, Verdict::wrong});
-    return expected;
+    Answers answers(exercise);
+    answers.add(rightTexts(exercise), {Verdict::correct});
+    answers.add(wrongTexts(exercise), {Verdict::slip, Verdict::wrong});
+    if (!isNone(exercise) && exercise.key.find('O') != std::string::npos) {
+        const Texts zeros = withZeros(exercise.key);
+        answers.add(zeros, {Verdict::slip});
+        answers.add(zeros, zeroTyped);
+    }
+    return std::move(answers.expected);
 }
 
 } // namespace lesson

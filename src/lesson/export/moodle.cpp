@@ -5,6 +5,7 @@
 
 #include "lesson/export/expected.hpp"
 #include "lesson/export/html.hpp"
+#include "lesson/export/units.hpp"
 #include "lesson/tables/kinds.hpp"
 
 namespace lesson
@@ -60,7 +61,8 @@ const TypeRow& rowOf(Type type)
 std::string adviceFor(const Ask& ask)
 {
     if (ask.form == Form::number) {
-        return "Type the number alone, to " + std::to_string(ask.figures) + " significant figures.";
+        return "The number alone, such as 1.23e-4, to " + std::to_string(ask.figures) +
+               " significant figures.";
     }
     const std::string advice(rowOf(typeOf(ask)).advice);
     return ask.form == Form::ion ? advice + " The charge stands behind a ^, such as ClO4^-."
@@ -69,9 +71,18 @@ std::string adviceFor(const Ask& ask)
 
 // --------------------------------------------------------------------------------- the question
 
+// A gap knows nothing of the other ones, so that a sentence about one number has to leave open what
+// they are. What would end it early (braces, ~, #) is in no sentence.
 std::string gap(int coefficient)
 {
-    return "{1:NUMERICAL:=" + std::to_string(coefficient) + ":0}";
+    const std::string twice = std::to_string(2 * coefficient);
+    std::string text = "{1:NUMERICAL:=" + std::to_string(coefficient) + ":0";
+    addAll(text, {"~%0%", twice, ":0#Are all doubled? Use the smallest whole numbers."});
+    if (coefficient % 2 != 0) {
+        const std::string half = std::to_string(coefficient / 2) + ".5";
+        addAll(text, {"~%0%", half, ":0#Use whole numbers."});
+    }
+    return text + "}";
 }
 
 std::string sideOf(const std::vector<std::pair<int, std::string>>& side)
@@ -103,14 +114,43 @@ std::string questionOf(const Exercise& exercise)
     return html;
 }
 
+std::string htmlOfStep(const Step& step)
+{
+    return htmlOf(step.say) + (step.math.empty() ? "" : "<br>") + htmlOf(step.math);
+}
+
 std::string solutionOf(const Exercise& exercise)
 {
     std::string html = "<ol>";
     for (const Step& step : exercise.solution) {
-        addAll(html, {"<li>", htmlOf(step.say), step.math.empty() ? "" : "<br>", htmlOf(step.math),
-                      "</li>"});
+        addAll(html, {"<li>", htmlOfStep(step), "</li>"});
     }
     return html + "</ol>";
+}
+
+// Each is shown behind a wrong try, and there is one try more than hints: first what helps without
+// giving anything away, then the solution but for its last step.
+std::vector<std::string> hintsOf(const Exercise& exercise)
+{
+    const std::vector<Step>& steps = exercise.solution;
+    std::vector<std::string> hints;
+    if (!steps.front().hint.empty()) {
+        hints.push_back(htmlOf(steps.front().hint));
+    }
+    for (std::size_t i = 0; i + 1 < steps.size(); ++i) {
+        hints.push_back(htmlOfStep(steps[i]));
+    }
+    return hints;
+}
+
+void addHints(std::string& xml, const Exercise& exercise)
+{
+    // Of several gaps it is told how many are right, and the wrong ones are emptied.
+    const bool hasGaps = typeOf(exercise.ask) == Type::cloze;
+    for (const std::string& hint : hintsOf(exercise)) {
+        addAll(xml, {"<hint format=\"html\"><text><![CDATA[", hint, "]]></text>\n",
+                     hasGaps ? "<shownumcorrect/>\n<clearwrong/>\n" : "", "</hint>\n"});
+    }
 }
 
 // ---------------------------------------------------------------------------------- the answers
@@ -126,38 +166,12 @@ void addAnswer(std::string& xml, const Expected& expected, std::string_view form
     xml += "</answer>\n";
 }
 
-// A unit that may be typed behind a number, and how many of it make one of the asked unit. Moodle
-// takes out blanks before it looks, and reads a number with any other unit as one without.
-struct UnitRow {
-    std::string_view asked;
-    std::string_view typed;
-    std::string_view times;
-};
-
-constexpr UnitRow unitRows[] = {
-    {"mol/L", "mol/L", "1"},
-    {"mol/L", "mmol/L", "1000"},
-    {"mol/L", "mmol/dm3", "1000"},
-    {"mol/L", "mmolL-1", "1000"},
-    {"mol/L", "mmoldm-3", "1000"},
-    {"mol/L", "mM", "1000"},
-    {"mL", "mL", "1"},
-    {"mL", "L", "0.001"},
-    {"mL", "dm3", "0.001"},
-    {"g", "g", "1"},
-    {"g", "mg", "1000"},
-    {"g", "kg", "0.001"},
-    {"g/mol", "g/mol", "1"},
-};
-
-void addUnits(std::string& xml, std::string_view asked)
+void addUnits(std::string& xml, const Exercise& exercise)
 {
     xml += "<units>\n";
-    for (const UnitRow& row : unitRows) {
-        if (row.asked == asked) {
-            addAll(xml, {"<unit><multiplier>", row.times, "</multiplier><unit_name>", row.typed,
-                         "</unit_name></unit>\n"});
-        }
+    for (const UnitRow& row : unitsBehind(exercise)) {
+        addAll(xml, {"<unit><multiplier>", row.times, "</multiplier><unit_name>", row.name,
+                     "</unit_name></unit>\n"});
     }
     xml += "</units>\n";
     // Neither graded nor asked for: typed behind the number or not.
@@ -179,7 +193,7 @@ void addAnswers(std::string& xml, const Exercise& exercise)
         addAnswer(xml, expected, type == Type::multipleChoice ? "html" : "moodle_auto_format");
     }
     if (type == Type::numerical) {
-        addUnits(xml, exercise.ask.unit);
+        addUnits(xml, exercise);
     }
 }
 
@@ -203,6 +217,7 @@ void addQuestion(std::string& xml, const Place& place)
     addAll(xml, {"<penalty>0.3333333</penalty>\n<hidden>0</hidden>\n<idnumber>", paper, "-", slug,
                  "-", level, "-", number, "</idnumber>\n"});
     addAnswers(xml, exercise);
+    addHints(xml, exercise);
     addAll(xml, {"<tags>\n<tag><text>", slug, "</text></tag>\n<tag><text>level ", level,
                  "</text></tag>\n</tags>\n</question>\n"});
 }
@@ -213,7 +228,7 @@ std::string moodleXml(const std::vector<Place>& places)
 {
     std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<quiz>\n"
                       "<question type=\"category\">\n<category>";
-    addAll(xml, {"<text>$course$/top/Chemical calculations practice/Paper ",
+    addAll(xml, {"<text>top/Chemical calculations practice/Paper ",
                  std::to_string(places.front().paper), "</text></category>\n</question>\n"});
     for (const Place& place : places) {
         addQuestion(xml, place);

@@ -198,6 +198,47 @@ TEST(ExpectedNumbersTest, EveryNumberNearTheKeyGetsWhatItsMarkSays)
     }
 }
 
+bool hasClose(const std::vector<Expected>& expected)
+{
+    return std::any_of(expected.begin(), expected.end(), [](const Expected& one) {
+        return one.sentence.rfind("Very close.", 0) == 0;
+    });
+}
+
+// Every number of one figure more within 1 %, one by one.
+bool mayBeClose(const Exercise& exercise, Ratio value)
+{
+    const Decimal key = roundedTo(value, exercise.ask.figures);
+    for (int tenths = -110; tenths <= 110; ++tenths) {
+        const std::string typed = plainText({key.digits * 10 + tenths, key.exponent - 1});
+        if (markAnswer(exercise, typed).verdict == Verdict::close) {
+            return true;
+        }
+    }
+    return false;
+}
+
+TEST(ExpectedNumbersTest, VeryCloseIsToldWhereverANumberCanBe)
+{
+    for (const Kind kind : numberKinds) {
+        for (unsigned number = 1; number <= 60; ++number) {
+            const int level = 1 + static_cast<int>(number % 3);
+            const Exercise exercise = makeExercise({9, number, kind, level});
+            const Ratio value = std::get<NumberAnswer>(exercise.answer).value;
+            EXPECT_EQ(hasClose(expectedNumbers(exercise)), mayBeClose(exercise, value))
+                << exercise.key << " of number " << number;
+        }
+    }
+}
+
+TEST(ExpectedNumbersTest, AMistakeWithFewerFiguresIsNotPraised)
+{
+    Exercise exercise = asking(ratio(4557, 100000), 3, false);
+    EXPECT_NE(textOf(expectedNumbers(exercise), 50).find("0.046 ±0"), std::string::npos);
+    exercise.slips = {{"0.0463 mol/L", ratio(463, 10000), "A mistake."}};
+    EXPECT_EQ(textOf(expectedNumbers(exercise), 50).find("0.046 ±0"), std::string::npos);
+}
+
 TEST(ExpectedNumbersTest, SlipsKeepTheirOrderAndAreNeverRight)
 {
     for (const Kind kind : numberKinds) {

@@ -114,6 +114,31 @@ TEST(ExpectedTextsTest, MistakesAreTold)
     }
 }
 
+TEST(ExpectedTextsTest, ZerosForTheLetterOAndCapitalsAreTold)
+{
+    struct Case {
+        const char* text;
+        const char* sentence;
+    };
+    const auto expectTold = [](const Exercise& exercise, const std::vector<Case>& cases) {
+        const std::vector<Expected> expected = expectedTexts(exercise);
+        for (const Case& one : cases) {
+            const Expected* const found = find(expected, one.text);
+            ASSERT_NE(found, nullptr) << one.text;
+            EXPECT_EQ(found->percent, 0) << one.text;
+            EXPECT_EQ(found->sentence, one.sentence) << one.text;
+        }
+    };
+    const char* const zero = "There is a zero where the letter O should be.";
+    const char* const capitals = "Check the capitals: first letter large, second small.";
+    expectTold(askingForFormula("sodium", "sulfate", "Na2SO4"),
+               {{"Na2S04", zero}, {"NA2SO4", capitals}, {"na2so4", capitals}});
+    expectTold(askingForFormula("sodium", "chloride", "NaCl"), {{"NACL", capitals}});
+    expectTold(askingForIon("NO3", -1, "NO3^-"), {{"N03^-", zero}, {"N03-", zero}});
+    expectTold(askingForIon("CH3COO", -1, "CH3COO^-"),
+               {{"CH3C00^-", zero}, {"CH3C0O-", zero}, {"CH3CO0-", zero}});
+}
+
 // All that is ever asked in words or formulas: the key first, every slip told as the exercise tells
 // it, nothing twice, nothing that Moodle would take for more than itself.
 TEST(ExpectedTextsTest, EveryExercise)

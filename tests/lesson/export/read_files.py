@@ -34,9 +34,20 @@ OF_TYPE = {
     "multichoice": ["single", "shuffleanswers", "answernumbering", "answer"],
     "cloze": [],
 }
+# A kind of powers of ten in every spelling that is typed, each with its exponent below and above.
+POWERS = ("e{n}", "E{n}", "x10^{n}", " x 10^{n}", "*10^{n}", "×10^{n}", " × 10{r}", "×10{r}",
+          " x 10{r}", "·10^{n}", " · 10{r}", "X10^{n}", " X 10^{n}", "x10^{{{n}}}", " x 10^{{{n}}}")
+MILLIMOLES = ("mmol/L", "mmol/dm3", "mmol/dm^3", "mmol L-1", "mmol L^-1", "mmol L⁻¹", "mmol dm-3",
+              "mmol dm^-3", "mmol dm⁻³", "mM")
+UNITS = {"mol/L": ("mol/L", "mol/dm3", "mol dm-3", "mol dm⁻³", "mol L-1", "M"), "mL": ("mL", "cm3"),
+         "g": ("g",), "g/mol": ("g/mol", "g mol-1")}
 TYPES = {"number": "numerical", "formula": "shortanswer", "ion": "shortanswer", "equation": "cloze"}
 
+NOT_YET = "Not right yet. Write down what you know."
+NOT_YET_IN_SYMBOLS = "Not right yet. Check each symbol and each number."
+
 problems = []
+tried = 0  # right numbers that were typed
 
 
 def check(is_right, *what):
@@ -122,21 +133,22 @@ def answers_of(question):
 
 
 def number_and_unit(response):
-    """As Moodle takes a response apart: blanks go, and what is behind the number is the unit."""
+    """As Moodle takes a response apart: blanks go, the powers of ten that it knows are an e, and what
+    is behind the number is the unit."""
     response = response.replace(" ", "")
+    response = re.sub(r"(?:e|E|(?:x|\*|×)10(?:\^|\*\*))([+-]?[0-9]+)", r"e\1", response)
     match = re.match(r"[+-]?(?:\d+(?:\.\d*)?|\.\d+)(?:[eE][-+]?\d+)?", response)
     return Fraction(match.group()), response[match.end():]
 
 
 def marked_number(question, response):
-    """The first answer within its tolerance, in the asked unit or as it is typed."""
-    number, unit = number_and_unit(response)
-    values = [number]
+    """The first answer within its tolerance, in the asked unit; a star takes every one."""
+    value, unit = number_and_unit(response)
     for row in question.findall("units/unit"):
         if row.findtext("unit_name") == unit:
-            values.append(number / Fraction(row.findtext("multiplier")))
+            value /= Fraction(row.findtext("multiplier"))
     for fraction, text, tolerance, sentence in answers_of(question):
-        if any(abs(value - Fraction(text)) <= Fraction(tolerance) for value in values):
+        if text == "*" or abs(value - Fraction(text)) <= Fraction(tolerance):
             return fraction, sentence
     return 0, None
 
@@ -160,6 +172,22 @@ def step_of(text):
     return Fraction(1, 10**decimals)
 
 
+def with_powers(key, unit):
+    """A number in scientific notation, as it is typed: 0.258 -> 2.58×10⁻¹, 25.8 × 10⁻², …"""
+    digits = key.replace(".", "").lstrip("0")
+    own = len(str(int(Fraction(key)))) - 1 if Fraction(key) >= 1 else -len(
+        re.match(r"0\.(0*)", key).group(1)) - 1
+    for shift in (0, 1, 2):
+        power = own - shift
+        typed = digits[:shift + 1] + "." + (digits[shift + 1:] or "0")
+        for pattern in POWERS + (("x10{n}", " x 10{n}") if power < 0 else ()):
+            response = typed + pattern.format(n=power, r=str(power).translate(HIGH))
+            if power != 0 or pattern[0] in "eE":
+                yield response
+                if shift == 0 and "10⁻" not in response.replace("×10", ""):
+                    yield from (f"{response}{blank}{name}" for name in UNITS[unit] for blank in ("", " "))
+
+
 def check_number(question, exercise, where):
     value = Fraction(str(exercise["key"]["value"]))
     key, unit = exercise["key"]["text"].split()
@@ -179,11 +207,13 @@ def check_number(question, exercise, where):
             fraction, told = marked_number(question, decimal)
             is_mass = told is not None and "rounded atomic masses" in told
             check(fraction < 100 or is_mass, where, decimal, "is right")
-    for small, large, times in (("mmol/L", "mol/L", 1000), ("mL", "L", 1000), ("mg", "g", 1000)):
-        if unit == large:
-            right.append(f"{float(Fraction(key) * times):.9g} {small}")
-        if unit == small:
-            right.append(f"{float(Fraction(key) / times):.9g} {large}")
+    small_units = {"mol/L": MILLIMOLES, "g": ("mg",)}.get(unit, ())
+    right += [f"{float(Fraction(key) * 1000):.9g} {small}" for small in small_units]
+    large_units = {"mL": ("L", "dm3", "dm^3"), "g": ("kg",)}.get(unit, ())
+    right += [f"{float(Fraction(key) / 1000):.9g} {large}" for large in large_units]
+    right += with_powers(key, unit)
+    global tried
+    tried += len(right)
     for response in right:
         check(marked_number(question, response)[0] == 100, where, response, "is not right")
     for factor in (Fraction(98, 100), Fraction(102, 100)):
@@ -214,6 +244,8 @@ def check_number(question, exercise, where):
     # Moodle's table of units has no two that differ by capitals alone.
     names = {unicodedata.normalize("NFKC", name).casefold() for name, _ in units}
     check(len(names) == len(units), where, "a unit stands twice")
+    check(marked_number(question, "7.77e-17") == (0, NOT_YET), where, "of anything else is said",
+          marked_number(question, "7.77e-17"))
 
 
 LOW = str.maketrans("0123456789", "₀₁₂₃₄₅₆₇₈₉")
@@ -234,7 +266,8 @@ def spellings_of(key):
 
 def check_text(question, exercise, where):
     key = exercise["key"]["text"]
-    answers = answers_of(question)
+    *answers, anything_else = answers_of(question)
+    check(anything_else == (0, "*", None, NOT_YET_IN_SYMBOLS), where, "the last answer")
     check(answers[0][:2] == (100, key), where, "the first answer is", answers[0])
     check(question.findtext("usecase") == ("0" if key == "none" else "1"), where, "usecase")
     check(all(text.strip() == text and text and not set(text) & set("*\\") for _, text, _, _ in
@@ -252,6 +285,9 @@ def check_text(question, exercise, where):
               "gets", marked_text(question, slip["text"]))
     if key != "none":
         check(marked_text(question, "none")[0] == 0, where, "none is right")
+        for zeros in {key.replace("O", "0"), key.replace("O", "0", 1)} - {key}:
+            told = marked_text(question, zeros)
+            check(told[0] == 0 and "zero" in told[1], where, zeros, "gets", told)
 
 
 def check_choice(question, exercise, where):
@@ -264,14 +300,22 @@ def check_choice(question, exercise, where):
         check("soluble" in sentence, where, "no rule in", sentence)
 
 
+GAP = (r"\{1:NUMERICAL:=(\d+):0~%0%(\d+):0#Are all doubled\? Use the smallest whole numbers\."
+       r"([^{}]*)\}")
+
+
 def check_gaps(question, exercise, where):
     text = question.findtext("questiontext/text")
-    gaps = re.findall(r"\{1:NUMERICAL:=(\d+):0\}", text)
+    gaps = re.findall(r"\{1:NUMERICAL:=(\d+):0~", text)
+    for gap, doubled, others in re.findall(GAP, text):
+        check(int(doubled) == 2 * int(gap), where, gap, "is not doubled to", doubled)
+        check((f"~%0%{int(gap) / 2}:0#Use whole numbers." if int(gap) % 2 else "") == others, others)
+    text = re.sub(GAP, r"{\1}", text)
     sides = exercise["equation"]["left"] + exercise["equation"]["right"]
     check([int(gap) for gap in gaps] == [count for count, _ in sides], where, "gaps", gaps)
     check(text.count("{") == len(gaps) == text.count("}"), where, "other brackets")
     line = next(part for part in text.split("</p>") if "{" in part)
-    filled = re.sub(r"\{1:NUMERICAL:=(\d+):0\} ", r"\1", words_of(line + "</p>"))
+    filled = re.sub(r"\{(\d+)\} ", r"\1", words_of(line + "</p>"))
     key = exercise["key"]["text"].replace("->", "→")
     check(re.sub(r"\b1(?=[A-Z(])", "", filled) == key, where, filled, "is not", key)
 
@@ -287,7 +331,7 @@ def check_order(question, where):
     """The elements stand in the order in which Moodle writes them."""
     kind = question.get("type")
     order = [tag for tag in BEFORE_TYPE if kind != "cloze" or tag != "defaultgrade"]
-    order += OF_TYPE[kind] + ["tags"]
+    order += OF_TYPE[kind] + ["hint", "tags"]
     found = []
     for element in question:
         if not found or found[-1] != element.tag:
@@ -317,7 +361,24 @@ def check_question(question, exercise, names):
     solution = words_of(question.findtext("generalfeedback/text"))
     for step in exercise["solution"]:
         check(words_of_line(step["say"]) in solution, where, "the solution lacks", step["say"])
+    check_hints(question, exercise, where)
+    file = xml.tostring(question, encoding="unicode")
+    check("Show a step" not in file and "button" not in file, where, "names a button")
     CHECKS[question.get("type")](question, exercise, where)
+
+
+def check_hints(question, exercise, where):
+    """One try more than hints: what helps with the first step, then the steps but the last one."""
+    steps = exercise["solution"]
+    expected = [steps[0]["hint"]] if steps[0]["hint"] else []
+    expected += [step["say"] for step in steps[:-1]]
+    hints = question.findall("hint")
+    check(len(hints) == len(expected) > 0, where, "has", len(hints), "hints")
+    for hint, line in zip(hints, expected):
+        check(hint.get("format") == "html", where, "the format of a hint")
+        check(words_of_line(line) in words_of(hint.findtext("text")), where, "hint", hint)
+        for option in ("shownumcorrect", "clearwrong"):
+            check((hint.find(option) is not None) == (question.get("type") == "cloze"), where, option)
 
 
 def check_moodle():
@@ -326,7 +387,7 @@ def check_moodle():
         file = printed("export", "moodle", str(paper), sheet(COUNT))
         category, *questions = xml.fromstring(file.encode("utf-8"))
         check(category.get("type") == "category" and category.findtext("category/text") ==
-              f"$course$/top/Chemical calculations practice/Paper {paper}", "the category")
+              f"top/Chemical calculations practice/Paper {paper}", "the category")
         exercises = list(exercises_of(paper))
         check(len(questions) == len(exercises) == COUNT * len(SHEET), "the number of questions")
         for question, exercise in zip(questions, exercises):
@@ -369,5 +430,5 @@ check_moodle()
 check_anki()
 for problem in problems[:20]:
     print(problem)
-print(f"{len(problems)} problems")
+print(f"{tried} right numbers typed, {len(problems)} problems")
 sys.exit(1 if problems else 0)
