@@ -100,8 +100,8 @@ struct Slip {
 
 struct NumberAnswer {
     Ratio value; // in the asked unit, unrounded
-    // The same worked out with atomic masses to one decimal and with whole ones; only where the
-    // molar mass was not given.
+    // The same worked out with atomic masses as other tables print them, going up or going down;
+    // only where the molar mass was not given.
     std::vector<Ratio> withRoundedMasses = {};
     bool isMolarMass = false;
     bool hasGivenVolumes = false;

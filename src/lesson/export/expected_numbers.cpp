@@ -53,6 +53,33 @@ Ratio greatest(const Run& run)
     return valueOf(stepped(run.rounded, run.above));
 }
 
+// From one number to another, both included.
+struct Range {
+    Ratio low;
+    Ratio high;
+};
+
+Range rangeOf(const Run& run)
+{
+    return {least(run), greatest(run)};
+}
+
+// Ranges that meet, or leave no step of the last figure between them, are one.
+std::vector<Range> joined(std::vector<Range> ranges, Ratio step)
+{
+    std::sort(ranges.begin(), ranges.end(),
+              [](const Range& one, const Range& other) { return one.low < other.low; });
+    std::vector<Range> all;
+    for (const Range& range : ranges) {
+        if (all.empty() || all.back().high + step < range.low) {
+            all.push_back(range);
+        } else if (all.back().high < range.high) {
+            all.back().high = range.high;
+        }
+    }
+    return all;
+}
+
 // As much as the run has on both sides of the rounded value.
 Ratio inner(const Run& run)
 {
@@ -64,7 +91,7 @@ class Numbers
 public:
     explicit Numbers(const Exercise& asked)
         : exercise(asked), answer(*std::get_if<NumberAnswer>(&asked.answer)),
-          run(around(answer.value)), rightRuns{run}
+          run(around(answer.value)), right{rangeOf(run)}
     {
     }
 
@@ -120,6 +147,16 @@ private:
         return {};
     }
 
+    // Answers with more figures are rounded first, and so may be half a step further off. The steps
+    // below a power of ten are a tenth as long.
+    Range withMoreFigures(Range range) const
+    {
+        const Ratio step = powerOfTen(run.rounded.exponent);
+        const Ratio lowest = powerOfTen(exercise.ask.figures - 1) * step;
+        const Ratio below = range.low < lowest + step ? step * ratio(1, 20) : step * ratio(1, 2);
+        return {range.low - below, range.high + step * ratio(1, 2)};
+    }
+
     // The rounded value is what a program shows as the answer, so it stands first, with what is
     // right on both sides of it. Where the run goes further on one side, a second answer takes it
     // in, so that nothing right is refused and nothing else let in.
@@ -132,20 +169,27 @@ private:
         }
     }
 
+    // Tables lead to many values, and what is right around them mostly meets. More figures are right
+    // in molar masses.
     void addRoundedMasses()
     {
+        std::vector<Range> ranges;
+        std::string sentence;
         for (const Ratio value : answer.withRoundedMasses) {
             const Run other = around(value);
-            std::string sentence = sentenceOfOther(other, least(run), greatest(run));
-            if (!sentence.empty()) {
-                addBetween(100, least(other), greatest(other), std::move(sentence));
-                rightRuns.push_back(other);
+            std::string told = sentenceOfOther(other, least(run), greatest(run));
+            if (!told.empty()) {
+                ranges.push_back(rangeOf(other));
+                sentence = std::move(told);
             }
+        }
+        for (const Range& range : joined(std::move(ranges), powerOfTen(run.rounded.exponent))) {
+            const Range all = answer.isMolarMass ? withMoreFigures(range) : range;
+            addBetween(100, all.low, all.high, sentence);
+            right.push_back(range);
         }
     }
 
-    // An answer with more figures may be half a step further off, since it is rounded first. The
-    // steps below a power of ten are a tenth as long.
     void addMoreFigures()
     {
         const Decimal end = stepped(run.rounded, run.above);
@@ -154,11 +198,8 @@ private:
         if (percent == 0) {
             return;
         }
-        const Ratio step = powerOfTen(run.rounded.exponent);
-        const Ratio lowest = powerOfTen(exercise.ask.figures - 1) * step;
-        const Ratio below = least(run) < lowest + step ? step * ratio(1, 20) : step * ratio(1, 2);
-        addBetween(percent, least(run) - below, greatest(run) + step * ratio(1, 2),
-                   std::move(marked.sentence));
+        const Range all = withMoreFigures(rangeOf(run));
+        addBetween(percent, all.low, all.high, std::move(marked.sentence));
     }
 
     // Whether something else has to be told of a value that rounding to fewer figures leads to.
@@ -167,14 +208,14 @@ private:
     bool isTaken(Decimal fewer, int figures) const
     {
         const Ratio value = valueOf(fewer);
-        const auto isRight = [value](const Run& one) {
-            return least(one) <= value && value <= greatest(one);
+        const auto isWithin = [value](const Range& one) {
+            return one.low <= value && value <= one.high;
         };
         const auto isSlip = [&](const Slip& slip) {
             return valueOf(roundedTo(*slip.value, exercise.ask.figures)) == value ||
                    valueOf(roundedTo(*slip.value, figures)) == value;
         };
-        return std::any_of(rightRuns.begin(), rightRuns.end(), isRight) ||
+        return std::any_of(right.begin(), right.end(), isWithin) ||
                std::any_of(exercise.slips.begin(), exercise.slips.end(), isSlip) ||
                expected.back().text == plainText(fewer);
     }
@@ -254,7 +295,7 @@ private:
     const Exercise& exercise;
     const NumberAnswer& answer;
     Run run;
-    std::vector<Run> rightRuns; // this one, and those with rounded masses
+    std::vector<Range> right; // of this run, and of those with rounded masses
     std::vector<Expected> expected;
 };
 

@@ -233,26 +233,51 @@ void addSlips(Exercise& exercise, const Substance& drawn, Ratio mass)
 
 // ---------------------------------------------------------------------------- rounded masses
 
-// In thousandths, as in the table: to one decimal, 35.45 both down and up.
-std::vector<int> toOneDecimal(const ElementRow& row)
+// Masses in thousandths, as in the table.
+
+// What boards print besides a mass of the table rounded.
+struct PrintedMass {
+    std::string_view symbol;
+    int thousandths;
+};
+constexpr PrintedMass alsoPrinted[] = {
+    {"H", 1010},
+    {"S", 32070},
+};
+
+// The two neighbours where it is halfway.
+void addRounded(std::vector<int>& masses, int mass, int unit)
 {
-    const int lower = row.thousandths / 100 * 100;
-    const int rest = row.thousandths - lower;
-    if (rest == 50) {
-        return {lower, lower + 100};
+    const int lower = mass / unit * unit;
+    const int rest = mass - lower;
+    if (2 * rest <= unit) {
+        masses.push_back(lower);
     }
-    return {rest < 50 ? lower : lower + 100};
+    if (2 * rest >= unit) {
+        masses.push_back(lower + unit);
+    }
 }
 
-int toWholeNumber(const ElementRow& row)
+// As a board may print it: as here, to one decimal, or whole, but never chlorine as 35.
+std::vector<int> printedMasses(const ElementRow& row)
 {
-    if (row.symbol == "Cl") {
-        return 35500;
+    std::vector<int> masses = {row.thousandths};
+    addRounded(masses, row.thousandths, 100);
+    if (row.symbol != "Cl") {
+        addRounded(masses, row.thousandths, 1000);
     }
-    if (row.symbol == "Cu") {
-        return 63500;
+    for (const PrintedMass& other : alsoPrinted) {
+        if (other.symbol == row.symbol) {
+            masses.push_back(other.thousandths);
+        }
     }
-    return (row.thousandths + 500) / 1000 * 1000;
+    return masses;
+}
+
+void sortOut(std::vector<int>& numbers)
+{
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
 }
 
 } // namespace
@@ -262,22 +287,21 @@ Spans sumOfMasses(std::string_view formula)
     return massLine(compositionOf(formula));
 }
 
+// Each element has one mass in the whole formula, whatever the others have: a board may print one
+// to two decimals and another as a whole number.
 std::vector<Ratio> roundedMolarMasses(std::string_view formula)
 {
     std::vector<int> sums = {0};
-    int wholeSum = 0;
     for (const AtomCount atom : compositionOf(formula).atoms) {
-        const ElementRow& row = element(atom.element);
         std::vector<int> longerSums;
-        for (const int mass : toOneDecimal(row)) {
+        for (const int mass : printedMasses(element(atom.element))) {
             for (const int sum : sums) {
                 longerSums.push_back(sum + atom.count * mass);
             }
         }
+        sortOut(longerSums);
         sums = std::move(longerSums);
-        wholeSum += atom.count * toWholeNumber(row);
     }
-    sums.push_back(wholeSum);
     std::vector<Ratio> masses;
     masses.reserve(sums.size());
     for (const int thousandths : sums) {

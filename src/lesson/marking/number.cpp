@@ -1,13 +1,17 @@
 #include "lesson/marking/number.hpp"
 
 #include <algorithm>
+#include <cstdint>
+#include <optional>
 #include <utility>
 #include <variant>
 
+#include "lesson/compound.hpp"
 #include "lesson/marking/number_reader.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/typed.hpp"
 #include "lesson/marking/typed_number.hpp"
+#include "lesson/marking/units.hpp"
 
 namespace lesson
 {
@@ -27,7 +31,7 @@ enum class Fit {
     none,
     correct,
     otherFigures, // right, but with more figures or with fewer, two at least
-    oneFigure,    // right, with one figure only
+    oneFigure,    // right, with one figure and no more
 };
 
 bool isWithin(const TypedNumber& number, Ratio low, Ratio high)
@@ -83,29 +87,68 @@ Fit fitOf(const TypedNumber& number, const Target& target)
         return Fit::correct;
     }
     if (number.mostFigures > target.figures && agreesWhenRounded(number, target)) {
-        return Fit::otherFigures;
+        return target.isMolarMass ? Fit::correct : Fit::otherFigures;
     }
     for (int fewer = target.figures - 1; fewer >= 2; --fewer) {
         if (mayHave(number, fewer) && isRounded(number, target.value, fewer)) {
             return Fit::otherFigures;
         }
     }
-    const bool isRight = isEqual(number, roundedTo(target.value, target.figures));
-    return mayHave(number, 1) && isRight ? Fit::oneFigure : Fit::none;
+    return number.mostFigures == 1 && isRounded(number, target.value, 1) ? Fit::oneFigure
+                                                                         : Fit::none;
+}
+
+// How many figures a sum of masses has, the zeros behind its point left out: 3 for 58.5 and 188.
+std::int64_t figuresOfSum(Ratio sum)
+{
+    DigitStream stream(sum);
+    std::int64_t figures = 0;
+    while (!stream.isAtEnd() || stream.place() >= 0) {
+        stream.next();
+        ++figures;
+    }
+    return figures;
+}
+
+// A sum of rounded masses is right as it comes out, or with more figures.
+bool isSumOfRoundedMasses(const TypedNumber& number, Ratio sum, int figures)
+{
+    return number.mostFigures >= std::min<std::int64_t>(figures, figuresOfSum(sum)) &&
+           agreesWhenRounded(number, {sum, figures, true});
+}
+
+// Most numbers are far from all that rounded masses lead to, which stand in order.
+bool mayHaveRoundedMasses(const TypedNumber& number, const NumberAnswer& answer)
+{
+    if (answer.withRoundedMasses.empty()) {
+        return false;
+    }
+    const auto [low, high] =
+        std::minmax(answer.withRoundedMasses.front(), answer.withRoundedMasses.back());
+    return isWithin(number, low * ratio(98, 100), high * ratio(102, 100));
 }
 
 bool isCorrectWithRoundedMasses(const TypedNumber& number, const NumberAnswer& answer, int figures)
 {
     const auto agreesWith = [&](Ratio value) {
-        return agrees(number, Target{value, figures, answer.isMolarMass});
+        return answer.isMolarMass
+                   ? isSumOfRoundedMasses(number, value, figures)
+                   : mayHave(number, figures) && agrees(number, Target{value, figures, false});
     };
-    return mayHave(number, figures) && std::any_of(answer.withRoundedMasses.begin(),
-                                                   answer.withRoundedMasses.end(), agreesWith);
+    return mayHaveRoundedMasses(number, answer) &&
+           std::any_of(answer.withRoundedMasses.begin(), answer.withRoundedMasses.end(),
+                       agreesWith);
 }
 
+bool isFit(Fit fit)
+{
+    return fit == Fit::correct || fit == Fit::otherFigures;
+}
+
+// With two figures at least.
 bool isRight(const TypedNumber& number, const NumberAnswer& answer, int figures)
 {
-    return fitOf(number, {answer.value, figures, answer.isMolarMass}) != Fit::none ||
+    return isFit(fitOf(number, {answer.value, figures, answer.isMolarMass})) ||
            isCorrectWithRoundedMasses(number, answer, figures);
 }
 
@@ -113,14 +156,20 @@ bool isRight(const TypedNumber& number, const NumberAnswer& answer, int figures)
 const Slip* slipOf(const TypedNumber& number, const std::vector<Slip>& slips, const Target& key)
 {
     const auto found = std::find_if(slips.begin(), slips.end(), [&](const Slip& slip) {
-        const Fit fit =
-            slip.value ? fitOf(number, {*slip.value, key.figures, key.isMolarMass}) : Fit::none;
-        return fit == Fit::correct || fit == Fit::otherFigures;
+        return slip.value && isFit(fitOf(number, {*slip.value, key.figures, key.isMolarMass}));
     });
     return found == slips.end() ? nullptr : &*found;
 }
 
-// The power of ten by which a number misses the answer, 0 if there is none.
+// Whether a slip leads to just this number: 0.300, where 0.3 was typed.
+bool isAnswerOfSlip(const TypedNumber& number, const std::vector<Slip>& slips, int figures)
+{
+    return std::any_of(slips.begin(), slips.end(), [&](const Slip& slip) {
+        return slip.value && isEqual(number, roundedTo(*slip.value, figures));
+    });
+}
+
+// The power of ten by which a number of two figures at least misses the answer, 0 if there is none.
 int powerMissed(TypedNumber number, const NumberAnswer& answer, int figures)
 {
     constexpr int most = 6;
@@ -162,43 +211,86 @@ Mark figuresMark(const TypedNumber& number, const Target& key, const std::string
                        : "The value is right. Now give it to " + toFigures(key.figures) + "."};
 }
 
+// A wrong volume, and no wrong mass, is what leads three places off.
+Mark powerMark(int power, const NumberAnswer& answer, const Ask& ask)
+{
+    const std::optional<Unit> unit = unitOf(ask.unit);
+    const bool isMass = unit && unit->measure == Measure::mass;
+    const bool mayBeVolume = answer.hasGivenVolumes && !isMass && (power == 3 || power == -3);
+    return {Verdict::powerOfTen, mayBeVolume
+                                     ? "Right digits, wrong size. Check each volume: mL or L?"
+                                     : "Right digits, wrong size."};
+}
+
+// Whether a molar mass is right but for a few hydrogen atoms too many or too few.
+bool missesHydrogens(const TypedNumber& number, const NumberAnswer& answer, const Ask& ask)
+{
+    const Atoms atoms = compositionOf(ask.of).atoms;
+    const auto hydrogen =
+        std::find_if(atoms.begin(), atoms.end(), [](AtomCount atom) { return atom.element == 1; });
+    const int most = hydrogen == atoms.end() ? 0 : hydrogen->count;
+    const Ratio mass = massOf({{1, 1}});
+    for (int missed = -most; missed <= most; ++missed) {
+        NumberAnswer other = answer;
+        other.value = answer.value + ratio(missed) * mass;
+        for (Ratio& sum : other.withRoundedMasses) {
+            sum = sum + ratio(missed) * mass;
+        }
+        if (isRight(number, other, ask.figures)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+Mark closeMark(const TypedNumber& number, const NumberAnswer& answer, const Ask& ask)
+{
+    if (!answer.isMolarMass) {
+        return {Verdict::close, "Very close. Did you round a number on the way?"};
+    }
+    return {Verdict::close, missesHydrogens(number, answer, ask)
+                                ? "Very close. Count the hydrogen atoms again."
+                                : "Very close. Check the atomic masses."};
+}
+
 // The answer as the sentences tell it: in the unit that was typed, where that is not the asked one.
 std::string roundedAsTyped(const Target& key, const NumberReading& reading)
 {
     const std::string rounded = shown(key.value * powerOfTen(-reading.power), key.figures);
-    return reading.power == 0 ? rounded : rounded + " " + reading.unit;
+    return reading.power == 0 ? rounded : rounded + " " + std::string(reading.unit);
 }
 
 Mark markRead(const NumberReading& reading, const NumberAnswer& answer,
-              const std::vector<Slip>& slips, int figures)
+              const std::vector<Slip>& slips, const Ask& ask)
 {
     const TypedNumber& number = reading.number;
-    const Target key = {answer.value, figures, answer.isMolarMass};
+    const Target key = {answer.value, ask.figures, answer.isMolarMass};
     const std::string rounded = roundedAsTyped(key, reading);
     const Fit fit = fitOf(number, key);
     if (fit == Fit::correct) {
         return correctMark(number, key, rounded);
     }
-    if (fit != Fit::none) {
+    const bool isOtherFigures =
+        fit == Fit::otherFigures ||
+        (fit == Fit::oneFigure && !isAnswerOfSlip(number, slips, ask.figures));
+    if (isOtherFigures && !answer.isMolarMass) {
         return figuresMark(number, key, rounded);
     }
-    if (isCorrectWithRoundedMasses(number, answer, figures)) {
+    if (isCorrectWithRoundedMasses(number, answer, ask.figures)) {
         return {Verdict::correct,
                 "Correct with rounded atomic masses. With this table it is " + rounded + "."};
+    }
+    if (isOtherFigures) {
+        return figuresMark(number, key, rounded);
     }
     if (const Slip* const slip = slipOf(number, slips, key)) {
         return {Verdict::slip, slip->sentence};
     }
-    if (const int power = powerMissed(number, answer, figures)) {
-        const bool mayBeVolume = answer.hasGivenVolumes && (power == 3 || power == -3);
-        return {Verdict::powerOfTen, mayBeVolume
-                                         ? "Right digits, wrong size. Check each volume: mL or L?"
-                                         : "Right digits, wrong size."};
+    if (const int power = powerMissed(number, answer, ask.figures)) {
+        return powerMark(power, answer, ask);
     }
     if (isClose(number, answer.value)) {
-        return {Verdict::close, answer.isMolarMass
-                                    ? "Very close. Check the atomic masses."
-                                    : "Very close. Did you round a number on the way?"};
+        return closeMark(number, answer, ask);
     }
     return markOf(Verdict::wrong, sentences::notYet);
 }
@@ -239,7 +331,7 @@ Mark markNumber(const NumberAnswer& answer, const Ask& ask, const std::vector<Sl
                 std::string_view typed)
 {
     const NumberReading reading = readNumber(plainTyped(typed), ask);
-    return reading.problem.empty() ? markRead(reading, answer, slips, ask.figures)
+    return reading.problem.empty() ? markRead(reading, answer, slips, ask)
                                    : Mark{Verdict::unreadable, reading.problem};
 }
 

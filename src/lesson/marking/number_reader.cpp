@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
+#include <limits>
 #include <optional>
 
 #include "lesson/marking/number_text.hpp"
@@ -27,9 +29,21 @@ namespace lesson
 namespace
 {
 
+constexpr std::string_view leaveOutMinus = "Leave out the minus sign.";
+
 std::string cannotRead(std::string_view part)
 {
-    return unreadable(part, "Type a number.").sentence;
+    return unreadable(part, "Type a number, such as 0.125.").sentence;
+}
+
+bool startsWithNumber(std::string_view text)
+{
+    for (const std::string_view point : {".", ",", "·"}) {
+        if (take(text, point)) {
+            break;
+        }
+    }
+    return startsWithDigit(text);
 }
 
 // Where the number begins: at the first digits that are no part of a symbol, which they are behind
@@ -41,9 +55,7 @@ std::size_t numberStart(std::string_view plain)
     bool isInSymbol = false;
     for (std::size_t i = 0; i < plain.size(); ++i) {
         const char character = plain[i];
-        const bool begins = isDigit(character) ||
-                            (isOneOf(character, ".,") && startsWithDigit(plain.substr(i + 1)));
-        if (begins && !isInSymbol && openBrackets == 0) {
+        if (startsWithNumber(plain.substr(i)) && !isInSymbol && openBrackets == 0) {
             return i;
         }
         if (isOneOf(character, "([{")) {
@@ -267,7 +279,7 @@ std::string convert(NumberReading& reading, std::string_view behind, const Ask& 
     const std::optional<Unit> asked = unitOf(ask.unit);
     if (typed && asked && typed->measure == asked->measure) {
         reading.power = typed->power - asked->power;
-        reading.unit = unit;
+        reading.unit = typed->printed;
         reading.number.place += reading.power;
         return "";
     }
@@ -275,12 +287,72 @@ std::string convert(NumberReading& reading, std::string_view behind, const Ask& 
                                         : cannotRead(unit);
 }
 
-} // namespace
+// Letters that look like digits.
+struct Misread {
+    char letter;
+    char digit;
+    std::string_view sentence;
+};
 
-NumberReading readNumber(std::string_view plain, const Ask& ask)
+constexpr Misread misreads[] = {
+    {'l', '1', "There is a small letter l where the digit 1 should be."},
+    {'I', '1', "There is a large letter I where the digit 1 should be."},
+    {'O', '0', "There is a letter O where a zero should be."},
+    {'o', '0', "There is a letter o where a zero should be."},
+};
+
+const Misread* misreadOf(char letter)
+{
+    const auto* const found =
+        std::find_if(std::begin(misreads), std::end(misreads),
+                     [letter](const Misread& misread) { return misread.letter == letter; });
+    return found == std::end(misreads) ? nullptr : found;
+}
+
+// How long a number at the front would be if those letters were digits. A small l behind it is the
+// litre.
+std::size_t numberLength(std::string_view text)
+{
+    std::size_t length = 0;
+    while (length < text.size() &&
+           (isDigit(text[length]) || isOneOf(text[length], ".,") || misreadOf(text[length]))) {
+        ++length;
+    }
+    return withoutAtTheEnd(text.substr(0, length), "l").size();
+}
+
+// The text with digits for such letters in every number, and what to say of the first of them;
+// nothing to say where there is none.
+struct Meant {
+    std::string text;
+    std::string_view sentence = {};
+};
+
+Meant withDigits(std::string_view plain)
+{
+    Meant meant = {std::string(plain)};
+    for (std::size_t i = 0; i < plain.size(); ++i) {
+        const std::size_t end = i + numberLength(plain.substr(i));
+        const bool isNumber = plain.substr(i, end - i).find_first_of("0123456789") < end - i;
+        for (; isNumber && i < end; ++i) {
+            if (const Misread* const misread = misreadOf(plain[i])) {
+                meant.text[i] = misread->digit;
+                meant.sentence = meant.sentence.empty() ? misread->sentence : meant.sentence;
+            }
+        }
+        // The rest of a word is no number: "CO2".
+        i = std::max(i, end);
+        while (i < plain.size() && (isLetter(plain[i]) || isDigit(plain[i]))) {
+            ++i;
+        }
+    }
+    return meant;
+}
+
+NumberReading readAsTyped(std::string_view plain, const Ask& ask)
 {
     if (plain.empty()) {
-        return {{}, "Type a number."};
+        return {{}, "Type a number, such as 0.125."};
     }
     const std::size_t start = numberStart(plain);
     if (start == std::string_view::npos) {
@@ -297,10 +369,35 @@ NumberReading readNumber(std::string_view plain, const Ask& ask)
     std::string_view rest = noted;
     const NumberText text = takeNumber(rest);
     NumberReading reading = {text.number, text.question};
-    reading.number.isNegative = endsWith(inFront, "-");
+    if (text.isQuotient) {
+        reading.number.fewestFigures = ask.figures;
+        reading.number.mostFigures = std::numeric_limits<std::int64_t>::max();
+    }
     const std::string problem = convert(reading, rest, ask);
     if (!problem.empty()) {
         reading.problem = problem;
+    }
+    if (reading.problem.empty() && endsWith(inFront, "-")) {
+        reading.problem = leaveOutMinus;
+    }
+    return reading;
+}
+
+} // namespace
+
+NumberReading readNumber(std::string_view plain, const Ask& ask)
+{
+    NumberReading reading = readAsTyped(plain, ask);
+    if (reading.problem.empty()) {
+        return reading;
+    }
+    const Meant meant = withDigits(plain);
+    if (meant.sentence.empty()) {
+        return reading;
+    }
+    const std::string left = readAsTyped(meant.text, ask).problem;
+    if (left.empty() || left == leaveOutMinus) {
+        reading.problem = meant.sentence;
     }
     return reading;
 }

@@ -10,11 +10,12 @@
 
 // What is read:
 //
-//   number    = "10" power | (whole [point [fraction]] | point fraction) [exponent]
+//   number    = decimal ["/" decimal]
+//   decimal   = "10" power | (whole [point [fraction]] | point fraction) [exponent]
 //   whole     = digits, or groups of three with blanks or commas between them
-//   point     = "." or one ","
+//   point     = "." or one ",", or "·" where no power of ten follows
 //   fraction  = digits, perhaps in groups of three with blanks between them
-//   exponent  = "e" [sign] digits | times "10" (power | sign digits)
+//   exponent  = "e" [sign] digits | (times | blank) "10" (power | sign digits) | "." "10" power
 //   power     = ("^" | "**") [bracket] [sign] digits [bracket]
 //   times     = "x" | "×" | "*" | "·"
 //
@@ -40,90 +41,6 @@ std::string_view takeDigits(std::string_view& rest)
     const std::string_view digits = digitsAtFront(rest);
     rest.remove_prefix(digits.size());
     return digits;
-}
-
-// The digits of a number without its exponent.
-struct Mantissa {
-    std::string digits;
-    std::size_t wholeDigits = 0; // how many of them stand before the point
-    bool hasPoint = false;
-    bool isAmbiguous = false; // its comma might be a point or stand before thousands
-};
-
-// A group of three digits behind a separator, which is taken too; nothing where there is none.
-std::string_view takeGroup(std::string_view& rest, std::string_view separator)
-{
-    std::string_view behind = rest;
-    if (!take(behind, separator) || digitsAtFront(behind).size() != 3) {
-        return {};
-    }
-    const std::string_view group = takeDigits(behind);
-    rest = behind;
-    return group;
-}
-
-std::string takeGroups(std::string_view& rest, std::string_view separator)
-{
-    std::string digits;
-    std::string_view group = takeGroup(rest, separator);
-    while (!group.empty()) {
-        digits += group;
-        group = takeGroup(rest, separator);
-    }
-    return digits;
-}
-
-// One comma is a point; several, or one before a point, stand between thousands.
-std::string takeCommaGroups(std::string_view& rest)
-{
-    std::string_view behind = rest;
-    std::string digits = takeGroups(behind, ",");
-    const bool hasFraction = startsWith(behind, ".") && startsWithDigit(behind.substr(1));
-    if (digits.size() <= 3 && !hasFraction) {
-        return {};
-    }
-    rest = behind;
-    return digits;
-}
-
-std::string takeFraction(std::string_view& rest)
-{
-    std::string digits(takeDigits(rest));
-    while (!digits.empty() && digits.size() % 3 == 0 && startsWith(rest, " ")) {
-        const std::string_view group = digitsAtFront(rest.substr(1));
-        if (group.empty() || group.size() > 3) {
-            break;
-        }
-        digits += group;
-        rest.remove_prefix(1 + group.size());
-    }
-    return digits;
-}
-
-// Of a text that begins with a digit, or with a point or comma and a digit.
-Mantissa takeMantissa(std::string_view& rest)
-{
-    Mantissa mantissa;
-    mantissa.digits = takeDigits(rest);
-    bool hasThousandsCommas = false;
-    if (!mantissa.digits.empty() && mantissa.digits.size() <= 3 && mantissa.digits[0] != '0') {
-        const std::string groups = takeCommaGroups(rest);
-        hasThousandsCommas = !groups.empty();
-        mantissa.digits += hasThousandsCommas ? groups : takeGroups(rest, " ");
-    }
-    mantissa.wholeDigits = mantissa.digits.size();
-    const bool isComma =
-        !hasThousandsCommas && startsWith(rest, ",") && startsWithDigit(rest.substr(1));
-    mantissa.hasPoint = take(rest, isComma ? "," : ".");
-    if (!mantissa.hasPoint) {
-        return mantissa;
-    }
-    const std::string fraction = takeFraction(rest);
-    const bool mayBeThousands =
-        mantissa.wholeDigits <= 3 && mantissa.digits.find_first_not_of('0') != std::string::npos;
-    mantissa.isAmbiguous = isComma && mayBeThousands && fraction.size() == 3;
-    mantissa.digits += fraction;
-    return mantissa;
 }
 
 // Far beyond any number that is typed, and far from an overflow.
@@ -188,12 +105,14 @@ bool takeTimes(std::string_view& rest)
                        [&rest](std::string_view sign) { return take(rest, sign); });
 }
 
-// "×10^-2", "x 10-2"; without a "^" a sign has to show that 102 is not meant.
+// "×10^-2", "x 10-2", " 10^-2", ".10^-2"; without a "^" a sign has to show that 102 is not meant.
 std::optional<std::int64_t> takePowerOfTen(std::string_view& rest)
 {
     std::string_view behind = rest;
     takeBlanks(behind);
-    if (!takeTimes(behind)) {
+    const bool isApart = behind.size() < rest.size();
+    const bool isPoint = take(behind, ".");
+    if (!isPoint && !takeTimes(behind) && !isApart) {
         return std::nullopt;
     }
     takeBlanks(behind);
@@ -201,13 +120,121 @@ std::optional<std::int64_t> takePowerOfTen(std::string_view& rest)
         return std::nullopt;
     }
     std::optional<std::int64_t> power = takePower(behind);
-    if (!power) {
+    if (!power && !isPoint) {
         takeBlanks(behind);
         const bool hasSign = startsWith(behind, "-") || startsWith(behind, "+");
         power = hasSign ? takeInteger(behind) : std::nullopt;
     }
     rest = power ? behind : rest;
     return power;
+}
+
+bool startsWithPowerOfTen(std::string_view text)
+{
+    return takePowerOfTen(text).has_value();
+}
+
+// The digits of a number without its exponent.
+struct Mantissa {
+    std::string digits;
+    std::size_t wholeDigits = 0; // how many of them stand before the point
+    bool hasPoint = false;
+    bool isAmbiguous = false; // its comma might be a point or stand before thousands
+};
+
+// A group of three digits behind a separator, which is taken too; nothing where there is none.
+std::string_view takeGroup(std::string_view& rest, std::string_view separator)
+{
+    std::string_view behind = rest;
+    if (!take(behind, separator) || digitsAtFront(behind).size() != 3) {
+        return {};
+    }
+    const std::string_view group = takeDigits(behind);
+    rest = behind;
+    return group;
+}
+
+std::string takeGroups(std::string_view& rest, std::string_view separator)
+{
+    std::string digits;
+    std::string_view group = takeGroup(rest, separator);
+    while (!group.empty()) {
+        digits += group;
+        group = takeGroup(rest, separator);
+    }
+    return digits;
+}
+
+// One comma is a point; several, or one before a point, stand between thousands.
+std::string takeCommaGroups(std::string_view& rest)
+{
+    std::string_view behind = rest;
+    std::string digits = takeGroups(behind, ",");
+    const bool hasFraction = startsWith(behind, ".") && startsWithDigit(behind.substr(1));
+    if (digits.size() <= 3 && !hasFraction) {
+        return {};
+    }
+    rest = behind;
+    return digits;
+}
+
+std::string takeFraction(std::string_view& rest)
+{
+    std::string digits(takeDigits(rest));
+    while (!digits.empty() && digits.size() % 3 == 0 && startsWith(rest, " ") &&
+           !startsWithPowerOfTen(rest)) {
+        const std::string_view group = digitsAtFront(rest.substr(1));
+        if (group.empty() || group.size() > 3) {
+            break;
+        }
+        digits += group;
+        rest.remove_prefix(1 + group.size());
+    }
+    return digits;
+}
+
+// The sign between a whole number and its fraction, where one is at the front. A raised dot is one
+// on some keyboards; before a power of ten it is a "times", and so is a point: "2·10^-1".
+std::string_view pointAtFront(std::string_view rest, bool hasDigits, bool mayBeComma)
+{
+    if (hasDigits && startsWithPowerOfTen(rest)) {
+        return {};
+    }
+    if (startsWith(rest, ".")) {
+        return ".";
+    }
+    constexpr std::string_view raised = "·";
+    if (startsWith(rest, raised) && startsWithDigit(rest.substr(raised.size()))) {
+        return raised;
+    }
+    return mayBeComma && startsWith(rest, ",") && startsWithDigit(rest.substr(1)) ? "," : "";
+}
+
+// Of a text that begins with a digit, or with a point or comma and a digit.
+Mantissa takeMantissa(std::string_view& rest)
+{
+    Mantissa mantissa;
+    mantissa.digits = takeDigits(rest);
+    bool hasThousandsCommas = false;
+    if (!mantissa.digits.empty() && mantissa.digits.size() <= 3 && mantissa.digits[0] != '0') {
+        const std::string groups = takeCommaGroups(rest);
+        hasThousandsCommas = !groups.empty();
+        mantissa.digits += hasThousandsCommas ? groups : takeGroups(rest, " ");
+    }
+    mantissa.wholeDigits = mantissa.digits.size();
+    const std::string_view point =
+        pointAtFront(rest, !mantissa.digits.empty(), !hasThousandsCommas);
+    mantissa.hasPoint = !point.empty();
+    if (!mantissa.hasPoint) {
+        return mantissa;
+    }
+    rest.remove_prefix(point.size());
+    const std::string fraction = takeFraction(rest);
+    const bool mayBeThousands =
+        mantissa.wholeDigits <= 3 && mantissa.digits.find_first_not_of('0') != std::string::npos;
+    mantissa.isAmbiguous = point == "," && mayBeThousands && fraction.size() == 3;
+    mantissa.digits += fraction;
+    return mantissa;
 }
 
 std::optional<std::int64_t> takeExponent(std::string_view& rest)
@@ -240,9 +267,7 @@ std::string askBack(const Mantissa& mantissa)
     return "Do you mean " + whole + fraction + " or " + whole + "." + fraction + "?";
 }
 
-} // namespace
-
-NumberText takeNumber(std::string_view& rest)
+NumberText takeDecimal(std::string_view& rest)
 {
     std::string_view behindTen = rest;
     if (take(behindTen, "10")) {
@@ -258,6 +283,57 @@ NumberText takeNumber(std::string_view& rest)
         return {{}, askBack(mantissa)};
     }
     return {numberOf(mantissa, exponent.value_or(0)), ""};
+}
+
+// The digits as a whole number, if it is one that can be divided here.
+std::optional<std::int64_t> wholeOf(const TypedNumber& number)
+{
+    constexpr std::size_t most = 9;
+    if (number.digits.empty() || number.digits.size() > most) {
+        return std::nullopt;
+    }
+    return std::stoll(number.digits);
+}
+
+// What the last of the digits counts, as a power of ten.
+std::int64_t lastPlace(const TypedNumber& number)
+{
+    return number.place + 1 - static_cast<std::int64_t>(number.digits.size());
+}
+
+// The quotient where a divisor is at the front, which is taken; else nothing.
+std::optional<NumberText> takeQuotient(const NumberText& dividend, std::string_view& rest)
+{
+    std::string_view behind = rest;
+    takeBlanks(behind);
+    if (!take(behind, "/") && !take(behind, "÷")) {
+        return std::nullopt;
+    }
+    takeBlanks(behind);
+    if (!startsWithDigit(behind)) {
+        return std::nullopt;
+    }
+    const NumberText divisor = takeDecimal(behind);
+    if (!dividend.question.empty() || !divisor.question.empty()) {
+        rest = behind;
+        return dividend.question.empty() ? divisor : dividend;
+    }
+    const std::optional<std::int64_t> above = wholeOf(dividend.number);
+    const std::optional<std::int64_t> below = wholeOf(divisor.number);
+    if (!above || !below) {
+        return std::nullopt;
+    }
+    rest = behind;
+    const std::int64_t power = lastPlace(dividend.number) - lastPlace(divisor.number);
+    return NumberText{quotient(*above, *below, power), "", true};
+}
+
+} // namespace
+
+NumberText takeNumber(std::string_view& rest)
+{
+    const NumberText decimal = takeDecimal(rest);
+    return takeQuotient(decimal, rest).value_or(decimal);
 }
 
 } // namespace lesson

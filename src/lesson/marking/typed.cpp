@@ -53,10 +53,13 @@ constexpr Spelling spellings[] = {
     // Multiplication signs, and dots above the line.
     {"\u00D7", "×"}, {"\u2715", "×"}, {"\u2A2F", "×"}, {"\u2217", "*"},
     {"\u00B7", "·"}, {"\u2022", "·"}, {"\u2219", "·"}, {"\u22C5", "·"}, {"\u2027", "·"},
+    {"\u02D9", "·"},
     // Quotation marks and apostrophes, and the accents and primes that are typed for them.
     {"\u2018", "'"}, {"\u2019", "'"}, {"\u201A", "'"}, {"\u00B4", "'"}, {"\u02BC", "'"},
     {"\u2032", "'"},
     {"\u201C", "\""}, {"\u201D", "\""}, {"\u201E", "\""}, {"\u00AB", "\""}, {"\u00BB", "\""},
+    // The Arabic point, the sign between thousands, and the comma.
+    {"\u066B", "."}, {"\u066C", " "}, {"\u060C", ","},
     // Roman numerals and the litre as one character.
     {"\u2160", "I"}, {"\u2161", "II"}, {"\u2162", "III"}, {"\u2166", "VII"}, {"\u2113", "l"},
     // Fractions as one character: a blank keeps them apart from a number in front.
@@ -69,6 +72,10 @@ constexpr Spelling subscripts[] = {
     {"\u2085", "5"}, {"\u2086", "6"}, {"\u2087", "7"}, {"\u2088", "8"}, {"\u2089", "9"},
     {"\u208A", "+"}, {"\u208B", "-"}, {"\u208D", "("}, {"\u208E", ")"},
 };
+
+// The digits of other scripts stand in a row from their 0, and within one last byte: Arabic, Persian,
+// Devanagari, Bengali, Thai.
+constexpr std::string_view zeros[] = {"\u0660", "\u06F0", "\u0966", "\u09E6", "\u0E50"};
 
 constexpr Spelling superscripts[] = {
     {"\u2070", "0"}, {"\u00B9", "1"}, {"\u00B2", "2"}, {"\u00B3", "3"}, {"\u2074", "4"},
@@ -108,6 +115,26 @@ std::string asciiOfWide(std::string_view text)
     const int code = (text[1] == '\xBC' ? 0x20 : 0x60) + last - 0x80;
     const bool isWide = last >= 0x80 && last <= 0xBF && code > ' ' && code <= '~';
     return isWide ? std::string(1, static_cast<char>(code)) : "";
+}
+
+// The digit of another script at the front of a text: its length, 0 where there is none, and which.
+struct OtherDigit {
+    std::size_t length;
+    char plain;
+};
+OtherDigit otherDigitAt(std::string_view text)
+{
+    for (const std::string_view zero : zeros) {
+        const std::size_t lead = zero.size() - 1;
+        if (text.size() > lead && text.substr(0, lead) == zero.substr(0, lead)) {
+            const int digit =
+                static_cast<unsigned char>(text[lead]) - static_cast<unsigned char>(zero[lead]);
+            if (digit >= 0 && digit <= 9) {
+                return {zero.size(), static_cast<char>('0' + digit)};
+            }
+        }
+    }
+    return {0, '0'};
 }
 
 bool isAround(char character)
@@ -167,6 +194,12 @@ std::string inOneSpelling(std::string_view typed, std::string_view lowered)
         if (!wide.empty()) {
             plain += wide;
             typed.remove_prefix(wideLength);
+            continue;
+        }
+        const OtherDigit digit = otherDigitAt(typed);
+        if (digit.length > 0) {
+            plain += digit.plain;
+            typed.remove_prefix(digit.length);
             continue;
         }
         const Spelling* const subscript = spellingAt(subscripts, typed);

@@ -20,11 +20,26 @@ TypedNumber typedNumber(Decimal decimal)
     return number;
 }
 
+// Two fractions that differ do so within the figures of both denominators and of the power of ten
+// between them, which are fewer.
+TypedNumber quotient(std::int64_t dividend, std::int64_t divisor, std::int64_t power)
+{
+    constexpr std::size_t enough = 60;
+    DigitStream stream(ratio(dividend, divisor));
+    TypedNumber number;
+    number.place = stream.place() + power;
+    while (number.digits.size() < enough && !stream.isAtEnd()) {
+        number.digits += static_cast<char>('0' + stream.next());
+    }
+    number.goesOn = !stream.isAtEnd();
+    if (!number.goesOn) {
+        number.digits.erase(number.digits.find_last_not_of('0') + 1);
+    }
+    return number;
+}
+
 int compare(const TypedNumber& number, Ratio bound)
 {
-    if (number.isNegative) {
-        return -1;
-    }
     if (number.digits.empty() || bound.numerator == 0) {
         return (number.digits.empty() ? 0 : 1) - (bound.numerator == 0 ? 0 : 1);
     }
@@ -37,6 +52,9 @@ int compare(const TypedNumber& number, Ratio bound)
         if (difference != 0) {
             return difference;
         }
+    }
+    if (number.goesOn) {
+        return expected.isAtEnd() ? 1 : 0;
     }
     return expected.isAtEnd() ? 0 : -1;
 }
@@ -53,7 +71,6 @@ Neighbours roundedTo(const TypedNumber& number, int figures)
     }
     const auto withDigits = [&number, figures](std::int64_t digits) {
         TypedNumber rounded = typedNumber({digits, 0});
-        rounded.isNegative = number.isNegative;
         rounded.place += number.place - (figures - 1);
         rounded.fewestFigures = rounded.mostFigures = figures;
         return rounded;

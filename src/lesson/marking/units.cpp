@@ -33,34 +33,35 @@ constexpr Word words[] = {
     {"litre", "l"}, {"litres", "l"}, {"liter", "l"}, {"liters", "l"},
     {"millilitre", "ml"}, {"millilitres", "ml"}, {"milliliter", "ml"}, {"milliliters", "ml"},
     {"mls", "ml"}, {"cc", "cm3"}, {"ccm", "cm3"},
-    {"gram", "g"}, {"grams", "g"}, {"gramme", "g"}, {"grammes", "g"}, {"gm", "g"},
+    {"gram", "g"}, {"grams", "g"}, {"gramme", "g"}, {"grammes", "g"}, {"gm", "g"}, {"gms", "g"},
+    {"gr", "g"},
     {"milligram", "mg"}, {"milligrams", "mg"}, {"kilogram", "kg"}, {"kilograms", "kg"},
 };
 
 constexpr UnitRow units[] = {
-    {"mol/l",      {Measure::concentration, 0}},
-    {"moll-1",     {Measure::concentration, 0}},
-    {"mol/dm3",    {Measure::concentration, 0}},
-    {"moldm-3",    {Measure::concentration, 0}},
-    {"mmol/l",     {Measure::concentration, -3}},
-    {"mmoll-1",    {Measure::concentration, -3}},
-    {"mmol/dm3",   {Measure::concentration, -3}},
-    {"mmoldm-3",   {Measure::concentration, -3}},
-    {"mmol/ml",    {Measure::concentration, 0}},
-    {"mmolml-1",   {Measure::concentration, 0}},
-    {"mmol/cm3",   {Measure::concentration, 0}},
-    {"mmolcm-3",   {Measure::concentration, 0}},
-    {"g/mol",      {Measure::molarMass, 0}},
-    {"gmol-1",     {Measure::molarMass, 0}},
-    {"kg/mol",     {Measure::molarMass, 3}},
-    {"kgmol-1",    {Measure::molarMass, 3}},
-    {"kg",         {Measure::mass, 3}},
-    {"g",          {Measure::mass, 0}},
-    {"mg",         {Measure::mass, -3}},
-    {"l",          {Measure::volume, 0}},
-    {"dm3",        {Measure::volume, 0}},
-    {"ml",         {Measure::volume, -3}},
-    {"cm3",        {Measure::volume, -3}},
+    {"mol/l",      {Measure::concentration,  0, "mol/L"}},
+    {"moll-1",     {Measure::concentration,  0, "mol L⁻¹"}},
+    {"mol/dm3",    {Measure::concentration,  0, "mol/dm³"}},
+    {"moldm-3",    {Measure::concentration,  0, "mol dm⁻³"}},
+    {"mmol/l",     {Measure::concentration, -3, "mmol/L"}},
+    {"mmoll-1",    {Measure::concentration, -3, "mmol L⁻¹"}},
+    {"mmol/dm3",   {Measure::concentration, -3, "mmol/dm³"}},
+    {"mmoldm-3",   {Measure::concentration, -3, "mmol dm⁻³"}},
+    {"mmol/ml",    {Measure::concentration,  0, "mmol/mL"}},
+    {"mmolml-1",   {Measure::concentration,  0, "mmol mL⁻¹"}},
+    {"mmol/cm3",   {Measure::concentration,  0, "mmol/cm³"}},
+    {"mmolcm-3",   {Measure::concentration,  0, "mmol cm⁻³"}},
+    {"g/mol",      {Measure::molarMass,      0, "g/mol"}},
+    {"gmol-1",     {Measure::molarMass,      0, "g mol⁻¹"}},
+    {"kg/mol",     {Measure::molarMass,      3, "kg/mol"}},
+    {"kgmol-1",    {Measure::molarMass,      3, "kg mol⁻¹"}},
+    {"kg",         {Measure::mass,           3, "kg"}},
+    {"g",          {Measure::mass,           0, "g"}},
+    {"mg",         {Measure::mass,          -3, "mg"}},
+    {"l",          {Measure::volume,         0, "L"}},
+    {"dm3",        {Measure::volume,         0, "dm³"}},
+    {"ml",         {Measure::volume,        -3, "mL"}},
+    {"cm3",        {Measure::volume,        -3, "cm³"}},
 };
 // clang-format on
 
@@ -113,8 +114,11 @@ std::optional<Unit> unitOf(std::string_view typed)
 {
     // Only here capitals matter: m is the metre, and milli.
     const std::string symbol = withoutJoins(std::string(typed));
-    if (symbol == "M" || symbol == "mM") {
-        return Unit{Measure::concentration, symbol == "M" ? 0 : -3};
+    if (symbol == "M") {
+        return Unit{Measure::concentration, 0, "M"};
+    }
+    if (symbol == "mM") {
+        return Unit{Measure::concentration, -3, "mM"};
     }
     const std::string plain = withoutJoins(withPlainWords(typed));
     const auto* const row = std::find_if(std::begin(units), std::end(units),

@@ -6,7 +6,7 @@
 namespace lesson
 {
 
-// What a unit measures, and the power of ten that it is of mol/L, g/mol, g or L.
+// What a unit measures, the power of ten that it is of mol/L, g/mol, g or L, and how it is printed.
 enum class Measure {
     concentration,
     molarMass,
@@ -16,12 +16,13 @@ enum class Measure {
 struct Unit {
     Measure measure;
     int power;
+    std::string_view printed;
 };
 
 // A unit as people type it, in the spelling of `plainTyped`; none if it is not one of those that an
 // answer can be in.
-//   "mL", "(ml)", "cm^3", "cc", "millilitres" -> volume, -3
-//   "mol/L", "mol L-1", "mol.dm^{-3}", "moles per litre", "M" -> concentration, 0
+//   "mL", "(ml)", "millilitres" -> volume, -3, "mL"    "cm^3", "cc" -> volume, -3, "cm³"
+//   "mol/L", "moles per litre" -> concentration, 0, "mol/L"    "mol.dm^{-3}" -> …, "mol dm⁻³"
 std::optional<Unit> unitOf(std::string_view typed);
 
 // What is left of a text that ends with the formula or word, perhaps typed with other blanks, dots

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <variant>
@@ -64,11 +65,14 @@ TEST(ExpectedNumbersTest, WhatIsRightIsWhatTheMarkingCallsRight)
     }
 }
 
+// And half a unit more, since an answer with more figures is rounded first.
 TEST(ExpectedNumbersTest, AMolarMassIsRightWithinOneUnitOnly)
 {
-    EXPECT_EQ(textOf(expectedNumbers(asking(ratio(24969, 100), 4, true)), 100), "249.7 ±0.1");
-    EXPECT_EQ(textOf(expectedNumbers(asking(ratio(99985, 1000), 4, true)), 100), "99.99 ±0.01");
-    EXPECT_EQ(textOf(expectedNumbers(asking(ratio(100), 4, true)), 100), "100.0 ±0.1");
+    EXPECT_EQ(textOf(expectedNumbers(asking(ratio(24969, 100), 4, true)), 100), "249.7 ±0.15");
+    EXPECT_EQ(textOf(expectedNumbers(asking(ratio(99985, 1000), 4, true)), 100), "99.99 ±0.015");
+    // Below 100 the steps are shorter: 99.895 is 99.90 to four figures.
+    EXPECT_EQ(textOf(expectedNumbers(asking(ratio(100), 4, true)), 100),
+              "100.0 ±0.105, 100.0225 ±0.1275");
 }
 
 TEST(ExpectedNumbersTest, OtherFiguresAndVeryCloseAreHalfRight)
@@ -85,7 +89,7 @@ TEST(ExpectedNumbersTest, OtherFiguresAndVeryCloseAreHalfRight)
         {ratio(455, 10000), 3, "0.0455 ±0.00025, 0.046 ±0, 0.045 ±0, 0.0455 ±0.000455"},
         // Below 1.00 the steps are shorter; two figures are within the run, and so is 1 %.
         {ratio(1), 3, "1.00225 ±0.01275"},
-        {ratio(24969, 100), 4, "249.7 ±0.15, 250 ±0, 249.69 ±2.4969"},
+        {ratio(24969, 100), 4, "250 ±0, 249.69 ±2.4969"},
     };
     for (const Case& one : cases) {
         EXPECT_EQ(textOf(expectedNumbers(asking(one.value, one.figures, one.figures == 4)), 50),
@@ -168,6 +172,16 @@ void checkSteps(const Exercise& exercise, const std::vector<Expected>& expected,
     }
 }
 
+// Whether a number with one figure more is right to the figures asked for; a half either way.
+bool isRightWhenRounded(const Exercise& exercise, Decimal key, int tenths)
+{
+    const auto isRight = [&](std::int64_t digits) {
+        return markAnswer(exercise, plainText({digits, key.exponent})).verdict == Verdict::correct;
+    };
+    const std::int64_t digits = key.digits * 10 + tenths;
+    return isRight((digits + 4) / 10) || isRight((digits + 5) / 10);
+}
+
 // With one figure more, which is not 0.
 void checkTenths(const Exercise& exercise, const std::vector<Expected>& expected, Decimal key)
 {
@@ -178,7 +192,9 @@ void checkTenths(const Exercise& exercise, const std::vector<Expected>& expected
             const int percent = percentOf(expected, typed);
             EXPECT_FALSE(verdict == Verdict::figures && percent < 50)
                 << typed << " of " << exercise.key << " gets " << percent;
-            EXPECT_FALSE(verdict == Verdict::wrong && percent > 0)
+            // In Moodle nobody sees that it has more figures than are right with rounded masses.
+            EXPECT_FALSE(verdict == Verdict::wrong && percent > 0 &&
+                         !isRightWhenRounded(exercise, key, tenths))
                 << typed << " of " << exercise.key << " gets " << percent;
         }
     }

@@ -138,12 +138,9 @@ struct Rules {
             return Verdict::correct;
         }
         if (typedFigures > figures && doesAgreeRounded(s, typedFigures)) {
-            return Verdict::figures;
+            return isMolarMass ? Verdict::correct : Verdict::figures;
         }
-        if (typedFigures < figures && typedFigures >= 2 && isRounded(s, typedFigures)) {
-            return Verdict::figures;
-        }
-        if (typedFigures == 1 && isEqual(s, roundedOff(p, q, figures).up)) {
+        if (typedFigures < figures && isRounded(s, typedFigures)) {
             return Verdict::figures;
         }
         return isWithinPart(s, 100) ? Verdict::close : Verdict::wrong;

@@ -15,7 +15,7 @@ namespace
 const Ask litreAsk = {Form::number, "V", "NaOH", "L", 3, {}};
 const Ask molarAsk = {Form::number, "c", "CuSO4.5H2O", "mol/L", 3, {}};
 
-// "-456e-4 (3)": digits, the place of the last of them, and the figures; or the problem.
+// "456e-4 (3)": digits, the place of the last of them, and the figures; or the problem.
 std::string read(const std::string& typed, const Ask& ask = molarAsk)
 {
     const NumberReading reading = readNumber(plainTyped(typed), ask);
@@ -29,7 +29,7 @@ std::string read(const std::string& typed, const Ask& ask = molarAsk)
     const auto last = number.place + 1 - static_cast<std::int64_t>(number.digits.size());
     const std::string fewest = std::to_string(number.fewestFigures);
     const std::string most = std::to_string(number.mostFigures);
-    return (number.isNegative ? "-" : "") + number.digits + "e" + std::to_string(last) + " (" +
+    return number.digits + "e" + std::to_string(last) + " (" +
            (fewest == most ? most : fewest + " to " + most) + ")";
 }
 
@@ -66,10 +66,10 @@ TEST(NumberReaderTest, ReadsEverySpellingOfANumber)
         // Signs.
         {"+0.0342", "342e-4 (3)"},
         {"+ 0.0342", "342e-4 (3)"},
-        {"-0.0342", "-342e-4 (3)"},
-        {"−0.0342", "-342e-4 (3)"},
-        {"– 0.0342", "-342e-4 (3)"},
-        {"-.5", "-5e-1 (1)"},
+        {"-0.0342", "Leave out the minus sign."},
+        {"−0.0342", "Leave out the minus sign."},
+        {"– 0.0342", "Leave out the minus sign."},
+        {"-.5", "Leave out the minus sign."},
         // Exponents.
         {"3.42e-2", "342e-4 (3)"},
         {"3.42E-02", "342e-4 (3)"},
@@ -153,6 +153,152 @@ TEST(NumberReaderTest, ReadsEverySpellingOfANumber)
     }
 }
 
+TEST(NumberReaderTest, ReadsRaisedPointsAndPowersOfTenWithoutATimesSign)
+{
+    // clang-format off
+    const ReadCase cases[] = {
+        {"0·0327", "327e-4 (3)"},
+        {"0•0327", "327e-4 (3)"},
+        {"0˙0327", "327e-4 (3)"},
+        {"·0327", "327e-4 (3)"},
+        {"3·270", "327e-2 (4)"},
+        {"3·10", "31e-1 (3)"},
+        {"3·27·10^-2", "327e-4 (3)"},
+        {"3·27 · 10⁻²", "327e-4 (3)"},
+        {"3·27×10⁻²", "327e-4 (3)"},
+        {"3·27e-2", "327e-4 (3)"},
+        {"327·10^-4", "327e-4 (3)"},
+        {"3·10^-2", "3e-2 (1)"},
+        {"3·10-2", "3e-2 (1)"},
+        {"2.93 10^-1", "293e-3 (3)"},
+        {"2.93 10⁻¹", "293e-3 (3)"},
+        {"2.93 10-1", "293e-3 (3)"},
+        {"2.93 * 10 ^ -1", "293e-3 (3)"},
+        {"2.93 x 10 ^ ( -1 )", "I can't read this part: 'x 10 ^ ( -1 )'. "
+                               "Type a number, such as 0.125."},
+        {"2.930 10^-1", "293e-3 (4)"},
+        {"2.930 100 10^-1", "29301e-5 (7)"},
+        {"0.293 10^0", "293e-3 (3)"},
+        {"293 10^-3", "293e-3 (3)"},
+        {"1 250 10^-3", "125e-2 (3 to 4)"},
+        {"2.93.10^-1", "293e-3 (3)"},
+        {"2.93.10⁻¹", "293e-3 (3)"},
+        {"2,93.10^-1", "293e-3 (3)"},
+        {"2.93 . 10^-1", "293e-3 (3)"},
+        {"3.10^-1", "3e-1 (1)"},
+        {".10", "1e-1 (2)"},
+    };
+    // clang-format on
+    for (const ReadCase& c : cases) {
+        EXPECT_EQ(read(c.typed), c.expected) << c.typed;
+    }
+}
+
+TEST(NumberReaderTest, ReadsTheDigitsOfOtherScripts)
+{
+    // clang-format off
+    const ReadCase cases[] = {
+        {"٠٫٠٤٥٦", "456e-4 (3)"},
+        {"٠.٠٤٥٦", "456e-4 (3)"},
+        {"٠،٠٤٥٦", "456e-4 (3)"},
+        {"٤٫٥٦×١٠⁻²", "456e-4 (3)"},
+        {"١٬٢٥٠٬٠٠٠", "125e4 (3 to 7)"},
+        {"۰٫۰۴۵۶", "456e-4 (3)"},
+        {"۰.۰۴۵۶ mol/L", "456e-4 (3)"},
+        {"۱۲۳۴۵۶۷۸۹۰", "123456789e1 (9 to 10)"},
+        {"०.०४५६", "456e-4 (3)"},
+        {"০.০৪৫৬", "456e-4 (3)"},
+        {"๐.๐๔๕๖", "456e-4 (3)"},
+        {"０．０４５６", "456e-4 (3)"},
+        {"４．５６Ｅ－２", "456e-4 (3)"},
+    };
+    // clang-format on
+    for (const ReadCase& c : cases) {
+        EXPECT_EQ(read(c.typed), c.expected) << c.typed;
+    }
+}
+
+TEST(NumberReaderTest, WorksAQuotientOut)
+{
+    const auto quotientOf = [](const char* typed) {
+        const NumberReading reading = readNumber(plainTyped(typed), molarAsk);
+        EXPECT_EQ(reading.problem, "") << typed;
+        EXPECT_EQ(reading.number.fewestFigures, molarAsk.figures) << typed;
+        EXPECT_GT(reading.number.mostFigures, 1'000'000) << typed;
+        return reading.number;
+    };
+    struct Case {
+        const char* typed;
+        Ratio value;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"7/60", ratio(7, 60)},
+        {"7 / 60", ratio(7, 60)},
+        {"7÷60", ratio(7, 60)},
+        {"7⁄60", ratio(7, 60)},
+        {"½", ratio(1, 2)},
+        {"+7/60", ratio(7, 60)},
+        {"c = 7/60", ratio(7, 60)},
+        {"7/60 mol/L", ratio(7, 60)},
+        {"7/60M", ratio(7, 60)},
+        {"70/600", ratio(7, 60)},
+        {"7/60 mmol/L", ratio(7, 60000)},
+        {"0.00114/0.025", ratio(114, 2500)},
+        {"1.14e-3/0.025", ratio(114, 2500)},
+        {"1.14×10⁻³/2.5×10⁻²", ratio(114, 2500)},
+        {"0,00114/0,025", ratio(114, 2500)},
+        {"999999999/999999998", ratio(999999999, 999999998)},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        EXPECT_EQ(compare(quotientOf(c.typed), c.value), 0) << c.typed;
+    }
+    EXPECT_EQ(read("1,250/3"), "Do you mean 1250 or 1.250?");
+    EXPECT_EQ(read("3/1,250"), "Do you mean 1250 or 1.250?");
+    EXPECT_EQ(read("-7/60"), "Leave out the minus sign.");
+}
+
+TEST(NumberReaderTest, TellsWhichLetterLooksLikeADigit)
+{
+    const char* const smallL = "There is a small letter l where the digit 1 should be.";
+    const char* const largeI = "There is a large letter I where the digit 1 should be.";
+    const char* const largeO = "There is a letter O where a zero should be.";
+    const char* const smallO = "There is a letter o where a zero should be.";
+    // clang-format off
+    const ReadCase cases[] = {
+        {"0.l17", smallL},
+        {"0.1l7", smallL},
+        {"l.17", smallL},
+        {"l17", smallL},
+        {"0.l17 mol/L", smallL},
+        {"c = 0.l17 M", smallL},
+        {"1.l7e-1", smallL},
+        {"0.I17", largeI},
+        {"0.11I", largeI},
+        {"I.17", largeI},
+        {"O.117", largeO},
+        {"0.1O7", largeO},
+        {"0.1O mol/L", largeO},
+        {"2.5Oe-1", largeO},
+        {"o,117", smallO},
+        {"0.o17", smallO},
+        {"O.l17", largeO}, // the first of two
+        {"-0.l17", smallL},
+        // The litre, and what has no digit or would be no number either.
+        {"0.117l", "The answer should be in mol/L."},
+        {"0.117 l", "The answer should be in mol/L."},
+        {"lO", "I can't read this part: 'lO'. Type a number, such as 0.125."},
+        {"I know", "I can't read this part: 'I know'. Type a number, such as 0.125."},
+        {"0.l17 or 0.118", "I can't read this part: 'l17 or 0.118'. Type a number, such as 0.125."},
+    };
+    // clang-format on
+    for (const ReadCase& c : cases) {
+        EXPECT_EQ(read(c.typed), c.expected) << c.typed;
+    }
+    EXPECT_EQ(read("0.117l", litreAsk), "117e-3 (3)");
+}
+
 TEST(NumberReaderTest, AsksBackWhatOneCommaMeans)
 {
     const ReadCase cases[] = {
@@ -234,9 +380,9 @@ TEST(NumberReaderTest, SkipsASymbolInFront)
         EXPECT_EQ(read(front + std::string("4,56·10⁻² mol·L⁻¹")), "456e-4 (3)") << front;
         EXPECT_EQ(read(front + std::string("10^-2 M")), "1e-2 (1)") << front;
     }
-    EXPECT_EQ(read("c = -0.0456"), "-456e-4 (3)");
-    EXPECT_EQ(read("c=−0.0456"), "-456e-4 (3)");
-    EXPECT_EQ(read("c = (-0.0456)"), "-456e-4 (3)");
+    EXPECT_EQ(read("c = -0.0456"), "Leave out the minus sign.");
+    EXPECT_EQ(read("c=−0.0456"), "Leave out the minus sign.");
+    EXPECT_EQ(read("c = (-0.0456)"), "Leave out the minus sign.");
 }
 
 TEST(NumberReaderTest, ConvertsToTheAskedUnit)
@@ -360,9 +506,14 @@ TEST(NumberReaderTest, QuotesThePartThatItCannotRead)
         {"c2", "c2"},
         {"-", "-"},
         {".", "."},
-        {"1/8", "/8"},
-        {"½", "/2"},
-        {"0.00114/0.025 = 0.0456", "/0.025 = 0.0456"},
+        {"1/0", "/0"},
+        {"0/8", "/8"},
+        {"1/", "/"},
+        {"1/2/3", "/3"},
+        {"1/x", "/x"},
+        {"1/1234567891", "/1234567891"},
+        {"1234567891/3", "/3"},
+        {"0.00114/0.025 = 0.0456", "= 0.0456"},
         {"2 × 0.0228", "× 0.0228"},
         {"c = 2*0.0228 = 0.0456", "*0.0228 = 0.0456"},
         {"0.0456 mol/L = c", "mol/L = c"},
@@ -388,8 +539,12 @@ TEST(NumberReaderTest, QuotesThePartThatItCannotRead)
         {"3.42e^-2", "e^-2"},
         {"10-2", "-2"},
         {"10^-2.5", ".5"},
-        {"4.56.10^-2", ".10^-2"},
-        {"4,56.10^-2", ".10^-2"},
+        {"4.56.10-2", ".10-2"},
+        {"4.56.5", ".5"},
+        {"4·56·5", "·5"},
+        {"4.56 10", "10"},
+        {"4.56 102", "102"},
+        {"4.56 100^-1", "100^-1"},
         {"1.250,5", ",5"},
         {"1.250.000", ".000"},
         {"1,25,000", ",000"},
@@ -411,18 +566,19 @@ TEST(NumberReaderTest, QuotesThePartThatItCannotRead)
     };
     // clang-format on
     for (const ReadCase& c : cases) {
-        EXPECT_EQ(read(c.typed),
-                  "I can't read this part: '" + std::string(c.expected) + "'. Type a number.")
+        EXPECT_EQ(read(c.typed), "I can't read this part: '" + std::string(c.expected) +
+                                     "'. Type a number, such as 0.125.")
             << c.typed;
     }
     EXPECT_EQ(read("0.0456 = " + std::string(100, 'x')),
-              "I can't read this part: '= " + std::string(38, 'x') + "…'. Type a number.");
+              "I can't read this part: '= " + std::string(38, 'x') +
+                  "…'. Type a number, such as 0.125.");
 }
 
 TEST(NumberReaderTest, AsksForANumberWhereNothingIs)
 {
     for (const char* const nothing : {"", " ", "\t\n", "\u00A0", "\u200B", "\uFEFF"}) {
-        EXPECT_EQ(read(nothing), "Type a number.") << '"' << nothing << '"';
+        EXPECT_EQ(read(nothing), "Type a number, such as 0.125.") << '"' << nothing << '"';
     }
 }
 

@@ -202,6 +202,7 @@ const char* const wrongVolume =
     "power-of-ten: Right digits, wrong size. Check each volume: mL or L?";
 const char* const close = "close: Very close. Did you round a number on the way?";
 const char* const closeMass = "close: Very close. Check the atomic masses.";
+const char* const closeHydrogen = "close: Very close. Count the hydrogen atoms again.";
 const char* const wrong = "wrong: Not right yet. Write down what you know, or press Show a step.";
 
 struct MarkCase {
@@ -252,7 +253,11 @@ TEST(MarkNumberTest, TheFirstLineThatFits)
         {"0.045751", close},               // rounded 0.0458
         // Fewer.
         {"0.046", threeFigures},
-        {"0.05", wrong},
+        {"0.05", threeFigures},            // one
+        {".05", threeFigures},
+        {"5e-2", threeFigures},
+        {"0.04", wrong},
+        {"0.050", wrong},                  // two
         {"0.045", wrong},                  // one per cent and a quarter off
         {"0.0046", wrongSize},
         {"45.6", wrongSize},
@@ -265,7 +270,8 @@ TEST(MarkNumberTest, TheFirstLineThatFits)
         {"0.5", wrong},
         {"0", wrong},
         {"0.000", wrong},
-        {"-0.0456", wrong},
+        {"-0.0456", "unreadable: Leave out the minus sign."},
+        {"-7", "unreadable: Leave out the minus sign."},
         {"1", wrong},
         {"1e99999999999999999999", wrong},
         {"1e-99999999999999999999", wrong},
@@ -327,13 +333,13 @@ TEST(MarkNumberTest, AskedToKeepTheZeroWhereItWasLeftOut)
     expectMarks({ratio(12, 100)}, molarAsk, {}, {
         {"0.120", correct},
         {"0.12", "figures: Keep the zero: 0.120."},
-        {"0.1", wrong},
+        {"0.1", threeFigures}, // one figure of 0.12
     });
     // 0.0996 to two figures is 0.10, which is not the key.
     expectMarks({ratio(996, 10000)}, molarAsk, {}, {
         {"0.0996", correct},
         {"0.10", threeFigures},
-        {"0.1", close},
+        {"0.1", threeFigures},
     });
     // A half may go either way: 0.125 to two figures.
     expectMarks({ratio(125, 1000)}, molarAsk, {}, {
@@ -358,7 +364,7 @@ TEST(MarkNumberTest, TheZerosOfAWholeNumberMayCountOrNot)
         {"250 mL", correct},
         {"0.250 L", correct},
         {"0.25 L", "figures: Keep the zero: 0.250 L."},
-        {"0.25 dm³ (2 s.f.)", "figures: Keep the zero: 0.250 dm^3."},
+        {"0.25 dm³ (2 s.f.)", "figures: Keep the zero: 0.250 dm³."},
         {"0.249 L", "correct: Correct. To 3 significant figures it is 0.250 L."},
         {"2.5e2", "figures: Keep the zero: 250."},
         {"250.0", threeFigures},
@@ -380,7 +386,8 @@ TEST(MarkNumberTest, TheZerosOfAWholeNumberMayCountOrNot)
         {"1960", "correct: Correct. To 3 significant figures it is 1950."},
         {"2000", threeFigures},                // two of its figures
         {"2.0 L", threeFigures},
-        {"2 L", wrong},
+        {"2 L", threeFigures},                 // one
+        {"2000.", wrong},                      // four
         {"1970", close},
         {"1980", wrong},
         {"1,950", "unreadable: Do you mean 1950 or 1.950?"},
@@ -416,12 +423,21 @@ TEST(MarkNumberTest, MolarMassesAreWithinOneUnitOrFromRoundedMasses)
         {"249.9", closeMass},
         {"252.1", closeMass},
         {"252.2", wrong},
-        {"249.69", fourFigures},
+        {"249.69", rounded},
+        {"249.600000", rounded},
+        {"249.84", rounded},                   // rounded 249.8
+        {"249.70", correct},
         {"250", fourFigures},
         {"250.", fourFigures},
         {"2.5e2", fourFigures},
         {"250.0", closeMass},
-        {"249", closeMass},
+        {"249", closeHydrogen},
+        {"248.7", closeHydrogen},              // one of ten missed
+        {"248.5", closeHydrogen},              // with whole masses
+        {"247.7", closeHydrogen},
+        {"250.7", closeHydrogen},              // one too many
+        {"251.7", closeHydrogen},
+        {"248.2", closeMass},
         {"24.97", wrongSize},
         {"24.95", wrongSize},
     });
@@ -470,9 +486,10 @@ TEST(MarkNumberTest, ThreePlacesOffAskForTheVolumesWhereSomeAreGiven)
         {"0.0000456", wrongSize},
     });
     expectMarks({ratio(1, 10)}, molarAsk, {}, {
-        {"1", wrongSize}, // one figure that is the key's
+        {"1.0", wrongSize},
+        {"1", wrong}, // one figure
         {"1000000", wrong},
-        {"100000", wrongSize},
+        {"100000", wrongSize}, // six figures, or fewer
     });
     // clang-format on
 }
@@ -499,6 +516,7 @@ TEST(MarkNumberTest, ASlipIsToldFromTwoFiguresOn)
         {"0.18228", first},
         {"0.18", first},                 // two figures
         {"0.2", wrong},                  // one
+        {"0.05", threeFigures},          // the key with one
         {"0.300", "slip: Three tenths."},
         {"0.30", "slip: Three tenths."},
         {"0.3", wrong},
@@ -518,12 +536,87 @@ TEST(MarkNumberTest, WhatCannotBeReadIsSaid)
 {
     // clang-format off
     expectMarks({ratio(4557, 100000)}, molarAsk, {}, {
-        {"", "unreadable: Type a number."},
-        {"no idea", "unreadable: I can't read this part: 'no idea'. Type a number."},
+        {"", "unreadable: Type a number, such as 0.125."},
+        {"no idea", "unreadable: I can't read this part: 'no idea'. Type a number, such as 0.125."},
         {"0.0456 g/L", "unreadable: The answer should be in mol/L."},
         {"1,250", "unreadable: Do you mean 1250 or 1.250?"},
         {"c = n/V = 0.0456", correct},
-        {"c = 0.00114/0.025 = 0.0456", "unreadable: I can't read this part: '/0.025 = 0.0456'. Type a number."},
+        {"c = 0.00114/0.025 = 0.0456", "unreadable: I can't read this part: '= 0.0456'. Type a number, such as 0.125."},
+    });
+    // clang-format on
+}
+
+// 190 mL of water, where 200 mL are the whole solution.
+TEST(MarkNumberTest, OneFigureIsRightOnlyIfItCannotBeSomethingElse)
+{
+    const std::vector<Slip> slips = {{"200 mL", ratio(200), "The whole solution."},
+                                     {"0.300 mL", ratio(3, 10), "Three tenths."}};
+    // clang-format off
+    expectMarks({ratio(190), {}, false, true}, volumeAsk, slips, {
+        {"200", "slip: The whole solution."},
+        {"200 mL", "slip: The whole solution."},
+        {"2e2", wrong},   // just the slip's answer
+        {"0.2 L", wrong},
+        {"190", correct},
+        {"0.19 L", "figures: Keep the zero: 0.190 L."},
+    });
+    expectMarks({ratio(293, 1000), {}, false, true}, molarAsk, slips, {{"0.3", wrong}});
+    expectMarks({ratio(293, 1000), {}, false, true}, molarAsk, {}, {
+        {"0.3", threeFigures},
+        {"300 mmol/L", wrong}, // it may have three
+        {"0.30", wrong},
+    });
+    // A half either way.
+    expectMarks({ratio(25, 100)}, molarAsk, {}, {{"0.2", threeFigures}, {"0.3", threeFigures}});
+    // clang-format on
+}
+
+TEST(MarkNumberTest, AQuotientHasFiguresEnough)
+{
+    const std::string rounded = "correct: Correct. To 3 significant figures it is 0.117.";
+    // clang-format off
+    expectMarks({ratio(7, 60), {}, false, true}, molarAsk, {}, {
+        {"7/60", rounded},
+        {"0.35/3 mol/L", rounded},
+        {"117/1000", correct},
+        {"116/1000", rounded},
+        {"7000/60", wrongVolume},
+        {"1/8", wrong},
+    });
+    // Half a per cent: 0.498 to 0.5025 are right for 0.5.
+    expectMarks({ratio(496, 1000)}, molarAsk, {}, {{"1/2", close}});
+    // clang-format on
+}
+
+TEST(MarkNumberTest, OfVolumesOnlyWhereTheAnswerIsNoMass)
+{
+    const Ask massAsk = {Form::number, "m", "NaCl", "g", 3, {}};
+    // clang-format off
+    expectMarks({ratio(101, 100), {}, false, true}, massAsk, {}, {
+        {"1.01 kg", wrongSize},
+        {"1.01 mg", wrongSize},
+        {"1010", wrongSize},
+        {"1010 mg", correct},
+    });
+    // clang-format on
+}
+
+TEST(MarkNumberTest, TheAnswerIsToldInTheTypedUnitAsItIsPrinted)
+{
+    const auto toldAs = [](const char* told) {
+        return "correct: Correct. To 3 significant figures it is " + std::string(told) + ".";
+    };
+    // clang-format off
+    expectMarks({ratio(201, 1000)}, molarAsk, {}, {
+        {"200 mmol dm⁻³", toldAs("201 mmol dm⁻³")},
+        {"200 mmol dm-3", toldAs("201 mmol dm⁻³")},
+        {"200 mmol/L", toldAs("201 mmol/L")},
+        {"200 mM", toldAs("201 mM")},
+        {"0.200 mol dm^-3", toldAs("0.201")},
+    });
+    expectMarks({ratio(250)}, volumeAsk, {}, {
+        {"0.251 dm^3", toldAs("0.250 dm³")},
+        {"0.251 litres", toldAs("0.250 L")},
     });
     // clang-format on
 }
@@ -575,6 +668,14 @@ TEST(MarkNumberTest, AnyLengthIsMarked)
         {"equalities", times(million / 2, "c=") + "0.333", "correct"},
         {"powers of ten", times(million / 4, "×10^"), "unreadable"},
         {"bytes that are no text", times(million, "\xFF"), "unreadable"},
+        {"a long dividend", times(million, "7") + "/60", "unreadable"},
+        {"a long divisor", "7/" + times(million, "6"), "unreadable"},
+        {"a quotient of zeros", times(million / 2, "0") + "1/3" + times(million / 2, "0"), "wrong"},
+        {"quotients", times(million / 2, "7/"), "unreadable"},
+        {"letters for digits", "0." + times(million, "l") + "1", "unreadable"},
+        {"letters and points", times(million / 2, ".l"), "unreadable"},
+        {"other digits", "٠٫" + times(million / 2, "٣"), "figures"},
+        {"powers of ten behind groups", "0.333" + times(million / 4, " 10^"), "unreadable"},
         {"zero bytes", std::string(million, '\0'), "unreadable"},
     };
     // clang-format on

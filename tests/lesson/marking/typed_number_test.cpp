@@ -11,10 +11,9 @@ namespace lesson
 namespace
 {
 
-TypedNumber number(std::string digits, std::int64_t place, bool isNegative = false)
+TypedNumber number(std::string digits, std::int64_t place)
 {
     TypedNumber result;
-    result.isNegative = isNegative;
     result.digits = std::move(digits);
     result.place = place;
     return result;
@@ -53,8 +52,6 @@ TEST(TypedNumberTest, ComparesExactly)
         {number("1", -300), ratio(0), 1},
         {number("1", far), ratio(1), 1},
         {number("1", -far), ratio(1), -1},
-        {number("456", -2, true), ratio(456, 10000), -1},
-        {number("1", -2, true), ratio(0), -1},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -62,6 +59,41 @@ TEST(TypedNumberTest, ComparesExactly)
             << c.number.digits << " at " << c.number.place << " and " << c.bound.numerator << '/'
             << c.bound.denominator;
     }
+}
+
+TEST(TypedNumberTest, AQuotientIsExact)
+{
+    struct Case {
+        TypedNumber number;
+        Ratio bound;
+        int sign;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {quotient(7, 60, 0), ratio(7, 60), 0},
+        {quotient(7, 60, 0), ratio(11666666666666666, 100000000000000000), 1},
+        {quotient(7, 60, 0), ratio(11666666666666667, 100000000000000000), -1},
+        {quotient(7, 60, -3), ratio(7, 60000), 0},
+        {quotient(7, 60, 2), ratio(35, 3), 0},
+        {quotient(1, 8, 0), ratio(1, 8), 0},
+        {quotient(1, 8, 0), ratio(1251, 10000), -1},
+        {quotient(60, 3, 0), ratio(20), 0},
+        {quotient(999999999, 999999998, 0), ratio(999999999, 999999998), 0},
+        {quotient(999999999, 999999998, 0), ratio(999999998, 999999997), -1},
+        {quotient(1, 999999999, 0), ratio(1, 999999999), 0},
+        {quotient(1, 999999999, 0), ratio(1, 999999998), -1},
+        {quotient(1, 3, 1'000'000), ratio(1, 3), 1},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        EXPECT_EQ(signOf(compare(c.number, c.bound)), c.sign)
+            << c.number.digits << " at " << c.number.place << " and " << c.bound.numerator << '/'
+            << c.bound.denominator;
+    }
+    const Neighbours rounded = roundedTo(quotient(7, 60, 0), 3);
+    EXPECT_EQ(rounded.lower.digits, "117");
+    EXPECT_EQ(rounded.upper.digits, "117");
+    EXPECT_EQ(rounded.upper.place, -1);
 }
 
 TEST(TypedNumberTest, RoundsToTheNearerOrAtAHalfToBothNeighbours)
@@ -92,7 +124,6 @@ TEST(TypedNumberTest, RoundsToTheNearerOrAtAHalfToBothNeighbours)
         EXPECT_EQ(rounded.upper.digits, c.upper.digits) << c.number.digits;
         EXPECT_EQ(rounded.upper.place, c.upper.place) << c.number.digits;
     }
-    EXPECT_TRUE(roundedTo(number("4557", -2, true), 3).upper.isNegative);
 }
 
 TEST(TypedNumberTest, ADecimalHasTheFiguresOfItsPlainText)

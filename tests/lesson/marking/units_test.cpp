@@ -16,6 +16,28 @@ struct UnitCase {
     int power;
 };
 
+TEST(UnitsTest, APrintedUnitIsTheOneThatWasTyped)
+{
+    struct Case {
+        const char* typed;
+        const char* printed;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"mol/L", "mol/L"}, {"moles per litre", "mol/L"}, {"mol L^-1", "mol L⁻¹"},
+        {"mol/dm^3", "mol/dm³"}, {"mol.dm^{-3}", "mol dm⁻³"}, {"M", "M"}, {"mM", "mM"},
+        {"mmol dm^-3", "mmol dm⁻³"}, {"mmol/l", "mmol/L"}, {"g mol-1", "g mol⁻¹"},
+        {"cm^3", "cm³"}, {"cc", "cm³"}, {"ML", "mL"}, {"litres", "L"}, {"dm3", "dm³"},
+        {"KG", "kg"}, {"mg", "mg"}, {"grams", "g"},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        const std::optional<Unit> unit = unitOf(c.typed);
+        ASSERT_TRUE(unit.has_value()) << c.typed;
+        EXPECT_EQ(unit->printed, c.printed) << c.typed;
+    }
+}
+
 TEST(UnitsTest, KnowsEveryUsualSpelling)
 {
     // clang-format off
