@@ -169,8 +169,8 @@ private:
         }
     }
 
-    // Tables lead to many values, and what is right around them mostly meets. More figures are right
-    // in molar masses.
+    // Tables lead to many values, and what is right around them mostly meets. More figures are
+    // right in molar masses.
     void addRoundedMasses()
     {
         std::vector<Range> ranges;

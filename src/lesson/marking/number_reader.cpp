@@ -287,7 +287,7 @@ std::string convert(NumberReading& reading, std::string_view behind, const Ask& 
                                         : cannotRead(unit);
 }
 
-// Letters that look like digits.
+// Letters, and a stroke, that look like digits.
 struct Misread {
     char letter;
     char digit;
@@ -297,6 +297,8 @@ struct Misread {
 constexpr Misread misreads[] = {
     {'l', '1', "There is a small letter l where the digit 1 should be."},
     {'I', '1', "There is a large letter I where the digit 1 should be."},
+    {'i', '1', "There is a small letter i where the digit 1 should be."},
+    {'|', '1', "There is a stroke where the digit 1 should be."},
     {'O', '0', "There is a letter O where a zero should be."},
     {'o', '0', "There is a letter o where a zero should be."},
 };

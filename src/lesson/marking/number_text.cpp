@@ -13,13 +13,14 @@
 //   number    = decimal ["/" decimal]
 //   decimal   = "10" power | (whole [point [fraction]] | point fraction) [exponent]
 //   whole     = digits, or groups of three with blanks or commas between them
-//   point     = "." or one ",", or "·" where no power of ten follows
+//   point     = "." or one "," or "'", or "·" where no power of ten follows
 //   fraction  = digits, perhaps in groups of three with blanks between them
 //   exponent  = "e" [sign] digits | (times | blank) "10" (power | sign digits) | "." "10" power
 //   power     = ("^" | "**") [bracket] [sign] digits [bracket]
 //   times     = "x" | "×" | "*" | "·"
 //
-// A comma between groups of three is left to the learner, unless something settles what it means.
+// A comma or an apostrophe before a group of three is left to the learner, unless something settles
+// what it means.
 
 namespace lesson
 {
@@ -207,7 +208,8 @@ std::string_view pointAtFront(std::string_view rest, bool hasDigits, bool mayBeC
     if (startsWith(rest, raised) && startsWithDigit(rest.substr(raised.size()))) {
         return raised;
     }
-    return mayBeComma && startsWith(rest, ",") && startsWithDigit(rest.substr(1)) ? "," : "";
+    const bool isComma = mayBeComma && !rest.empty() && isOneOf(rest[0], ",'");
+    return isComma && startsWithDigit(rest.substr(1)) ? rest.substr(0, 1) : "";
 }
 
 // Of a text that begins with a digit, or with a point or comma and a digit.
@@ -232,7 +234,7 @@ Mantissa takeMantissa(std::string_view& rest)
     const std::string fraction = takeFraction(rest);
     const bool mayBeThousands =
         mantissa.wholeDigits <= 3 && mantissa.digits.find_first_not_of('0') != std::string::npos;
-    mantissa.isAmbiguous = point == "," && mayBeThousands && fraction.size() == 3;
+    mantissa.isAmbiguous = isOneOf(point[0], ",'") && mayBeThousands && fraction.size() == 3;
     mantissa.digits += fraction;
     return mantissa;
 }

@@ -58,8 +58,8 @@ constexpr Spelling spellings[] = {
     {"\u2018", "'"}, {"\u2019", "'"}, {"\u201A", "'"}, {"\u00B4", "'"}, {"\u02BC", "'"},
     {"\u2032", "'"},
     {"\u201C", "\""}, {"\u201D", "\""}, {"\u201E", "\""}, {"\u00AB", "\""}, {"\u00BB", "\""},
-    // The Arabic point, the sign between thousands, and the comma.
-    {"\u066B", "."}, {"\u066C", " "}, {"\u060C", ","},
+    // The Arabic point, the sign between thousands, and the comma; the Chinese full stop.
+    {"\u066B", "."}, {"\u066C", " "}, {"\u060C", ","}, {"\u3002", "."},
     // Roman numerals and the litre as one character.
     {"\u2160", "I"}, {"\u2161", "II"}, {"\u2162", "III"}, {"\u2166", "VII"}, {"\u2113", "l"},
     // Fractions as one character: a blank keeps them apart from a number in front.

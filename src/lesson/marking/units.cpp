@@ -31,6 +31,7 @@ constexpr Word words[] = {
     {"millimole", "mmol"}, {"millimoles", "mmol"},
     {"molar", "mol/l"}, {"millimolar", "mmol/l"},
     {"litre", "l"}, {"litres", "l"}, {"liter", "l"}, {"liters", "l"},
+    {"ltr", "l"}, {"ltrs", "l"},
     {"millilitre", "ml"}, {"millilitres", "ml"}, {"milliliter", "ml"}, {"milliliters", "ml"},
     {"mls", "ml"}, {"cc", "cm3"}, {"ccm", "cm3"},
     {"gram", "g"}, {"grams", "g"}, {"gramme", "g"}, {"grammes", "g"}, {"gm", "g"}, {"gms", "g"},

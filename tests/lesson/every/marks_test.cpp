@@ -168,6 +168,97 @@ TEST(MarksTest, WhoRoundsEachStepIsRight)
     EXPECT_GE(correct, all / 1000 * 994) << "of " << all;
 }
 
+// ------------------------------------------------------------------------------- other tables
+
+// Masses to so many decimals, 0 or 1, but chlorine's, which is 35.5 in every table.
+Exact roundedMolarMass(const std::string& formula, int decimals)
+{
+    Exact sum;
+    for (const auto& [symbol, count] : atomsIn(formula)) {
+        const Exact parts = decimals == 0 && symbol != "Cl" ? Exact(1) : Exact(10);
+        const Exact mass = Exact((typedMolarMass(symbol) * parts + Exact(1, 2)).floor()) / parts;
+        sum = sum + mass * count;
+    }
+    return sum;
+}
+
+// As a calculator shows it: 58.5, 188.
+std::string asItComesOut(const Exact& sum)
+{
+    const std::int64_t tenths = (sum * 10).floor();
+    const std::string whole = std::to_string(tenths / 10);
+    return tenths % 10 == 0 ? whole : whole + "." + std::to_string(tenths % 10);
+}
+
+// What is typed by someone whose masses are rounded; nothing where the molar mass is told.
+std::vector<std::string> byRoundedMasses(const Asked& asked, int decimals)
+{
+    const Json& exercise = asked.exercise;
+    if (exercise["kind"] == "molar-mass") {
+        const Exact sum = roundedMolarMass(exercise["ask"]["of"], decimals);
+        return {asItComesOut(sum), typedTo(sum, 4)};
+    }
+    const Given given(exercise);
+    const Json* const told = givenQuantity(exercise, "M");
+    if (told == nullptr || given.tells("M")) {
+        return {};
+    }
+    const Exact molarMass = roundedMolarMass((*told)["of"], decimals);
+    return {typedTo(exercise["ask"]["quantity"] == "m" ? given("c") * given("V") * molarMass
+                                                       : given("m") / molarMass / given("V"),
+                    3)};
+}
+
+TEST(MarksTest, WhoHasATableOfRoundedMassesIsRight)
+{
+    Problems problems;
+    int all = 0;
+    forEachExercise({"molar-mass", "concentration"}, problems, [&](const Asked& asked) {
+        for (const int decimals : {0, 1}) {
+            for (const std::string& typed : byRoundedMasses(asked, decimals)) {
+                ++all;
+                problems.expect(
+                    asked.verdict(typed) == "correct", "who has a table of rounded masses is right",
+                    typed + " by masses to " + std::to_string(decimals) + " decimals, for " +
+                        asked.exercise["key"]["text"].get<std::string>());
+            }
+        }
+    });
+    EXPECT_EQ(problems.text(), "");
+    EXPECT_GT(all, 0);
+}
+
+// -------------------------------------------------------------------------------- one figure
+
+bool isAnswerOfSlip(const Json& exercise, const Exact& value)
+{
+    for (const Json& slip : exercise["slips"]) {
+        const std::string text = slip["text"];
+        if (Exact::read(text.substr(0, text.find(' '))) == value) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// "3e-1" for 0.293 has one figure and no more.
+TEST(MarksTest, OneFigureIsRightUnlessASlipLeadsToIt)
+{
+    Problems problems;
+    int right = 0;
+    forEachExercise({"molar-mass", "concentration", "dilution", "titration"}, problems,
+                    [&](const Asked& asked) {
+                        const Exact key = Exact::read(asked.exercise["key"]["value"]);
+                        const bool isSlip = isAnswerOfSlip(asked.exercise, key.toFigures(1));
+                        const std::string verdict = asked.verdict(typedTo(key, 1));
+                        right += verdict == "figures" ? 1 : 0;
+                        problems.expect((verdict == "figures") == !isSlip, "one figure is right",
+                                        typedTo(key, 1) + ": " + verdict);
+                    });
+    EXPECT_EQ(problems.text(), "");
+    EXPECT_GT(right, 0);
+}
+
 // --------------------------------------------------------------------------------- spellings
 
 std::string replaced(std::string text, const std::string& part, const std::string& by)

@@ -68,11 +68,13 @@ TEST(ExpectedNumbersTest, WhatIsRightIsWhatTheMarkingCallsRight)
 // And half a unit more, since an answer with more figures is rounded first.
 TEST(ExpectedNumbersTest, AMolarMassIsRightWithinOneUnitOnly)
 {
-    EXPECT_EQ(textOf(expectedNumbers(asking(ratio(24969, 100), 4, true)), 100), "249.7 ±0.15");
-    EXPECT_EQ(textOf(expectedNumbers(asking(ratio(99985, 1000), 4, true)), 100), "99.99 ±0.015");
+    EXPECT_EQ(textOf(expectedNumbers(asking(ratio(24969, 100), 4, true)), 100),
+              "249.7 ±0.1, 249.7 ±0.15");
+    EXPECT_EQ(textOf(expectedNumbers(asking(ratio(99985, 1000), 4, true)), 100),
+              "99.99 ±0.01, 99.99 ±0.015");
     // Below 100 the steps are shorter: 99.895 is 99.90 to four figures.
     EXPECT_EQ(textOf(expectedNumbers(asking(ratio(100), 4, true)), 100),
-              "100.0 ±0.105, 100.0225 ±0.1275");
+              "100.0 ±0.1, 100.0225 ±0.1275");
 }
 
 TEST(ExpectedNumbersTest, OtherFiguresAndVeryCloseAreHalfRight)
@@ -83,10 +85,10 @@ TEST(ExpectedNumbersTest, OtherFiguresAndVeryCloseAreHalfRight)
         const char* half;
     };
     const Case cases[] = {
-        // Rounded first; two figures; within 1 %.
-        {ratio(4557, 100000), 3, "0.04555 ±0.0002, 0.046 ±0, 0.04557 ±0.0004557"},
+        // Rounded first; two figures and one; within 1 %.
+        {ratio(4557, 100000), 3, "0.04555 ±0.0002, 0.046 ±0, 0.05 ±0, 0.04557 ±0.0004557"},
         // 0.04550 is halfway between 0.045 and 0.046.
-        {ratio(455, 10000), 3, "0.0455 ±0.00025, 0.046 ±0, 0.045 ±0, 0.0455 ±0.000455"},
+        {ratio(455, 10000), 3, "0.0455 ±0.00025, 0.046 ±0, 0.045 ±0, 0.05 ±0, 0.0455 ±0.000455"},
         // Below 1.00 the steps are shorter; two figures are within the run, and so is 1 %.
         {ratio(1), 3, "1.00225 ±0.01275"},
         {ratio(24969, 100), 4, "250 ±0, 249.69 ±2.4969"},

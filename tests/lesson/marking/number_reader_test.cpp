@@ -161,6 +161,9 @@ TEST(NumberReaderTest, ReadsRaisedPointsAndPowersOfTenWithoutATimesSign)
         {"0•0327", "327e-4 (3)"},
         {"0˙0327", "327e-4 (3)"},
         {"·0327", "327e-4 (3)"},
+        {"0'0327", "327e-4 (3)"},
+        {"0’0327", "327e-4 (3)"},
+        {"0。0327", "327e-4 (3)"},
         {"3·270", "327e-2 (4)"},
         {"3·10", "31e-1 (3)"},
         {"3·27·10^-2", "327e-4 (3)"},
@@ -277,6 +280,8 @@ TEST(NumberReaderTest, TellsWhichLetterLooksLikeADigit)
         {"0.I17", largeI},
         {"0.11I", largeI},
         {"I.17", largeI},
+        {"0.i17", "There is a small letter i where the digit 1 should be."},
+        {"0.1|7", "There is a stroke where the digit 1 should be."},
         {"O.117", largeO},
         {"0.1O7", largeO},
         {"0.1O mol/L", largeO},
@@ -307,6 +312,8 @@ TEST(NumberReaderTest, AsksBackWhatOneCommaMeans)
         {"125,000", "Do you mean 125000 or 125.000?"},
         {"c = 1,250 mol/L", "Do you mean 1250 or 1.250?"},
         {"1,250.", "Do you mean 1250 or 1.250?"},
+        {"1'250", "Do you mean 1250 or 1.250?"},
+        {"1’250", "Do you mean 1250 or 1.250?"},
     };
     for (const ReadCase& c : cases) {
         EXPECT_EQ(read(c.typed), c.expected) << c.typed;
