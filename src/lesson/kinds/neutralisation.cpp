@@ -8,6 +8,7 @@
 
 #include "lesson/compound.hpp"
 #include "lesson/kinds/kinds.hpp"
+#include "lesson/kinds/salts.hpp"
 #include "lesson/marking/equation.hpp"
 #include "lesson/marking/formula.hpp"
 #include "lesson/reaction.hpp"
@@ -180,18 +181,44 @@ bool isCarbonate(const Base& base)
     return base.anion->formula == "CO3" || base.anion->formula == "HCO3";
 }
 
-Spans writeFormulas(const Base& base)
+Step ionsOfTheSalt(const AcidRow& acid, const Base& base)
 {
-    const IonRow& anion = *base.anion;
-    return isCarbonate(base) ? line("Write the formulas; a ", name(anion.name, anion.american),
-                                    " gives carbon dioxide too.")
-                             : line("Write the formulas.");
+    return {
+        line("The salt has these ions, as many of each as make the charges cancel."),
+        line(spanOf(*base.cation), ", ", spanOf(anionOf(acid)), ": ",
+             formula(saltFormula(acid, base))),
+        line("The salt is made of the positive ion of the base and of what the acid leaves. What "
+             "are their charges?")};
 }
 
-// "iron" of iron(III)
-Span metalOf(const IonRow& cation)
+Spans productsHint(const Base& base)
 {
-    return name(cation.name.substr(0, cation.name.find('(')), cation.american);
+    const IonRow& anion = *base.anion;
+    if (isCarbonate(base)) {
+        return line("Each ", nameOf(anion), " gives carbon dioxide as well as water.");
+    }
+    return line("What do the hydrogen of the acid and the ", anion.formula == "O" ? "oxygen" : "OH",
+                " of the base become?");
+}
+
+Spans waterHint(const Base& base)
+{
+    const IonRow& anion = *base.anion;
+    if (isCarbonate(base)) {
+        return line("Each ", nameOf(anion), " gives one water and one carbon dioxide.");
+    }
+    return anion.formula == "O"
+               ? line("Each oxygen of the base makes one water with two hydrogens of the acid.")
+               : line("Each OH of the base makes one water with one hydrogen of the acid.");
+}
+
+Step writeFormulas(const Equation& equation, const Base& base)
+{
+    return {line("Write the formulas: an acid and ", base.anion->formula == "O" ? "an " : "a ",
+                 nameOf(*base.anion),
+                 isCarbonate(base) ? " give a salt, water and carbon dioxide."
+                                   : " give a salt and water."),
+            spansOf(skeletonOf(equation)), productsHint(base)};
 }
 
 // What of metal and anion takes a coefficient to balance; empty where neither does.
@@ -200,7 +227,7 @@ Spans balanceFirst(const Equation& equation, const AcidRow& acid, const Base& ba
     const bool isMetal = equation.left[1].first > 1 || equation.right[0].first > 1;
     const bool isAnion = equation.left[0].first > 1;
     const IonRow& anion = anionOf(acid);
-    const Span metal = metalOf(*base.cation);
+    const Span metal = plainNameOf(*base.cation);
     const Span group = name(anion.name, anion.american);
     if (isMetal && isAnion) {
         return line("Balance the ", metal, ", then the ", group, ".");
@@ -240,20 +267,27 @@ Spans countsOf(const Equation& equation)
     return spans;
 }
 
+Step balanceWater(const Equation& equation, const Base& base, bool isFirst)
+{
+    const std::string what = isCarbonate(base) ? "the water and the carbon dioxide." : "the water.";
+    return {line((isFirst ? "Balance " : "Then ") + what), spansOf(equation),
+            waterHint(base)};
+}
+
 std::vector<Step> solutionFor(const Equation& equation, const AcidRow& acid, const Base& base)
 {
-    std::vector<Step> steps;
-    steps.push_back({writeFormulas(base), spansOf(skeletonOf(equation))});
+    std::vector<Step> steps = {ionsOfTheSalt(acid, base), writeFormulas(equation, base)};
     const Spans first = balanceFirst(equation, acid, base);
     if (!first.empty()) {
-        steps.push_back({first, spansOf(withSinglesBehindTheSalt(equation))});
+        steps.push_back({first, spansOf(withSinglesBehindTheSalt(equation)),
+                         line("How many of each ion are in one unit of the salt? The left side has "
+                              "to bring as many.")});
     }
     if (equation.right[1].first > 1) {
-        const std::string what =
-            isCarbonate(base) ? "the water and the carbon dioxide." : "the water.";
-        steps.push_back({line((first.empty() ? "Balance " : "Then ") + what), spansOf(equation)});
+        steps.push_back(balanceWater(equation, base, first.empty()));
     }
-    steps.push_back({line("Count."), line(countsOf(equation), " on each side")});
+    steps.push_back({line("Count the atoms to check."), line(countsOf(equation), " on each side"),
+                     line("Is each element there as often on the left as on the right?")});
     return steps;
 }
 

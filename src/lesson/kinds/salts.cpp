@@ -72,6 +72,17 @@ Span nameOf(const IonRow& ion)
     return name(std::string(ion.name), std::string(ion.american));
 }
 
+Span plainNameOf(const IonRow& ion)
+{
+    return name(std::string(withoutNumeral(ion.name)), std::string(ion.american));
+}
+
+Span pluralOf(const IonRow& anion)
+{
+    const std::string american(anion.american);
+    return name(std::string(anion.name) + "s", american.empty() ? "" : american + "s");
+}
+
 Span capitalised(Span nameSpan)
 {
     capitalise(nameSpan.text);

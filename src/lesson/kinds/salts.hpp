@@ -15,6 +15,9 @@ namespace lesson
 // "aluminium sulfate", "sulfate", and the same at the beginning of a sentence.
 Span nameOf(const IonRow& cation, const IonRow& anion);
 Span nameOf(const IonRow& ion);
+// Without the Roman numeral: "iron". The same of all compounds of an anion: "sulfates".
+Span plainNameOf(const IonRow& ion);
+Span pluralOf(const IonRow& anion);
 Span capitalised(Span nameSpan);
 
 Span spanOf(const IonRow& ion);

@@ -52,6 +52,18 @@ Spans verdictOn(const Pair& pair)
     return line(formula(formulaOf(pair)), isSoluble(pair) ? " is soluble" : " is insoluble");
 }
 
+// What to ask of a pair before the rule is told.
+Spans ruleHint(const Pair& pair)
+{
+    return line("What is the rule for ", pluralOf(*pair.anion), "? Is ", plainNameOf(*pair.cation),
+                " one of its exceptions?");
+}
+
+Step ruleStep(const Pair& pair)
+{
+    return {ruleWords(pair), verdictOn(pair), ruleHint(pair)};
+}
+
 // ------------------------------------------------------------- levels 1 and 2: does it dissolve
 
 // Level 1 has the pairs that follow their rule. Whether the answer is yes is drawn first, at level
@@ -93,8 +105,9 @@ Exercise oneCompound(const Place& place)
     exercise.answer = SolubilityAnswer{isSoluble(pair), std::string(ruleOf(pair).sentence)};
     exercise.solution = {
         {line(capitalised(nameOf(*pair.cation, *pair.anion)), " has these ions."),
-         line(spanOf(*pair.cation), ", ", spanOf(*pair.anion))},
-        {ruleWords(pair), verdictOn(pair)},
+         line(spanOf(*pair.cation), ", ", spanOf(*pair.anion)),
+         line("Each compound here is made of two ions. The negative one tells which rule holds.")},
+        ruleStep(pair),
     };
     return exercise;
 }
@@ -192,17 +205,24 @@ std::vector<Step> workedSolution(const Mixture& mixture)
     const auto& [a, b] = mixture.salts;
     const auto& [first, second] = mixture.exchanged;
     std::vector<Step> steps = {
-        {line("These ions come together."), line(spanOf(*a.cation), ", ", spanOf(*a.anion), ", ",
-                                                 spanOf(*b.cation), ", ", spanOf(*b.anion))},
+        {line("These ions come together."),
+         line(spanOf(*a.cation), ", ", spanOf(*a.anion), ", ", spanOf(*b.cation), ", ",
+              spanOf(*b.anion)),
+         line("Each salt falls apart into its ions in water. Which four are in the mixture?")},
         {line("Exchange the partners: these are the new pairs."),
-         line(formula(formulaOf(first)), ", ", formula(formulaOf(second)))},
-        {ruleWords(second), verdictOn(second)},
-        {ruleWords(first), verdictOn(first)},
+         line(formula(formulaOf(first)), ", ", formula(formulaOf(second))),
+         line("Which compounds can the positive ions make with the negative ions of the other "
+              "solution?")},
+        ruleStep(second),
+        ruleStep(first),
     };
+    const Spans hint = line("Which of the new pairs does not stay in solution, if any?");
     if (hasPrecipitate(mixture)) {
-        steps.push_back({line("So this is the precipitate."), line(formula(formulaOf(first)))});
+        steps.push_back(
+            {line("So this is the precipitate."), line(formula(formulaOf(first))), hint});
     } else {
-        steps.push_back({line("Both are soluble, so there is no precipitate."), line("none")});
+        steps.push_back(
+            {line("Both are soluble, so there is no precipitate."), line("none"), hint});
     }
     return steps;
 }

@@ -351,7 +351,8 @@ std::string joined(std::string_view first, std::string_view second)
 constexpr std::string_view lookAgain =
     "Not right yet. Check each new pair of ions against the rules.";
 
-constexpr std::string_view typeYesOrNo = "Type yes or no.";
+// Where it is not typed it is chosen by two buttons.
+constexpr std::string_view chooseYesOrNo = "Choose yes or no.";
 constexpr std::string_view typeFormulaOrNone = "Type a formula, or none.";
 
 // No precipitate forms, so that every formula is wrong.
@@ -394,11 +395,11 @@ Mark markSolubility(const SolubilityAnswer& answer, std::string_view typed)
 {
     const std::string words = wordsOf(typed);
     if (words.empty()) {
-        return markOf(Verdict::unreadable, typeYesOrNo);
+        return markOf(Verdict::unreadable, chooseYesOrNo);
     }
     const Said said = saidWithReason(splitWords(words));
     if (said == Said::unclear) {
-        return unreadable(plainTyped(typed), typeYesOrNo);
+        return unreadable(plainTyped(typed), chooseYesOrNo);
     }
     return (said == Said::itDissolves) == answer.isSoluble
                ? Mark{Verdict::correct, joined(sentences::correct, answer.rule)}

@@ -61,7 +61,7 @@ std::string textOf(const Spans& spans)
 {
     std::string text;
     for (const Span& span : spans) {
-        text += span.text;
+        text += span.text + (span.kind == Span::Kind::ion ? span.detail : "");
     }
     return text;
 }
@@ -234,7 +234,7 @@ TEST(NeutralisationTest, TheSolutionShowsTheKeyAndThenTheAtomsOfEachSide)
         ASSERT_GE(steps, 2U) << key;
         EXPECT_EQ(textOf(exercise.solution[steps - 2].math), key);
         const Step& last = exercise.solution.back();
-        EXPECT_EQ(textOf(last.say), "Count.") << key;
+        EXPECT_EQ(textOf(last.say), "Count the atoms to check.") << key;
         const std::string counts = textOf(last.math);
         for (const auto& [symbol, count] : atomsOn(exercise.equation->right)) {
             const std::string counted = ", " + symbol + " " + std::to_string(count);
@@ -268,31 +268,85 @@ TEST(NeutralisationTest, SolutionsReadLikeATextbook)
 {
     EXPECT_EQ(solutionText({findAcid("H2SO4"), {findIon("aluminium"), findIon("hydroxide")}}),
               (std::vector<std::string>{
-                  "Write the formulas. | H2SO4 + Al(OH)3 → Al2(SO4)3 + H2O",
+                  "The salt has these ions, as many of each as make the charges cancel. | Al3+, "
+                  "SO42-: Al2(SO4)3",
+                  "Write the formulas: an acid and a hydroxide give a salt and water. | "
+                  "H2SO4 + Al(OH)3 → Al2(SO4)3 + H2O",
                   "Balance the aluminium, then the sulfate. | 3H2SO4 + 2Al(OH)3 → Al2(SO4)3 + H2O",
                   "Then the water. | 3H2SO4 + 2Al(OH)3 → Al2(SO4)3 + 6H2O",
-                  "Count. | H 12, S 3, Al 2, O 18 on each side"}));
-    EXPECT_EQ(solutionText({findAcid("HCl"), {findIon("sodium"), findIon("hydroxide")}}),
-              (std::vector<std::string>{"Write the formulas. | HCl + NaOH → NaCl + H2O",
-                                        "Count. | H 2, Cl 1, Na 1, O 1 on each side"}));
-    EXPECT_EQ(solutionText({findAcid("H3PO4"), {findIon("aluminium"), findIon("hydroxide")}}),
-              (std::vector<std::string>{"Write the formulas. | H3PO4 + Al(OH)3 → AlPO4 + H2O",
-                                        "Balance the water. | H3PO4 + Al(OH)3 → AlPO4 + 3H2O",
-                                        "Count. | H 6, P 1, Al 1, O 7 on each side"}));
+                  "Count the atoms to check. | H 12, S 3, Al 2, O 18 on each side"}));
+    EXPECT_EQ(
+        solutionText({findAcid("HCl"), {findIon("sodium"), findIon("hydroxide")}}),
+        (std::vector<std::string>{
+            "The salt has these ions, as many of each as make the charges cancel. | Na+, Cl-: NaCl",
+            "Write the formulas: an acid and a hydroxide give a salt and water. | HCl + NaOH → "
+            "NaCl + H2O",
+            "Count the atoms to check. | H 2, Cl 1, Na 1, O 1 on each side"}));
+    EXPECT_EQ(
+        solutionText({findAcid("H3PO4"), {findIon("aluminium"), findIon("hydroxide")}}),
+        (std::vector<std::string>{"The salt has these ions, as many of each as make the charges "
+                                  "cancel. | Al3+, PO43-: AlPO4",
+                                  "Write the formulas: an acid and a hydroxide give a salt and "
+                                  "water. | H3PO4 + Al(OH)3 → AlPO4 + H2O",
+                                  "Balance the water. | H3PO4 + Al(OH)3 → AlPO4 + 3H2O",
+                                  "Count the atoms to check. | H 6, P 1, Al 1, O 7 on each side"}));
     EXPECT_EQ(solutionText({findAcid("H2SO4"), {findIon("sodium"), findIon("hydrogencarbonate")}}),
               (std::vector<std::string>{
-                  "Write the formulas; a hydrogencarbonate gives carbon dioxide too. | "
+                  "The salt has these ions, as many of each as make the charges cancel. | Na+, "
+                  "SO42-: Na2SO4",
+                  "Write the formulas: an acid and a hydrogencarbonate give a salt, water and "
+                  "carbon dioxide. | "
                   "H2SO4 + NaHCO3 → Na2SO4 + H2O + CO2",
                   "Balance the sodium. | H2SO4 + 2NaHCO3 → Na2SO4 + H2O + CO2",
                   "Then the water and the carbon dioxide. | "
                   "H2SO4 + 2NaHCO3 → Na2SO4 + 2H2O + 2CO2",
-                  "Count. | H 4, S 1, Na 2, C 2, O 10 on each side"}));
-    EXPECT_EQ(solutionText({findAcid("CH3COOH"), {findIon("zinc"), findIon("carbonate")}}),
+                  "Count the atoms to check. | H 4, S 1, Na 2, C 2, O 10 on each side"}));
+    EXPECT_EQ(
+        solutionText({findAcid("CH3COOH"), {findIon("zinc"), findIon("carbonate")}}),
+        (std::vector<std::string>{
+            "The salt has these ions, as many of each as make the charges cancel. | Zn2+, CH3COO-: "
+            "Zn(CH3COO)2",
+            "Write the formulas: an acid and a carbonate give a salt, water and carbon dioxide. | "
+            "CH3COOH + ZnCO3 → Zn(CH3COO)2 + H2O + CO2",
+            "Balance the ethanoate. | 2CH3COOH + ZnCO3 → Zn(CH3COO)2 + H2O + CO2",
+            "Count the atoms to check. | C 5, H 8, Zn 1, O 7 on each side"}));
+}
+
+// A hint has other words than the sentence of its step, and no formula or number of its result.
+TEST(NeutralisationTest, EachStepHasAHintThatGivesNothingAway)
+{
+    for (const Exercise& exercise : everyExercise()) {
+        for (const Step& step : exercise.solution) {
+            const std::string hint = textOf(step.hint);
+            EXPECT_GT(hint.size(), 30U) << textOf(step.say);
+            EXPECT_EQ(hint.find(textOf(step.say)), std::string::npos) << hint;
+            EXPECT_EQ(hint.find_first_of("0123456789→"), std::string::npos) << hint;
+            for (const Span& span : step.hint) {
+                EXPECT_TRUE(span.kind == Span::Kind::text || span.kind == Span::Kind::name) << hint;
+            }
+        }
+    }
+}
+
+TEST(NeutralisationTest, HintsOfACarbonate)
+{
+    std::vector<std::string> hints;
+    for (const Exercise& exercise : walk(2)) {
+        if (exercise.key == "H2SO4 + 2NaHCO3 -> Na2SO4 + 2H2O + 2CO2") {
+            for (const Step& step : exercise.solution) {
+                hints.push_back(textOf(step.hint));
+            }
+        }
+    }
+    EXPECT_EQ(hints,
               (std::vector<std::string>{
-                  "Write the formulas; a carbonate gives carbon dioxide too. | "
-                  "CH3COOH + ZnCO3 → Zn(CH3COO)2 + H2O + CO2",
-                  "Balance the ethanoate. | 2CH3COOH + ZnCO3 → Zn(CH3COO)2 + H2O + CO2",
-                  "Count. | C 5, H 8, Zn 1, O 7 on each side"}));
+                  "The salt is made of the positive ion of the base and of what the acid leaves. "
+                  "What are their charges?",
+                  "Each hydrogencarbonate gives carbon dioxide as well as water.",
+                  "How many of each ion are in one unit of the salt? The left side has to bring as "
+                  "many.",
+                  "Each hydrogencarbonate gives one water and one carbon dioxide.",
+                  "Is each element there as often on the left as on the right?"}));
 }
 
 TEST(NeutralisationTest, AmericanNamesStandBesideTheOthers)

@@ -108,6 +108,30 @@ TEST(SolubilityTest, TheSolutionQuotesTheRule)
     }
 }
 
+// A hint has other words than the sentence of its step, and tells neither a formula nor a verdict.
+TEST(SolubilityTest, EachStepHasAHintThatGivesNothingAway)
+{
+    for (const int level : {1, 2, 3}) {
+        for (unsigned number = 1; number <= 100; ++number) {
+            const Exercise exercise = saltExercise({3, number, Kind::solubility, level});
+            for (const Step& step : exercise.solution) {
+                const std::string hint = textOf(step.hint);
+                EXPECT_GT(hint.size(), 30U) << textOf(step.say);
+                EXPECT_EQ(hint.find(textOf(step.say)), std::string::npos) << hint;
+                EXPECT_EQ(hint.find("soluble"), std::string::npos) << hint;
+                for (const Span& span : step.hint) {
+                    EXPECT_TRUE(span.kind == Span::Kind::text || span.kind == Span::Kind::name)
+                        << hint;
+                }
+            }
+        }
+    }
+    const Exercise one = saltExercise({3, 1, Kind::solubility, 1});
+    EXPECT_EQ(textOf(one.solution.back().hint),
+              "What is the rule for " + std::string(givenIon(one, 1).name) + "s? Is " +
+                  std::string(givenIon(one, 0).name) + " one of its exceptions?");
+}
+
 // ------------------------------------------------------------------------ two mixed solutions
 
 // Two cations and two anions make two pairs of salts; those that can be mixed, by their formulas.

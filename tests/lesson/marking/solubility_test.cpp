@@ -124,10 +124,10 @@ TEST(SolubilityMarkTest, YesAndNoInTheirUsualWords)
 
 TEST(SolubilityMarkTest, OtherWordsAreAskedBack)
 {
-    EXPECT_EQ(markSolubility(dissolves, "").sentence, "Type yes or no.");
-    EXPECT_EQ(markSolubility(dissolves, " . ").sentence, "Type yes or no.");
+    EXPECT_EQ(markSolubility(dissolves, "").sentence, "Choose yes or no.");
+    EXPECT_EQ(markSolubility(dissolves, " . ").sentence, "Choose yes or no.");
     EXPECT_EQ(markSolubility(dissolves, "maybe").sentence,
-              "I can't read this part: 'maybe'. Type yes or no.");
+              "I can't read this part: 'maybe'. Choose yes or no.");
     for (const std::string& typed : {std::string("yesno"),
                                      std::string("not sure"),
                                      std::string("yes, insoluble"),
