@@ -48,8 +48,8 @@ bool isEscaped(char c)
 // ends with its quotation mark, so an opening bracket or a colon at the end is never text.
 void Json::separate()
 {
-    constexpr std::string_view beforeTheFirst = "[{:";
-    if (!out.empty() && beforeTheFirst.find(out.back()) == std::string_view::npos) {
+    const char last = out.empty() ? ':' : out.back();
+    if (last != '[' && last != '{' && last != ':') {
         out += ',';
     }
 }
@@ -62,8 +62,10 @@ void Json::open(char bracket)
 
 Json& Json::key(std::string_view name)
 {
-    text(name);
-    out += ':';
+    separate();
+    out += '"';
+    out += name;
+    out += "\":";
     return *this;
 }
 

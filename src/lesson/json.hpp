@@ -25,7 +25,7 @@ namespace lesson
 class Json
 {
 public:
-    // What comes next is the value of this member.
+    // What comes next is the value of this member. Its name has nothing to escape.
     Json& key(std::string_view name);
 
     // A byte that is no UTF-8 becomes U+FFFD.

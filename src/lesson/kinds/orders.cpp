@@ -7,6 +7,7 @@
 #include <iterator>
 #include <numeric>
 
+#include "lesson/kinds/quantities.hpp"
 #include "lesson/marking/number.hpp"
 
 namespace lesson
@@ -15,7 +16,6 @@ namespace lesson
 namespace
 {
 
-constexpr int asked = 3; // figures of an answer
 constexpr int figuresOnTheWay[] = {3, 4};
 
 // ---------------------------------------------------------------------------------- rounding
@@ -48,9 +48,14 @@ Quotient operator*(const Quotient& a, const Quotient& b)
     return {a.numerator * b.numerator, a.denominator * b.denominator, a.exponent + b.exponent};
 }
 
+Quotient reciprocal(const Quotient& value)
+{
+    return {value.denominator, value.numerator, -value.exponent};
+}
+
 Quotient operator/(const Quotient& a, const Quotient& b)
 {
-    return {a.numerator * b.denominator, a.denominator * b.numerator, a.exponent - b.exponent};
+    return a * reciprocal(b);
 }
 
 // What people round a number to: two decimals where it lies halfway between them.
@@ -106,7 +111,7 @@ struct Range {
     }
     bool holds(const Quotient& value) const
     {
-        const Roundings roundings = roundingsOf(value, asked);
+        const Roundings roundings = roundingsOf(value, askedFigures);
         return holds(roundings.lower) && holds(roundings.upper);
     }
 };
@@ -119,19 +124,27 @@ public:
         : calculation(toWorkOut), figures(figuresOfResults), range(correctAnswers)
     {
         for (const Ratio factor : calculation.above) {
-            factors.push_back({quotientOf(factor), true});
+            factors.push_back({quotientOf(factor), true, false});
         }
         for (const Ratio factor : calculation.below) {
-            factors.push_back({quotientOf(factor), false});
+            factors.push_back({quotientOf(factor), false, false});
+        }
+        if (calculation.moles != ratio(1)) {
+            factors.push_back({quotientOf(calculation.moles), true, true});
         }
     }
 
+    // Of the first two factors it does not matter which one is taken up first.
     bool endInRange() const
     {
         const unsigned all = (1U << factors.size()) - 1;
         for (std::size_t i = 0; i < factors.size(); ++i) {
-            if (!endInRange(factors[i].value, factors[i].isAbove, all & ~(1U << i))) {
-                return false;
+            const Factor& first = factors[i];
+            const unsigned others = all & ~(1U << i);
+            for (std::size_t second = i + 1; second < factors.size(); ++second) {
+                if (!takeUp(second, first.value, first.isAbove, others)) {
+                    return false;
+                }
             }
         }
         return true;
@@ -141,6 +154,7 @@ private:
     struct Factor {
         Quotient value;
         bool isAbove;
+        bool isOnEitherSide; // as its reciprocal
     };
 
     // From a result, which is the wanted fraction or what it has to be divided into, by each of the
@@ -148,19 +162,24 @@ private:
     bool endInRange(const Quotient& result, bool isUpright, unsigned left) const
     {
         for (std::size_t i = 0; i < factors.size(); ++i) {
-            const unsigned bit = 1U << i;
-            if ((left & bit) == 0) {
-                continue;
-            }
-            const auto& [factor, isAbove] = factors[i];
-            const bool multiplies = isAbove == isUpright;
-            const Quotient next = multiplies ? result * factor : result / factor;
-            if (!goOn(next, isUpright, left & ~bit) ||
-                (!multiplies && !goOn(factor / result, !isUpright, left & ~bit))) {
+            if ((left & (1U << i)) != 0 && !takeUp(i, result, isUpright, left)) {
                 return false;
             }
         }
         return true;
+    }
+
+    bool takeUp(std::size_t which, const Quotient& result, bool isUpright, unsigned left) const
+    {
+        const auto& [factor, isAbove, isOnEitherSide] = factors[which];
+        const unsigned others = left & ~(1U << which);
+        if (isAbove == isUpright) {
+            const Quotient product = result * factor;
+            return goOn(product, isUpright, others) &&
+                   (!isOnEitherSide || goOn(reciprocal(product), !isUpright, others));
+        }
+        return goOn(result / factor, isUpright, others) &&
+               goOn(factor / result, !isUpright, others);
     }
 
     bool goOn(const Quotient& result, bool isUpright, unsigned left) const
@@ -201,9 +220,9 @@ Ratio exactly(const Calculation& calculation)
 {
     const Ratio above = std::accumulate(calculation.above.begin(), calculation.above.end(),
                                         ratio(1), std::multiplies<Ratio>());
-    return std::accumulate(calculation.below.begin(), calculation.below.end(), above,
-                           std::divides<Ratio>()) -
-           calculation.less;
+    const Ratio quotient = std::accumulate(calculation.below.begin(), calculation.below.end(),
+                                           above, std::divides<Ratio>());
+    return quotient * calculation.moles - calculation.less;
 }
 
 // The greatest number of three figures below one, and the least above one.
@@ -218,11 +237,11 @@ Decimal after(Decimal value)
                                : Decimal{value.digits + 1, value.exponent};
 }
 
-// The last one that is marked as correct, going on from the rounded value.
+// The last one that is marked as correct, going on from the rounded value; one unit away all are.
 Decimal lastCorrect(Ratio exact, Decimal (*next)(Decimal))
 {
-    Decimal last = roundedTo(exact, asked);
-    for (Decimal one = next(last); agrees(one, exact, asked, false); one = next(one)) {
+    Decimal last = next(roundedTo(exact, askedFigures));
+    for (Decimal one = next(last); agrees(one, exact, askedFigures, false); one = next(one)) {
         last = one;
     }
     return last;

@@ -19,6 +19,9 @@ struct Calculation {
     std::vector<Ratio> above;
     std::vector<Ratio> below;
     Ratio less = {};
+    // How many moles of one substance react with one of another: a factor above the line, or its
+    // reciprocal one below it, as one likes. No factor where it is 1.
+    Ratio moles = ratio(1);
 };
 
 // What a learner may go on with who has worked a number out beforehand, such as a mean: the number

@@ -11,8 +11,6 @@ namespace lesson
 namespace
 {
 
-constexpr int figures = 3;
-
 // A value that has its end at a decimal place: 5 g, 2 -> "5.00".
 std::string withDecimals(Ratio value, int decimals)
 {
@@ -46,8 +44,8 @@ GivenQuantity givenVolume(std::string symbol, std::string_view of, Ratio inLitre
     const bool isLarge = ratio(1) <= inLitres;
     const Ratio shownValue = isLarge ? inLitres : inLitres * ratio(1000);
     const char* const shownUnit = isLarge ? "L" : "mL";
-    return {std::move(symbol),          std::string(of), inLitres, "L",
-            shown(shownValue, figures), shownUnit};
+    return {std::move(symbol), std::string(of), inLitres, "L", shown(shownValue, askedFigures),
+            shownUnit};
 }
 
 GivenQuantity givenTitre(std::string_view of, Ratio inLitres)
@@ -57,7 +55,7 @@ GivenQuantity givenTitre(std::string_view of, Ratio inLitres)
 
 GivenQuantity givenConcentration(std::string symbol, std::string_view of, Ratio inMolesPerLitre)
 {
-    const std::string shownValue = shown(inMolesPerLitre, figures);
+    const std::string shownValue = shown(inMolesPerLitre, askedFigures);
     return {std::move(symbol), std::string(of), inMolesPerLitre, "mol/L", shownValue, "mol/L"};
 }
 
@@ -116,7 +114,7 @@ Spans keyMeasure(const Exercise& exercise)
 
 Span between(Ratio value)
 {
-    return number(shownBetween(value, figures + 1));
+    return number(shownBetween(value, askedFigures + 1));
 }
 
 StepRounding::StepRounding(int figuresOfSteps, unsigned downwards)

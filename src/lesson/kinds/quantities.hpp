@@ -18,6 +18,9 @@
 namespace lesson
 {
 
+// Significant figures of an answer, molar masses apart.
+constexpr int askedFigures = 3;
+
 // Quantities of the substance with the formula `of`, as prompts tell them; `symbol` as in Ask.
 GivenQuantity givenMass(std::string_view of, Ratio inGrams); // with two decimals
 GivenQuantity givenMolarMass(std::string_view of);           // the same

@@ -158,7 +158,7 @@ TEST(HintsTest, DISABLED_TheFirstOneIsAboutItsKind)
 }
 
 // What the prompt tells is no step.
-TEST(HintsTest, DISABLED_AGivenEquationIsNotWrittenAgain)
+TEST(HintsTest, AGivenEquationIsNotWrittenAgain)
 {
     Problems problems;
     for (const char* const kind : {"titration:1", "titration:2", "titration:3"}) {

@@ -526,17 +526,17 @@ std::vector<Route> titrationRoutes()
     };
 }
 
-TEST(LearnersTest, DISABLED_TitrationOneToOne)
+TEST(LearnersTest, TitrationOneToOne)
 {
     checkRoutes("titration:1", titrationRoutes());
 }
 
-TEST(LearnersTest, DISABLED_TitrationInOtherRatios)
+TEST(LearnersTest, TitrationInOtherRatios)
 {
     checkRoutes("titration:2", titrationRoutes());
 }
 
-TEST(LearnersTest, DISABLED_TitrationWithARoughTitre)
+TEST(LearnersTest, TitrationWithARoughTitre)
 {
     checkRoutes("titration:3", titrationRoutes());
 }

@@ -169,7 +169,7 @@ TEST(OrdersTest, DISABLED_OfDilutions)
     checkOrders("dilution", dilutionEnds);
 }
 
-TEST(OrdersTest, DISABLED_OfTitrations)
+TEST(OrdersTest, OfTitrations)
 {
     checkOrders("titration", titrationEnds);
 }

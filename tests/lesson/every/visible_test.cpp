@@ -28,7 +28,7 @@ std::vector<std::pair<const char*, Exact>> mistakenAnswers(const Titration& t)
     return answers;
 }
 
-TEST(VisibleTest, DISABLED_WhatTitrationsAreThereToShow)
+TEST(VisibleTest, WhatTitrationsAreThereToShow)
 {
     Problems problems;
     for (int level = 1; level <= 3; ++level) {

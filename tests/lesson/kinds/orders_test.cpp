@@ -31,7 +31,7 @@ Ratio exactly(const Calculation& calculation)
     for (const Ratio factor : calculation.below) {
         value = value / factor;
     }
-    return value - calculation.less;
+    return value * calculation.moles - calculation.less;
 }
 
 std::string textOf(const Calculation& calculation)
@@ -43,7 +43,7 @@ std::string textOf(const Calculation& calculation)
     for (const Ratio factor : calculation.below) {
         text += " / " + exactText(factor);
     }
-    return text + " - " + exactText(calculation.less);
+    return text + " * " + exactText(calculation.moles) + " - " + exactText(calculation.less);
 }
 
 // Exercises in which somebody who rounded on the way was marked wrong, or "very close".
@@ -55,9 +55,9 @@ TEST(OrdersTest, OrdersThatEndTooFarAwayAreFound)
     };
     const Case cases[] = {
         {"18.85 / 10.0 = 1.89, 0.343 / 1.89 = 0.181, x 2 = 0.362",
-         {{ratio(343, 1000), ratio(10, 1000), ratio(2)}, {ratio(1885, 100000)}}},
+         {{ratio(343, 1000), ratio(10, 1000)}, {ratio(1885, 100000)}, {}, ratio(2)}},
         {"25.0 x 0.422 = 10.6, / 32.45 = 0.327, x 2 = 0.654",
-         {{ratio(422, 1000), ratio(25, 1000), ratio(2)}, {ratio(3245, 100000)}}},
+         {{ratio(422, 1000), ratio(25, 1000)}, {ratio(3245, 100000)}, {}, ratio(2)}},
         {"2.09 / 0.200 = 10.5, / 286 = 0.0367",
          {{ratio(209, 100)}, {ratio(200, 1000), ratio(28615, 100)}}},
     };
@@ -71,7 +71,7 @@ TEST(OrdersTest, ANumberThatIsRoundedBeforehandMayLeadTooFar)
 {
     const CorrectAnswers correct(ratio(3492, 10000));
     const auto withMean = [](Ratio mean) {
-        return Calculation{{ratio(388, 1000), mean, ratio(2)}, {ratio(25, 1000)}};
+        return Calculation{{ratio(388, 1000), mean}, {ratio(25, 1000)}, {}, ratio(2)};
     };
     const Ratio mean = ratio(1125, 100000);
     const std::vector<Ratio> used = roundedOrKept(mean);
@@ -209,13 +209,22 @@ TEST(OrdersTest, EveryOrderIsTried)
         Calculation calculation = {{ratio(between(100, 999), 1000), ratio(between(200, 800), 20)},
                                    {ratio(between(100, 250), 10)}};
         if (i % 3 == 0) {
-            calculation.above.push_back(i % 2 == 0 ? ratio(2) : ratio(1, 2));
+            calculation.moles = i % 2 == 0 ? ratio(2) : ratio(1, 2);
         }
         if (i % 3 == 1) {
             calculation.less = exactly(calculation) / ratio(between(2, 20));
         }
         const bool isBorne = CorrectAnswers(exactly(calculation)).haveEveryOrderOf(calculation);
-        EXPECT_EQ(isBorne, isEveryOrderCorrect(calculation)) << textOf(calculation);
+        Calculation withMolesAbove = calculation;
+        Calculation withMolesBelow = calculation;
+        if (calculation.moles != ratio(1)) {
+            withMolesAbove.above.push_back(calculation.moles);
+            withMolesBelow.below.push_back(ratio(1) / calculation.moles);
+            withMolesAbove.moles = withMolesBelow.moles = ratio(1);
+        }
+        EXPECT_EQ(isBorne,
+                  isEveryOrderCorrect(withMolesAbove) && isEveryOrderCorrect(withMolesBelow))
+            << textOf(calculation);
         ++found[isBorne ? 1 : 0];
     }
     EXPECT_GE(found[0], 60);

@@ -130,10 +130,14 @@ TEST(TitrationTest, EveryPairIsTitratedAsAPracticalBookHasIt)
         EXPECT_NE(isMethylOrange, isPhenolphthalein) << prompt;
         seen[pair].indicators.insert(isMethylOrange ? "methyl orange" : "phenolphthalein");
         seen[pair].inBurette.insert(volumesOf(exercise).second->of);
-        const bool isCarbonate = pair.find("CO3") != std::string::npos;
-        EXPECT_EQ(isCarbonate,
-                  prompt.find("until all of it has become carbon dioxide") != std::string::npos)
-            << prompt;
+        const bool isHydrogencarbonate = pair.find("HCO3") != std::string::npos;
+        const bool isCarbonate = !isHydrogencarbonate && pair.find("CO3") != std::string::npos;
+        const auto isTold = [&](const std::string& end) {
+            return prompt.find(", until the " + end + " has reacted completely. The ") !=
+                   std::string::npos;
+        };
+        EXPECT_EQ(isCarbonate, isTold("carbonate")) << prompt;
+        EXPECT_EQ(isHydrogencarbonate, isTold("hydrogencarbonate")) << prompt;
     });
     const std::set<std::string> both = {"methyl orange", "phenolphthalein"};
     const std::set<std::string> methylOrange = {"methyl orange"};
@@ -254,8 +258,10 @@ TEST(TitrationTest, SeveralTitresHaveARoughOneAndConcordantOnes)
     EXPECT_EQ(spreads, (std::set<int>{0, 5, 10}));
     EXPECT_EQ(*overLowest.begin(), 30);
     EXPECT_EQ(*overLowest.rbegin(), 100);
+    // Of greater titres the rough one seldom shifts the mean enough to show.
     EXPECT_EQ(*all.begin(), 1000);
-    EXPECT_EQ(*all.rbegin(), 4000);
+    EXPECT_GE(*all.rbegin(), 3900);
+    EXPECT_LE(*all.rbegin(), 4000);
 }
 
 TEST(TitrationTest, TheFirstLevelsHaveOneTitreAndTheEquation)
@@ -268,27 +274,35 @@ TEST(TitrationTest, TheFirstLevelsHaveOneTitreAndTheEquation)
     }
 }
 
+// But of sulfuric acid and a carbonate somebody may think that it is not one to one.
 TEST(TitrationTest, OneToOneLeavesNoRatioToForget)
 {
     forExercises(Kind::titration, 1, 1000, [&](const Exercise& exercise) {
+        const bool mayMislead = exercise.equation->left[0].second == "H2SO4";
+        bool isTold = false;
         for (const Slip& slip : exercise.slips) {
-            EXPECT_EQ(slip.sentence.find("Look at the numbers"), std::string::npos)
-                << placeOf(exercise);
+            isTold = isTold || slip.sentence.find("ook at the numbers") != std::string::npos;
         }
+        EXPECT_EQ(isTold, mayMislead) << placeOf(exercise);
     });
 }
 
 TEST(TitrationTest, PagesWorkedByHand)
 {
     EXPECT_EQ(pageOf(titrationExercise({4821, 3, Kind::titration, 2})),
-              "25.0 mL of sodium carbonate solution is titrated with 0.204 mol/L nitric acid from "
-              "the burette, with methyl orange as the indicator, until all of it has become carbon "
-              "dioxide. The titre is 30.70 mL. The equation is 2HNO3 + Na2CO3 → 2NaNO3 + H2O + "
-              "CO2. Calculate the concentration of the sodium carbonate solution in mol/L.\n"
-              "  Write the equation. | 2HNO3 + Na2CO3 → 2NaNO3 + H2O + CO2\n"
-              "  Amount of the known. | n(HNO3) = 0.204 × 0.03070 = 6.263e-3 mol\n"
-              "  Ratio. | n(Na2CO3) = 1/2 n(HNO3) = 3.131e-3 mol\n"
-              "  Divide by its own volume. | c(Na2CO3) = 3.131e-3/0.0250 = 0.125 mol/L\n"
+              "25.0 mL of sodium carbonate solution is titrated with 0.204 mol/L nitric acid "
+              "from the burette, with methyl orange as the indicator, until the carbonate "
+              "has reacted completely. The titre is 30.70 mL. The equation is 2HNO3 + Na2CO3 "
+              "→ 2NaNO3 + H2O + CO2. Calculate the concentration of the sodium carbonate "
+              "solution in mol/L.\n"
+              "  Convert both volumes to litres. | V(Na2CO3) = 25.0 mL = 0.0250 L, V(HNO3) = "
+              "30.70 mL = 0.03070 L\n"
+              "  Amount of nitric acid, whose concentration is known. | n(HNO3) = cV = 0.204 "
+              "× 0.03070 = 6.263e-3 mol\n"
+              "  Two moles of nitric acid react with one mole of sodium carbonate. | "
+              "n(Na2CO3) = 1/2 n(HNO3) = 3.131e-3 mol\n"
+              "  Divide the amount of sodium carbonate by the volume of its own solution. | "
+              "c(Na2CO3) = n/V = 3.131e-3/0.0250 = 0.125 mol/L\n"
               "= 0.125 mol/L\n"
               "! 0.251 mol/L  Look at the numbers in the equation: how many moles react with "
               "one?\n"
@@ -296,26 +310,70 @@ TEST(TitrationTest, PagesWorkedByHand)
               "one?\n"
               "! 0.0831 mol/L  Which volume belongs to which solution?\n"
               "! 0.102 mol/L  Which volume belongs to which solution?\n"
+              "! 0.0562 mol/L  Use the volume of the unknown solution alone.\n"
+              "! 0.0000783 mol/L  Check how amount, concentration and volume are related.\n"
+              "! 0.00626 mol/L  That is the amount of the known. Use the equation next.\n"
               "! 0.00313 mol/L  That is an amount. One step is left.\n"
-              "! 0.0562 mol/L  Use the volume of the unknown solution alone.\n");
+              "! 6.26 mol/L  That is the amount of the known. Use the equation next.\n"
+              "! 3.13 mol/L  That is an amount. One step is left.\n"
+              "! 133 mol/L  Check how amount, concentration and volume are related.\n"
+              "! 7.98 mol/L  Check how amount, concentration and volume are related.\n"
+              "! 0.166 mol/L  Two things went wrong. First look at the numbers in the "
+              "equation: how many moles react with one?\n"
+              "! 0.204 mol/L  Two things went wrong. First look at the numbers in the "
+              "equation: how many moles react with one?\n"
+              "! 0.112 mol/L  Two things went wrong. First look at the numbers in the "
+              "equation: how many moles react with one?\n"
+              "! 0.000157 mol/L  Two things went wrong. First look at the numbers in the "
+              "equation: how many moles react with one?\n"
+              "! 251 mol/L  Two things went wrong. First look at the numbers in the "
+              "equation: how many moles react with one?\n"
+              "! 0.000251 mol/L  Two things went wrong. First look at the numbers in the "
+              "equation: how many moles react with one?\n");
     EXPECT_EQ(pageOf(titrationExercise({4821, 4, Kind::titration, 3})),
-              "25.0 mL of 0.0885 mol/L potassium hydrogencarbonate solution is titrated with "
-              "hydrochloric acid from the burette, with methyl orange as the indicator, until all "
-              "of it has become carbon dioxide. The rough titre is 31.45 mL, and the others are "
-              "30.75 mL, 30.70 mL and 30.75 mL. Calculate the concentration of the hydrochloric "
-              "acid in mol/L.\n"
-              "  Write the equation. | HCl + KHCO3 → KCl + H2O + CO2\n"
-              "  Take the mean, without the rough titre. | "
-              "V(HCl) = 30.75 + 30.70 + 30.75/3 = 30.73 mL\n"
-              "  Amount of the known. | n(KHCO3) = 0.0885 × 0.0250 = 2.213e-3 mol\n"
-              "  Ratio. | n(HCl) = n(KHCO3) = 2.213e-3 mol\n"
-              "  Divide by its own volume. | c(HCl) = 2.213e-3/0.03073 = 0.0720 mol/L\n"
-              "= 0.0720 mol/L\n"
-              "! 0.109 mol/L  Which volume belongs to which solution?\n"
-              "! 0.0885 mol/L  Which volume belongs to which solution?\n"
-              "! 0.00221 mol/L  That is an amount. One step is left.\n"
-              "! 0.0397 mol/L  Use the volume of the unknown solution alone.\n"
-              "! 0.0716 mol/L  Leave the rough titre out of the mean.\n");
+              "25.0 mL of 0.0590 mol/L sodium hydroxide solution is titrated with "
+              "hydrochloric acid from the burette, with phenolphthalein as the indicator. "
+              "The rough titre is 11.70 mL, and the others are 10.90 mL, 10.85 mL and 10.85 "
+              "mL. Calculate the concentration of the hydrochloric acid in mol/L.\n"
+              "  Write the balanced equation. | HCl + NaOH → NaCl + H2O\n"
+              "  Take the mean, without the rough titre. | V(HCl) = 10.90 + 10.85 + 10.85/3 "
+              "= 10.87 mL\n"
+              "  Convert both volumes to litres. | V(NaOH) = 25.0 mL = 0.0250 L, V(HCl) = "
+              "10.87 mL = 0.01087 L\n"
+              "  Amount of sodium hydroxide, whose concentration is known. | n(NaOH) = cV = "
+              "0.0590 × 0.0250 = 1.475e-3 mol\n"
+              "  One mole of sodium hydroxide reacts with one mole of hydrochloric acid. | "
+              "n(HCl) = n(NaOH) = 1.475e-3 mol\n"
+              "  Divide the amount of hydrochloric acid by the volume of its own solution. | "
+              "c(HCl) = n/V = 1.475e-3/0.01087 = 0.136 mol/L\n"
+              "= 0.136 mol/L\n"
+              "! 0.0256 mol/L  Which volume belongs to which solution?\n"
+              "! 0.0590 mol/L  Which volume belongs to which solution?\n"
+              "! 0.0411 mol/L  Use the volume of the unknown solution alone.\n"
+              "! 0.0000160 mol/L  Check how amount, concentration and volume are related.\n"
+              "! 0.133 mol/L  Leave the rough titre out of the mean.\n"
+              "! 0.00148 mol/L  That is an amount. One step is left.\n"
+              "! 1.48 mol/L  That is an amount. One step is left.\n"
+              "! 0.126 mol/L  The rough titre is only a first guess.\n"
+              "! 0.0452 mol/L  Divide the sum of the titres by how many they are.\n"
+              "! 217 mol/L  Check how amount, concentration and volume are related.\n"
+              "! 7.37 mol/L  Check how amount, concentration and volume are related.\n");
+}
+
+// The prompt of the first levels gives the equation away.
+TEST(TitrationTest, OnlyWhereItIsNotGivenTheEquationIsAStep)
+{
+    for (const int level : {1, 2, 3}) {
+        forExercises(Kind::titration, level, 300, [&](const Exercise& exercise) {
+            bool isWritten = false;
+            for (const Step& step : exercise.solution) {
+                isWritten = isWritten || textOf(step.math).find("→") != std::string::npos;
+                EXPECT_NE(textOf(step.hint), "") << placeOf(exercise);
+                EXPECT_NE(textOf(step.hint), textOf(step.say)) << placeOf(exercise);
+            }
+            EXPECT_EQ(isWritten, level == 3) << placeOf(exercise);
+        });
+    }
 }
 
 } // namespace
