@@ -117,34 +117,4 @@ Span between(Ratio value)
     return number(shownBetween(value, askedFigures + 1));
 }
 
-StepRounding::StepRounding(int figuresOfSteps, unsigned downwards)
-    : figures(figuresOfSteps), directions(downwards)
-{
-}
-
-Ratio StepRounding::operator()(Ratio value)
-{
-    return to(figures, value);
-}
-
-// The number as far below the value as the rounded one is above it has as few figures only where
-// the value lies halfway between the two.
-Ratio StepRounding::to(int significantFigures, Ratio value)
-{
-    const Ratio upper = valueOf(roundedTo(value, significantFigures));
-    const Ratio lower = value - (upper - value);
-    const bool isHalf = value < upper && valueOf(roundedTo(lower, significantFigures)) == lower;
-    if (!isHalf) {
-        return upper;
-    }
-    const bool goesDown = (directions >> met & 1U) != 0;
-    ++met;
-    return goesDown ? lower : upper;
-}
-
-unsigned StepRounding::halves() const
-{
-    return met;
-}
-
 } // namespace lesson

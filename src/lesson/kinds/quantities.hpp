@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,7 +13,7 @@
 #include "lesson/values/ratio.hpp"
 
 // What the pages on calculations share: quantities as a prompt shows them, answers that are
-// numbers, and the ways on which a learner may round.
+// numbers.
 namespace lesson
 {
 
@@ -55,47 +54,5 @@ Spans keyMeasure(const Exercise& exercise);
 
 // A value that a solution goes on with: one figure more than answers of three figures have.
 Span between(Ratio value);
-
-// Rounds the steps of one way to an answer. A half goes up or down, as people round: for the first
-// half that is met the lowest bit of `downwards` tells, and so on.
-class StepRounding
-{
-public:
-    StepRounding(int figuresOfSteps, unsigned downwards);
-
-    // A step, and the answer itself, to significant figures.
-    Ratio operator()(Ratio value);
-    Ratio to(int significantFigures, Ratio value);
-
-    // How many halves have been met.
-    unsigned halves() const;
-
-private:
-    int figures;
-    unsigned directions;
-    unsigned met = 0;
-};
-
-// Whether a learner who goes this way to an answer of three figures may round each step to three or
-// to four figures, a half either way, and is still right. A way takes what was drawn, and a
-// StepRounding that it puts each step through but the last.
-template <typename Drawn>
-bool staysCorrect(Ratio exact, const Drawn& drawn, Ratio (*way)(const Drawn&, StepRounding&))
-{
-    constexpr int asked = 3;
-    for (const int figures : {3, 4}) {
-        unsigned halves = 0;
-        for (unsigned downwards = 0; downwards < (1U << halves); ++downwards) {
-            StepRounding rounded(figures, downwards);
-            const Ratio last = way(drawn, rounded);
-            const Ratio answer = rounded.to(asked, last);
-            if (!agrees(roundedTo(answer, asked), exact, asked, false)) {
-                return false;
-            }
-            halves = std::max(halves, rounded.halves());
-        }
-    }
-    return true;
-}
 
 } // namespace lesson

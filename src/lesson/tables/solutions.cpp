@@ -1,5 +1,6 @@
 #include "lesson/tables/solutions.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 
@@ -14,77 +15,77 @@ namespace
 // nitrate nobody weighs more than 2 g: its price.
 // clang-format off
 constexpr SoluteRow soluteRows[] = {
-    {"AgNO3", "silver nitrate", "", 20, 200},
-    {"Ba(NO3)2", "barium nitrate", "", 30},
-    {"Cu(CH3COO)2", "copper(II) ethanoate", "copper(II) acetate", 30},
-    {"K2SO4", "potassium sulfate", "", 50},
-    {"Na3PO4", "sodium phosphate", "", 60},
-    {"Al2(SO4)3", "aluminium sulfate", "aluminum sulfate", 80},
-    {"NaHCO3", "sodium hydrogencarbonate", "sodium hydrogen carbonate", 100},
-    {"CuSO4", "copper(II) sulfate", "", 100},
-    {"Na2SO4", "sodium sulfate", "", 100},
-    {"Fe2(SO4)3", "iron(III) sulfate", "", 100},
-    {"Pb(NO3)2", "lead(II) nitrate", "", 100},
-    {"Na2CO3", "sodium carbonate", "", 150},
-    {"FeSO4", "iron(II) sulfate", "", 150},
-    {"BaCl2", "barium chloride", "", 150},
-    {"Ca(CH3COO)2", "calcium ethanoate", "calcium acetate", 150},
-    {"KNO3", "potassium nitrate", "", 200},
-    {"MgSO4", "magnesium sulfate", "", 200},
-    {"ZnSO4", "zinc sulfate", "", 200},
-    {"KHCO3", "potassium hydrogencarbonate", "potassium hydrogen carbonate", 200},
-    {"NiSO4", "nickel(II) sulfate", "", 200},
-    {"MnSO4", "manganese(II) sulfate", "", 200},
-    {"CoCl2", "cobalt(II) chloride", "", 200},
-    {"KCl", "potassium chloride", "", 300},
-    {"KBr", "potassium bromide", "", 300},
-    {"NaBr", "sodium bromide", "", 300},
-    {"KI", "potassium iodide", "", 300},
-    {"NaNO3", "sodium nitrate", "", 300},
-    {"NH4Cl", "ammonium chloride", "", 300},
-    {"(NH4)2SO4", "ammonium sulfate", "", 300},
-    {"LiCl", "lithium chloride", "", 300},
-    {"CaCl2", "calcium chloride", "", 300},
-    {"MgCl2", "magnesium chloride", "", 300},
-    {"ZnCl2", "zinc chloride", "", 300},
-    {"CuCl2", "copper(II) chloride", "", 300},
-    {"FeCl3", "iron(III) chloride", "", 300},
-    {"K2CO3", "potassium carbonate", "", 300},
-    {"NaCH3COO", "sodium ethanoate", "sodium acetate", 300},
-    {"Mg(NO3)2", "magnesium nitrate", "", 300},
-    {"Ca(NO3)2", "calcium nitrate", "", 300},
-    {"Zn(NO3)2", "zinc nitrate", "", 300},
-    {"Cu(NO3)2", "copper(II) nitrate", "", 300},
-    {"NH4NO3", "ammonium nitrate", "", 300},
-    {"NaCl", "sodium chloride", "", 400},
-    {"NaOH", "sodium hydroxide", "", 400},
-    {"KOH", "potassium hydroxide", "", 400},
-    {"LiOH", "lithium hydroxide", "", 400},
+    {"AgNO3", "silver nitrate", "", 20, Weighed::asItIs, 200},
+    {"Ba(NO3)2", "barium nitrate", "", 30, Weighed::asItIs},
+    {"Cu(CH3COO)2", "copper(II) ethanoate", "copper(II) acetate", 30, Weighed::asAnhydrous},
+    {"K2SO4", "potassium sulfate", "", 50, Weighed::asItIs},
+    {"Na3PO4", "sodium phosphate", "", 60, Weighed::asAnhydrous},
+    {"Al2(SO4)3", "aluminium sulfate", "aluminum sulfate", 80, Weighed::asAnhydrous},
+    {"NaHCO3", "sodium hydrogencarbonate", "sodium hydrogen carbonate", 100, Weighed::asItIs},
+    {"CuSO4", "copper(II) sulfate", "", 100, Weighed::asAnhydrous},
+    {"Na2SO4", "sodium sulfate", "", 100, Weighed::asAnhydrous},
+    {"Fe2(SO4)3", "iron(III) sulfate", "", 100, Weighed::asAnhydrous},
+    {"Pb(NO3)2", "lead(II) nitrate", "", 100, Weighed::asItIs},
+    {"Na2CO3", "sodium carbonate", "", 150, Weighed::asAnhydrous},
+    {"FeSO4", "iron(II) sulfate", "", 150, Weighed::asAnhydrous},
+    {"BaCl2", "barium chloride", "", 150, Weighed::asAnhydrous},
+    {"Ca(CH3COO)2", "calcium ethanoate", "calcium acetate", 150, Weighed::asAnhydrous},
+    {"KNO3", "potassium nitrate", "", 200, Weighed::asItIs},
+    {"MgSO4", "magnesium sulfate", "", 200, Weighed::asAnhydrous},
+    {"ZnSO4", "zinc sulfate", "", 200, Weighed::asAnhydrous},
+    {"KHCO3", "potassium hydrogencarbonate", "potassium hydrogen carbonate", 200, Weighed::asItIs},
+    {"NiSO4", "nickel(II) sulfate", "", 200, Weighed::asAnhydrous},
+    {"MnSO4", "manganese(II) sulfate", "", 200, Weighed::asAnhydrous},
+    {"CoCl2", "cobalt(II) chloride", "", 200, Weighed::asAnhydrous},
+    {"KCl", "potassium chloride", "", 300, Weighed::asItIs},
+    {"KBr", "potassium bromide", "", 300, Weighed::asItIs},
+    {"NaBr", "sodium bromide", "", 300, Weighed::asItIs},
+    {"KI", "potassium iodide", "", 300, Weighed::asItIs},
+    {"NaNO3", "sodium nitrate", "", 300, Weighed::asItIs},
+    {"NH4Cl", "ammonium chloride", "", 300, Weighed::asItIs},
+    {"(NH4)2SO4", "ammonium sulfate", "", 300, Weighed::asItIs},
+    {"LiCl", "lithium chloride", "", 300, Weighed::asItIs},
+    {"CaCl2", "calcium chloride", "", 300, Weighed::asAnhydrous},
+    {"MgCl2", "magnesium chloride", "", 300, Weighed::asAnhydrous},
+    {"ZnCl2", "zinc chloride", "", 300, Weighed::asItIs},
+    {"CuCl2", "copper(II) chloride", "", 300, Weighed::asAnhydrous},
+    {"FeCl3", "iron(III) chloride", "", 300, Weighed::never},
+    {"K2CO3", "potassium carbonate", "", 300, Weighed::asItIs},
+    {"NaCH3COO", "sodium ethanoate", "sodium acetate", 300, Weighed::asAnhydrous},
+    {"Mg(NO3)2", "magnesium nitrate", "", 300, Weighed::never},
+    {"Ca(NO3)2", "calcium nitrate", "", 300, Weighed::asAnhydrous},
+    {"Zn(NO3)2", "zinc nitrate", "", 300, Weighed::never},
+    {"Cu(NO3)2", "copper(II) nitrate", "", 300, Weighed::never},
+    {"NH4NO3", "ammonium nitrate", "", 300, Weighed::asItIs},
+    {"NaCl", "sodium chloride", "", 400, Weighed::asItIs},
+    {"NaOH", "sodium hydroxide", "", 400, Weighed::asItIs},
+    {"KOH", "potassium hydroxide", "", 400, Weighed::asItIs},
+    {"LiOH", "lithium hydroxide", "", 400, Weighed::asAnhydrous},
 };
 static_assert(std::size(soluteRows) == 46);
 
 constexpr SoluteRow hydrateRows[] = {
-    {"CuSO4.5H2O", "copper(II) sulfate pentahydrate", "", 100},
-    {"CoCl2.6H2O", "cobalt(II) chloride hexahydrate", "", 200},
-    {"MgSO4.7H2O", "magnesium sulfate heptahydrate", "", 200},
-    {"FeSO4.7H2O", "iron(II) sulfate heptahydrate", "", 150},
-    {"ZnSO4.7H2O", "zinc sulfate heptahydrate", "", 200},
-    {"Na2CO3.10H2O", "sodium carbonate decahydrate", "", 150},
-    {"BaCl2.2H2O", "barium chloride dihydrate", "", 150},
+    {"CuSO4.5H2O", "copper(II) sulfate pentahydrate", "", 100, Weighed::asItIs},
+    {"CoCl2.6H2O", "cobalt(II) chloride hexahydrate", "", 200, Weighed::asItIs},
+    {"MgSO4.7H2O", "magnesium sulfate heptahydrate", "", 200, Weighed::asItIs},
+    {"FeSO4.7H2O", "iron(II) sulfate heptahydrate", "", 150, Weighed::asItIs},
+    {"ZnSO4.7H2O", "zinc sulfate heptahydrate", "", 200, Weighed::asItIs},
+    {"Na2CO3.10H2O", "sodium carbonate decahydrate", "", 150, Weighed::asItIs},
+    {"BaCl2.2H2O", "barium chloride dihydrate", "", 150, Weighed::asItIs},
 };
 static_assert(std::size(hydrateRows) == 7);
 
 constexpr SoluteRow acidRows[] = {
-    {"HCl", "hydrochloric acid", "", 600},
-    {"HNO3", "nitric acid", "", 600},
-    {"CH3COOH", "ethanoic acid", "acetic acid", 600},
-    {"H2SO4", "sulfuric acid", "", 300},
+    {"HCl", "hydrochloric acid", "", 600, Weighed::never},
+    {"HNO3", "nitric acid", "", 600, Weighed::never},
+    {"CH3COOH", "ethanoic acid", "acetic acid", 600, Weighed::never},
+    {"H2SO4", "sulfuric acid", "", 300, Weighed::never},
 };
 static_assert(std::size(acidRows) == 4);
 
 constexpr SoluteRow furtherTitrantRows[] = {
-    {"NH3", "ammonia solution", "", 0},
-    {"H2C2O4", "ethanedioic acid", "oxalic acid", 0},
+    {"NH3", "ammonia solution", "", 0, Weighed::never},
+    {"H2C2O4", "ethanedioic acid", "oxalic acid", 0, Weighed::never},
 };
 static_assert(std::size(furtherTitrantRows) == 2);
 
@@ -134,6 +135,17 @@ std::vector<Row> listOf(const Row (&rows)[N])
 const std::vector<SoluteRow>& solutes()
 {
     static const std::vector<SoluteRow> rows = listOf(soluteRows);
+    return rows;
+}
+
+const std::vector<SoluteRow>& weighedSolutes()
+{
+    static const std::vector<SoluteRow> rows = [] {
+        std::vector<SoluteRow> weighed;
+        std::copy_if(std::begin(soluteRows), std::end(soluteRows), std::back_inserter(weighed),
+                     [](const SoluteRow& row) { return row.weighed != Weighed::never; });
+        return weighed;
+    }();
     return rows;
 }
 

@@ -159,12 +159,12 @@ void checkOrders(const char* slug, Ends ends)
     EXPECT_EQ(problems.text(), "");
 }
 
-TEST(OrdersTest, DISABLED_OfConcentrations)
+TEST(OrdersTest, OfConcentrations)
 {
     checkOrders("concentration", concentrationEnds);
 }
 
-TEST(OrdersTest, DISABLED_OfDilutions)
+TEST(OrdersTest, OfDilutions)
 {
     checkOrders("dilution", dilutionEnds);
 }

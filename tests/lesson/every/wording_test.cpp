@@ -132,7 +132,7 @@ void checkAnhydrous(Problems& problems, const Asked& asked)
                     "a hydrate is not", asked.prompt());
 }
 
-TEST(WordingTest, DISABLED_SaltsOfHydratesAreCalledAnhydrous)
+TEST(WordingTest, SaltsOfHydratesAreCalledAnhydrous)
 {
     Problems problems;
     forEachExercise(problems, checkAnhydrous);

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
 #include <set>
 #include <string>
 
@@ -63,7 +66,7 @@ long double byAmount(const Exercise& exercise, Calculator rounded)
     return asked == "V1" ? rounded(c2 * V2) / c1 : rounded(rounded(c1 * V1) / c2) - V1;
 }
 
-// By way of how many times weaker the solution gets.
+// By way of how many times the solution is diluted.
 long double byFactor(const Exercise& exercise, Calculator rounded)
 {
     const auto [c1, V1, c2, V2] =
@@ -147,8 +150,7 @@ TEST(DilutionTest, EveryVolumeConcentrationAndSoluteIsDrawn)
     EXPECT_EQ(drawn["V1"], (std::set<std::string>{"5.00 mL", "10.0 mL", "20.0 mL", "25.0 mL",
                                                   "40.0 mL", "50.0 mL", "100 mL", "200 mL"}));
     EXPECT_EQ(drawn["V2"],
-              (std::set<std::string>{"100 mL", "150 mL", "200 mL", "250 mL", "300 mL", "400 mL",
-                                     "500 mL", "750 mL", "1.00 L", "2.00 L"}));
+              (std::set<std::string>{"100 mL", "200 mL", "250 mL", "500 mL", "1.00 L", "2.00 L"}));
     EXPECT_EQ(drawn["c1"],
               (std::set<std::string>{"0.0500 mol/L", "0.100 mol/L", "0.200 mol/L", "0.250 mol/L",
                                      "0.400 mol/L", "0.500 mol/L", "0.800 mol/L", "1.00 mol/L",
@@ -195,13 +197,70 @@ TEST(DilutionTest, EachLevelAsksForItsOwnInItsUnit)
     EXPECT_EQ(second.count("c1 in mol/L"), 1U);
 }
 
-// Which leaves the asked value near one of the table, but no longer equal to it.
-TEST(DilutionTest, AGivenFinalConcentrationHasThreeFigures)
+// Nothing is told or asked that had to be rounded: a pipette of 40.0 mL, and never one of 39.9 mL.
+TEST(DilutionTest, WhatIsGivenAndWhatIsAskedHaveThreeFiguresExactly)
 {
+    const auto hasThreeFigures = [](Ratio value) { return valueOf(roundedTo(value, 3)) == value; };
     for (const int level : {2, 3}) {
         forExercises(Kind::dilution, level, exercises, [&](const Exercise& exercise) {
-            const GivenQuantity& c2 = *findGiven(exercise, "c2");
-            EXPECT_EQ(valueOf(roundedTo(c2.value, 3)), c2.value) << placeOf(exercise);
+            EXPECT_TRUE(hasThreeFigures(findGiven(exercise, "c2")->value)) << placeOf(exercise);
+            EXPECT_TRUE(hasThreeFigures(answerOf(exercise).value)) << placeOf(exercise);
+        });
+    }
+}
+
+TEST(DilutionTest, FlasksAreThoseThatThereAre)
+{
+    const std::set<double> flasks = {100, 200, 250, 500, 1000, 2000};
+    for (const int level : {1, 2, 3}) {
+        forExercises(Kind::dilution, level, exercises, [&](const Exercise& exercise) {
+            const long double V2 = workedFrom(exercise).V2 * 1000;
+            EXPECT_EQ(flasks.count(static_cast<double>(std::round(V2 * 1000) / 1000)), 1U)
+                << placeOf(exercise);
+        });
+    }
+}
+
+// The whole volume, typed for the water, passes neither for it nor for a rounded or close answer.
+TEST(DilutionTest, TheWholeVolumeIsToldFromTheWater)
+{
+    forExercises(Kind::dilution, 3, exercises, [&](const Exercise& exercise) {
+        const Mark mark = markOf(exercise, typedText(1000 * workedFrom(exercise).V2, 3));
+        EXPECT_EQ(mark.sentence, "Read again which volume is asked for.") << placeOf(exercise);
+    });
+}
+
+TEST(DilutionTest, QuantitiesAreOftenNewWhateverTheSolute)
+{
+    for (const int level : {1, 2, 3}) {
+        std::set<std::string> distinct;
+        forExercises(Kind::dilution, level, exercises, [&](const Exercise& exercise) {
+            std::string all = exercise.ask.quantity;
+            for (const char* const symbol : {"c1", "V1", "c2", "V2"}) {
+                const GivenQuantity* const given = findGiven(exercise, symbol);
+                all += given == nullptr ? ";" : ";" + given->shown + given->shownUnit;
+            }
+            distinct.insert(all);
+        });
+        std::printf("dilution:%d has %zu distinct sets of quantities\n", level, distinct.size());
+        EXPECT_GT(distinct.size(), 300U) << level;
+    }
+}
+
+TEST(DilutionTest, EachStepHasAHintWithoutNumbers)
+{
+    for (const int level : {1, 2, 3}) {
+        forExercises(Kind::dilution, level, 100, [](const Exercise& exercise) {
+            for (const Step& step : exercise.solution) {
+                std::string hint = textOf(step.hint);
+                EXPECT_FALSE(hint.empty()) << textOf(step.say);
+                EXPECT_NE(hint, textOf(step.say));
+                for (const char* const symbol : {"c1", "V1", "c2", "V2"}) {
+                    const std::size_t at = hint.find(symbol);
+                    hint.erase(std::min(at, hint.size()), at == std::string::npos ? 0 : 2);
+                }
+                EXPECT_EQ(hint.find_first_of("0123456789"), std::string::npos) << hint;
+            }
         });
     }
 }
@@ -209,55 +268,72 @@ TEST(DilutionTest, AGivenFinalConcentrationHasThreeFigures)
 TEST(DilutionTest, PagesWorkedByHand)
 {
     EXPECT_EQ(pageOf(dilutionExercise({1, 8, Kind::dilution, 1})),
-              "5.00 mL of 1.00 mol/L barium chloride solution is diluted to 150 mL. Calculate the "
-              "concentration of the diluted solution in mol/L.\n"
+              "10.0 mL of 0.0500 mol/L ammonium sulfate solution is diluted to 250 mL. Calculate "
+              "the concentration of the diluted solution in mol/L.\n"
               "  The amount stays the same. | c1V1 = c2V2\n"
-              "  Rearrange; both volumes in the same unit. | "
-              "c2 = c1V1/V2 = 1.00 × 5.00/150 = 0.0333 mol/L\n"
-              "  Check: 30 times the volume, 30 times weaker. | c2 = 1.00/30 = 0.0333 mol/L\n"
-              "= 0.0333 mol/L\n"
-              "! 30.0 mol/L  Should the result be larger or smaller?\n"
-              "! 0.0323 mol/L  V2 is the volume of the whole diluted solution.\n"
-              "! 0.0345 mol/L  V2 is the volume of the whole diluted solution.\n");
-    EXPECT_EQ(pageOf(dilutionExercise({2, 1, Kind::dilution, 2})),
-              "Calculate the volume, in mL, of 2.00 mol/L ethanoic acid that has to be diluted to "
-              "make 150 mL of 0.533 mol/L solution.\n"
-              "  The amount stays the same. | c1V1 = c2V2\n"
-              "  Rearrange; both volumes in the same unit. | "
-              "V1 = c2V2/c1 = 0.533 × 150/2.00 = 40.0 mL\n"
-              "  Check: 3.752 times weaker, 3.752 times the volume. | V1 = 150/3.752 = 40.0 mL\n"
-              "= 40.0 mL\n"
-              "! 563 mL  Should the result be larger or smaller?\n"
-              "! 110 mL  Read again which volume is asked for.\n"
-              "! 54.5 mL  V2 is the volume of the whole diluted solution.\n"
-              "! 31.6 mL  V2 is the volume of the whole diluted solution.\n");
-    EXPECT_EQ(pageOf(dilutionExercise({2, 3, Kind::dilution, 2})),
-              "50.0 mL of lead(II) nitrate solution is diluted to 750 mL. The diluted solution has "
-              "a concentration of 0.0333 mol/L. Calculate the original concentration in mol/L.\n"
-              "  The amount stays the same. | c1V1 = c2V2\n"
-              "  Rearrange; both volumes in the same unit. | "
-              "c1 = c2V2/V1 = 0.0333 × 750/50.0 = 0.500 mol/L\n"
-              "  Check: 15 times the volume, 15 times weaker. | c1 = 15 × 0.0333 = 0.500 mol/L\n"
-              "= 0.500 mol/L\n"
-              "! 0.00222 mol/L  Should the result be larger or smaller?\n"
-              "! 0.533 mol/L  V2 is the volume of the whole diluted solution.\n"
-              "! 0.466 mol/L  V2 is the volume of the whole diluted solution.\n");
+              "  Rearrange; both volumes in the same unit. | c2 = c1V1/V2 = 0.0500 × 10.0/250 = "
+              "0.00200 mol/L\n"
+              "  Check: 25 times the volume, so the concentration is divided by 25. | c2 = "
+              "0.0500/25 = 0.00200 mol/L\n"
+              "= 0.00200 mol/L\n"
+              "! 1.25 mol/L  Should the result be larger or smaller?\n"
+              "! 0.00192 mol/L  V2 is the volume of the whole diluted solution.\n"
+              "! 0.00208 mol/L  V2 is the volume of the whole diluted solution.\n"
+              "! 0.000500 mol/L  That is an amount. One step is left.\n"
+              "! 0.500 mol/L  That is an amount. One step is left.\n"
+              "! 25.0 mol/L  That is how many times the volume has grown. One step is left.\n"
+              "! 0.0400 mol/L  That is the part of V2 that V1 is. One step is left.\n");
     EXPECT_EQ(
-        pageOf(dilutionExercise({2, 1, Kind::dilution, 3})),
-        "Calculate the volume of water, in mL, that has to be added to 100 mL of 1.00 mol/L "
-        "sodium hydroxide solution to bring its concentration down to 0.333 mol/L. Assume that the "
-        "volumes add up.\n"
+        pageOf(dilutionExercise({2, 1, Kind::dilution, 2})),
+        "Calculate the volume, in mL, of 2.00 mol/L ethanoic acid needed to make 200 mL of a 0.400 "
+        "mol/L solution.\n"
         "  The amount stays the same. | c1V1 = c2V2\n"
-        "  Rearrange; both volumes in the same unit. | "
-        "V2 = c1V1/c2 = 1.00 × 100/0.333 = 300.3 mL\n"
-        "  Check: 3.003 times weaker, 3.003 times the volume. | "
-        "V2 = 3.003 × 100 = 300.3 mL\n"
-        "  The water is the rest of the diluted solution. | "
-        "V(H2O) = V2 − V1 = 300.3 − 100 = 200 mL\n"
-        "= 200 mL\n"
-        "! 300 mL  Read again which volume is asked for.\n"
-        "! 66.7 mL  Should the result be larger or smaller?\n"
-        "! 400 mL  V2 is the volume of the whole diluted solution.\n");
+        "  Rearrange; both volumes in the same unit. | V1 = c2V2/c1 = 0.400 × 200/2.00 = 40.0 mL\n"
+        "  Check: the concentration is divided by 5, so the volume grows 5 times. | V1 = 200/5 = "
+        "40.0 mL\n"
+        "= 40.0 mL\n"
+        "! 1000 mL  Should the result be larger or smaller?\n"
+        "! 160 mL  Read again which volume is asked for.\n"
+        "! 50.0 mL  V2 is the volume of the whole diluted solution.\n"
+        "! 33.3 mL  V2 is the volume of the whole diluted solution.\n"
+        "! 0.0800 mL  That is an amount. One step is left.\n"
+        "! 80.0 mL  That is an amount. One step is left.\n"
+        "! 5.00 mL  That is how many times the volume has grown. One step is left.\n"
+        "! 0.200 mL  That is the part of V2 that V1 is. One step is left.\n");
+    EXPECT_EQ(pageOf(dilutionExercise({2, 3, Kind::dilution, 2})),
+              "50.0 mL of lead(II) nitrate solution is diluted to 2.00 L. The diluted solution has "
+              "a concentration of 0.0125 mol/L. Calculate the original concentration in mol/L.\n"
+              "  The amount stays the same. | c1V1 = c2V2\n"
+              "  Convert the volume. | V2 = 2.00 L = 2000 mL\n"
+              "  Rearrange; both volumes in the same unit. | c1 = c2V2/V1 = 0.0125 × 2000/50.0 = "
+              "0.500 mol/L\n"
+              "  Check: 40 times the volume, so the concentration was 40 times as great. | c1 = 40 "
+              "× 0.0125 = 0.500 mol/L\n"
+              "= 0.500 mol/L\n"
+              "! 0.000313 mol/L  Should the result be larger or smaller?\n"
+              "! 0.513 mol/L  V2 is the volume of the whole diluted solution.\n"
+              "! 0.488 mol/L  V2 is the volume of the whole diluted solution.\n"
+              "! 0.0250 mol/L  That is an amount. One step is left.\n"
+              "! 25.0 mol/L  That is an amount. One step is left.\n"
+              "! 40.0 mol/L  That is how many times the volume has grown. One step is left.\n");
+    EXPECT_EQ(pageOf(dilutionExercise({2, 1, Kind::dilution, 3})),
+              "Calculate the volume of water, in mL, that has to be added to 100 mL of 1.00 mol/L "
+              "sodium hydroxide solution to bring its concentration down to 0.100 mol/L. Assume "
+              "that the volumes add up.\n"
+              "  The amount stays the same. | c1V1 = c2V2\n"
+              "  Rearrange for the volume of the whole diluted solution. | V2 = c1V1/c2 = 1.00 × "
+              "100/0.100 = 1000 mL\n"
+              "  Check: the concentration is divided by 10, so the volume grows 10 times. | V2 = "
+              "10 × 100 = 1000 mL\n"
+              "  The water is the rest of the diluted solution. | V(H2O) = V2 − V1 = 1000 − 100 = "
+              "900 mL\n"
+              "= 900 mL\n"
+              "! 1000 mL  Read again which volume is asked for.\n"
+              "! 90.0 mL  Should the result be larger or smaller?\n"
+              "! 10.0 mL  Should the result be larger or smaller?\n"
+              "! 1100 mL  V2 is the volume of the whole diluted solution.\n"
+              "! 0.100 mL  That is an amount. One step is left.\n"
+              "! 100 mL  That is an amount. One step is left.\n");
 }
 
 } // namespace

@@ -61,50 +61,6 @@ TEST(QuantitiesTest, ASolutionIsNamedAfterItsSolute)
     }
 }
 
-TEST(StepRoundingTest, HalvesGoUpOrDownInTurnAsTheBitsTell)
-{
-    struct HalfCase {
-        unsigned downwards;
-        Ratio first;
-        Ratio second;
-    };
-    // 5.025 and 9.995 to three figures.
-    const HalfCase cases[] = {
-        {0U, ratio(503, 100), ratio(10)},
-        {1U, ratio(502, 100), ratio(10)},
-        {2U, ratio(503, 100), ratio(999, 100)},
-        {3U, ratio(502, 100), ratio(999, 100)},
-    };
-    for (const auto& [downwards, first, second] : cases) {
-        StepRounding rounded(3, downwards);
-        EXPECT_EQ(rounded(ratio(5025, 1000)), first) << downwards;
-        EXPECT_EQ(rounded(ratio(5026, 1000)), ratio(503, 100)) << downwards;
-        EXPECT_EQ(rounded(ratio(9995, 1000)), second) << downwards;
-        EXPECT_EQ(rounded(ratio(9994, 1000)), ratio(999, 100)) << downwards;
-        EXPECT_EQ(rounded(ratio(1, 3)), ratio(333, 1000)) << downwards;
-        EXPECT_EQ(rounded(ratio(7)), ratio(7)) << downwards;
-        EXPECT_EQ(rounded.halves(), 2U) << downwards;
-        EXPECT_EQ(rounded.to(2, ratio(1234)), ratio(1200)) << downwards;
-    }
-}
-
-// By one step, whose halves decide: 2.505 rounds to 2.51 or 2.50, and 100 times that is 251 or 250.
-Ratio hundredfoldOfRounded(const Ratio& value, StepRounding& rounded)
-{
-    return rounded(value) * ratio(100);
-}
-
-TEST(StaysCorrectTest, EveryWayToRoundAHalfHasToAgree)
-{
-    EXPECT_TRUE(staysCorrect(ratio(2505, 10), ratio(2505, 1000), hundredfoldOfRounded));
-    EXPECT_TRUE(staysCorrect(ratio(251), ratio(2505, 1000), hundredfoldOfRounded));
-    // 253 is two units from 251, and within half a per cent of 252 to 254 only.
-    EXPECT_FALSE(staysCorrect(ratio(253), ratio(2505, 1000), hundredfoldOfRounded));
-    // 251.5, shown as 252, accepts 251 and 253, and half a per cent: 250.24 to 252.76, not 250.
-    EXPECT_FALSE(staysCorrect(ratio(2515, 10), ratio(2505, 1000), hundredfoldOfRounded));
-    EXPECT_TRUE(staysCorrect(ratio(2515, 10), ratio(2506, 1000), hundredfoldOfRounded));
-}
-
 } // namespace
 
 } // namespace lesson
