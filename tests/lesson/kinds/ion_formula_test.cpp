@@ -177,7 +177,7 @@ TEST(IonFormulaTest, TheCommonSlipsAreListed)
          "That number counts atoms. Write the number and the sign of the charge together."},
         {"K^+", "P^+", "Check this symbol: P."},
         {"NH4^+", "NH3", "That is ammonia. The ammonium ion has one hydrogen more."},
-        {"NH4^+", "NH3^+", "Check the number of hydrogen atoms."},
+        {"NH4^+", "NH3^+", "That is ammonia. The ammonium ion has one hydrogen more."},
         {"H^+", "OH^-", "That is the hydroxide ion, which bases have."},
         {"SO3^2-", "SO4^2-", "Which one has more oxygen: -ite or -ate?"},
         {"NO2^-", "NO3^-", "Which one has more oxygen: -ite or -ate?"},
