@@ -9,6 +9,7 @@
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/formula.hpp"
 #include "lesson/marking/lookalikes.hpp"
+#include "lesson/marking/reading.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/marking/typed.hpp"
@@ -44,10 +45,11 @@ std::string withCaret(std::string plain)
     return stars == std::string::npos ? plain : plain.replace(stars, 2, "^");
 }
 
-// "Fe3+ ion" -> "Fe3+", "Fe(III) ions." -> "Fe(III)"
+// "Fe3+ ion" -> "Fe3+", "Fe(III) ions." -> "Fe(III)", "Fe3+ion" -> "Fe3+"
 std::string withoutIon(const std::string& plain)
 {
-    constexpr std::string_view ends[] = {" ion", " ions", " ion.", " ions."};
+    constexpr std::string_view ends[] = {" ion", " ions", " ion.", " ions.",
+                                         "ion",  "ions",  "ion.",  "ions."};
     constexpr std::string_view before = "+-)]}";
     const std::string lower = lowerCase(plain);
     for (const std::string_view end : ends) {
@@ -58,6 +60,20 @@ std::string withoutIon(const std::string& plain)
         }
     }
     return plain;
+}
+
+// Ethanoate from its other end has the charge in front: "-OOCCH3" -> "OOCCH3-".
+std::string withChargeBehind(std::string marked)
+{
+    const std::size_t sign = startsWith(marked, "^") ? 2 : 1;
+    const std::string_view behind = std::string_view(marked).substr(std::min(sign, marked.size()));
+    const bool isInFront = startsWith(behind, "OOC") || startsWith(behind, "O2C") ||
+                           startsWith(behind, "O_2C") || startsWith(behind, "O_{2}C");
+    if (isInFront && marked[sign - 1] == '-') {
+        std::rotate(marked.begin(), marked.begin() + static_cast<std::ptrdiff_t>(sign),
+                    marked.end());
+    }
+    return marked;
 }
 
 // What was typed, and all that it is compared with.
@@ -99,7 +115,7 @@ bool isRight(const Attempt& attempt, const IonReading& reading)
 bool hasChargeAsSubscript(const Attempt& attempt, const IonReading& reading)
 {
     const int size = std::abs(attempt.ion.charge);
-    return size > 1 && std::abs(reading.charge) <= 1 &&
+    return size > 1 && std::abs(reading.charge) <= 1 && !reading.formula.hasCharge &&
            reading.formula.text == attempt.right.front() + std::to_string(size);
 }
 
@@ -166,8 +182,8 @@ bool isSlip(const IonReading& typed, const Slip& slip)
 {
     const IonReading known = readIon(slip.text).readings.front();
     return typed.charge == known.charge &&
-           (typed.bare == known.bare ||
-            (typed.formula.isRead && typed.formula.simplest == known.formula.simplest));
+           (typed.bare == known.bare || (typed.formula.isRead && !typed.formula.hasCharge &&
+                                         typed.formula.simplest == known.formula.simplest));
 }
 
 std::optional<Mark> listedSlip(const Attempt& attempt)
@@ -260,6 +276,14 @@ std::optional<Mark> noCharge(const Attempt& attempt)
                                      : sentences::noCharge);
 }
 
+// "SO4^-2-"
+std::optional<Mark> chargeTypedTwice(const Attempt& attempt)
+{
+    const TypedFormula& formula = attempt.read.readings.front().formula;
+    return slipWhen(formula.hasCharge && isAmong(attempt.right, formula.simplest),
+                    "Write the charge once: its size and its sign.");
+}
+
 std::optional<Mark> chargeAsSubscript(const Attempt& attempt)
 {
     return slipWhen(anyReading(attempt,
@@ -324,9 +348,11 @@ std::optional<Mark> symbol(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped, right,         capitals, raisedWithoutSign, misplaced,   lookalikes,
-    listedSlip,   numeralLeftIn, notRead,  noCharge,          wrongCharge, chargeAsSubscript,
-    otherOrder,   otherIon,      ending,   oxygens,           symbol,
+    nothingTyped,      right,      capitals,         raisedWithoutSign,
+    misplaced,         lookalikes, listedSlip,       numeralLeftIn,
+    notRead,           noCharge,   chargeTypedTwice, wrongCharge,
+    chargeAsSubscript, otherOrder, otherIon,         ending,
+    oxygens,           symbol,
 };
 
 } // namespace
@@ -334,7 +360,7 @@ constexpr Rule rules[] = {
 Mark markIon(const IonAnswer& answer, const std::vector<Slip>& slips, std::string_view typed)
 {
     const std::string marked = withoutIon(withCaret(spelledOut(markedTyped(typed))));
-    Attempt attempt = {*answer.ion, slips, withoutBond(marked), {}, {}, {}};
+    Attempt attempt = {*answer.ion, slips, withoutBond(withChargeBehind(marked)), {}, {}, {}};
     attempt.read = readIon(attempt.marked);
     attempt.right = spellingsOf(answer.ion->formula);
     attempt.rightAtoms = readFormula(answer.ion->formula).atoms;

@@ -17,6 +17,7 @@ struct Lookalike {
 //   "SnCI2", "SnC12" -> "SnCl2"    a capital I or a digit 1 is the small l of a symbol
 //   "Na2S04"         -> "Na2SO4"   a zero is the letter O, as formulas have no zeros
 //   "Pbl2"           -> "PbI2"     a small l that ends no symbol is the letter I
+//   "A12(S04)3"      -> "Al2(SO4)3"    both, of which the first is told
 std::vector<Lookalike> lookalikesOf(std::string_view plain);
 
 } // namespace lesson

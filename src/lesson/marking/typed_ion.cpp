@@ -32,7 +32,7 @@ std::size_t lengthOf(std::string_view text, std::string_view characters)
     return std::min(text.find_first_not_of(characters), text.size());
 }
 
-// What stands in brackets at the front, if there are brackets and but digits, signs and blanks.
+// What stands in brackets at the front, if there are brackets and but a charge, "(2-)" or "(^2-)".
 struct Bracketed {
     std::string_view inside;
     std::size_t length; // with the brackets; 0 where there are none
@@ -46,7 +46,7 @@ Bracketed bracketedAt(std::string_view text)
     if (bracket == std::string_view::npos) {
         return {"", 0};
     }
-    const std::size_t length = lengthOf(text.substr(1), "0123456789+- ");
+    const std::size_t length = lengthOf(text.substr(1), "0123456789+-^ ");
     const bool isClosed = text.substr(length + 1, 1) == closing.substr(bracket, 1);
     return isClosed && length > 0 ? Bracketed{text.substr(1, length), length + 2}
                                   : Bracketed{"", 0};
@@ -98,7 +98,8 @@ private:
         add(left.substr(0, length), mark);
         left.remove_prefix(length);
         if (length == 0 && mark == raised && !startsWith(left, "^")) {
-            add("^", ordinary);
+            placed.text += '^';
+            placed.places += ordinary;
         }
         return true;
     }
@@ -130,7 +131,9 @@ private:
     void add(std::string_view characters, char place)
     {
         std::string text(characters);
-        text.erase(std::remove(text.begin(), text.end(), ' '), text.end());
+        text.erase(
+            std::remove_if(text.begin(), text.end(), [](char c) { return isOneOf(c, " ^"); }),
+            text.end());
         const std::size_t where = placeFor(text, place);
         placed.text.insert(where, text);
         placed.places.insert(where, text.size(), place);
@@ -212,13 +215,13 @@ IonReading reading(const Placed& placed, std::size_t length, int charge)
             places.substr(0, length).find(raised) != std::string_view::npos};
 }
 
-// Each way to split digits and a sign that leaves at most two digits to the charge.
+// Each way to split digits and a sign that leaves at most one digit to the charge.
 std::vector<IonReading> splitReadings(const Placed& placed, std::string_view before,
                                       std::string_view sign)
 {
     std::vector<IonReading> readings;
     const std::size_t end = placed.text.size() - sign.size();
-    const std::size_t most = std::min<std::size_t>(before.size(), 2);
+    const std::size_t most = std::min<std::size_t>(before.size(), 1);
     for (std::size_t ofCharge = 0; ofCharge <= most; ++ofCharge) {
         const std::string_view size = before.substr(before.size() - ofCharge);
         readings.push_back(reading(placed, end - ofCharge, withSign(sign, sizeOf(size))));

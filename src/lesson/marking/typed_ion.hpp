@@ -9,7 +9,7 @@
 namespace lesson
 {
 
-// One way to read what was typed: "SO42-" is SO4 with 2-, SO42 with 1-, or SO with 42-.
+// One way to read what was typed: "SO42-" is SO4 with 2-, or SO42 with 1-.
 struct IonReading {
     std::string bare; // the formula as it was typed, without the charge and what lowers or raises
     TypedFormula formula;

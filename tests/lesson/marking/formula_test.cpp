@@ -273,6 +273,8 @@ TEST(FormulaMarkTest, SlipsGetTheirSentences)
         {"tin(II)", "chloride", "SnC12", one},
         {"sodium", "chloride", "NaC1", one},
         {"aluminium", "oxide", "A12O3", one},
+        {"aluminium", "sulfate", "A12(S04)3", one},
+        {"aluminium", "sulfate", "AI2(S04)3", largeI},
         {"iron(III)", "oxide", "Fe(III)2O3", "The Roman numeral is a charge."},
         {"copper(II)", "sulfate", "Cu(II)SO4", "The Roman numeral is a charge."},
         {"copper(II)", "sulfate", "Cu(II)(SO4)", "The Roman numeral is a charge."},

@@ -193,6 +193,7 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
     const std::string largeI = "There is a large I where the small letter l should be.";
     const std::string one = "There is a 1 where the small letter l should be.";
     const std::string noSign = "A charge has a sign: + or -.";
+    const std::string once = "Write the charge once: its size and its sign.";
     const std::string order = "The atoms are right. Check their order.";
     struct Row {
         const char* ion;
@@ -269,6 +270,9 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
         {"chloride", "C1-", one},
         {"aluminium", "A1^3+", one},
         {"sulfate", "SO4^2", noSign},
+        {"sulfate", "SO4^-2-", once},
+        {"sulfate", "SO4-2-", once},
+        {"iron(III)", "Fe+3+", once},
         {"sulfate", "O4S 2-", order},
         {"hydrogencarbonate", "CO3H-", order},
         {"hydrogencarbonate", "CHO3-", order},

@@ -208,27 +208,11 @@ TEST(IonPlacesTest, UsualSpellingsOfWhatStandsBelowAndAbove)
         {"aluminium", {"Al_3+", "Al₃+", "Al_3^+"}, loweredCharge},
         {"sodium", {"Na₊", "Na_+"}, loweredCharge},
         {"sulfate",
-         {"SO₄2-",
-          "SO4²⁻",
-          "SO₄²⁻",
-          "SO_4^{2-}",
-          "SO_{4}^{2-}",
-          "SO4^2⁻",
-          "SO_42-",
-          "SO^{2-}_4",
-          "SO²⁻₄",
-          "SO_4 ^2-",
-          "SO_(4)^(2-)",
-          "SO₄^(2-)",
-          "SO_{4}2-",
-          "SO4^{2}-",
-          "SO4^2^-",
-          "[SO₄]²⁻",
-          "SO<sub>4</sub><sup>2-</sup>",
-          "\\ce{SO4^2-}",
-          "$SO_4^{2-}$",
-          "(SO_4)^{2-}",
-          "SO₄²⁻(aq)"},
+         {"SO₄2-",        "SO4²⁻",       "SO₄²⁻",       "SO_4^{2-}", "SO_{4}^{2-}",
+          "SO4^2⁻",       "SO_42-",      "SO^{2-}_4",   "SO²⁻₄",     "SO_4 ^2-",
+          "SO_(4)^(2-)",  "SO₄^(2-)",    "SO_{4}2-",    "SO4^{2}-",  "SO₄(²⁻)",
+          "SO4(^2-)",     "SO4^2-ion",   "SO4^2^-",     "[SO₄]²⁻",   "SO<sub>4</sub><sup>2-</sup>",
+          "\\ce{SO4^2-}", "$SO_4^{2-}$", "(SO_4)^{2-}", "SO₄²⁻(aq)"},
          rightSentence},
         {"sulfate",
          {"SO₄₂⁻", "SO_4_2^-", "SO_{42}^{-}", "SO_{42-}", "SO4_2-", "SO4-_2"},
@@ -247,7 +231,9 @@ TEST(IonPlacesTest, UsualSpellingsOfWhatStandsBelowAndAbove)
         {"iron(III)", {"Fe3⁺", "Fe⁺³", "Fe+³", "Fe⁺3", "Fe^3⁺", "Fe³+", "Fe^{+3}"}, rightSentence},
         {"iron(II)", {"Fe₃⁺"}, loweredCharge},
         {"iron(III)", {"Fe(III)₃⁺"}, loweredCharge},
-        {"ethanoate", {"CH₃-COO⁻", "CH_{3}-COO^-", "CH₃COO⁻", "C₂H₃O₂⁻"}, rightSentence},
+        {"ethanoate",
+         {"CH₃-COO⁻", "CH_{3}-COO^-", "CH₃COO⁻", "C₂H₃O₂⁻", "-OOCCH3", "⁻OOCCH₃", "⁻O₂CCH₃"},
+         rightSentence},
     };
     for (const Row& row : rows) {
         for (const std::string& typed : row.typed) {
@@ -283,7 +269,7 @@ TEST(TypedIonTest, DigitsBeforeASignAreSplitEachWay)
     for (const IonReading& reading : readIon("SO42-").readings) {
         read.push_back(reading.bare + " " + std::to_string(reading.charge));
     }
-    EXPECT_EQ(read, (std::vector<std::string>{"SO42 -1", "SO4 -2", "SO -42"}));
+    EXPECT_EQ(read, (std::vector<std::string>{"SO42 -1", "SO4 -2"}));
 }
 
 TEST(TypedIonTest, WhatIsMarkedIsReadInOneWay)
