@@ -231,9 +231,9 @@ std::vector<IonReading> splitReadings(const Placed& placed, std::string_view bef
 
 std::vector<IonReading> allReadings(const Placed& placed)
 {
-    const std::string_view charge = endOf(placed.text, digitsAndSigns);
-    const std::string_view behind = endOf(charge, digits);
-    const std::string_view upToSign = charge.substr(0, charge.size() - behind.size());
+    const std::string_view tail = endOf(placed.text, digitsAndSigns);
+    const std::string_view behind = endOf(tail, digits);
+    const std::string_view upToSign = tail.substr(0, tail.size() - behind.size());
     const std::string_view sign = endOf(upToSign, signs);
     const std::string_view before = upToSign.substr(0, upToSign.size() - sign.size());
     const bool isCharge = areSigns(sign) && before.find_first_of(signs) == std::string_view::npos &&
