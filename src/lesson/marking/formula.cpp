@@ -225,7 +225,7 @@ std::optional<Mark> chargesLeftIn(const Attempt& attempt)
 std::optional<Mark> raisedNumber(const Attempt& attempt)
 {
     return slipWhen(attempt.read.hasRaisedNumber,
-                    "Small numbers stand below the line. Type them without ^.");
+                    "Small numbers stand below the line: type them as plain digits.");
 }
 
 std::optional<Mark> numberInFront(const Attempt& attempt)

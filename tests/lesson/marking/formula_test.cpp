@@ -290,8 +290,9 @@ TEST(FormulaMarkTest, SlipsGetTheirSentences)
         {"copper(II)", "sulfate", "CuSO4·5H2O",
          "Leave out the water: it belongs to the crystals, not to the compound."},
         {"aluminium", "oxide", "Al^2O^3",
-         "Small numbers stand below the line. Type them without ^."},
-        {"aluminium", "oxide", "Al²O³", "Small numbers stand below the line. Type them without ^."},
+         "Small numbers stand below the line: type them as plain digits."},
+        {"aluminium", "oxide", "Al²O³",
+         "Small numbers stand below the line: type them as plain digits."},
     };
     for (const Row& row : rows) {
         const Mark mark = markFor(answerFor(row.cation, row.anion), row.typed);
