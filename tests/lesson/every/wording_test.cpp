@@ -106,7 +106,7 @@ void checkMolarMass(Problems& problems, const Asked& asked)
     }
 }
 
-TEST(WordingTest, DISABLED_MolarMassesHaveTwoDecimals)
+TEST(WordingTest, MolarMassesHaveTwoDecimals)
 {
     Problems problems;
     forEachExercise(problems, checkMolarMass);
