@@ -270,8 +270,7 @@ Spans countsOf(const Equation& equation)
 Step balanceWater(const Equation& equation, const Base& base, bool isFirst)
 {
     const std::string what = isCarbonate(base) ? "the water and the carbon dioxide." : "the water.";
-    return {line((isFirst ? "Balance " : "Then ") + what), spansOf(equation),
-            waterHint(base)};
+    return {line((isFirst ? "Balance " : "Then ") + what), spansOf(equation), waterHint(base)};
 }
 
 std::vector<Step> solutionFor(const Equation& equation, const AcidRow& acid, const Base& base)

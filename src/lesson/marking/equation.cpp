@@ -117,8 +117,19 @@ bool isTrueHalfWay(const TypedEquation& typed, const std::vector<Extra>& extras)
     return std::all_of(extras.begin(), extras.end(), isHalfWay) && isBalanced(typed);
 }
 
+// Whether acid and base stand where the products belong, and these where they do.
+bool isBackwards(const TypedEquation& typed, const Roles& roles)
+{
+    TypedEquation turned = typed;
+    std::swap(turned.left, turned.right);
+    return hasRightSubstances(assigned(turned, roles, false));
+}
+
 Mark markSubstances(const TypedEquation& typed, const Roles& roles, const Assignment& assignment)
 {
+    if (isBackwards(typed, roles)) {
+        return markOf(Verdict::slip, "The arrow points from acid and base to the products.");
+    }
     const std::vector<Extra> extras = explainedExtras(roles, assignment);
     for (const Mistake mistake :
          {Mistake::carbonicAcid, Mistake::hydrogenGas, Mistake::otherSubstance}) {
@@ -284,13 +295,6 @@ Mark markUnread(const TypedEquation& typed, const std::string& plain, const Role
 std::string sentences::isNot(std::string_view formula, std::string_view role, std::string_view hint)
 {
     return quotable(formula) + " is not the " + std::string(role) + ". " + std::string(hint);
-}
-
-std::string sentences::twoIons(std::string_view one, std::string_view other)
-{
-    std::string sentence = std::string(one) + " and " + std::string(other);
-    sentence.front() = static_cast<char>(sentence.front() - 'a' + 'A');
-    return sentence + " are two different ions.";
 }
 
 Mark markEquation(const EquationAnswer& answer, std::string_view typed)

@@ -22,14 +22,12 @@ constexpr std::string_view smallestNumbers = "Balanced. Use the smallest whole n
 constexpr std::string_view charges = "Check the charges.";
 constexpr std::string_view numberInFront =
     "The number of molecules stands in front of the formula.";
+constexpr std::string_view waterOfCrystals = "In solution the salt has no water of crystals.";
 constexpr std::string_view wholeFormulas = "Write whole formulas here, not ions.";
 constexpr std::string_view names = "Those are names. Type formulas.";
 
 // "NaSO4 is not the salt. Check the charges."
 std::string isNot(std::string_view formula, std::string_view role, std::string_view hint);
-
-// "Carbonate and hydrogencarbonate are two different ions." The names are in small letters.
-std::string twoIons(std::string_view one, std::string_view other);
 
 } // namespace sentences
 

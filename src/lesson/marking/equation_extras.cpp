@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "lesson/marking/confusions.hpp"
 #include "lesson/marking/equation.hpp"
 #include "lesson/marking/formula.hpp"
 #include "lesson/marking/lookalikes.hpp"
@@ -116,11 +117,6 @@ const Substance* findSubstance(const Atoms& atoms, std::string_view noun)
     return found == all.end() ? nullptr : &*found;
 }
 
-bool isHydrogenIonOf(const IonRow& anion, const IonRow& other)
-{
-    return anion.formula == "H" + std::string(other.formula);
-}
-
 std::string readAgain(const TypedTerm& term, const Substance& substance)
 {
     return quotable(term.formula.text) + " is " + substance.name + ". Read again which " +
@@ -150,6 +146,16 @@ bool isBracketMissing(const TypedTerm& term, const Role& role)
     });
 }
 
+constexpr std::string_view checkIons = "Check the ions in it.";
+
+// "NaCO3" for sodium hydrogencarbonate
+bool isWithoutItsHydrogen(const TypedTerm& term, const Role& role)
+{
+    const bool isCarbonate = role.anion->formula == "HCO3";
+    return isCarbonate && ionsIn(term.formula.atoms, *role.cation, *findIon("carbonate")) &&
+           findSubstance(term.formula.atoms, role.noun) == nullptr;
+}
+
 // What helps to put the formula right, if its ions are those of the species; else empty.
 std::string_view hintFor(const TypedTerm& term, const Role& role)
 {
@@ -158,7 +164,7 @@ std::string_view hintFor(const TypedTerm& term, const Role& role)
     }
     const std::optional<IonsIn> ions = ionsIn(term.formula.atoms, *role.cation, *role.anion);
     if (!ions.has_value()) {
-        return "";
+        return isWithoutItsHydrogen(term, role) ? checkIons : "";
     }
     if (ions->protons == 0) {
         const bool isNeutral =
@@ -207,23 +213,36 @@ bool areSeveralMolecules(const Atoms& atoms, const Atoms& one)
                                    });
 }
 
-// Another substance of its kind; one that only has a hydrogen more or less is a matter of two ions.
+// Ions whose names are alike, which makes one base of the same metal the other.
+struct Twins {
+    std::string_view one;
+    std::string_view other;
+    std::string_view sentence;
+};
+constexpr Twins twins[] = {{"O", "OH", sentences::oxides}, {"CO3", "HCO3", sentences::carbonates}};
+
+std::string_view twinsSentence(const IonRow& a, const IonRow& b)
+{
+    const auto* const found =
+        std::find_if(std::begin(twins), std::end(twins), [&](const Twins& two) {
+            return (two.one == a.formula && two.other == b.formula) ||
+                   (two.one == b.formula && two.other == a.formula);
+        });
+    return found == std::end(twins) ? std::string_view() : found->sentence;
+}
+
+// Another substance of its kind.
 std::optional<Extra> otherSubstance(const TermOnSide& typed, const Role& role)
 {
     const Substance* const other = findSubstance(typed.term->formula.atoms, role.noun);
     if (other == nullptr) {
         return std::nullopt;
     }
-    const bool hasSameCation = other->cation == role.cation;
-    if (hasSameCation && isHydrogenIonOf(*other->anion, *role.anion)) {
-        return Extra{typed, Mistake::otherSubstance,
-                     sentences::twoIons(role.anion->name, other->anion->name), &role};
-    }
-    if (hasSameCation && isHydrogenIonOf(*role.anion, *other->anion)) {
-        return Extra{typed, Mistake::otherSubstance,
-                     sentences::twoIons(other->anion->name, role.anion->name), &role};
-    }
-    return Extra{typed, Mistake::otherSubstance, readAgain(*typed.term, *other), &role};
+    const std::string_view sentence = other->cation == role.cation && role.cation != nullptr
+                                          ? twinsSentence(*other->anion, *role.anion)
+                                          : "";
+    return Extra{typed, Mistake::otherSubstance,
+                 sentence.empty() ? readAgain(*typed.term, *other) : std::string(sentence), &role};
 }
 
 Extra misspeltAs(const TermOnSide& typed, const Role& role, std::string sentence)
@@ -257,16 +276,26 @@ std::optional<Extra> misspeltIons(const TermOnSide& typed, const Role& role)
         return other;
     }
     if (hasSameElements(formula.atoms, role.atoms)) {
-        return misspeltAs(typed, role,
-                          sentences::isNot(formula.text, role.noun, "Check the ions in it."));
+        return misspeltAs(typed, role, sentences::isNot(formula.text, role.noun, checkIons));
     }
     const std::string wrong = wrongSymbolIn(formula, role);
     return wrong.empty() ? std::nullopt
                          : std::optional(misspeltAs(typed, role, sentences::checkSymbol(wrong)));
 }
 
+// "CuSO4.5H2O"
+bool hasWaterOfCrystals(const TypedTerm& term, const Role& role)
+{
+    const std::size_t dot = term.formula.text.find('.');
+    return dot != std::string::npos &&
+           readFormula(std::string_view(term.formula.text).substr(0, dot)).atoms == role.atoms;
+}
+
 std::optional<Extra> misspelt(const TermOnSide& typed, const Role& role)
 {
+    if (hasWaterOfCrystals(*typed.term, role)) {
+        return misspeltAs(typed, role, std::string(sentences::waterOfCrystals));
+    }
     const std::string_view misspelled = misspelling(*typed.term, role);
     if (!misspelled.empty()) {
         return misspeltAs(typed, role, std::string(misspelled));

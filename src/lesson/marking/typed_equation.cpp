@@ -7,6 +7,7 @@
 #include <optional>
 #include <utility>
 
+#include "lesson/marking/equation_signs.hpp"
 #include "lesson/marking/reading.hpp"
 #include "lesson/marking/typed.hpp"
 
@@ -16,15 +17,16 @@ namespace lesson
 // The grammar; blanks may stand anywhere but inside a number.
 //
 //   equation    = side arrow side "."?
-//   arrow       = a run of "-", "=", "<", ">" with more than dashes in it | "_>" | "~>" | a word
+//   arrow       = a run of "-", "=", "<", ">" with more than dashes in it | "_>" | "~>"
 //   side        = "+"? term ("+" term)*
 //   term        = (coefficient times?)? formula state?
 //   coefficient = number | "(" number ")"
 //   number      = digits | digits? ("." | ",") digits | (digits " ")? digits "/" digits
 //   times       = "*" | "·" | "×" | "." | "x"
-//   state       = "(s)" | "(l)" | "(g)" | "(aq)" | "↓" | "↑"
+//   state       = "(s)" | "(l)" | "(g)" | "(aq)" | "_{s}" | " s" and so on | "↓" | "↑" | " ^"
 //
-// A "+" with no term behind it belongs to the term before. States are in any case, also subscripts.
+// Words such as "gives" and "and" stand for an arrow and a "+". A "+" with no term behind it
+// belongs to the term before. States are in any case, also subscripts.
 
 namespace
 {
@@ -59,57 +61,6 @@ bool removeEnd(std::string_view& text, std::string_view end)
 // ---- Arrows
 
 constexpr std::string_view ofArrows = "-=<>";
-constexpr std::string_view slippedDashes = "_~"; // before ">": Shift was held too long
-// Between blanks; the last two are what a word processor makes of "-->" and "==>".
-constexpr std::string_view arrowWords[] = {"to",    "gives",    "yields", "makes", "forms", "give",
-                                           "yield", "produces", "arrow",  "à",     "è"};
-constexpr std::string_view arrowNames[] = {"rightarrow", "rarr"}; // not in any formula
-
-// Takes a word between two blanks, and the blank in front of it.
-bool takeArrowWord(std::string_view& rest)
-{
-    if (!startsWith(rest, " ")) {
-        return false;
-    }
-    const std::string_view behind = rest.substr(1);
-    const auto* const word = std::find_if(
-        std::begin(arrowWords), std::end(arrowWords), [behind](std::string_view known) {
-            return startsWith(behind, known) && startsWith(behind.substr(known.size()), " ");
-        });
-    if (word == std::end(arrowWords)) {
-        return false;
-    }
-    rest = behind.substr(word->size());
-    return true;
-}
-
-bool takeArrowName(std::string_view& rest)
-{
-    return std::any_of(std::begin(arrowNames), std::end(arrowNames),
-                       [&rest](std::string_view name) { return take(rest, name); });
-}
-
-// With "->" for every arrow that is spelt in other characters.
-std::string withPlainArrows(std::string_view rest)
-{
-    std::string text;
-    while (!rest.empty()) {
-        if (takeArrowWord(rest) || takeArrowName(rest)) {
-            text += " ->";
-            continue;
-        }
-        const std::size_t slipped = rest.find_first_not_of(slippedDashes);
-        const std::size_t length = slipped == std::string_view::npos ? rest.size() : slipped;
-        if (length == 0) {
-            text += rest.front();
-            rest.remove_prefix(1);
-            continue;
-        }
-        text += startsWith(rest.substr(length), ">") ? "-" : rest.substr(0, length);
-        rest.remove_prefix(length);
-    }
-    return text;
-}
 
 struct Run {
     std::size_t begin;
@@ -161,11 +112,38 @@ constexpr StateSpelling stateSpellings[] = {
 
 std::string_view stateIn(std::string_view brackets)
 {
-    const std::string lower = lowerCase(trimmed(brackets));
+    brackets = trimmed(brackets);
+    if (startsWith(brackets, "(") && removeEnd(brackets, ")")) { // "_{(aq)}"
+        brackets = trimmed(brackets.substr(1));
+    }
+    const std::string lower = lowerCase(brackets);
     const auto* const known =
         std::find_if(std::begin(stateSpellings), std::end(stateSpellings),
                      [&lower](const StateSpelling& spelling) { return spelling.typed == lower; });
     return known == std::end(stateSpellings) ? std::string_view() : known->state;
+}
+
+// A state behind the last opening bracket, which ends with `closing`; empty where there is none.
+std::string_view takeStateIn(std::string_view& term, std::string_view opening,
+                             std::string_view closing)
+{
+    const std::size_t begin = term.rfind(opening);
+    if (!endsWith(term, closing) || begin == std::string_view::npos) {
+        return "";
+    }
+    const std::size_t inside = begin + opening.size();
+    if (term.size() < inside + closing.size()) {
+        return "";
+    }
+    const std::string_view typed = term.substr(inside, term.size() - inside - closing.size());
+    // "Na2 S" has a sulfur, and no state.
+    const std::string_view state =
+        opening == " " && typed != lowerCase(typed) ? "" : stateIn(typed);
+    if (!state.empty()) {
+        term = trimmed(term.substr(0, begin));
+        removeEnd(term, "_");
+    }
+    return state;
 }
 
 // Takes the state off the end of a term; empty where there is none.
@@ -174,23 +152,21 @@ std::string_view takeState(std::string_view& term)
     if (removeEnd(term, "↓")) {
         return "s";
     }
-    if (removeEnd(term, "↑")) {
+    if (removeEnd(term, "↑") || removeEnd(term, " ^")) {
         return "g";
     }
-    std::string_view rest = term;
-    const bool isInBraces = removeEnd(rest, "}");
-    const std::size_t opening = rest.rfind('(');
-    if (!endsWith(rest, ")") || opening == std::string_view::npos) {
-        return "";
+    struct Brackets {
+        std::string_view opening;
+        std::string_view closing;
+    };
+    constexpr Brackets brackets[] = {{"{", "}"}, {"(", ")"}, {" ", ""}};
+    for (const Brackets& pair : brackets) {
+        const std::string_view state = takeStateIn(term, pair.opening, pair.closing);
+        if (!state.empty()) {
+            return state;
+        }
     }
-    const std::string_view state = stateIn(rest.substr(opening + 1, rest.size() - opening - 2));
-    rest = trimmed(rest.substr(0, opening));
-    if (state.empty() || (isInBraces && !removeEnd(rest, "{"))) {
-        return "";
-    }
-    removeEnd(rest, "_");
-    term = rest;
-    return state;
+    return "";
 }
 
 // The same with the blanks behind it.
@@ -412,7 +388,7 @@ bool isFitCoefficient(Ratio value)
 
 TypedEquation readEquation(std::string_view typed)
 {
-    const std::string text = withPlainArrows(typed);
+    const std::string text = withPlainSigns(typed);
     std::string_view plain = text;
     TypedEquation equation;
     removeEnd(plain, ".");

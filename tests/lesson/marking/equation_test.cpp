@@ -64,16 +64,26 @@ void expectMarks(const EquationAnswer& answer, const std::vector<Case>& cases)
 TEST(EquationMarkTest, RightInEverySpelling)
 {
     for (const char* const typed :
-         {"2HCl + Na2CO3 -> 2NaCl + H2O + CO2", "2HCl+Na2CO3->2NaCl+H2O+CO2",
-          "Na2CO3 + 2HCl -> CO2 + H2O + 2NaCl", "2 HCl + 1 Na2CO3 --> 2 NaCl + 1 H2O + 1 CO2",
-          "2*HCl + Na_2CO_3 => 2·NaCl + H_{2}O + CO_{2}", "2HCl + Na₂CO₃ → 2NaCl + H₂O + CO₂.",
+         {"2HCl + Na2CO3 -> 2NaCl + H2O + CO2",
+          "2HCl+Na2CO3->2NaCl+H2O+CO2",
+          "Na2CO3 + 2HCl -> CO2 + H2O + 2NaCl",
+          "2 HCl + 1 Na2CO3 --> 2 NaCl + 1 H2O + 1 CO2",
+          "2*HCl + Na_2CO_3 => 2·NaCl + H_{2}O + CO_{2}",
+          "2HCl + Na₂CO₃ → 2NaCl + H₂O + CO₂.",
           "2HCl(aq) + Na2CO3(s) = 2NaCl(aq) + H2O(l) + CO2(g)",
           "2HCl (AQ) + Na2CO3 ( aq ) ⟶ 2NaCl + H2O(L) + CO2↑",
+          "2HCl_{aq} + Na2CO3_{s} -> 2NaCl_{aq} + H2O_{l} + CO2_{g}",
+          "2HCl aq + Na2CO3 s -> 2NaCl aq + H2O l + CO2 ^",
+          "2HCl and Na2CO3 give 2NaCl & H2O plus CO2",
           "2HCl(aqueous) + Na2CO3(solid) -> 2NaCl(aqueous) + H2O(liquid) + CO2 (gas)",
-          "2NaCl + H2O + CO2 <- 2HCl + Na2CO3", "CO2 + 2NaCl + H2O ← Na2CO3 + 2HCl",
-          "2.0HCl + Na2CO3 -> 4/2 NaCl + H2O + CO2", "2HCl + Na2CO3 -> 2ClNa + HOH + O2C",
-          "HCl + HCl + Na2CO3 -> NaCl + NaCl + H2O + CO2", "2(HCl) + [Na]2CO3 -> 2NaCl + H2O + CO2",
-          "½HCl + 1½HCl + Na2CO3 -> 2NaCl + H2O + CO2", "2HCl + Na²CO³ -> 2NaCl + H²O + CO²"}) {
+          "2NaCl + H2O + CO2 <- 2HCl + Na2CO3",
+          "CO2 + 2NaCl + H2O ← Na2CO3 + 2HCl",
+          "2.0HCl + Na2CO3 -> 4/2 NaCl + H2O + CO2",
+          "2HCl + Na2CO3 -> 2ClNa + HOH + O2C",
+          "HCl + HCl + Na2CO3 -> NaCl + NaCl + H2O + CO2",
+          "2(HCl) + [Na]2CO3 -> 2NaCl + H2O + CO2",
+          "½HCl + 1½HCl + Na2CO3 -> 2NaCl + H2O + CO2",
+          "2HCl + Na²CO³ -> 2NaCl + H²O + CO²"}) {
         const Mark mark = markEquation(soda(), typed);
         EXPECT_EQ(mark.verdict, Verdict::correct) << typed;
         EXPECT_EQ(mark.sentence, "Correct.") << typed;
@@ -197,6 +207,8 @@ TEST(EquationMarkTest, AnotherAcidBaseOrSalt)
                   "Carbonate and hydrogencarbonate are two different ions."},
                  {"2HCl + Na2O -> 2NaCl + H2O", Verdict::slip,
                   "Na2O is sodium oxide. Read again which base is asked for."},
+                 {"2HCl + Ca(HCO3)2 -> 2NaCl + H2O + CO2", Verdict::slip,
+                  "Ca(HCO3)2 is calcium hydrogencarbonate. Read again which base is asked for."},
                  {"2HNO3 + Na2CO3 -> 2NaNO3 + H2O + CO2", Verdict::slip,
                   "HNO3 is nitric acid. Read again which acid is asked for."},
                  {"2HCl + K2CO3 -> 2KCl + H2O + CO2", Verdict::slip,
@@ -211,8 +223,11 @@ TEST(EquationMarkTest, AnotherAcidBaseOrSalt)
     expectMarks(answerOf("HNO3", "potassium", "hydrogencarbonate"),
                 {{"2HNO3 + K2CO3 -> 2KNO3 + H2O + CO2", Verdict::slip,
                   "Carbonate and hydrogencarbonate are two different ions."}});
+    expectMarks(answerOf("HNO3", "potassium", "hydrogencarbonate"),
+                {{"HNO3 + KCO3 -> KNO3 + H2O + CO2", Verdict::slip,
+                  "KCO3 is not the base. Check the ions in it."}});
     expectMarks(lye(), {{"H2SO4 + Na2O -> Na2SO4 + H2O", Verdict::slip,
-                         "Na2O is sodium oxide. Read again which base is asked for."},
+                         "Oxide and hydroxide are two different ions."},
                         {"2HCl + 2NaOH -> Na2SO4 + 2H2O", Verdict::slip,
                          "HCl is hydrochloric acid. Read again which acid is asked for."}});
 }
@@ -228,6 +243,14 @@ TEST(EquationMarkTest, ElementsAndSeveralMolecules)
     constexpr const char* inFront = "The number of molecules stands in front of the formula.";
     expectMarks(lye(), {{"H2SO4 + 2NaOH -> Na2SO4 + H4O2", Verdict::slip, inFront},
                         {"H2SO4 + 2NaOH -> Na2SO4 + (H2O)2", Verdict::slip, inFront}});
+}
+
+TEST(EquationMarkTest, WaterOfCrystals)
+{
+    expectMarks(answerOf("H2SO4", "copper(II)", "oxide"),
+                {{"H2SO4 + CuO -> CuSO4·5H2O", Verdict::slip, "One more product."},
+                 {"H2SO4 + CuO -> CuSO4.5H2O + H2O", Verdict::slip,
+                  "In solution the salt has no water of crystals."}});
 }
 
 TEST(EquationMarkTest, NoArrow)
@@ -370,6 +393,7 @@ TEST(EquationMarkTest, SaltsOfHalfTheWayThatAreNotBalanced)
 
 TEST(EquationMarkTest, OtherSubstances)
 {
+    constexpr const char* backwards = "The arrow points from acid and base to the products.";
     expectMarks(soda(), {{"2HCl + NaOH -> 2NaCl + H2O + CO2", Verdict::slip,
                           "NaOH is sodium hydroxide. Read again which base is asked for."},
                          {"2HCl + Na2CO3 + H2O -> 2NaCl + 2H2O + CO2", Verdict::wrong,
@@ -380,7 +404,9 @@ TEST(EquationMarkTest, OtherSubstances)
                           "Not right yet. NaOH does not form here."},
                          {"2HCl + Na2CO3 -> H2O + CO2", Verdict::wrong, notYet},
                          {"2HCl -> 2NaCl + H2O + CO2", Verdict::wrong, notYet},
-                         {"2NaCl + H2O + CO2 -> 2HCl + Na2CO3", Verdict::wrong,
+                         {"2NaCl + H2O + CO2 -> 2HCl + Na2CO3", Verdict::slip, backwards},
+                         {"HCl + Na2CO3 <- NaCl + H2O + CO2", Verdict::slip, backwards},
+                         {"2NaCl + H2O -> 2HCl + Na2CO3", Verdict::wrong,
                           "Not right yet. NaCl does not react here."},
                          {"->", Verdict::wrong, notYet}});
     // The right one is there as well, or there is no such ion.
@@ -391,7 +417,7 @@ TEST(EquationMarkTest, OtherSubstances)
     expectMarks(soda(), {{"2HCl + Na2CO3 -> NaHCl2 + H2O + CO2", Verdict::wrong,
                           "Not right yet. NaHCl2 does not form here."}});
     expectMarks(alumina(), {{"3H2SO4 + Al2O3 -> Al2(SO4)3 + 3H2O", Verdict::slip,
-                             "Al2O3 is aluminium oxide. Read again which base is asked for."}});
+                             "Oxide and hydroxide are two different ions."}});
 }
 
 TEST(EquationMarkTest, NotBalanced)

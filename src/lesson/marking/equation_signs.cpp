@@ -1,0 +1,84 @@
+#include "lesson/marking/equation_signs.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+
+#include "lesson/marking/reading.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+constexpr std::string_view slippedDashes = "_~"; // before ">": Shift was held too long
+
+struct WordSpelling {
+    std::string_view typed;
+    std::string_view sign;
+};
+// clang-format off
+// Between blanks; "à" and "è" are what a word processor makes of "-->" and "==>".
+constexpr WordSpelling words[] = {
+    {"to", "->"}, {"gives", "->"}, {"give", "->"}, {"yields", "->"}, {"yield", "->"},
+    {"makes", "->"}, {"make", "->"}, {"forms", "->"}, {"form", "->"}, {"produces", "->"},
+    {"equals", "->"}, {"becomes", "->"}, {"arrow", "->"}, {"à", "->"}, {"è", "->"},
+    {"and", "+"}, {"plus", "+"}, {"&", "+"},
+};
+// clang-format on
+constexpr std::string_view arrowNames[] = {"rightarrow", "rarr"}; // not in any formula
+
+// Takes a word between two blanks, and the blank in front of it; empty where there is none.
+std::string_view takeWord(std::string_view& rest)
+{
+    if (!startsWith(rest, " ")) {
+        return "";
+    }
+    const std::string_view behind = rest.substr(1);
+    const auto* const word =
+        std::find_if(std::begin(words), std::end(words), [behind](const WordSpelling& known) {
+            return startsWith(behind, known.typed) &&
+                   startsWith(behind.substr(known.typed.size()), " ");
+        });
+    if (word == std::end(words)) {
+        return "";
+    }
+    rest = behind.substr(word->typed.size());
+    return word->sign;
+}
+
+std::string_view takeArrowName(std::string_view& rest)
+{
+    const bool isThere = std::any_of(std::begin(arrowNames), std::end(arrowNames),
+                                     [&rest](std::string_view name) { return take(rest, name); });
+    return isThere ? "->" : "";
+}
+
+} // namespace
+
+std::string withPlainSigns(std::string_view plain)
+{
+    std::string_view rest = plain;
+    std::string text;
+    while (!rest.empty()) {
+        const std::string_view word = takeWord(rest);
+        const std::string_view sign = word.empty() ? takeArrowName(rest) : word;
+        if (!sign.empty()) {
+            text.append(" ").append(sign);
+            continue;
+        }
+        const std::size_t slipped = rest.find_first_not_of(slippedDashes);
+        const std::size_t length = slipped == std::string_view::npos ? rest.size() : slipped;
+        if (length == 0) {
+            text += rest.front();
+            rest.remove_prefix(1);
+            continue;
+        }
+        text += startsWith(rest.substr(length), ">") ? "-" : rest.substr(0, length);
+        rest.remove_prefix(length);
+    }
+    return text;
+}
+
+} // namespace lesson

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace lesson
+{
+
+// A typed equation with "->" and "+" for what is spelt in other characters or in words.
+//   "HCl + NaOH _> NaCl" -> "HCl + NaOH -> NaCl"    "HCl and NaOH give NaCl" -> "HCl + NaOH ->
+//   NaCl"
+std::string withPlainSigns(std::string_view plain);
+
+} // namespace lesson
