@@ -29,7 +29,7 @@ struct FormulaPart {
 
 //   "Al2(SO4)3"   parts 2 Al; S, 4 O, three times            atoms 2 Al, 3 S, 12 O
 //   "CuSO4.5H2O"  parts Cu, S, 4 O; 2 H, O, five times water  atoms Cu, S, 9 O, 10 H
-//   "NaCH3COO"    parts Na, 2 C, 3 H, 2 O                    atoms the same
+//   "CH3COONa"    parts 2 C, 3 H, 2 O, Na                    atoms the same
 struct Composition {
     std::vector<FormulaPart> parts;
     Atoms atoms;

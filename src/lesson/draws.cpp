@@ -1,6 +1,8 @@
 #include "lesson/draws.hpp"
 
 #include <algorithm>
+#include <array>
+#include <limits>
 #include <numeric>
 
 namespace lesson
@@ -15,71 +17,292 @@ std::mt19937 seeded(const Seed& seed)
     return std::mt19937(sequence);
 }
 
-int sizeOf(const Pool& pool)
-{
-    return std::accumulate(pool.begin(), pool.end(), 0,
-                           [](int sum, const PoolClass& part) { return sum + part.size; });
-}
-
-// One of those of which something is left, each equally likely. They are counted and then counted
-// off: a long walk draws often, and collecting them in a list would take most of its time.
-template <typename Iterator>
-Iterator drawn(Iterator begin, Iterator end, Draws& draws)
-{
-    const auto isLeft = [](const auto& part) { return part.left > 0; };
-    const auto count = static_cast<std::uint32_t>(std::count_if(begin, end, isLeft));
-    Iterator found = std::find_if(begin, end, isLeft);
-    for (std::uint32_t before = draws.below(count); before > 0; --before) {
-        found = std::find_if(std::next(found), end, isLeft);
-    }
-    return found;
-}
-
-// One round of a walk, which takes each member once.
-class Round
+// The draws of a walk. An exercise takes several walks up, so their generator, which is fixed by
+// the standard too, is one that is seeded at once; the lower half of its numbers is too regular to
+// use.
+class WalkDraws
 {
 public:
-    explicit Round(const Pool& pool) : members(static_cast<std::size_t>(sizeOf(pool)))
+    explicit WalkDraws(const Seed& seed)
     {
-        std::iota(members.begin(), members.end(), 0);
-        int first = 0;
-        for (std::size_t i = 0; i < pool.size(); ++i) {
-            if (i == 0 || pool[i].group != pool[i - 1].group) {
-                groups.push_back({static_cast<std::ptrdiff_t>(i), 0, 0});
+        std::seed_seq sequence(seed.begin(), seed.end());
+        generator.seed(sequence);
+    }
+
+    // Each of 0 to `bound` - 1 equally likely: the whole part of the product of the bound and a
+    // fraction. Those fractions are drawn again that would make some results likelier.
+    int below(int bound)
+    {
+        constexpr std::uint64_t range = std::uint64_t{1} << 32U;
+        const auto factor = static_cast<std::uint64_t>(bound);
+        for (;;) {
+            const std::uint64_t product = (generator() >> 32U) * factor;
+            const std::uint64_t rest = product % range;
+            if (rest >= factor || rest >= range % factor) {
+                return static_cast<int>(product / range);
             }
-            classes.push_back({first, pool[i].size});
-            first += pool[i].size;
-            ++groups.back().size;
-            groups.back().left += pool[i].size;
         }
     }
 
-    int take(Draws& draws)
+private:
+    std::linear_congruential_engine<std::uint64_t, 6364136223846793005U, 1442695040888963407U, 0>
+        generator;
+};
+
+// Members that may not stand at a step, and what is in a place of the list that nobody takes.
+using Avoided = std::array<int, 3>;
+constexpr int nobody = -1;
+constexpr Avoided nothing = {nobody, nobody, nobody};
+
+bool isIn(const Avoided& avoided, int member)
+{
+    return std::find(avoided.begin(), avoided.end(), member) != avoided.end();
+}
+
+// What is left of a pool in a round.
+class Rest
+{
+public:
+    explicit Rest(const Pool& pool) : most(pool.most)
     {
-        Group& group = *drawn(groups.begin(), groups.end(), draws);
-        const auto begin = classes.begin() + group.first;
-        Class& part = *drawn(begin, begin + group.size, draws);
-        int* const first = members.data() + part.first;
-        int& member = first[draws.below(static_cast<std::uint32_t>(part.left))];
-        --group.left;
-        std::swap(member, first[--part.left]);
-        return first[part.left];
+        for (const PoolPart& part : pool.parts) {
+            if (groups.empty() || part.group != lastGroup) {
+                groups.push_back({static_cast<int>(classes.size()), 0, 0});
+            }
+            if (groups.back().count == 0 || part.ofClass != lastClass) {
+                classes.push_back({static_cast<int>(parts.size()), 0, 0});
+                ++groups.back().count;
+            }
+            lastGroup = part.group;
+            lastClass = part.ofClass;
+            parts.push_back({left, part.size, part.weight * part.size});
+            left += part.size;
+            ++classes.back().count;
+            classes.back().weight += parts.back().weight;
+            groups.back().weight += parts.back().weight;
+        }
+        members.resize(static_cast<std::size_t>(left));
+        std::iota(members.begin(), members.end(), 0);
+    }
+
+    int size() const
+    {
+        return left;
+    }
+
+    // Takes one that is not to be avoided, unless so few are left that it might have to be; the
+    // common ones sooner.
+    int take(WalkDraws& draws, const Avoided& avoided)
+    {
+        return take(avoided, [&] { return drawn(draws); });
+    }
+
+    // The same, each equally likely.
+    int takeAny(WalkDraws& draws, const Avoided& avoided)
+    {
+        return take(avoided, [&] { return placeOf(draws.below(left)); });
     }
 
 private:
-    struct Group {
-        std::ptrdiff_t first; // of its classes
-        std::ptrdiff_t size;
-        int left;
+    // A group of classes, a class of parts, or a part of members.
+    struct Section {
+        int first;
+        int count;
+        int weight; // of all that is left in it
     };
-    struct Class {
-        int first; // of its members
-        int left;
+    using Sections = std::vector<Section>;
+
+    struct Place {
+        Section* group;
+        Section* ofClass;
+        Section* part;
+        int* member;
     };
 
+    template <typename Draw>
+    int take(const Avoided& avoided, Draw draw)
+    {
+        Place place = draw();
+        while (isIn(avoided, *place.member) && left > static_cast<int>(avoided.size())) {
+            place = draw();
+        }
+        return remove(place);
+    }
+
+    // So many members before it are left.
+    Place placeOf(int before)
+    {
+        Section* group = groups.data();
+        Section* ofClass = classes.data();
+        Section* part = parts.data();
+        while (before >= part->count) {
+            before -= part->count;
+            ++part;
+            ofClass += part - parts.data() == ofClass->first + ofClass->count ? 1 : 0;
+            group += ofClass - classes.data() == group->first + group->count ? 1 : 0;
+        }
+        return {group, ofClass, part, members.data() + part->first + before};
+    }
+
+    // One of the sections, by what is left in each, at most so much.
+    static Section& drawn(Section* sections, int count, int atMost, WalkDraws& draws)
+    {
+        if (count == 1) {
+            return *sections;
+        }
+        const int sum =
+            std::accumulate(sections, sections + count, 0, [atMost](int all, const Section& s) {
+                return all + std::min(s.weight, atMost);
+            });
+        int before = draws.below(sum);
+        while (before >= std::min(sections->weight, atMost)) {
+            before -= std::min(sections->weight, atMost);
+            ++sections;
+        }
+        return *sections;
+    }
+
+    Place drawn(WalkDraws& draws)
+    {
+        Section& group = drawn(groups.data(), static_cast<int>(groups.size()), most, draws);
+        Section& ofClass = drawn(classes.data() + group.first, group.count, most, draws);
+        Section& part = drawn(parts.data() + ofClass.first, ofClass.count,
+                              std::numeric_limits<int>::max(), draws);
+        return {&group, &ofClass, &part, members.data() + part.first + draws.below(part.count)};
+    }
+
+    int remove(const Place& place)
+    {
+        const int weight = place.part->weight / place.part->count;
+        place.group->weight -= weight;
+        place.ofClass->weight -= weight;
+        place.part->weight -= weight;
+        --place.part->count;
+        --left;
+        int& last = members[static_cast<std::size_t>(place.part->first + place.part->count)];
+        std::swap(*place.member, last);
+        return last;
+    }
+
+    int most;
+    int left = 0;
+    int lastGroup = 0;
+    int lastClass = 0;
+    Sections groups;
+    Sections classes;
+    Sections parts;
     std::vector<int> members;
-    std::vector<Group> groups;
-    std::vector<Class> classes;
+};
+
+using Members = std::vector<int>;
+
+// Puts the last members of a round, which are few, into an order in which none stands where it is
+// to be avoided. With two to avoid at each step there is one for four of them.
+void arrange(Members& members, std::size_t from, const std::vector<Avoided>& avoided)
+{
+    const Members drawn(members.begin() + static_cast<std::ptrdiff_t>(from), members.end());
+    std::vector<std::size_t> order(drawn.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    do {
+        bool fits = true;
+        for (std::size_t i = 0; i < order.size(); ++i) {
+            members[from + i] = drawn[order[i]];
+            fits = fits && !isIn(avoided[from + i], members[from + i]);
+        }
+        if (fits) {
+            return;
+        }
+    } while (std::next_permutation(order.begin(), order.end()));
+}
+
+// The walks of one stream through a pool. Papers with an even number walk freely; one with an odd
+// number avoids at each step the members that its two neighbours meet there. In a great pool they
+// hardly ever meet the same, so that nobody has to walk along with the neighbours.
+class Walks
+{
+public:
+    Walks(const Pool& walked, const Seed& ofStream)
+        : pool(walked), stream(ofStream), size(Rest(walked).size())
+    {
+    }
+
+    int memberAt(unsigned paper, unsigned number) const
+    {
+        const auto members = static_cast<unsigned>(size);
+        const std::size_t step = (number - 1) % members;
+        return roundOf(paper, (number - 1) / members, step + 1)[step];
+    }
+
+private:
+    // The first members of a round, as many as `steps` or more.
+    Members roundOf(unsigned paper, unsigned round, std::size_t steps) const
+    {
+        Begun begun = begin(paper, round);
+        const auto others = static_cast<std::size_t>(begun.rest.size());
+        const std::size_t unarranged = others - std::min(others, std::size_t{4});
+        steps = steps <= unarranged ? steps : others + 1;
+        const std::vector<Avoided> avoided = avoidedIn(paper, round, steps);
+        Members members;
+        while (members.size() < std::min(steps, unarranged)) {
+            members.push_back(begun.rest.take(begun.draws, avoided[members.size()]));
+        }
+        if (steps > unarranged) {
+            while (members.size() < others) {
+                members.push_back(begun.rest.take(begun.draws, nothing));
+            }
+            arrange(members, unarranged, avoided);
+            members.push_back(begun.last);
+        }
+        return members;
+    }
+
+    // A round whose last member, which may be any, is drawn before all others, so that the next
+    // round can begin with another one without going through this one.
+    struct Begun {
+        WalkDraws draws;
+        Rest rest; // without the last
+        int last;
+    };
+
+    Begun begin(unsigned paper, unsigned round) const
+    {
+        Seed seed = stream;
+        seed.push_back(paper);
+        seed.push_back(round);
+        Begun begun = {WalkDraws(seed), Rest(pool), nobody};
+        const Avoided avoided = avoidsOthers(paper) ? Avoided{begin(paper - 1, round).last,
+                                                              begin(paper + 1, round).last, nobody}
+                                                    : nothing;
+        begun.last = begun.rest.takeAny(begun.draws, avoided);
+        return begun;
+    }
+
+    std::vector<Avoided> avoidedIn(unsigned paper, unsigned round, std::size_t steps) const
+    {
+        std::vector<Avoided> avoided(steps, nothing);
+        if (avoidsOthers(paper)) {
+            const Members before = roundOf(paper - 1, round, steps);
+            const Members behind = roundOf(paper + 1, round, steps);
+            for (std::size_t i = 0; i < steps; ++i) {
+                avoided[i] = {before[i], behind[i], nobody};
+            }
+        }
+        if (round > 0) {
+            avoided[0].back() = begin(paper, round - 1).last;
+        }
+        return avoided;
+    }
+
+    bool avoidsOthers(unsigned paper) const
+    {
+        constexpr int little = 5; // nothing would be left to choose from
+        constexpr int great = 500;
+        return paper % 2 == 1 && size > little && size < great;
+    }
+
+    const Pool& pool;
+    const Seed& stream;
+    int size;
 };
 
 } // namespace
@@ -105,35 +328,9 @@ int Draws::between(int low, int high)
     return low + static_cast<int>(below(static_cast<std::uint32_t>(high - low + 1)));
 }
 
-namespace
+int memberOnWalk(const Pool& pool, const Seed& stream, unsigned paper, unsigned number)
 {
-
-// The member that a step of a round takes, both counted from 0.
-int memberAt(const Pool& pool, Seed seed, unsigned round, unsigned step)
-{
-    seed.push_back(round);
-    Draws draws(seed);
-    Round walk(pool);
-    for (; step > 0; --step) {
-        walk.take(draws);
-    }
-    return walk.take(draws);
-}
-
-} // namespace
-
-int memberOnWalk(const Pool& pool, Seed seed, unsigned number)
-{
-    const auto members = static_cast<unsigned>(std::max(sizeOf(pool), 1));
-    const unsigned round = (number - 1) / members;
-    const unsigned step = (number - 1) % members;
-    // A round that would begin with the last member of the one before has its first two exchanged.
-    const bool mayFollowItself = round > 0 && step < 2 && members > 2;
-    if (mayFollowItself &&
-        memberAt(pool, seed, round, 0) == memberAt(pool, seed, round - 1, members - 1)) {
-        return memberAt(pool, seed, round, 1 - step);
-    }
-    return memberAt(pool, seed, round, step);
+    return Walks(pool, stream).memberAt(paper, number);
 }
 
 } // namespace lesson

@@ -34,19 +34,28 @@ private:
     std::mt19937 generator;
 };
 
-// A finite pool of members 0, 1, 2, …, at least one, which stand class by class, the classes group
-// by group.
-struct PoolClass {
+// A finite pool of members 0, 1, 2, …, at least one. They stand part by part, the parts of a class
+// together, and the classes of a group. The members of a part are equally common.
+struct PoolPart {
     int group;
+    int ofClass; // told from those of the same group
+    int weight;  // of each member, 1 or more: how common it is in comparison with others
     int size;
 };
-using Pool = std::vector<PoolClass>;
+struct Pool {
+    std::vector<PoolPart> parts;
+    // What a group, or a class, counts for at most when one is drawn: with 1, all count the same
+    // until nothing is left of them; with much, what is left of each decides.
+    int most;
+};
 
-// The member that exercise `number` (from 1) meets on a walk through the pool: each step draws the
-// group, then a class of it, then a member of that, each among those of which something is left;
-// when nothing is, the walk begins anew in another order. So no member comes again while there is a
-// new one, and at first every group and class comes equally often; where the pool has more than two
-// members, none follows itself.
-int memberOnWalk(const Pool& pool, Seed seed, unsigned number);
+// The member that exercise `number` (from 1) of a paper meets on its walk through the pool;
+// `stream` tells apart the walks of a paper. Each step draws the group, by the weights of what is
+// left of it, then a class of it likewise, then a member of that by its weight; when nothing is
+// left, the walk begins anew in another order. So no member comes again while there is a new one,
+// and the common ones come sooner. Where there are more than two members, none follows itself; and
+// where there are more than five, a paper and the next one never meet the same member at the same
+// number, but by chance where there are hundreds.
+int memberOnWalk(const Pool& pool, const Seed& stream, unsigned paper, unsigned number);
 
 } // namespace lesson

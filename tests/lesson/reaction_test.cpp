@@ -78,7 +78,7 @@ TEST(ReactionTest, EquationsOfTheTextbook)
         {"H3PO4", baseOf("potassium", "hydroxide"), "H3PO4 + 3KOH -> K3PO4 + 3H2O"},
         {"H3PO4", baseOf("calcium", "oxide"), "2H3PO4 + 3CaO -> Ca3(PO4)2 + 3H2O"},
         {"H3PO4", baseOf("aluminium", "hydroxide"), "H3PO4 + Al(OH)3 -> AlPO4 + 3H2O"},
-        {"CH3COOH", baseOf("sodium", "hydroxide"), "CH3COOH + NaOH -> NaCH3COO + H2O"},
+        {"CH3COOH", baseOf("sodium", "hydroxide"), "CH3COOH + NaOH -> CH3COONa + H2O"},
         {"CH3COOH", baseOf("copper(II)", "carbonate"),
          "2CH3COOH + CuCO3 -> Cu(CH3COO)2 + H2O + CO2"},
         {"H2C2O4", baseOf("sodium", "hydroxide"), "H2C2O4 + 2NaOH -> Na2C2O4 + 2H2O"},

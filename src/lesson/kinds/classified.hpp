@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -18,21 +19,44 @@ struct Classified {
     Pool pool;
 };
 
-// Where a member belongs: its group, and the name of its class, which is of no other group.
-using ClassKey = std::pair<int, std::string>;
+// Where a member belongs: its group, the name of its class in this, and how common it is.
+struct ClassKey {
+    int group;
+    std::string name;
+    int weight = 1;
+};
 
-// Puts members of a class together; within a class they stay in their order.
+inline bool isSameClass(const ClassKey& a, const ClassKey& b)
+{
+    return a.group == b.group && a.name == b.name;
+}
+
+inline bool operator<(const ClassKey& a, const ClassKey& b)
+{
+    return std::tie(a.group, a.name, a.weight) < std::tie(b.group, b.name, b.weight);
+}
+
+// The `most` of a pool whose groups and classes come equally often until nothing is left of them.
+constexpr int allTheSame = 1;
+
+// Puts members of a class together, and in it those that are equally common; these stay in their
+// order. A group, or a class, counts for `most` at most, as Pool tells.
 template <typename Member, typename KeyOf>
-Classified<Member> classified(std::vector<Member> members, KeyOf keyOf)
+Classified<Member> classified(std::vector<Member> members, KeyOf keyOf, int most)
 {
     std::stable_sort(members.begin(), members.end(),
                      [&keyOf](const Member& a, const Member& b) { return keyOf(a) < keyOf(b); });
-    Pool pool;
-    for (std::size_t i = 0; i < members.size(); ++i) {
-        if (i == 0 || keyOf(members[i]) != keyOf(members[i - 1])) {
-            pool.push_back({keyOf(members[i]).first, 0});
+    Pool pool = {{}, most};
+    ClassKey last = {};
+    int classes = 0;
+    for (const Member& member : members) {
+        ClassKey key = keyOf(member);
+        if (pool.parts.empty() || last < key) {
+            classes += isSameClass(last, key) ? 0 : 1;
+            pool.parts.push_back({key.group, classes, key.weight, 0});
+            last = std::move(key);
         }
-        ++pool.back().size;
+        ++pool.parts.back().size;
     }
     return {std::move(members), std::move(pool)};
 }

@@ -35,12 +35,13 @@ std::string sizes(int cation, int anion)
 }
 
 // The ratio of the ions is drawn first, then their charges, then the pair: else half of the
-// formulas would be of one ion each.
+// formulas would be of one ion each. A ratio or charges that only rare compounds have come rarely.
 ClassKey classOf(const Pair& pair)
 {
     const int positive = cationsIn(*pair.cation, *pair.anion);
     const int negative = anionsIn(*pair.cation, *pair.anion);
-    return {positive * 10 + negative, sizes(pair.cation->charge, -pair.anion->charge)};
+    return {positive * 10 + negative, sizes(pair.cation->charge, -pair.anion->charge),
+            weightOf(pair)};
 }
 
 Classified<Pair> pairsOf(int level)
@@ -51,7 +52,8 @@ Classified<Pair> pairsOf(int level)
             pairs.push_back(pair);
         }
     }
-    return classified(std::move(pairs), classOf);
+    constexpr int enough = 200; // five or six common compounds
+    return classified(std::move(pairs), classOf, enough);
 }
 
 const Classified<Pair>& pairsOfLevel(int level)

@@ -30,38 +30,62 @@ void append(Ions& ions, const Ions& more)
     ions.insert(ions.end(), more.begin(), more.end());
 }
 
-Ions where(const Ions& ions, bool isGroup)
+Ions where(const Ions& ions, bool (*isWanted)(const IonRow& ion))
 {
     Ions found;
     std::copy_if(ions.begin(), ions.end(), std::back_inserter(found),
-                 [isGroup](const IonRow* ion) { return ion->isGroup == isGroup; });
+                 [isWanted](const IonRow* ion) { return isWanted(*ion); });
     return found;
+}
+
+bool isOneAtom(const IonRow& ion)
+{
+    return !ion.isGroup;
+}
+
+// Further groups that are as common as those of compounds.
+constexpr std::string_view commonGroups[] = {"nitrite", "sulfite", "hydrogensulfate",
+                                             "manganate(VII)"};
+
+bool isCommonGroup(const IonRow& ion)
+{
+    const auto isIon = [&ion](std::string_view name) { return name == ion.name; };
+    const bool isFurther =
+        std::find(furtherIons().begin(), furtherIons().end(), &ion) != furtherIons().end();
+    return ion.isGroup &&
+           (!isFurther || std::any_of(std::begin(commonGroups), std::end(commonGroups), isIon));
 }
 
 Ions ionsOfLevel(int level)
 {
     Ions ions = cations();
     append(ions, anions());
-    if (level != 2) {
-        append(ions, furtherIons());
+    append(ions, furtherIons());
+    if (level == 3) {
+        return ions;
     }
-    return level == 3 ? ions : where(ions, level == 2);
+    return where(ions, level == 1 ? isOneAtom : isCommonGroup);
 }
 
 // Level 1 draws the charge before the ion, so that the many with 2+ do not crowd out the others;
-// level 3 draws first whether the ion is a group, since most are not.
+// level 3 draws first whether the ion is a group that level 2 has not: half of its ions are.
 ClassKey classAt(int level, const IonRow& ion)
 {
     if (level == 1) {
-        return {ion.charge < 0 ? 1 : 0, chargeText(ion)};
+        return {ion.charge < 0 ? 1 : 0, chargeText(ion), ion.weight};
     }
-    return {ion.isGroup ? 1 : 0, ""};
+    if (level == 2) {
+        return {0, "", ion.weight};
+    }
+    const bool isNew = ion.isGroup && !isCommonGroup(ion);
+    return {isNew ? 1 : 0, ion.isGroup ? "group" : "atom", ion.weight};
 }
 
 Classified<const IonRow*> poolOf(int level)
 {
-    return classified(ionsOfLevel(level),
-                      [level](const IonRow* ion) { return classAt(level, *ion); });
+    constexpr int enough = 8; // one or two common ions
+    return classified(
+        ionsOfLevel(level), [level](const IonRow* ion) { return classAt(level, *ion); }, enough);
 }
 
 const Classified<const IonRow*>& poolOfLevel(int level)
@@ -243,6 +267,9 @@ constexpr Mistaken mistakes[] = {
     {"manganate(VII)", "MnO4^7+", notItsCharge},
     {"manganate(VII)", "MnO4^7-", notItsCharge},
     {"dichromate", "CrO4^2-", "That is chromate. What does di- tell you?"},
+    {"hydrogensulfite", "HSO3^2-", ownCharge},
+    {"hydrogenphosphate", "HPO4^3-", ownCharge},
+    {"dihydrogenphosphate", "H2PO4^3-", ownCharge},
 };
 // clang-format on
 

@@ -21,10 +21,10 @@ Draws drawsFor(const Place& place)
 
 int memberFor(const Place& place, const Pool& pool)
 {
-    return memberOnWalk(pool,
-                        {walk, place.paper, static_cast<std::uint32_t>(place.kind),
-                         static_cast<std::uint32_t>(place.level)},
-                        place.number);
+    return memberOnWalk(
+        pool,
+        {walk, static_cast<std::uint32_t>(place.kind), static_cast<std::uint32_t>(place.level)},
+        place.paper, place.number);
 }
 
 } // namespace lesson

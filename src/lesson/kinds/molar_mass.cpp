@@ -6,10 +6,13 @@
 #include <utility>
 
 #include "lesson/compound.hpp"
+#include "lesson/kinds/classified.hpp"
 #include "lesson/kinds/kinds.hpp"
+#include "lesson/kinds/molar_mass_slips.hpp"
 #include "lesson/kinds/quantities.hpp"
 #include "lesson/tables/elements.hpp"
 #include "lesson/tables/pairs.hpp"
+#include "lesson/tables/substances.hpp"
 
 namespace lesson
 {
@@ -23,6 +26,7 @@ struct Substance {
     std::string formula;
     std::string name;
     std::string american;
+    int weight; // how common it is
     Composition composition;
 };
 
@@ -33,51 +37,53 @@ bool hasBracket(const std::string& formula)
     return formula.find('(') != std::string::npos;
 }
 
-// Level 1 has the formulas without a bracket, level 2 those with one.
-std::vector<Pair> pairsOf(bool withBracket)
+Substance substanceOf(const Pair& pair)
 {
-    std::vector<Pair> pairs;
-    for (const Pair& pair : pairsForFormulas()) {
-        if (hasBracket(compoundFormula(*pair.cation, *pair.anion)) == withBracket) {
-            pairs.push_back(pair);
+    const auto& [cation, anion] = pair;
+    const std::string formula = compoundFormula(*cation, *anion);
+    return {formula, compoundName(*cation, *anion), americanName(*cation, *anion), weightOf(pair),
+            compositionOf(formula)};
+}
+
+Substance substanceOf(const SubstanceRow& row)
+{
+    return {std::string(row.formula), std::string(row.name), std::string(row.american), row.weight,
+            compositionOf(row.formula)};
+}
+
+// Level 1 has molecules and the salts without a bracket, level 2 the salts with one, level 3
+// hydrates.
+std::vector<Substance> substancesOf(int level)
+{
+    std::vector<Substance> substances;
+    for (const SubstanceRow& row : level == 3 ? crystals() : molecules()) {
+        if (level != 2) {
+            substances.push_back(substanceOf(row));
         }
     }
-    return pairs;
-}
-
-const std::vector<Pair>& pairsOfLevel(int level)
-{
-    static const std::vector<Pair> plain = pairsOf(false);
-    static const std::vector<Pair> bracketed = pairsOf(true);
-    return level == 1 ? plain : bracketed;
-}
-
-// The walk goes through one class: each substance of a level is as likely as any other.
-template <typename Row>
-const Row& memberOf(const Place& place, const std::vector<Row>& rows)
-{
-    const int member = memberFor(place, {{0, static_cast<int>(rows.size())}});
-    return rows[static_cast<std::size_t>(member)];
-}
-
-Substance draw(const Place& place)
-{
-    Substance drawn;
-    if (place.level == 3) {
-        const SoluteRow& hydrate = memberOf(place, hydrates());
-        drawn = {std::string(hydrate.formula),
-                 std::string(hydrate.name),
-                 std::string(hydrate.american),
-                 {}};
-    } else {
-        const auto& [cation, anion] = memberOf(place, pairsOfLevel(place.level));
-        drawn = {compoundFormula(*cation, *anion),
-                 compoundName(*cation, *anion),
-                 americanName(*cation, *anion),
-                 {}};
+    for (const Pair& pair : pairsForFormulas()) {
+        const Substance salt = substanceOf(pair);
+        if (level == (hasBracket(salt.formula) ? 2 : 1)) {
+            substances.push_back(salt);
+        }
     }
-    drawn.composition = compositionOf(drawn.formula);
-    return drawn;
+    return substances;
+}
+
+Classified<Substance> poolOf(int level)
+{
+    return classified(
+        substancesOf(level),
+        [](const Substance& substance) {
+            return ClassKey{0, "", substance.weight};
+        },
+        allTheSame);
+}
+
+const Classified<Substance>& poolOfLevel(int level)
+{
+    static const Classified<Substance> levels[] = {poolOf(1), poolOf(2), poolOf(3)};
+    return levels[level - 1];
 }
 
 // ------------------------------------------------------------------------------ the solution
@@ -133,32 +139,30 @@ Spans massLine(const Composition& composition)
     return sumOf(composition.parts, [&](const FormulaPart& part) { return termOf(part, inside); });
 }
 
-const FormulaPart* bracketOf(const Composition& composition)
+bool hasBracket(const Composition& composition)
 {
-    const auto found =
-        std::find_if(composition.parts.begin(), composition.parts.end(),
-                     [](const FormulaPart& part) { return part.times > 1 && !part.isWater; });
-    return found == composition.parts.end() ? nullptr : &*found;
+    return std::any_of(composition.parts.begin(), composition.parts.end(),
+                       [](const FormulaPart& part) { return part.times > 1 && !part.isWater; });
 }
 
-const FormulaPart* waterOf(const Composition& composition)
+Step countingStep(const Composition& composition)
 {
-    const FormulaPart& last = composition.parts.back();
-    return last.isWater ? &last : nullptr;
-}
-
-std::string firstSentence(const Composition& composition)
-{
-    if (waterOf(composition) != nullptr) {
-        return "Count the atoms; the water belongs to the crystal.";
+    const Spans atoms = atomLine(composition);
+    if (composition.parts.back().isWater) {
+        return {line("Count the atoms; the water belongs to the crystal."), atoms,
+                line("The dot stands for “together with”. How many water molecules come with one "
+                     "unit of the salt?")};
     }
-    if (bracketOf(composition) != nullptr) {
-        return "Count the atoms; the number after the bracket counts everything inside.";
+    if (hasBracket(composition)) {
+        return {line("Count the atoms; the number after the bracket counts everything inside."),
+                atoms, line("What is in one bracket, and how many brackets are there?")};
     }
-    return "Count the atoms.";
+    return {line("Count the atoms."), atoms,
+            line("A small number belongs to the symbol in front of it. Where there is none, it is "
+                 "one atom.")};
 }
 
-// M = 249.69 = 249.7 g/mol, or M = 58.44 g/mol where the sum has no more figures than are asked.
+// M = 249.69 = 249.7 g/mol, or M = 58.44 g/mol where two decimals are no more than is asked.
 Spans total(const Exercise& exercise, Ratio mass)
 {
     const bool isRounded = valueOf(roundedTo(mass, figures)) != toHundredths(mass);
@@ -169,66 +173,13 @@ Spans total(const Exercise& exercise, Ratio mass)
 std::vector<Step> workedSolution(const Exercise& exercise, const Substance& drawn, Ratio mass)
 {
     return {
-        {line(firstSentence(drawn.composition)), atomLine(drawn.composition)},
-        {line("Put in the masses."), massLine(drawn.composition)},
-        {line("Add."), total(exercise, mass)},
+        countingStep(drawn.composition),
+        {line("Put in the masses."), massLine(drawn.composition),
+         line("The periodic table has two numbers for each element. The one with decimals is the "
+              "mass.")},
+        {line("Add."), total(exercise, mass),
+         line("Multiply before you add, and round at the end.")},
     };
-}
-
-// --------------------------------------------------------------------------------- the slips
-
-// The last symbol inside the bracket with its subscript: "O4" of Al2(SO4)3.
-std::string_view lastInBracket(std::string_view formula)
-{
-    const std::string_view inside = formula.substr(0, formula.find(')'));
-    std::size_t capital = inside.size() - 1;
-    while (inside[capital] < 'A' || inside[capital] > 'Z') {
-        --capital;
-    }
-    return inside.substr(capital);
-}
-
-void addBracketSlips(Exercise& exercise, const Substance& drawn, Ratio mass)
-{
-    const FormulaPart* const bracket = bracketOf(drawn.composition);
-    if (bracket == nullptr) {
-        return;
-    }
-    const std::string sentence = "The number after the bracket counts everything inside.";
-    const Ratio more = ratio(bracket->times - 1);
-    const Ratio inside = massOf(bracket->atoms);
-    const Ratio ignored = mass - more * inside;
-    const Ratio forLastOnly = ignored + more * molarMassOf(lastInBracket(drawn.formula));
-    addSlip(exercise, ignored, sentence);
-    addSlip(exercise, forLastOnly, sentence);
-}
-
-void addWaterSlips(Exercise& exercise, const Substance& drawn, Ratio mass)
-{
-    const FormulaPart* const water = waterOf(drawn.composition);
-    if (water == nullptr) {
-        return;
-    }
-    const std::string sentence = "The number before H2O counts whole water molecules.";
-    const Ratio molecules = ratio(water->times);
-    const Ratio more = molecules - ratio(1);
-    const Ratio withoutWater = mass - molecules * massOf(water->atoms);
-    const Ratio takenOnce = mass - more * massOf(water->atoms);
-    const Ratio onHydrogenOnly = mass - more * molarMassOf("O");
-    addSlip(exercise, withoutWater, sentence);
-    addSlip(exercise, takenOnce, sentence);
-    addSlip(exercise, onHydrogenOnly, sentence);
-}
-
-void addSlips(Exercise& exercise, const Substance& drawn, Ratio mass)
-{
-    addBracketSlips(exercise, drawn, mass);
-    addWaterSlips(exercise, drawn, mass);
-    int atomicNumbers = 0;
-    for (const AtomCount atom : drawn.composition.atoms) {
-        atomicNumbers += atom.count * atom.element;
-    }
-    addSlip(exercise, ratio(atomicNumbers), "Use the relative masses, not the atomic numbers.");
 }
 
 // ---------------------------------------------------------------------------- rounded masses
@@ -312,7 +263,7 @@ std::vector<Ratio> roundedMolarMasses(std::string_view formula)
 
 Exercise molarMassExercise(const Place& place)
 {
-    const Substance drawn = draw(place);
+    const Substance& drawn = memberFor(place, poolOfLevel(place.level));
     const Ratio mass = massOf(drawn.composition.atoms);
     Exercise exercise =
         numberExercise(place, {Form::number, "M", drawn.formula, "g/mol", figures, {}},
@@ -321,7 +272,7 @@ Exercise molarMassExercise(const Place& place)
                            formula(drawn.formula), ", in ", unit("g/mol"), ".");
     exercise.given = {GivenCompound{drawn.formula, drawn.name}};
     exercise.solution = workedSolution(exercise, drawn, mass);
-    addSlips(exercise, drawn, mass);
+    addMolarMassSlips(exercise, drawn.formula);
     return exercise;
 }
 

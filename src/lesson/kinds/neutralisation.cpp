@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "lesson/compound.hpp"
+#include "lesson/kinds/classified.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/salts.hpp"
 #include "lesson/marking/equation.hpp"
@@ -22,38 +23,45 @@ namespace
 
 // ---- The pool
 
-// Acids, the anions of their bases, and the cations of these; blanks between the names.
+// Acids, the anions of their bases, and the cations of these; blanks between the names. Ammonia is
+// the base of a cation alone. What every class does, the acid on limestone, is commoner than its
+// ions tell.
 //
 // Left out is what does not neutralise plainly: silver and lead, whose chlorides, bromides and
 // sulfates coat the solid, as calcium and barium sulfate do; chromium(III) oxide, which acids leave
-// alone; iron(II), which nitric acid oxidises; and what can hardly be had in a bottle.
+// alone; iron(II) with nitric acid, which oxidises it; and what can hardly be had in a bottle.
 struct PoolRow {
     std::string_view acids;
     std::string_view anions;
     std::string_view cations;
+    int times = 1; // commoner
 };
 
 // clang-format off
 constexpr PoolRow poolRows[] = {
     {"HCl HBr", "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium chromium(III) iron(III)"},
     {"HCl HBr", "oxide",     "lithium sodium potassium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium iron(III)"},
-    {"HCl HBr", "carbonate", "lithium sodium potassium ammonium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc"},
+    {"HCl HBr", "carbonate", "lithium sodium potassium ammonium magnesium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc"},
     {"HNO3",    "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II) aluminium chromium(III) iron(III)"},
     {"HNO3",    "oxide",     "lithium sodium potassium silver magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II) aluminium iron(III)"},
-    {"HNO3",    "carbonate", "lithium sodium potassium ammonium silver magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II)"},
-    {"H2SO4",   "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc aluminium chromium(III) iron(III)"},
-    {"H2SO4",   "oxide",     "lithium sodium potassium magnesium manganese(II) cobalt(II) nickel(II) copper(II) zinc aluminium iron(III)"},
-    {"H2SO4",   "carbonate", "lithium sodium potassium ammonium magnesium manganese(II) cobalt(II) nickel(II) copper(II) zinc"},
+    {"HNO3",    "carbonate", "lithium sodium potassium ammonium silver magnesium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II)"},
+    {"H2SO4",   "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium chromium(III) iron(III)"},
+    {"H2SO4",   "oxide",     "lithium sodium potassium magnesium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium iron(III)"},
+    {"H2SO4",   "carbonate", "lithium sodium potassium ammonium magnesium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc"},
     {"H3PO4",   "hydroxide", "sodium potassium magnesium calcium aluminium"},
     {"H3PO4",   "oxide",     "magnesium calcium"},
     {"CH3COOH", "hydroxide oxide carbonate", "lithium sodium potassium magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II)"},
     {"HCl HNO3 H2SO4", "hydrogencarbonate", "sodium potassium"},
+    {"HCl HNO3", "carbonate", "calcium", 3},
+    {"HBr", "carbonate", "calcium"},
+    {"HCl HBr HNO3 H2SO4", "ammonia", "ammonium"},
 };
 // clang-format on
 
 struct Reaction {
     const AcidRow* acid;
     Base base;
+    int times; // commoner than acid and ions tell
 };
 
 std::vector<std::string_view> wordsOf(std::string_view text)
@@ -73,7 +81,8 @@ std::vector<Reaction> everyReaction()
         for (const std::string_view acid : wordsOf(row.acids)) {
             for (const std::string_view anion : wordsOf(row.anions)) {
                 for (const std::string_view cation : wordsOf(row.cations)) {
-                    all.push_back({findAcid(acid), {findIon(cation), findIon(anion)}});
+                    const IonRow* const ofBase = anion == "ammonia" ? nullptr : findIon(anion);
+                    all.push_back({findAcid(acid), {findIon(cation), ofBase}, row.times});
                 }
             }
         }
@@ -96,37 +105,40 @@ int levelOf(const Reaction& reaction)
     if (std::max(acid, base) > 2) {
         return 3;
     }
-    return reaction.base.anion->name == "hydroxide" ? 1 : 2;
+    const IonRow* const anion = reaction.base.anion;
+    return anion != nullptr && anion->name == "hydroxide" ? 1 : 2;
 }
 
-// The members of a level's pool, ratio by ratio, each of which is a class to draw.
-struct LevelPool {
-    std::vector<Reaction> reactions;
-    Pool classes;
-};
-
-LevelPool poolOfLevel(int level)
+int weightOf(const Reaction& reaction)
 {
-    LevelPool pool;
+    constexpr int ofAmmonia = 6; // as of a common anion
+    const auto& [cation, anion] = reaction.base;
+    return reaction.times * reaction.acid->weight * cation->weight *
+           (anion == nullptr ? ofAmmonia : anion->weight);
+}
+
+// The ratio is drawn before the acid and the base; one that only rare bases have comes rarely.
+ClassKey classOf(const Reaction& reaction)
+{
+    const auto [acid, base] = ratioOf(reaction);
+    return {acid * 10 + base, "", weightOf(reaction)};
+}
+
+Classified<Reaction> poolOfLevel(int level)
+{
+    constexpr int enough = 600; // three or four common reactions
+    std::vector<Reaction> reactions;
     for (const Reaction& reaction : everyReaction()) {
         if (levelOf(reaction) == level) {
-            pool.reactions.push_back(reaction);
+            reactions.push_back(reaction);
         }
     }
-    std::stable_sort(pool.reactions.begin(), pool.reactions.end(),
-                     [](const Reaction& a, const Reaction& b) { return ratioOf(a) < ratioOf(b); });
-    for (std::size_t i = 0; i < pool.reactions.size(); ++i) {
-        if (i == 0 || ratioOf(pool.reactions[i - 1]) != ratioOf(pool.reactions[i])) {
-            pool.classes.push_back({static_cast<int>(pool.classes.size()), 0});
-        }
-        ++pool.classes.back().size;
-    }
-    return pool;
+    return classified(std::move(reactions), classOf, enough);
 }
 
-const LevelPool& poolFor(int level)
+const Classified<Reaction>& poolFor(int level)
 {
-    static const LevelPool pools[] = {poolOfLevel(1), poolOfLevel(2), poolOfLevel(3)};
+    static const Classified<Reaction> pools[] = {poolOfLevel(1), poolOfLevel(2), poolOfLevel(3)};
     return pools[level - 1];
 }
 
@@ -178,7 +190,7 @@ Equation withSinglesBehindTheSalt(Equation equation)
 
 bool isCarbonate(const Base& base)
 {
-    return base.anion->formula == "CO3" || base.anion->formula == "HCO3";
+    return base.anion != nullptr && (base.anion->formula == "CO3" || base.anion->formula == "HCO3");
 }
 
 Step ionsOfTheSalt(const AcidRow& acid, const Base& base)
@@ -187,12 +199,17 @@ Step ionsOfTheSalt(const AcidRow& acid, const Base& base)
         line("The salt has these ions, as many of each as make the charges cancel."),
         line(spanOf(*base.cation), ", ", spanOf(anionOf(acid)), ": ",
              formula(saltFormula(acid, base))),
-        line("The salt is made of the positive ion of the base and of what the acid leaves. What "
-             "are their charges?")};
+        base.anion == nullptr
+            ? line("Ammonia takes up a hydrogen ion of the acid. Which ion does it become?")
+            : line("The salt is made of the positive ion of the base and of what the acid leaves. "
+                   "What are their charges?")};
 }
 
 Spans productsHint(const Base& base)
 {
+    if (base.anion == nullptr) {
+        return line("All the hydrogen of the acid goes to the ammonia. What is left over?");
+    }
     const IonRow& anion = *base.anion;
     if (isCarbonate(base)) {
         return line("Each ", nameOf(anion), " gives carbon dioxide as well as water.");
@@ -214,6 +231,10 @@ Spans waterHint(const Base& base)
 
 Step writeFormulas(const Equation& equation, const Base& base)
 {
+    if (base.anion == nullptr) {
+        return {line("Write the formulas: an acid and ammonia give a salt alone."),
+                spansOf(skeletonOf(equation)), productsHint(base)};
+    }
     return {line("Write the formulas: an acid and ", base.anion->formula == "O" ? "an " : "a ",
                  nameOf(*base.anion),
                  isCarbonate(base) ? " give a salt, water and carbon dioxide."
@@ -282,7 +303,7 @@ std::vector<Step> solutionFor(const Equation& equation, const AcidRow& acid, con
                          line("How many of each ion are in one unit of the salt? The left side has "
                               "to bring as many.")});
     }
-    if (equation.right[1].first > 1) {
+    if (equation.right.size() > 1 && equation.right[1].first > 1) {
         steps.push_back(balanceWater(equation, base, first.empty()));
     }
     steps.push_back({line("Count the atoms to check."), line(countsOf(equation), " on each side"),
@@ -374,10 +395,12 @@ Slips slipsFor(const Equation& equation, const EquationAnswer& answer)
 {
     Slips slips;
     addUnbalanced(slips, equation, answer);
-    addForgotten(slips, equation);
+    if (equation.right.size() > 1) {
+        addForgotten(slips, equation);
+        addWrongProduct(slips, equation, isCarbonate(answer.base));
+    }
     addWrongSalt(slips, equation, *answer.base.cation, anionOf(*answer.acid));
     add(slips, doubled(equation), sentences::smallestNumbers);
-    addWrongProduct(slips, equation, isCarbonate(answer.base));
     addAcidSalt(slips, *answer.acid, answer.base);
     return slips;
 }
@@ -386,9 +409,9 @@ Slips slipsFor(const Equation& equation, const EquationAnswer& answer)
 
 Exercise neutralisationExercise(const Place& place)
 {
-    const LevelPool& pool = poolFor(place.level);
-    const auto member = static_cast<std::size_t>(memberFor(place, pool.classes));
-    const auto [acid, base] = pool.reactions[member];
+    const Reaction& reaction = memberFor(place, poolFor(place.level));
+    const AcidRow* const acid = reaction.acid;
+    const Base& base = reaction.base;
 
     Exercise exercise = {};
     exercise.place = place;

@@ -67,11 +67,12 @@ Step ruleStep(const Pair& pair)
 // ------------------------------------------------------------- levels 1 and 2: does it dissolve
 
 // Level 1 has the pairs that follow their rule. Whether the answer is yes is drawn first, at level
-// 2 together with whether the pair is an exception; then the rule, then the pair.
+// 2 together with whether the pair is an exception; then the rule, then the pair, by how common it
+// is.
 ClassKey classOf(const Pair& pair)
 {
     const int group = (isSoluble(pair) ? 0 : 1) + (isException(pair) ? 2 : 0);
-    return {group, familyOf(pair)};
+    return {group, familyOf(pair), weightOf(pair)};
 }
 
 Classified<Pair> pairsOf(bool withExceptions)
@@ -82,7 +83,7 @@ Classified<Pair> pairsOf(bool withExceptions)
             pairs.push_back(pair);
         }
     }
-    return classified(std::move(pairs), classOf);
+    return classified(std::move(pairs), classOf, allTheSame);
 }
 
 const Classified<Pair>& pairsOfLevel(int level)
@@ -140,13 +141,14 @@ bool isAlwaysSoluble(const IonRow& cation)
 // salts only, so that such salts do not tell the answer.
 ClassKey classOf(const Mixture& mixture)
 {
+    const int weight = std::min(weightOf(mixture.salts[0]), weightOf(mixture.salts[1]));
     if (hasPrecipitate(mixture)) {
-        return {0, familyOf(mixture.exchanged[0])};
+        return {0, familyOf(mixture.exchanged[0]), weight};
     }
     const auto count =
         std::count_if(std::begin(mixture.salts), std::end(mixture.salts),
                       [](const Pair& salt) { return isAlwaysSoluble(*salt.cation); });
-    return {1, std::to_string(count)};
+    return {1, std::to_string(count), weight};
 }
 
 std::vector<Pair> solublePairs()
@@ -183,7 +185,8 @@ Classified<Mixture> makeMixtures()
             addMixture(mixtures, salts[i], salts[j]);
         }
     }
-    return classified(std::move(mixtures), [](const Mixture& mixture) { return classOf(mixture); });
+    return classified(
+        std::move(mixtures), [](const Mixture& mixture) { return classOf(mixture); }, allTheSame);
 }
 
 const Classified<Mixture>& allMixtures()

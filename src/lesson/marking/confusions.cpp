@@ -12,6 +12,8 @@ namespace
 constexpr std::string_view phosphates = "Phosphate and hydrogenphosphate are two different ions.";
 constexpr std::string_view dihydrogenphosphates =
     "Phosphate and dihydrogenphosphate are two different ions.";
+constexpr std::string_view sulfites = "Sulfite and hydrogensulfite are two different ions.";
+constexpr std::string_view thio = "Thio- stands for a sulfur in the place of an oxygen.";
 
 // clang-format off
 constexpr Confusion confusions[] = {
@@ -22,6 +24,11 @@ constexpr Confusion confusions[] = {
     {"sulfate",           "HSO4",  -1, sentences::sulfates},
     {"sulfite",           "S",     -2, sentences::ending},
     {"sulfite",           "SO4",   -2, sentences::moreOxygen},
+    {"sulfite",           "HSO3",  -1, sulfites},
+    {"hydrogensulfite",   "SO3",   -2, sulfites},
+    {"hydrogensulfite",   "HSO4",  -1, sentences::moreOxygen},
+    {"thiosulfate",       "SO4",   -2, thio},
+    {"thiosulfate",       "SO3",   -2, thio},
     {"sulfide",           "SO4",   -2, sentences::ending},
     {"sulfide",           "SO3",   -2, sentences::ending},
     {"hydrogensulfate",   "SO4",   -2, sentences::sulfates},
@@ -36,11 +43,20 @@ constexpr Confusion confusions[] = {
     {"phosphate",         "PO3",   -3, sentences::moreOxygen},
     {"phosphate",         "HPO4",  -2, phosphates},
     {"phosphate",         "H2PO4", -1, dihydrogenphosphates},
+    {"hydrogenphosphate", "PO4",   -3, phosphates},
+    {"hydrogenphosphate", "H2PO4", -1, "How many hydrogens has a hydrogenphosphate?"},
+    {"dihydrogenphosphate", "PO4", -3, dihydrogenphosphates},
+    {"dihydrogenphosphate", "HPO4", -2, "What does di- tell you?"},
     {"phosphide",         "PO4",   -3, sentences::ending},
     {"phosphide",         "PO3",   -3, sentences::ending},
     {"carbonate",         "HCO3",  -1, sentences::carbonates},
     {"hydrogencarbonate", "CO3",   -2, sentences::carbonates},
     {"chloride",          "ClO3",  -1, sentences::ending},
+    {"chlorate",          "Cl",    -1, sentences::ending},
+    {"chlorate",          "ClO2",  -1, sentences::moreOxygen},
+    {"chromate",          "Cr2O7", -2, "Chromate and dichromate are two different ions."},
+    {"cyanide",           "CNO",   -1, sentences::ending},
+    {"cyanide",           "OCN",   -1, sentences::ending},
     {"bromide",           "BrO3",  -1, sentences::ending},
     {"iodide",            "IO3",   -1, sentences::ending},
     {"ammonium",          "NH3",    1, sentences::ammonia},

@@ -61,8 +61,10 @@ std::vector<std::string> spellingsOf(std::string_view formula)
     if (before.empty() && behind.empty()) {
         spellings.insert(spellings.end(), std::begin(ethanoates), std::end(ethanoates));
     } else if (before.empty()) {
-        addPaired(spellings, behind); // the acid
-        spellings.emplace_back("C2H4O2");
+        addPaired(spellings, behind);
+        if (behind == "H") { // the acid
+            spellings.emplace_back("C2H4O2");
+        }
     } else if (behind.empty()) {
         addPaired(spellings, before);
     } else {

@@ -26,7 +26,7 @@ constexpr KindRows rows = {
      {"The new concentration", "The volume to take or the original concentration",
       "The water to add"}},
     {Kind::neutralisation, "neutralisation", "Equations of neutralisation",
-     {"Acids and hydroxides", "Oxides, carbonates and hydrogencarbonates",
+     {"Acids and hydroxides", "Oxides, carbonates, hydrogencarbonates and ammonia",
       "Ratios with a 3 or a 6"}},
     {Kind::titration, "titration", "Acid-base titration",
      {"Ratio 1:1", "Other ratios", "Several titres, equation not given"}},

@@ -124,6 +124,11 @@ bool operator==(const Pair& a, const Pair& b)
     return a.cation == b.cation && a.anion == b.anion;
 }
 
+int weightOf(const Pair& pair)
+{
+    return pair.cation->weight * pair.anion->weight;
+}
+
 std::string_view whyFormulaIsNotAsked(const Pair& pair)
 {
     return reasonIn(noFormula, pair);

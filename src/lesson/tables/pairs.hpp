@@ -16,6 +16,9 @@ struct Pair {
 };
 bool operator==(const Pair& a, const Pair& b);
 
+// How common the compound is in comparison with others: the product of its ions' weights, 1 to 36.
+int weightOf(const Pair& pair);
+
 // The reason why the compound of the two is not asked for by name or formula, as a sentence: it
 // does not exist, or not under this formula. Empty where it is asked; so it is for 227 pairs.
 std::string_view whyFormulaIsNotAsked(const Pair& pair);

@@ -51,7 +51,7 @@ constexpr SoluteRow soluteRows[] = {
     {"CuCl2", "copper(II) chloride", "", 300, Weighed::asAnhydrous},
     {"FeCl3", "iron(III) chloride", "", 300, Weighed::never},
     {"K2CO3", "potassium carbonate", "", 300, Weighed::asItIs},
-    {"NaCH3COO", "sodium ethanoate", "sodium acetate", 300, Weighed::asAnhydrous},
+    {"CH3COONa", "sodium ethanoate", "sodium acetate", 300, Weighed::asAnhydrous},
     {"Mg(NO3)2", "magnesium nitrate", "", 300, Weighed::never},
     {"Ca(NO3)2", "calcium nitrate", "", 300, Weighed::asAnhydrous},
     {"Zn(NO3)2", "zinc nitrate", "", 300, Weighed::never},

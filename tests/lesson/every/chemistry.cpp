@@ -79,6 +79,9 @@ std::string share(const TypedIon& ion, int count)
 
 std::string formulaOf(const TypedIon& cation, const TypedIon& anion)
 {
+    if (anion.key == "CH3COO" && isListed("Li Na K NH4 Ag", cation.key)) {
+        return "CH3COO" + cation.formula;
+    }
     const int charge = std::lcm(cation.charge, -anion.charge);
     return share(cation, charge / cation.charge) + share(anion, charge / -anion.charge);
 }
@@ -178,13 +181,19 @@ void addReactions(TypedReactions& reactions, const std::string& acids, const std
     }
 }
 
+void addAmmonia(TypedReactions& reactions, const std::string& acid, const std::string& salt,
+                int ofAmmonia)
+{
+    reactions[{acid, "NH3"}] = {acid, "NH3", salt, false, false, 1, ofAmmonia};
+}
+
 TypedReactions makeNeutralisations()
 {
     const std::string bases = "O OH CO3";
     TypedReactions all;
     addReactions(all, "HCl HBr", "Li Na K NH4 Mg Ca Ba Mn Fe2 Co Ni Cu Zn Al Cr Fe3", bases);
     addReactions(all, "HNO3", "Li Na K NH4 Ag Mg Ca Ba Mn Co Ni Cu Zn Pb Al Cr Fe3", bases);
-    addReactions(all, "H2SO4", "Li Na K NH4 Mg Ca Ba Mn Co Ni Cu Zn Al Cr Fe3", bases);
+    addReactions(all, "H2SO4", "Li Na K NH4 Mg Ca Ba Mn Fe2 Co Ni Cu Zn Al Cr Fe3", bases);
     addReactions(all, "H3PO4", "Na K Mg Ca Al", "OH");
     addReactions(all, "H3PO4", "Mg Ca", "O");
     addReactions(all, "CH3COOH", "Li Na K Mg Ca Ba Mn Co Ni Cu Zn Pb", bases);
@@ -195,6 +204,10 @@ TypedReactions makeNeutralisations()
     for (const char* base : {"BaO", "BaCO3", "CaO", "CaCO3"}) {
         all.erase({"H2SO4", base});
     }
+    addAmmonia(all, "HCl", "NH4Cl", 1);
+    addAmmonia(all, "HBr", "NH4Br", 1);
+    addAmmonia(all, "HNO3", "NH4NO3", 1);
+    addAmmonia(all, "H2SO4", "(NH4)2SO4", 2);
     return all;
 }
 
@@ -204,8 +217,8 @@ TypedReactions makeTitrations()
     addReactions(all, "HCl HNO3 H2SO4", "Li Na K", "OH");
     addReactions(all, "HCl HNO3 H2SO4", "Na K", "CO3 HCO3");
     addReactions(all, "CH3COOH", "Li Na K", "OH");
-    all[{"HCl", "NH3"}] = {"HCl", "NH3", "NH4Cl", false, false, 1, 1};
-    all[{"H2SO4", "NH3"}] = {"H2SO4", "NH3", "(NH4)2SO4", false, false, 1, 2};
+    addAmmonia(all, "HCl", "NH4Cl", 1);
+    addAmmonia(all, "H2SO4", "(NH4)2SO4", 2);
     all[{"H2C2O4", "NaOH"}] = {"H2C2O4", "NaOH", "Na2C2O4", true, false, 1, 2};
     return all;
 }
@@ -287,6 +300,13 @@ const std::vector<TypedIon>& typedFurtherIons()
         {"HSO4", "hydrogensulfate", "HSO4", -1},
         {"MnO4", "manganate(VII)", "MnO4", -1},
         {"Cr2O7", "dichromate", "Cr2O7", -2},
+        {"CrO4", "chromate", "CrO4", -2},
+        {"ClO3", "chlorate", "ClO3", -1},
+        {"S2O3", "thiosulfate", "S2O3", -2},
+        {"HSO3", "hydrogensulfite", "HSO3", -1},
+        {"HPO4", "hydrogenphosphate", "HPO4", -2},
+        {"H2PO4", "dihydrogenphosphate", "H2PO4", -1},
+        {"CN", "cyanide", "CN", -1},
     };
     return ions;
 }
@@ -372,7 +392,7 @@ const std::map<std::string, Exact>& typedCeilings()
         "0.20 AgNO3 0.30 Ba(NO3)2 Cu(CH3COO)2 0.50 K2SO4 0.60 Na3PO4 0.80 Al2(SO4)3 "
         "1.0 NaHCO3 CuSO4 Na2SO4 Fe2(SO4)3 Pb(NO3)2 1.5 Na2CO3 FeSO4 BaCl2 Ca(CH3COO)2 "
         "2.0 KNO3 MgSO4 ZnSO4 KHCO3 NiSO4 MnSO4 CoCl2 3.0 KCl KBr NaBr KI NaNO3 NH4Cl (NH4)2SO4 "
-        "LiCl CaCl2 MgCl2 ZnCl2 CuCl2 FeCl3 K2CO3 NaCH3COO Mg(NO3)2 Ca(NO3)2 Zn(NO3)2 Cu(NO3)2 "
+        "LiCl CaCl2 MgCl2 ZnCl2 CuCl2 FeCl3 K2CO3 CH3COONa Mg(NO3)2 Ca(NO3)2 Zn(NO3)2 Cu(NO3)2 "
         "NH4NO3 4.0 NaCl NaOH KOH LiOH");
     return ceilings;
 }

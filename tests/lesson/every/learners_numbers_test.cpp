@@ -293,14 +293,14 @@ std::vector<Route> molarMassRoutes(const std::vector<const char*>& names)
     return massRoutes(names, [](const Asked&, const Value& molarMass) { return molarMass; });
 }
 
-TEST(LearnersTest, DISABLED_MolarMassWithoutBracket)
+TEST(LearnersTest, MolarMassWithoutBracket)
 {
     checkRoutes("molar-mass:1",
                 molarMassRoutes({"small numbers left out", "first small number left out",
                                  "last small number for everything", "atomic numbers added"}));
 }
 
-TEST(LearnersTest, DISABLED_MolarMassWithBracket)
+TEST(LearnersTest, MolarMassWithBracket)
 {
     checkRoutes(
         "molar-mass:2",
@@ -309,7 +309,7 @@ TEST(LearnersTest, DISABLED_MolarMassWithBracket)
                          "front element's number left out"}));
 }
 
-TEST(LearnersTest, DISABLED_MolarMassOfHydrate)
+TEST(LearnersTest, MolarMassOfHydrate)
 {
     checkRoutes("molar-mass:3",
                 molarMassRoutes({"atomic numbers added", "water left out", "water once",

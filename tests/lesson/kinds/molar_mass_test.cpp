@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -76,9 +77,10 @@ std::set<std::string> firstCompounds(unsigned count, int level)
     return compounds;
 }
 
-TEST(MolarMassTest, APaperGoesThroughAllCompoundsWithoutABracketAndAllWithOne)
+TEST(MolarMassTest, APaperGoesThroughMoleculesAndAllCompoundsOfTwoIons)
 {
-    std::set<std::string> without;
+    std::set<std::string> without = {"H2O",    "CO2",     "NH3",  "CH4",  "SO2",
+                                     "C2H5OH", "C6H12O6", "H2O2", "HNO3", "H2SO4"};
     std::set<std::string> with;
     for (const IonRow* const cation : cations()) {
         for (const IonRow* const anion : anions()) {
@@ -88,23 +90,69 @@ TEST(MolarMassTest, APaperGoesThroughAllCompoundsWithoutABracketAndAllWithOne)
             }
         }
     }
-    EXPECT_EQ(without.size() + with.size(), 227U);
+    EXPECT_EQ(without.size() + with.size(), 237U);
     EXPECT_EQ(firstCompounds(static_cast<unsigned>(without.size()), 1), without);
     EXPECT_EQ(firstCompounds(static_cast<unsigned>(with.size()), 2), with);
 }
 
 TEST(MolarMassTest, LevelThreeGoesThroughTheHydrates)
 {
-    const std::set<std::string> expected = {"CuSO4.5H2O", "CoCl2.6H2O", "MgSO4.7H2O",
-                                            "FeSO4.7H2O", "ZnSO4.7H2O", "Na2CO3.10H2O",
-                                            "BaCl2.2H2O"};
-    EXPECT_EQ(firstCompounds(7, 3), expected);
+    const std::set<std::string> expected = {
+        "CuSO4.5H2O",  "MgSO4.7H2O",    "Na2CO3.10H2O", "CaSO4.2H2O", "FeSO4.7H2O",
+        "ZnSO4.7H2O",  "CoCl2.6H2O",    "Na2SO4.10H2O", "BaCl2.2H2O", "CaCl2.2H2O",
+        "FeCl3.6H2O",  "MgCl2.6H2O",    "CuCl2.2H2O",   "NiSO4.6H2O", "Na2S2O3.5H2O",
+        "H2C2O4.2H2O", "Cu(NO3)2.3H2O", "Ca(NO3)2.4H2O"};
+    EXPECT_EQ(firstCompounds(18, 3), expected);
+}
+
+// The prefix of a hydrate's name counts its water.
+TEST(MolarMassTest, NamesOfHydratesTellTheirWater)
+{
+    const std::map<int, std::string> prefixes = {
+        {2, " dihydrate"},   {3, " trihydrate"},   {4, " tetrahydrate"}, {5, " pentahydrate"},
+        {6, " hexahydrate"}, {7, " heptahydrate"}, {10, " decahydrate"}};
+    for (unsigned number = 1; number <= 18; ++number) {
+        const auto& given = std::get<GivenCompound>(exerciseOf(number, 3).given.at(0));
+        const int water = std::atoi(given.formula.c_str() + given.formula.find('.') + 1);
+        const std::string& prefix = prefixes.at(water);
+        EXPECT_EQ(given.name.substr(given.name.find_last_of(' ')), prefix) << given.formula;
+    }
+}
+
+TEST(MolarMassTest, EachStepHasAHintOfItsOwn)
+{
+    for (const int level : {1, 2, 3}) {
+        for (unsigned number = 1; number <= 18; ++number) {
+            const Exercise exercise = exerciseOf(number, level);
+            for (const Step& step : exercise.solution) {
+                const std::string hint = textOf(step.hint);
+                EXPECT_FALSE(hint.empty()) << compoundOf(exercise);
+                EXPECT_EQ(hint.find(textOf(step.say)), std::string::npos) << hint;
+                EXPECT_EQ(hint.find_first_of("0123456789"), std::string::npos) << hint;
+            }
+        }
+    }
+}
+
+// The sum is shown with two decimals, and once where it has no more figures than are asked.
+TEST(MolarMassTest, NoSumHasAThirdDecimal)
+{
+    for (const int level : {1, 2, 3}) {
+        for (unsigned number = 1; number <= 160; ++number) {
+            const Exercise exercise = exerciseOf(number, level);
+            const std::string sum = textOf(exercise.solution.back().math);
+            for (std::size_t point = sum.find('.'); point != std::string::npos;
+                 point = sum.find('.', point + 1)) {
+                EXPECT_LE(sum.find_first_not_of("0123456789", point + 1), point + 3) << sum;
+            }
+        }
+    }
 }
 
 TEST(MolarMassTest, TheKeyIsTheSumOfTheMassesThatTheTableShows)
 {
     for (const int level : {1, 2, 3}) {
-        for (unsigned number = 1; number <= 170; ++number) {
+        for (unsigned number = 1; number <= 180; ++number) {
             const Exercise exercise = exerciseOf(number, level);
             const std::string& formula = compoundOf(exercise);
             EXPECT_NEAR(static_cast<double>(toFloat(answerOf(exercise).value)),
@@ -124,14 +172,16 @@ TEST(MolarMassTest, PagesWorkedByHand)
               "  Put in the masses. | 22.99 + 35.45\n"
               "  Add. | M = 58.44 g/mol\n"
               "= 58.44 g/mol\n"
-              "! 28.00 g/mol  Use the relative masses, not the atomic numbers.\n");
+              "! 28.00 g/mol  Use the relative masses, not the atomic numbers.\n"
+              "! 93.89 g/mol  In a compound each symbol is one atom.\n");
     EXPECT_EQ(pageOf(exerciseAbout("KI", 1)),
               "Calculate the molar mass of potassium iodide, KI, in g/mol.\n"
               "  Count the atoms. | K + I\n"
               "  Put in the masses. | 39.10 + 126.9\n"
               "  Add. | M = 166.0 g/mol\n"
               "= 166.0 g/mol\n"
-              "! 72.00 g/mol  Use the relative masses, not the atomic numbers.\n");
+              "! 72.00 g/mol  Use the relative masses, not the atomic numbers.\n"
+              "! 292.9 g/mol  In a compound each symbol is one atom.\n");
     EXPECT_EQ(pageOf(exerciseAbout("Al2(SO4)3", 2)),
               "Calculate the molar mass of aluminium sulfate, Al2(SO4)3, in g/mol.\n"
               "  Count the atoms; the number after the bracket counts everything inside. | "
@@ -141,7 +191,15 @@ TEST(MolarMassTest, PagesWorkedByHand)
               "= 342.1 g/mol\n"
               "! 150.0 g/mol  The number after the bracket counts everything inside.\n"
               "! 278.0 g/mol  The number after the bracket counts everything inside.\n"
-              "! 170.0 g/mol  Use the relative masses, not the atomic numbers.\n");
+              "! 214.1 g/mol  The number after the bracket counts everything inside.\n"
+              "! 450.1 g/mol  The number after the bracket counts everything inside.\n"
+              "! 171.2 g/mol  The small numbers count atoms: each of them has its mass.\n"
+              "! 75.04 g/mol  The small numbers count atoms: each of them has its mass.\n"
+              "! 315.2 g/mol  The small numbers count atoms: each of them has its mass.\n"
+              "! 198.1 g/mol  The small numbers count atoms: each of them has its mass.\n"
+              "! 170.0 g/mol  Use the relative masses, not the atomic numbers.\n"
+              "! 37.00 g/mol  Use the relative masses, not the atomic numbers.\n"
+              "! 534.1 g/mol  In a compound each symbol is one atom.\n");
     EXPECT_EQ(pageOf(exerciseAbout("Ca(CH3COO)2", 2)),
               "Calculate the molar mass of calcium ethanoate, Ca(CH3COO)2, in g/mol.\n"
               "  Count the atoms; the number after the bracket counts everything inside. | "
@@ -151,7 +209,15 @@ TEST(MolarMassTest, PagesWorkedByHand)
               "= 158.2 g/mol\n"
               "! 99.12 g/mol  The number after the bracket counts everything inside.\n"
               "! 115.1 g/mol  The number after the bracket counts everything inside.\n"
-              "! 82.00 g/mol  Use the relative masses, not the atomic numbers.\n");
+              "! 111.1 g/mol  The number after the bracket counts everything inside.\n"
+              "! 198.2 g/mol  The number after the bracket counts everything inside.\n"
+              "! 154.1 g/mol  The small numbers count atoms: each of them has its mass.\n"
+              "! 97.11 g/mol  The small numbers count atoms: each of them has its mass.\n"
+              "! 69.10 g/mol  The small numbers count atoms: each of them has its mass.\n"
+              "! 82.00 g/mol  Use the relative masses, not the atomic numbers.\n"
+              "! 35.00 g/mol  Use the relative masses, not the atomic numbers.\n"
+              "! 222.2 g/mol  In a compound each symbol is one atom.\n"
+              "! 157.2 g/mol  Count the hydrogen atoms again.\n");
     EXPECT_EQ(pageOf(exerciseAbout("CuSO4.5H2O", 3)),
               "Calculate the molar mass of copper(II) sulfate pentahydrate, CuSO4.5H2O, in "
               "g/mol.\n"
@@ -162,7 +228,53 @@ TEST(MolarMassTest, PagesWorkedByHand)
               "! 159.6 g/mol  The number before H2O counts whole water molecules.\n"
               "! 177.6 g/mol  The number before H2O counts whole water molecules.\n"
               "! 185.7 g/mol  The number before H2O counts whole water molecules.\n"
-              "! 127.0 g/mol  Use the relative masses, not the atomic numbers.\n");
+              "! 14380 g/mol  The dot adds the water: it does not multiply.\n"
+              "! 244.7 g/mol  The small numbers count atoms: each of them has its mass.\n"
+              "! 888.1 g/mol  The number before H2O counts whole water molecules.\n"
+              "! 201.7 g/mol  The small numbers count atoms: each of them has its mass.\n"
+              "! 112.6 g/mol  The small numbers count atoms: each of them has its mass.\n"
+              "! 536.5 g/mol  The small numbers count atoms: each of them has its mass.\n"
+              "! 127.0 g/mol  Use the relative masses, not the atomic numbers.\n"
+              "! 54.00 g/mol  Use the relative masses, not the atomic numbers.\n"
+              "! 393.7 g/mol  In a compound each symbol is one atom.\n"
+              "! 248.7 g/mol  Count the hydrogen atoms again.\n");
+}
+
+TEST(MolarMassTest, EachCommonMistakeIsToldByItsSentence)
+{
+    struct Row {
+        const char* formula;
+        int level;
+        const char* typed;
+        const char* sentence;
+    };
+    const char* const smallNumbers = "The small numbers count atoms: each of them has its mass.";
+    const char* const bracket = "The number after the bracket counts everything inside.";
+    const char* const water = "The number before H2O counts whole water molecules.";
+    const Row rows[] = {
+        {"Na2CO3", 1, "51.00", smallNumbers},
+        {"Na2CO3", 1, "83.00", smallNumbers},
+        {"AlF3", 1, "137.9", smallNumbers},
+        {"C2H5OH", 1, "30.03", smallNumbers},
+        {"C6H12O6", 1, "29.02", smallNumbers},
+        {"H2O2", 1, "17.01", smallNumbers},
+        {"C6H12O6", 1, "96", "Use the relative masses, not the atomic numbers."},
+        {"NaCl", 1, "93.89", "In a compound each symbol is one atom."},
+        {"Al2(SO4)3", 2, "150.0", bracket},
+        {"Al2(SO4)3", 2, "278.0", bracket},
+        {"Al2(SO4)3", 2, "214.1", bracket},
+        {"Al2(SO4)3", 2, "315.2", smallNumbers},
+        {"CuSO4.5H2O", 3, "159.6", water},
+        {"CuSO4.5H2O", 3, "177.6", water},
+        {"CuSO4.5H2O", 3, "185.7", water},
+        {"CuSO4.5H2O", 3, "14380", "The dot adds the water: it does not multiply."},
+        {"CuSO4.5H2O", 3, "248.7", "Count the hydrogen atoms again."},
+    };
+    for (const Row& row : rows) {
+        const Mark mark = markOf(exerciseAbout(row.formula, row.level), row.typed);
+        EXPECT_EQ(mark.verdict, Verdict::slip) << row.formula << " " << row.typed;
+        EXPECT_EQ(mark.sentence, row.sentence) << row.formula << " " << row.typed;
+    }
 }
 
 TEST(MolarMassTest, NamesThatDifferInAmericaSayHow)

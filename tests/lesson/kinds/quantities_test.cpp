@@ -53,7 +53,7 @@ TEST(QuantitiesTest, ASolutionIsNamedAfterItsSolute)
         {"HCl", "hydrochloric acid"},
         {"CH3COOH", "ethanoic acid"},
         {"NH3", "ammonia solution"},
-        {"NaCH3COO", "sodium ethanoate solution"},
+        {"CH3COONa", "sodium ethanoate solution"},
         {"H2C2O4", "ethanedioic acid solution"},
     };
     for (const auto& [formula, name] : names) {

@@ -32,6 +32,9 @@ TEST(LessonIonsTest, NamesFormulasAndChargesAreThoseOfADataBooklet)
         {"manganate(VII)", "MnO4-"},
         {"oxide", "O2-"}, {"sulfide", "S2-"}, {"sulfate", "SO42-"}, {"sulfite", "SO32-"},
         {"carbonate", "CO32-"}, {"dichromate", "Cr2O72-"},
+        {"chromate", "CrO42-"}, {"chlorate", "ClO3-"}, {"thiosulfate", "S2O32-"},
+        {"hydrogensulfite", "HSO3-"}, {"hydrogenphosphate", "HPO42-"},
+        {"dihydrogenphosphate", "H2PO4-"}, {"cyanide", "CN-"},
         {"nitride", "N3-"}, {"phosphide", "P3-"}, {"phosphate", "PO43-"},
     };
     // clang-format on
@@ -59,7 +62,7 @@ TEST(LessonIonsTest, GroupsAreWhatHasMoreThanOneAtom)
     }
 }
 
-TEST(LessonIonsTest, CompoundsHaveTheCationFirstAndBracketsAroundRepeatedGroups)
+TEST(LessonIonsTest, CompoundsAreWrittenAsBoardsPrintThem)
 {
     struct Row {
         const char* cation;
@@ -67,13 +70,15 @@ TEST(LessonIonsTest, CompoundsHaveTheCationFirstAndBracketsAroundRepeatedGroups)
         const char* formula;
     };
     const Row rows[] = {
-        {"sodium", "chloride", "NaCl"},          {"sodium", "ethanoate", "NaCH3COO"},
+        {"sodium", "chloride", "NaCl"},          {"sodium", "ethanoate", "CH3COONa"},
         {"calcium", "ethanoate", "Ca(CH3COO)2"}, {"aluminium", "sulfate", "Al2(SO4)3"},
         {"ammonium", "phosphate", "(NH4)3PO4"},  {"magnesium", "oxide", "MgO"},
         {"iron(III)", "oxide", "Fe2O3"},         {"iron(III)", "phosphate", "FePO4"},
         {"barium", "nitride", "Ba3N2"},          {"ammonium", "nitrate", "NH4NO3"},
         {"calcium", "phosphate", "Ca3(PO4)2"},   {"lithium", "nitride", "Li3N"},
-        {"aluminium", "hydroxide", "Al(OH)3"},
+        {"aluminium", "hydroxide", "Al(OH)3"},   {"lithium", "ethanoate", "CH3COOLi"},
+        {"potassium", "ethanoate", "CH3COOK"},   {"silver", "ethanoate", "CH3COOAg"},
+        {"ammonium", "ethanoate", "CH3COONH4"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(compoundFormula(*findIon(row.cation), *findIon(row.anion)), row.formula);

@@ -55,7 +55,7 @@ TEST(SolutionsTest, CeilingsAreThoseTypedOnceMore)
     EXPECT_EQ(ceilingsOf(solutes()),
               ceilingsIn("4.00 LiOH NaOH KOH NaCl "
                          "3.00 NH4Cl (NH4)2SO4 NH4NO3 Cu(NO3)2 Zn(NO3)2 Ca(NO3)2 Mg(NO3)2 NaNO3 "
-                         "NaCH3COO K2CO3 FeCl3 CuCl2 ZnCl2 MgCl2 CaCl2 LiCl KI KCl KBr NaBr "
+                         "CH3COONa K2CO3 FeCl3 CuCl2 ZnCl2 MgCl2 CaCl2 LiCl KI KCl KBr NaBr "
                          "2.00 CoCl2 MnSO4 NiSO4 KHCO3 ZnSO4 MgSO4 KNO3 "
                          "1.50 Ca(CH3COO)2 BaCl2 FeSO4 Na2CO3 "
                          "1.00 Pb(NO3)2 Fe2(SO4)3 Na2SO4 CuSO4 NaHCO3 "

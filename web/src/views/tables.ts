@@ -42,13 +42,16 @@ function periodicTable(elements: ElementInfo[], page: Page): HTMLElement {
             rows[7 + series]!.set(3 + seriesLength[series]!, row);
         }
     }
-    const heads = groups.map((group) => element("th", { scope: "col" }, spoken(`${texts.group} `), String(group)));
+    const heads = groups.map((group) => element("th", { scope: "col" }, spoken(`${texts.group} `), withOldNumber(group)));
     const body = rows.map((row, at) => element("tr", {}, ...periodHead(at + 1), ...groups.slice(at < 7 ? 0 : 2).map((group) => elementCell(row.get(group), page))));
     const head = element("thead", {}, element("tr", {}, element("td", { class: "none" }), ...heads));
     return scrollBox("scrolling", texts.elementsTitle, element("table", { class: "periodic" }, head, element("tbody", {}, ...body)));
 }
 
 const groups = Array.from({ length: 18 }, (_, at) => at + 1);
+
+// "17 (7)": the number in brackets is the one of tables that count the long groups alone.
+const withOldNumber = (group: number): string => (group > 12 ? `${group} (${group - 10})` : String(group));
 
 // The two rows below have room for their name, where others have the first two groups.
 function periodHead(row: number): HTMLElement[] {

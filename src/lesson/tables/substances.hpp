@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace lesson
+{
+
+// A substance whose molar mass is asked for, besides the compounds of two ions.
+struct SubstanceRow {
+    std::string_view formula;
+    std::string_view name;
+    std::string_view american; // "oxalic acid dihydrate"; empty where that is the same
+    int weight;                // how common it is in comparison with others of its list
+};
+
+// What is made of molecules. The weights compare with those of pairs of ions.
+const std::vector<SubstanceRow>& molecules();
+// Salts, and an acid, with water of crystallisation.
+const std::vector<SubstanceRow>& crystals();
+
+} // namespace lesson
