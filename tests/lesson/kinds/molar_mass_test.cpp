@@ -112,7 +112,7 @@ TEST(MolarMassTest, NamesOfHydratesTellTheirWater)
         {2, " dihydrate"},   {3, " trihydrate"},   {4, " tetrahydrate"}, {5, " pentahydrate"},
         {6, " hexahydrate"}, {7, " heptahydrate"}, {10, " decahydrate"}};
     for (unsigned number = 1; number <= 18; ++number) {
-        const auto& given = std::get<GivenCompound>(exerciseOf(number, 3).given.at(0));
+        const GivenCompound given = std::get<GivenCompound>(exerciseOf(number, 3).given.at(0));
         const int water = std::atoi(given.formula.c_str() + given.formula.find('.') + 1);
         const std::string& prefix = prefixes.at(water);
         EXPECT_EQ(given.name.substr(given.name.find_last_of(' ')), prefix) << given.formula;

@@ -123,7 +123,7 @@ INSTANTIATE_TEST_SUITE_P(
     All, SaltExercisesTest,
     testing::Values(PoolRow{Kind::compoundFormula, 1, 65}, PoolRow{Kind::compoundFormula, 2, 66},
                     PoolRow{Kind::compoundFormula, 3, 96}, PoolRow{Kind::ionFormula, 1, 27},
-                    PoolRow{Kind::ionFormula, 2, 8}, PoolRow{Kind::ionFormula, 3, 40},
+                    PoolRow{Kind::ionFormula, 2, 12}, PoolRow{Kind::ionFormula, 3, 47},
                     PoolRow{Kind::solubility, 1, 134}, PoolRow{Kind::solubility, 2, 153},
                     PoolRow{Kind::solubility, 3, 3271}));
 

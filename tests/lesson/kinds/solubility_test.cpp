@@ -204,12 +204,15 @@ TEST(SolubilityTest, EitherSaltMayBeNamedFirst)
 TEST(SolubilityTest, APageOfMixedSolutions)
 {
     const auto pageWith = [](const std::string& salts) {
-        for (const Exercise& exercise : saltExercises(12, Kind::solubility, 3, 3271)) {
-            if (textOf(exercise.prompt).find("Solutions of " + salts + " are") == 0) {
-                return pageOf(exercise);
+        // A paper meets them in one order or in the other.
+        for (const unsigned paper : {12U, 13U, 14U, 15U, 16U, 17U}) {
+            for (const Exercise& exercise : saltExercises(paper, Kind::solubility, 3, 3271)) {
+                if (textOf(exercise.prompt).find("Solutions of " + salts + " are") == 0) {
+                    return pageOf(exercise);
+                }
             }
         }
-        return std::string("on this paper they are met in the other order");
+        return std::string("they are always met in the other order");
     };
     EXPECT_EQ(pageWith("potassium iodide and lead(II) nitrate"),
               "Solutions of potassium iodide and lead(II) nitrate are mixed. "
