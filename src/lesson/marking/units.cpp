@@ -41,15 +41,15 @@ constexpr Word words[] = {
 
 constexpr UnitRow units[] = {
     {"mol/l",      {Measure::concentration,  0, "mol/L"}},
-    {"moll-1",     {Measure::concentration,  0, "mol L⁻¹"}},
+    {"moll-1",     {Measure::concentration,  0, "mol/L"}},
     {"mol/dm3",    {Measure::concentration,  0, "mol/dm³"}},
     {"moldm-3",    {Measure::concentration,  0, "mol dm⁻³"}},
     {"mmol/l",     {Measure::concentration, -3, "mmol/L"}},
-    {"mmoll-1",    {Measure::concentration, -3, "mmol L⁻¹"}},
+    {"mmoll-1",    {Measure::concentration, -3, "mmol/L"}},
     {"mmol/dm3",   {Measure::concentration, -3, "mmol/dm³"}},
     {"mmoldm-3",   {Measure::concentration, -3, "mmol dm⁻³"}},
     {"mmol/ml",    {Measure::concentration,  0, "mmol/mL"}},
-    {"mmolml-1",   {Measure::concentration,  0, "mmol mL⁻¹"}},
+    {"mmolml-1",   {Measure::concentration,  0, "mmol/mL"}},
     {"mmol/cm3",   {Measure::concentration,  0, "mmol/cm³"}},
     {"mmolcm-3",   {Measure::concentration,  0, "mmol cm⁻³"}},
     {"g/mol",      {Measure::molarMass,      0, "g/mol"}},

@@ -6,7 +6,8 @@
 namespace lesson
 {
 
-// What a unit measures, the power of ten that it is of mol/L, g/mol, g or L, and how it is printed.
+// What a unit measures, the power of ten that it is of mol/L, g/mol, g or L, and how it is printed,
+// in litres or in cubic decimetres as it was typed.
 enum class Measure {
     concentration,
     molarMass,

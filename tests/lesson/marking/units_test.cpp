@@ -24,7 +24,7 @@ TEST(UnitsTest, APrintedUnitIsTheOneThatWasTyped)
     };
     // clang-format off
     const Case cases[] = {
-        {"mol/L", "mol/L"}, {"moles per litre", "mol/L"}, {"mol L^-1", "mol L⁻¹"},
+        {"mol/L", "mol/L"}, {"moles per litre", "mol/L"}, {"mol L^-1", "mol/L"}, {"mmol L-1", "mmol/L"},
         {"mol/dm^3", "mol/dm³"}, {"mol.dm^{-3}", "mol dm⁻³"}, {"M", "M"}, {"mM", "mM"},
         {"mmol dm^-3", "mmol dm⁻³"}, {"mmol/l", "mmol/L"}, {"g mol-1", "g mol⁻¹"},
         {"cm^3", "cm³"}, {"cc", "cm³"}, {"ML", "mL"}, {"litres", "L"}, {"dm3", "dm³"},
