@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <optional>
 #include <utility>
 #include <variant>
@@ -40,27 +39,17 @@ bool isWithin(const TypedNumber& number, Ratio low, Ratio high)
     return compare(number, low) >= 0 && compare(number, high) <= 0;
 }
 
-// Whether a number might be a value to two figures or more. The first two digits tell of most
-// values at once that it is not.
-bool isNear(const TypedNumber& number, Ratio value)
+// So far from a value that it agrees with it to no number of figures from two on. Most mistakes
+// are, and this tells so without rounding anything; the bounds need not be in lowest terms.
+bool isFar(const TypedNumber& number, Ratio value)
 {
-    constexpr int farthest = 10; // of 10 to 99; rounding to two figures goes no farther
-    DigitStream stream(value);
-    const int place = stream.place();
-    if (number.digits.empty() || number.place < place - 1 || number.place > place + 1) {
-        return false;
-    }
-    int typed = (number.digits[0] - '0') * 10;
-    typed += number.digits.size() > 1 ? number.digits[1] - '0' : 0;
-    const int first = stream.next() * 10;
-    const int expected = first + stream.next();
-    return std::abs((number.place > place ? typed * 10 : typed) -
-                    (number.place < place ? expected * 10 : expected)) <= farthest;
+    return !isWithin(number, {4 * value.numerator, 5 * value.denominator},
+                     {6 * value.numerator, 5 * value.denominator});
 }
 
 bool agrees(const TypedNumber& number, const Target& target)
 {
-    if (!isNear(number, target.value)) {
+    if (isFar(number, target.value)) {
         return false;
     }
     const Decimal rounded = roundedTo(target.value, target.figures);
@@ -178,7 +167,7 @@ bool isRight(const TypedNumber& number, const NumberAnswer& answer, int figures)
 const Slip* slipOf(const TypedNumber& number, const std::vector<Slip>& slips, const Target& key)
 {
     const auto found = std::find_if(slips.begin(), slips.end(), [&](const Slip& slip) {
-        return slip.value && isNear(number, *slip.value) &&
+        return slip.value && !isFar(number, *slip.value) &&
                isFit(fitOf(number, {*slip.value, key.figures, key.isMolarMass}));
     });
     return found == slips.end() ? nullptr : &*found;
