@@ -62,10 +62,10 @@ bool isToldInLitres(const Dilution& drawn)
     return drawn.asked != AskedOfDilution::water && ratio(1) <= drawn.V2;
 }
 
-Spans hintToRearrange(const Span& asked)
+Spans hintToRearrange()
 {
-    return line("Three of the four are known. Bring ", asked,
-                " alone to one side, then put in the numbers.");
+    return line("Three of the four are known. Bring the fourth alone to one side, then put in the "
+                "numbers.");
 }
 
 std::vector<Step> stepsToNewConcentration(const Numbers& numbers, const Spans& key)
@@ -75,7 +75,7 @@ std::vector<Step> stepsToNewConcentration(const Numbers& numbers, const Spans& k
         {line(rearrange),
          line(after("c"), " = ", fraction({before("c"), before("V")}, {after("V")}), " = ",
               fraction(line(c1, " × ", V1), {V2}), " = ", key),
-         hintToRearrange(after("c"))},
+         hintToRearrange()},
         {line("Check: ", factor, " times the volume, so the concentration is divided by ", factor,
               "."),
          line(after("c"), " = ", fraction({c1}, {factor}), " = ", key),
@@ -90,7 +90,7 @@ std::vector<Step> stepsToOriginalConcentration(const Numbers& numbers, const Spa
         {line(rearrange),
          line(before("c"), " = ", fraction({after("c"), after("V")}, {before("V")}), " = ",
               fraction(line(c2, " × ", V2), {V1}), " = ", key),
-         hintToRearrange(before("c"))},
+         hintToRearrange()},
         {line("Check: ", factor, " times the volume, so the concentration was ", factor,
               " times as great."),
          line(before("c"), " = ", factor, " × ", c2, " = ", key),
@@ -105,7 +105,7 @@ std::vector<Step> stepsToOriginalVolume(const Numbers& numbers, const Spans& key
         {line(rearrange),
          line(before("V"), " = ", fraction({after("c"), after("V")}, {before("c")}), " = ",
               fraction(line(c2, " × ", V2), {c1}), " = ", key),
-         hintToRearrange(before("V"))},
+         hintToRearrange()},
         {line("Check: the concentration is divided by ", factor, ", so the volume grows ", factor,
               " times."),
          line(before("V"), " = ", fraction({V2}, {factor}), " = ", key),
