@@ -286,6 +286,9 @@ private:
         if (sentence.empty()) {
             return;
         }
+        if (answer.isMolarMass) { // where a forgotten hydrogen cannot be told from wrong masses
+            sentence = "Very close. Check the atoms and their masses.";
+        }
         const Ratio hundredth = answer.value * ratio(1, 100);
         Decimal tolerance = roundedTo(hundredth, 9);
         tolerance.digits += valueOf(tolerance) == hundredth ? 0 : 1;

@@ -232,10 +232,10 @@ def check_number(question, exercise, where):
     has_volumes = exercise["kind"] != "molar-mass"
     for power in (-3, -2, -1, 1, 2, 3):
         typed = Fraction(key) * Fraction(10)**power
-        sentence = "Right digits, wrong size."
-        if has_volumes and abs(power) == 3:
-            sentence += " Check each volume: mL or L?"
         fraction, told = marked_number(question, f"{float(typed):.12f}")
+        sentence = "Right digits, wrong size."
+        if has_volumes and abs(power) == 3 and not (unit == "g" and told == sentence):
+            sentence += " Check each volume: mL or L?"
         check(fraction == 0 and (told == sentence or told in slips.values()), where, float(typed),
               "gets", fraction, told)
     units = [(row.findtext("unit_name"), row.findtext("multiplier"))
