@@ -51,7 +51,11 @@ std::set<std::string> figuresIn(const std::string& text)
 // These, and every formula, ion and number of a line, those of fractions among them.
 std::set<std::string> tokensIn(const Json& spans)
 {
-    std::set<std::string> tokens = figuresIn(textOf(spans));
+    Json words = Json::array(); // without the symbols of quantities, such as V1
+    for (const Json& span : spans) {
+        words.push_back(span.contains("quantity") ? Json{{"text", " "}} : span);
+    }
+    std::set<std::string> tokens = figuresIn(textOf(words));
     for (const Json& span : spans) {
         for (const char* const kind : {"formula", "ion", "number"}) {
             if (span.contains(kind)) {
@@ -127,7 +131,7 @@ void checkHints(Problems& problems, const Asked& asked)
     }
 }
 
-TEST(HintsTest, DISABLED_EachStepHasOneThatTellsNoResult)
+TEST(HintsTest, EachStepHasOneThatTellsNoResult)
 {
     Problems problems;
     for (const char* const slug : slugs) {
@@ -143,7 +147,7 @@ TEST(HintsTest, DISABLED_EachStepHasOneThatTellsNoResult)
 }
 
 // Words that fit every kind help with none.
-TEST(HintsTest, DISABLED_TheFirstOneIsAboutItsKind)
+TEST(HintsTest, TheFirstOneIsAboutItsKind)
 {
     std::map<std::string, std::string> slugOf; // by hint
     for (const char* const slug : slugs) {
