@@ -28,7 +28,9 @@ TEST(UnitsTest, APrintedUnitIsTheOneThatWasTyped)
         {"mol/dm^3", "mol/dm³"}, {"mol.dm^{-3}", "mol dm⁻³"}, {"M", "M"}, {"mM", "mM"},
         {"mmol dm^-3", "mmol dm⁻³"}, {"mmol/l", "mmol/L"}, {"g mol-1", "g mol⁻¹"},
         {"cm^3", "cm³"}, {"cc", "cm³"}, {"ML", "mL"}, {"litres", "L"}, {"dm3", "dm³"},
-        {"ltr", "L"}, {"KG", "kg"}, {"mg", "mg"}, {"grams", "g"},
+        {"ltr", "L"}, {"cubic centimetres", "cm³"},
+        {"cubic decimeter", "dm³"}, {"moles per cubic decimetre", "mol/dm³"},
+        {"KG", "kg"}, {"mg", "mg"}, {"grams", "g"},
     };
     // clang-format on
     for (const Case& c : cases) {
