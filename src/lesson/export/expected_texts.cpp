@@ -106,7 +106,8 @@ Texts withZeros(std::string_view key)
     return texts;
 }
 
-// What shows a mistake, besides the slips: capitals, and none where there is a precipitate.
+// What shows a mistake, besides the slips: a charge below, capitals, and none where there is a
+// precipitate.
 Texts wrongTexts(const Exercise& exercise)
 {
     Texts texts;
@@ -114,6 +115,7 @@ Texts wrongTexts(const Exercise& exercise)
         const bool hasSeveralCharges = slip.text.find('^') != slip.text.rfind('^');
         addAll(texts, hasSeveralCharges ? Texts{slip.text} : usualSpellings(slip.text));
     }
+    addAll(texts, withLoweredCharge(exercise.key));
     if (!isNone(exercise)) {
         texts.push_back(lowerCase(exercise.key));
         addAll(texts, usualSpellings(inCapitals(exercise.key)));

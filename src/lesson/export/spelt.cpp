@@ -152,4 +152,20 @@ Texts rareSpellings(std::string_view text)
     return texts;
 }
 
+std::vector<std::string> withLoweredCharge(std::string_view ion)
+{
+    const std::size_t place = ion.find('^');
+    if (place == std::string_view::npos) {
+        return {};
+    }
+    const Charge charge = chargeIn(ion.substr(place + 1));
+    if (charge.size.empty()) {
+        return {};
+    }
+    const std::string_view plain = ion.substr(0, place);
+    const std::string below = withUnderscores(plain, false) + "_" + charge.size;
+    return {withLowDigits(plain) + withLowDigits(charge.size) + raised({"", charge.sign}),
+            below + "^" + charge.sign, below + charge.sign};
+}
+
 } // namespace lesson

@@ -15,4 +15,8 @@ std::vector<std::string> usualSpellings(std::string_view text);
 //   "Fe^3+" -> "Fe+3", "Fe+++", "Fe(3+)", …
 std::vector<std::string> rareSpellings(std::string_view text);
 
+// An ion whose charge stands below, where it is another ion or none; nothing where its size is 1.
+//   "SO4^2-" -> "SO₄₂⁻", "SO_4_2^-", "SO_4_2-"
+std::vector<std::string> withLoweredCharge(std::string_view ion);
+
 } // namespace lesson

@@ -139,6 +139,22 @@ TEST(ExpectedTextsTest, ZerosForTheLetterOAndCapitalsAreTold)
                {{"CH3C00^-", zero}, {"CH3C0O-", zero}, {"CH3CO0-", zero}});
 }
 
+TEST(ExpectedTextsTest, AChargeThatStandsBelowIsTold)
+{
+    const std::vector<Expected> sulfate = expectedTexts(askingForIon("SO4", -2, "SO4^2-"));
+    for (const char* text : {"SO₄₂⁻", "SO_4_2^-", "SO_4_2-"}) {
+        const Expected* const found = find(sulfate, text);
+        ASSERT_NE(found, nullptr) << text;
+        EXPECT_EQ(found->percent, 0) << text;
+        EXPECT_EQ(found->sentence, "The charge stands above, not below.") << text;
+    }
+    const std::vector<Expected> nitride = expectedTexts(askingForIon("N", -3, "N^3-"));
+    for (const char* text : {"N₃⁻", "N_3^-", "N_3-"}) {
+        EXPECT_EQ(percentOf(nitride, text), 0) << text;
+        EXPECT_NE(find(nitride, text), nullptr) << text;
+    }
+}
+
 // All that is ever asked in words or formulas: the key first, every slip told as the exercise tells
 // it, nothing twice, nothing that Moodle would take for more than itself.
 TEST(ExpectedTextsTest, EveryExercise)
