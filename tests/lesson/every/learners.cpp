@@ -146,7 +146,8 @@ void checkRoutes(const std::string& kind, const std::vector<Route>& routes)
     constexpr unsigned least = 300;
     constexpr unsigned most = 3000;
     constexpr int enough = 10; // a route that few exercises have tells nothing about shares
-    const std::vector<Asked> exercises = firstExercises(kind, std::clamp(papersToCheck(), least, most));
+    const std::vector<Asked> exercises =
+        firstExercises(kind, std::clamp(papersToCheck(), least, most));
     int all = 0;
     int told = 0;
     for (const Route& route : routes) {
