@@ -55,8 +55,8 @@ Spans verdictOn(const Pair& pair)
 // What to ask of a pair before the rule is told.
 Spans ruleHint(const Pair& pair)
 {
-    return line("What is the rule for ", pluralOf(*pair.anion), "? Is ", plainNameOf(*pair.cation),
-                " one of its exceptions?");
+    return line("What is the rule for ", pluralOf(*pair.anion), "? Does it name ",
+                plainNameOf(*pair.cation), "?");
 }
 
 Step ruleStep(const Pair& pair)

@@ -39,7 +39,7 @@ Ratio acidForOneBase(const TitrationRow& pair)
 // What is drawn once, so that no draw that is drawn again makes it rarer: every ratio of a level as
 // often as the others, whatever the number of its pairs, and how many titres count.
 struct Class {
-    std::vector<const TitrationRow*> pairs;
+    std::vector<const TitrationRow*> pairs; // each as often as it comes
     int titres; // 0 where there is a single one and no rough one
 };
 
@@ -53,7 +53,7 @@ std::vector<const TitrationRow*> drawRatio(Draws& draws, int level)
     std::vector<const TitrationRow*> pairs;
     for (const TitrationRow& pair : titrations()) {
         if (acidForOneBase(pair) == drawn) {
-            pairs.push_back(&pair);
+            pairs.insert(pairs.end(), static_cast<std::size_t>(pair.times), &pair);
         }
     }
     return pairs;

@@ -63,6 +63,7 @@ struct TitrationRow {
     int protonsTaken; // by one base
     Indicator indicator;
     InBurette inBurette;
+    int times = 3; // how often it comes, beside the others of its ratio
 };
 const std::vector<TitrationRow>& titrations();
 

@@ -606,14 +606,15 @@ std::vector<TypedReaction> reactionsOf(const std::string& ratio)
     return reactions;
 }
 
-// How often the acid of a titration is in the burette, or the base.
+// How often a pair comes with the acid in the burette, or with the base; lithium hydroxide is rare.
 double shareOf(const TypedReaction& reaction, bool isAcidInBurette)
 {
+    const double times = reaction.base == "LiOH" ? 1 : 3;
     const Place burette = conditionsOf(reaction).burette;
     if (burette == Place::either) {
-        return 0.5;
+        return times / 2;
     }
-    return (burette == Place::acid) == isAcidInBurette ? 1 : 0;
+    return (burette == Place::acid) == isAcidInBurette ? times : 0;
 }
 
 void allowRatio(Spread& spread, const std::string& ratio, double share, const Chances& chances)

@@ -52,6 +52,17 @@ Question questionOf(const Exercise& exercise)
             equation.right[0].second};
 }
 
+bool isAmmonia(const Question& q)
+{
+    return q.answer.base.anion == nullptr;
+}
+
+// With ammonia the salt is the only product.
+bool givesWater(const Question& q)
+{
+    return q.equation.right.size() > 1;
+}
+
 bool givesCarbonDioxide(const Question& q)
 {
     return q.equation.right.back().second == "CO2";
@@ -94,6 +105,9 @@ Typed saltOneToOne(const Question& q)
 
 Typed baseOneToOne(const Question& q)
 {
+    if (isAmmonia(q)) {
+        return {};
+    }
     const IonRow& anion = *q.answer.base.anion;
     const std::string wrong = oneToOne(q.cation, anion);
     const bool isOpen = q.cation.charge + anion.charge != 0;
@@ -135,6 +149,9 @@ Typed carbonDioxideForgotten(const Question& q)
 
 Typed waterForgotten(const Question& q)
 {
+    if (!givesWater(q)) {
+        return {};
+    }
     Equation wrong = q.equation;
     wrong.right.erase(wrong.right.begin() + 1);
     return {textOf(wrong), "One more product.", ""};
@@ -142,6 +159,9 @@ Typed waterForgotten(const Question& q)
 
 Typed hydrogenForWater(const Question& q)
 {
+    if (!givesWater(q)) {
+        return {};
+    }
     Equation wrong = q.equation;
     wrong.right[1].second = "H2";
     return {textOf(wrong), "Acid and metal give hydrogen", "not acid and base."};
@@ -163,10 +183,13 @@ Typed oxygenBesides(const Question& q)
 
 Typed carbonicAcid(const Question& q)
 {
+    if (!givesCarbonDioxide(q)) {
+        return {};
+    }
     Equation wrong = q.equation;
     wrong.right.pop_back();
     wrong.right[1].second = "H2CO3";
-    return {givesCarbonDioxide(q) ? textOf(wrong) : "", "It falls apart into water and carbon", ""};
+    return {textOf(wrong), "It falls apart into water and carbon", ""};
 }
 
 Typed notBalanced(const Question& q)
@@ -201,6 +224,9 @@ Typed halved(const Question& q)
 // Another base of the same metal.
 Typed otherBase(const Question& q, const char* anionName)
 {
+    if (isAmmonia(q)) {
+        return {};
+    }
     const IonRow& anion = *findIon(anionName);
     const IonRow& right = *q.answer.base.anion;
     if (&anion == &right || !whyFormulaIsNotAsked({&q.cation, &anion}).empty()) {
@@ -276,7 +302,7 @@ Typed acidSalt(const Question& q, bool isBalanced)
     if (isBalanced) {
         return {textOf(wrong), "True with less base. Neutralise completely.", ""};
     }
-    wrong.right[1].first += 1;
+    (wrong.right.size() > 1 ? wrong.right[1] : wrong.left[1]).first += 1;
     return {textOf(wrong), wrong.right[0].second + " is an acid salt.", "Neutralise completely."};
 }
 
@@ -312,8 +338,8 @@ std::string namesOf(const Question& q, bool isAmerican)
     const AcidRow& acid = *q.answer.acid;
     const Base& base = q.answer.base;
     return chosen(acid.name, acid.american) + " + " + chosen(nameOf(base), americanNameOf(base)) +
-           " -> " + chosen(saltName(acid, base), americanSaltName(acid, base)) + " + water" +
-           (givesCarbonDioxide(q) ? " + carbon dioxide" : "");
+           " -> " + chosen(saltName(acid, base), americanSaltName(acid, base)) +
+           (givesWater(q) ? " + water" : "") + (givesCarbonDioxide(q) ? " + carbon dioxide" : "");
 }
 
 Typed britishNames(const Question& q)
@@ -337,7 +363,8 @@ Typed zeroForOxygen(const Question& q)
 {
     std::string text = q.exercise.key;
     std::replace(text.begin(), text.end(), 'O', '0');
-    return {text, "There is a zero where the letter O should be.", ""};
+    return {text == q.exercise.key ? "" : text, "There is a zero where the letter O should be.",
+            ""};
 }
 
 Typed arrowForgotten(const Question& q)
@@ -349,6 +376,9 @@ Typed arrowForgotten(const Question& q)
 
 Typed waterDissolved(const Question& q)
 {
+    if (!givesWater(q)) {
+        return {};
+    }
     Equation wrong = q.equation;
     wrong.right[1].second += "(aq)";
     return {textOf(wrong), "Check the state of H2O.", ""};
