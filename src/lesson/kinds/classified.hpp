@@ -1,9 +1,7 @@
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <string>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -26,39 +24,33 @@ struct ClassKey {
     int weight = 1;
 };
 
-inline bool isSameClass(const ClassKey& a, const ClassKey& b)
-{
-    return a.group == b.group && a.name == b.name;
-}
-
-inline bool operator<(const ClassKey& a, const ClassKey& b)
-{
-    return std::tie(a.group, a.name, a.weight) < std::tie(b.group, b.name, b.weight);
-}
-
 // The `most` of a pool whose groups and classes come equally often until nothing is left of them.
 constexpr int allTheSame = 1;
+
+// The order that puts members with such keys class by class, and the pool of them in that order.
+struct Classes {
+    std::vector<std::size_t> order;
+    Pool pool;
+};
+Classes classesOf(const std::vector<ClassKey>& keys, int most);
 
 // Puts members of a class together, and in it those that are equally common; these stay in their
 // order. A group, or a class, counts for `most` at most, as Pool tells.
 template <typename Member, typename KeyOf>
-Classified<Member> classified(std::vector<Member> members, KeyOf keyOf, int most)
+Classified<Member> classified(const std::vector<Member>& members, KeyOf keyOf, int most)
 {
-    std::stable_sort(members.begin(), members.end(),
-                     [&keyOf](const Member& a, const Member& b) { return keyOf(a) < keyOf(b); });
-    Pool pool = {{}, most};
-    ClassKey last = {};
-    int classes = 0;
+    std::vector<ClassKey> keys;
+    keys.reserve(members.size());
     for (const Member& member : members) {
-        ClassKey key = keyOf(member);
-        if (pool.parts.empty() || last < key) {
-            classes += isSameClass(last, key) ? 0 : 1;
-            pool.parts.push_back({key.group, classes, key.weight, 0});
-            last = std::move(key);
-        }
-        ++pool.parts.back().size;
+        keys.push_back(keyOf(member));
     }
-    return {std::move(members), std::move(pool)};
+    Classes classes = classesOf(keys, most);
+    Classified<Member> all = {{}, std::move(classes.pool)};
+    all.members.reserve(members.size());
+    for (const std::size_t i : classes.order) {
+        all.members.push_back(members[i]);
+    }
+    return all;
 }
 
 template <typename Member>

@@ -53,7 +53,7 @@ Classified<Pair> pairsOf(int level)
         }
     }
     constexpr int enough = 200; // five or six common compounds
-    return classified(std::move(pairs), classOf, enough);
+    return classified(pairs, classOf, enough);
 }
 
 const Classified<Pair>& pairsOfLevel(int level)

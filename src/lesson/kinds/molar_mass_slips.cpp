@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "lesson/compound.hpp"
 #include "lesson/marking/number.hpp"
+#include "lesson/marking/reading.hpp"
 #include "lesson/tables/elements.hpp"
 
 // A learner who miscounts works out the mass of another formula, so most slips are that formula:
@@ -154,7 +156,8 @@ private:
         const std::string before = salt.substr(0, open);
         const std::string inside = salt.substr(open + 1, close - open - 1);
         const std::string behind = salt.substr(end) + water;
-        const int number = std::stoi(salt.substr(close + 1, end - close - 1));
+        const auto number = static_cast<int>(
+            wholeNumber(std::string_view(salt).substr(close + 1, end - close - 1)));
         const std::vector<std::string> terms = termsOf(inside);
         const std::size_t first = terms.front().size();
         const std::size_t last = inside.size() - terms.back().size();

@@ -133,7 +133,7 @@ Classified<Reaction> poolOfLevel(int level)
             reactions.push_back(reaction);
         }
     }
-    return classified(std::move(reactions), classOf, enough);
+    return classified(reactions, classOf, enough);
 }
 
 const Classified<Reaction>& poolFor(int level)

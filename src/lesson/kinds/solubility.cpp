@@ -83,7 +83,7 @@ Classified<Pair> pairsOf(bool withExceptions)
             pairs.push_back(pair);
         }
     }
-    return classified(std::move(pairs), classOf, allTheSame);
+    return classified(pairs, classOf, allTheSame);
 }
 
 const Classified<Pair>& pairsOfLevel(int level)

@@ -40,7 +40,7 @@ Ratio acidForOneBase(const TitrationRow& pair)
 // often as the others, whatever the number of its pairs, and how many titres count.
 struct Class {
     std::vector<const TitrationRow*> pairs; // each as often as it comes
-    int titres; // 0 where there is a single one and no rough one
+    int titres;                             // 0 where there is a single one and no rough one
 };
 
 std::vector<const TitrationRow*> drawRatio(Draws& draws, int level)

@@ -294,7 +294,7 @@ std::optional<std::int64_t> wholeOf(const TypedNumber& number)
     if (number.digits.empty() || number.digits.size() > most) {
         return std::nullopt;
     }
-    return std::stoll(number.digits);
+    return wholeNumber(number.digits);
 }
 
 // What the last of the digits counts, as a power of ten.

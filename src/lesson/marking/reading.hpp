@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 namespace lesson
@@ -23,6 +24,16 @@ constexpr char smallLetter(char character)
 constexpr bool isOneOf(char character, std::string_view characters)
 {
     return characters.find(character) != std::string_view::npos;
+}
+
+// The value of digits alone, at most 18 of them.
+constexpr std::int64_t wholeNumber(std::string_view digits)
+{
+    std::int64_t value = 0;
+    for (const char digit : digits) {
+        value = value * 10 + (digit - '0');
+    }
+    return value;
 }
 
 constexpr bool startsWith(std::string_view text, std::string_view beginning)

@@ -206,6 +206,44 @@ void allowMasses(Spread& spread, const Ceilings& substances, double share)
 }
 
 // All from c and V to m.
+// A half may go up or down.
+std::vector<Exact> roundingsOf(const Exact& value, int figures)
+{
+    const Exact rounded = value.toFigures(figures);
+    const Exact below = rounded - value.lastPlace(figures);
+    return rounded - value == value - below ? std::vector<Exact>{rounded, below}
+                                            : std::vector<Exact>{rounded};
+}
+
+// Whether a mass comes out right in each order, also with a molar mass that was rounded; else the
+// exercise is drawn again.
+bool bearsRounding(const Exact& c, const Exact& volume, const Exact& molarMass)
+{
+    std::vector<Exact> used = {molarMass};
+    std::vector<Exact> answers;
+    for (const int figures : {3, 4}) {
+        for (const Exact& rounded : roundingsOf(molarMass, figures)) {
+            used.push_back(rounded);
+        }
+    }
+    for (const Exact& mass : used) {
+        const Exact orders[][3] = {{c, volume, mass}, {c, mass, volume}, {volume, mass, c}};
+        for (const auto& [first, second, last] : orders) {
+            for (const int figures : {3, 4}) {
+                for (const Exact& product : roundingsOf(first * second, figures)) {
+                    answers.push_back(product * last);
+                }
+            }
+        }
+    }
+    return std::all_of(answers.begin(), answers.end(), [&](const Exact& answer) {
+        const std::vector<Exact> typed = roundingsOf(answer, 3);
+        return std::all_of(typed.begin(), typed.end(), [&](const Exact& one) {
+            return passesFor(one, c * volume * molarMass, 3, false);
+        });
+    });
+}
+
 void allowConcentrations(Spread& spread, const Ceilings& substances, double share)
 {
     const auto flasks = litresOf({"50", "100", "250", "500", "1000"});
@@ -214,8 +252,10 @@ void allowConcentrations(Spread& spread, const Ceilings& substances, double shar
     for (const auto& [formula, ceiling] : substances) {
         for (const Exact& c : concentrations) {
             for (const Exact& volume : flasks) {
-                const Exact mass = c * volume * toldMolarMass(formula);
-                if (isBetween({1, 10}, mass, 50) && c <= ceiling && isAffordable(formula, mass)) {
+                const Exact molarMass = toldMolarMass(formula);
+                const Exact mass = c * volume * molarMass;
+                if (isBetween({1, 10}, mass, 50) && c <= ceiling && isAffordable(formula, mass) &&
+                    bearsRounding(c, volume, molarMass)) {
                     spread.allow("substance", formula);
                     spread.allow("c", c.text());
                     spread.allow("V of a flask", volume.text());
@@ -265,6 +305,10 @@ Exact checkConcentration(Problems& problems, const Json& exercise, Spread& sprea
     return key;
 }
 
+// Concentrations from which some order of working leads too far away are drawn again, which is not
+// counted here: it makes a value up to so much rarer than others.
+constexpr double drawnAgain = 0.03;
+
 TEST(CalculationsTest, ConcentrationFromMass)
 {
     Problems problems;
@@ -275,7 +319,7 @@ TEST(CalculationsTest, ConcentrationFromMass)
         ends.meet(checkConcentration(problems, exercise, spread));
     });
     checkEnds(problems, ends, {2, 100}, {18, 10});
-    spread.check(problems);
+    spread.check(problems, drawnAgain);
     EXPECT_EQ(problems.text(), "");
 }
 
@@ -289,7 +333,7 @@ TEST(CalculationsTest, MassFromConcentration)
         ends.meet(checkConcentration(problems, exercise, spread));
     });
     checkEnds(problems, ends, {11, 100}, 50);
-    spread.check(problems);
+    spread.check(problems, drawnAgain);
     EXPECT_EQ(problems.text(), "");
 }
 
@@ -301,7 +345,7 @@ TEST(CalculationsTest, ConcentrationAndMassOfHydrates)
     allowConcentrations(spread, typedHydrateCeilings(), 0.5);
     forEachPaper("concentration:3", problems,
                  [&](const Json& exercise) { checkConcentration(problems, exercise, spread); });
-    spread.check(problems);
+    spread.check(problems, drawnAgain);
     EXPECT_EQ(problems.text(), "");
 }
 
@@ -794,7 +838,7 @@ void checkTitrations(int level, const std::vector<const char*>& ratios)
     // Titrations in which some order of working leads too far away are drawn again, which is not
     // counted above. At level 1 that is one in sixty, at the others one in four, and it hits
     // numbers with a 5 at the end more than others, such as a pipette of 25 mL.
-    spread.check(problems, level == 1 ? 0.03 : 0.1);
+    spread.check(problems, level == 1 ? 0.03 : 0.2);
     EXPECT_EQ(problems.text(), "");
 }
 
