@@ -183,7 +183,9 @@ private:
                 sentence = std::move(told);
             }
         }
-        for (const Range& range : joined(std::move(ranges), powerOfTen(run.rounded.exponent))) {
+        const std::vector<Range> apart =
+            joined(std::move(ranges), powerOfTen(run.rounded.exponent));
+        for (const Range& range : apart) {
             const Range all = answer.isMolarMass ? withMoreFigures(range) : range;
             addBetween(100, all.low, all.high, sentence);
             right.push_back(range);

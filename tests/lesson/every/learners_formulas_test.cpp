@@ -631,8 +631,8 @@ Text withOneOfEachIon(Equation equation)
     const std::size_t open = formula.find('(');
     if (open != std::string::npos) {
         const std::size_t close = formula.find(')');
-        formula = formula.substr(0, open) + formula.substr(open + 1, close - open - 1) +
-                  formula.substr(std::min(formula.size(), close + 2));
+        formula.erase(close, 2); // with the number behind it
+        formula.erase(open, 1);
     } else if (formula.size() > 2 &&
                std::isdigit(static_cast<unsigned char>(formula.back())) != 0 &&
                formula.find('O') == std::string::npos) {
