@@ -17,16 +17,18 @@ std::mt19937 seeded(const Seed& seed)
     return std::mt19937(sequence);
 }
 
-// The draws of a walk. An exercise takes several walks up, so their generator, which is fixed by
-// the standard too, is one that is seeded at once; the lower half of its numbers is too regular to
-// use.
+// The draws of a walk. An exercise takes several walks up, so their generator is one that is seeded
+// at once: Knuth's linear congruential one, of whose numbers the lower half is too regular to use.
+// It is written here, since libraries differ in how they seed theirs where the modulus is 2^64.
 class WalkDraws
 {
 public:
     explicit WalkDraws(const Seed& seed)
     {
         std::seed_seq sequence(seed.begin(), seed.end());
-        generator.seed(sequence);
+        std::array<std::uint32_t, 2> words = {};
+        sequence.generate(words.begin(), words.end());
+        state = std::uint64_t{words[0]} << 32U | words[1];
     }
 
     // Each of 0 to `bound` - 1 equally likely: the whole part of the product of the bound and a
@@ -36,7 +38,7 @@ public:
         constexpr std::uint64_t range = std::uint64_t{1} << 32U;
         const auto factor = static_cast<std::uint64_t>(bound);
         for (;;) {
-            const std::uint64_t product = (generator() >> 32U) * factor;
+            const std::uint64_t product = next() * factor;
             const std::uint64_t rest = product % range;
             if (rest >= factor || rest >= range % factor) {
                 return static_cast<int>(product / range);
@@ -45,8 +47,13 @@ public:
     }
 
 private:
-    std::linear_congruential_engine<std::uint64_t, 6364136223846793005U, 1442695040888963407U, 0>
-        generator;
+    std::uint64_t next()
+    {
+        state = state * 6364136223846793005U + 1442695040888963407U;
+        return state >> 32U;
+    }
+
+    std::uint64_t state;
 };
 
 // Members that may not stand at a step, and what is in a place of the list that nobody takes.
@@ -179,9 +186,9 @@ private:
         place.part->weight -= weight;
         --place.part->count;
         --left;
-        int& last = members[static_cast<std::size_t>(place.part->first + place.part->count)];
-        std::swap(*place.member, last);
-        return last;
+        int* const last = members.data() + place.part->first + place.part->count;
+        std::swap(*place.member, *last);
+        return *last;
     }
 
     int most;

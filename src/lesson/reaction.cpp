@@ -12,13 +12,13 @@ namespace
 
 // clang-format off
 constexpr AcidRow acidRows[] = {
-    {"HCl",     "hydrochloric acid", "",            1, "chloride", 5},
-    {"HBr",     "hydrobromic acid",  "",            1, "bromide", 1},
-    {"HNO3",    "nitric acid",       "",            1, "nitrate", 5},
-    {"H2SO4",   "sulfuric acid",     "",            2, "sulfate", 5},
-    {"H3PO4",   "phosphoric acid",   "",            3, "phosphate", 3},
-    {"CH3COOH", "ethanoic acid",     "acetic acid", 1, "ethanoate", 4},
-    {"H2C2O4",  "ethanedioic acid",  "oxalic acid", 2, "ethanedioate", 1},
+    {"HCl",     "hydrochloric acid", "",            1, 5, "chloride"},
+    {"HBr",     "hydrobromic acid",  "",            1, 1, "bromide"},
+    {"HNO3",    "nitric acid",       "",            1, 5, "nitrate"},
+    {"H2SO4",   "sulfuric acid",     "",            2, 5, "sulfate"},
+    {"H3PO4",   "phosphoric acid",   "",            3, 3, "phosphate"},
+    {"CH3COOH", "ethanoic acid",     "acetic acid", 1, 4, "ethanoate"},
+    {"H2C2O4",  "ethanedioic acid",  "oxalic acid", 2, 1, "ethanedioate"},
 };
 
 // Met as the anion of an acid only, so it is not among the ions of the tables.

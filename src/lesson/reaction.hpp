@@ -17,8 +17,8 @@ struct AcidRow {
     std::string_view name;     // "ethanoic acid"
     std::string_view american; // "acetic acid"; empty where that is the same
     int protons;               // of one molecule
-    std::string_view anion;    // name of what is left without them: "ethanoate"
     int weight;                // how common it is in comparison with others, as IonRow has it
+    std::string_view anion;    // name of what is left without them: "ethanoate"
 };
 
 // Hydrochloric, hydrobromic, nitric, sulfuric, phosphoric, ethanoic and ethanedioic acid.

@@ -267,7 +267,7 @@ private:
     std::string sentenceOfClose(Decimal begin, int direction) const
     {
         const Ratio greatestMiss = answer.value * ratio(1, 100);
-        Decimal probe = {begin.digits * 10 + direction * 5, begin.exponent - 1};
+        Decimal probe = {begin.digits * 10 + std::int64_t{5} * direction, begin.exponent - 1};
         do {
             probe.digits += direction;
             Mark marked = mark(probe);

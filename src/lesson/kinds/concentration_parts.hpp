@@ -16,13 +16,13 @@ namespace lesson
 // for the mass to weigh, level 3 for either of a hydrate; from level 2 on the molar mass is not
 // told.
 struct Preparation {
-    const SoluteRow* substance;
-    bool asksForMass;
-    bool isMolarMassTold;
-    Ratio molarMass; // g/mol, to two decimals
-    Ratio mass;      // g
-    Ratio volume;    // L
-    Ratio concentration;
+    const SoluteRow* substance = nullptr;
+    bool asksForMass = false;
+    bool isMolarMassTold = false;
+    Ratio molarMass = {}; // g/mol, to two decimals
+    Ratio mass = {};      // g
+    Ratio volume = {};    // L
+    Ratio concentration = {};
 };
 
 // The answer that another molar mass leads to.

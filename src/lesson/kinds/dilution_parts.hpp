@@ -17,12 +17,12 @@ enum class AskedOfDilution { c2, V1, c1, water };
 
 // In mol/L and L.
 struct Dilution {
-    const SoluteRow* solute;
-    AskedOfDilution asked;
-    Ratio c1;
-    Ratio V1;
-    Ratio c2;
-    Ratio V2;
+    const SoluteRow* solute = nullptr;
+    AskedOfDilution asked = AskedOfDilution::c2;
+    Ratio c1 = {};
+    Ratio V1 = {};
+    Ratio c2 = {};
+    Ratio V2 = {};
 };
 
 // How it is worked out, `key` as the last step shows it.

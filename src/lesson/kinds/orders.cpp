@@ -78,7 +78,9 @@ Decimal decimalOf(std::int64_t digits, int exponent, std::int64_t tooMany)
 Roundings roundingsOf(const Quotient& value, int figures)
 {
     const std::int64_t tooMany = figures == 3 ? 1000 : 10000;
-    auto [numerator, denominator, exponent] = value;
+    std::int64_t numerator = value.numerator;
+    std::int64_t denominator = value.denominator;
+    int exponent = value.exponent;
     while (numerator < denominator * (tooMany / 10)) {
         numerator *= 10;
         --exponent;
@@ -219,9 +221,9 @@ private:
 Ratio exactly(const Calculation& calculation)
 {
     const Ratio above = std::accumulate(calculation.above.begin(), calculation.above.end(),
-                                        ratio(1), std::multiplies<Ratio>());
+                                        ratio(1), std::multiplies<>());
     const Ratio quotient = std::accumulate(calculation.below.begin(), calculation.below.end(),
-                                           above, std::divides<Ratio>());
+                                           above, std::divides<>());
     return quotient * calculation.moles - calculation.less;
 }
 

@@ -186,7 +186,7 @@ Classified<Mixture> makeMixtures()
         }
     }
     return classified(
-        std::move(mixtures), [](const Mixture& mixture) { return classOf(mixture); }, allTheSame);
+        mixtures, [](const Mixture& mixture) { return classOf(mixture); }, allTheSame);
 }
 
 const Classified<Mixture>& allMixtures()

@@ -31,11 +31,11 @@ struct TypedEquation {
     std::string unread; // the first part that could not be read; empty where all could
 };
 
-// Reads an equation as people type it, in time proportional to the length. `plain` is what
+// Reads an equation as people type it, in time proportional to the length: what
 // `plainTyped` gives.
 //   "1/2 H_2SO_4(aq)+NaOH = 0.5Na2SO4 + H2O (l)"
 // More species than any equation has are not read: a limit to what hostile input costs.
-TypedEquation readEquation(std::string_view plain);
+TypedEquation readEquation(std::string_view typed);
 
 // Whether a coefficient, or a sum of some, is within the range of those that are read.
 bool isFitCoefficient(Ratio value);

@@ -49,8 +49,10 @@ bool isName(std::string_view text)
     }
     bool hasWord = false;
     while (!text.empty()) {
-        const auto end = std::find_if_not(text.begin(), text.end(), isLetter);
-        const auto length = static_cast<std::size_t>(end - text.begin());
+        std::size_t length = 0;
+        while (length < text.size() && isLetter(text[length])) {
+            ++length;
+        }
         const std::string_view letters = text.substr(0, length);
         const std::string word = lowerCase(letters);
         if (isAmong(noSubstances, word)) {

@@ -53,7 +53,7 @@ test("a mark that is shown again after a reload is not announced", async () => {
 });
 
 const described = {
-    "titration:3": ["Your answer: c of K O H", "A number in moles per litre, to 3 significant figures."],
+    "titration:3": ["Your answer: c of H N O 3", "A number in moles per litre, to 3 significant figures."],
     "compound-formula:3": ["Your answer", "A formula, for example Ca(OH)2. Small numbers are typed as ordinary ones."],
     "ion-formula:3": ["Your answer", "An ion with its charge, for example SO4^2- or NH4+."],
     "neutralisation:3": ["Your answer", "A balanced equation, for example 2H2 + O2 -> 2H2O."],

@@ -9,8 +9,8 @@ export async function answerWith(page, text, verdict) {
     await page.locator(`.mark[data-verdict=${verdict}]`).waitFor();
 }
 
-// c(KOH) = 0.290 mol/L, and what turns it into each of the verdicts.
-export const verdicts = { correct: "0.290", figures: "0.29", slip: "0.544", "power-of-ten": "290", close: "0.292", wrong: "777", unreadable: "about a litre" };
+// c(HNO3) = 0.678 mol/L, and what turns it into each of the verdicts.
+export const verdicts = { correct: "0.678", figures: "0.68", slip: "0.250", "power-of-ten": "678", close: "0.683", wrong: "777", unreadable: "about a litre" };
 
 // Each state by its name: where it is, and what leads to it from there.
 export const states = [
