@@ -154,7 +154,12 @@ private:
         const Ratio step = powerOfTen(run.rounded.exponent);
         const Ratio lowest = powerOfTen(exercise.ask.figures - 1) * step;
         const Ratio below = range.low < lowest + step ? step * ratio(1, 20) : step * ratio(1, 2);
-        return {range.low - below, range.high + step * ratio(1, 2)};
+        // From a power of ten on the steps are ten times as long, and only the power itself is
+        // near.
+        const Ratio power = lowest * ratio(10);
+        const Ratio high =
+            power <= range.high ? power + step * ratio(5) : range.high + step * ratio(1, 2);
+        return {range.low - below, high};
     }
 
     // The rounded value is what a program shows as the answer, so it stands first, with what is

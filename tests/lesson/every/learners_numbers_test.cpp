@@ -187,7 +187,7 @@ Value atomicNumbersAdded(const std::string& formula)
 {
     Exact sum;
     for (const Atom& atom : atomsOf(formula)) {
-        sum = sum + Exact(atomicNumber(atom.symbol) * timesOf(atom));
+        sum = sum + Exact(atomicNumber(atom.symbol)) * Exact(timesOf(atom));
     }
     return sum;
 }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <random>
 #include <string>
@@ -232,13 +233,11 @@ TEST(MarksTest, WhoHasATableOfRoundedMassesIsRight)
 
 bool isAnswerOfSlip(const Json& exercise, const Exact& value)
 {
-    for (const Json& slip : exercise["slips"]) {
+    const Json& slips = exercise["slips"];
+    return std::any_of(slips.begin(), slips.end(), [&value](const Json& slip) {
         const std::string text = slip["text"];
-        if (Exact::read(text.substr(0, text.find(' '))) == value) {
-            return true;
-        }
-    }
-    return false;
+        return Exact::read(text.substr(0, text.find(' '))) == value;
+    });
 }
 
 // "3e-1" for 0.293 has one figure and no more.

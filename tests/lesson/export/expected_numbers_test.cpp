@@ -71,7 +71,7 @@ TEST(ExpectedNumbersTest, AMolarMassIsRightWithinOneUnitOnly)
     EXPECT_EQ(textOf(expectedNumbers(asking(ratio(24969, 100), 4, true)), 100),
               "249.7 ±0.1, 249.7 ±0.15");
     EXPECT_EQ(textOf(expectedNumbers(asking(ratio(99985, 1000), 4, true)), 100),
-              "99.99 ±0.01, 99.99 ±0.015");
+              "99.99 ±0.01, 100.0125 ±0.0375"); // to 100.05, which is 100.0 to four figures
     // Below 100 the steps are shorter: 99.895 is 99.90 to four figures.
     EXPECT_EQ(textOf(expectedNumbers(asking(ratio(100), 4, true)), 100),
               "100.0 ±0.1, 100.0225 ±0.1275");
