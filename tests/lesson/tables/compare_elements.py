@@ -87,13 +87,15 @@ def atoms_of(formula):
 
 
 def central_state(ion):
-    """The element that carries the charge, and its oxidation state with O at -2 and H at +1; None
-    for hydroxide, which has no other element."""
+    """The element that carries the charge, and its oxidation state with O at -2, H at +1, and N
+    beside C at -3; None for hydroxide, which has no other element."""
     atoms = atoms_of(ion["formula"])
     if len(atoms) == 1:
         (symbol, count), rest = next(iter(atoms.items())), 0
     else:
         rest = -2 * atoms.pop("O", 0) + atoms.pop("H", 0)
+        if "C" in atoms:
+            rest += -3 * atoms.pop("N", 0)
         if not atoms:
             return None
         ((symbol, count),) = atoms.items()
@@ -101,7 +103,7 @@ def central_state(ion):
 
 
 def compare_ions(ions):
-    check(len(ions) == 40, f"{len(ions)} ions")
+    check(len(ions) == 47, f"{len(ions)} ions")
     needed = set()
     for ion in ions:
         state = central_state(ion)
