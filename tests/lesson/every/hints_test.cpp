@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <map>
 #include <set>
@@ -137,7 +138,7 @@ TEST(HintsTest, EachStepHasOneThatTellsNoResult)
     for (const char* const slug : slugs) {
         for (int level = 1; level <= 3; ++level) {
             const std::string kind = kindAt(slug, level);
-            for (const Asked& asked : firstExercises(kind, papersToCheck())) {
+            for (const Asked& asked : firstExercises(kind, std::min(papersToCheck(), 2000U))) {
                 problems.at(kind, asked.paper, asked.number);
                 checkHints(problems, asked);
             }
@@ -152,7 +153,8 @@ TEST(HintsTest, TheFirstOneIsAboutItsKind)
     std::map<std::string, std::string> slugOf; // by hint
     for (const char* const slug : slugs) {
         for (int level = 1; level <= 3; ++level) {
-            for (const Asked& asked : firstExercises(kindAt(slug, level), papersToCheck())) {
+            for (const Asked& asked :
+                 firstExercises(kindAt(slug, level), std::min(papersToCheck(), 2000U))) {
                 const std::string hint = textOf(asked.exercise["solution"][0]["hint"]);
                 const auto known = slugOf.emplace(hint, slug).first;
                 EXPECT_EQ(known->second, slug) << hint;
@@ -166,7 +168,7 @@ TEST(HintsTest, AGivenEquationIsNotWrittenAgain)
 {
     Problems problems;
     for (const char* const kind : {"titration:1", "titration:2", "titration:3"}) {
-        for (const Asked& asked : firstExercises(kind, papersToCheck())) {
+        for (const Asked& asked : firstExercises(kind, std::min(papersToCheck(), 2000U))) {
             problems.at(kind, asked.paper, asked.number);
             const bool isGiven = asked.prompt().find("→") != std::string::npos;
             const Json& first = asked.exercise["solution"][0];

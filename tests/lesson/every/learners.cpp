@@ -46,8 +46,9 @@ std::string Asked::prompt() const
 std::vector<Asked> firstExercises(const std::string& kind, unsigned count)
 {
     constexpr unsigned ofPaper = 9;
+    constexpr unsigned most = 5000; // all of them are kept in memory
     std::vector<Asked> all;
-    for (unsigned i = 0; i < count; ++i) {
+    for (unsigned i = 0; i < std::min(count, most); ++i) {
         const unsigned paper = 1 + i / ofPaper;
         const unsigned number = 1 + i % ofPaper;
         all.push_back({kind, paper, number, exerciseAt(kind, paper, number)});

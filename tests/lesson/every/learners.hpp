@@ -26,7 +26,7 @@ struct Asked {
     std::string prompt() const;
 };
 
-// Nine numbers of a paper, one paper after another, until there are so many.
+// Nine numbers of a paper, one paper after another, until there are so many, or 5000.
 std::vector<Asked> firstExercises(const std::string& kind, unsigned count);
 
 // A value as a learner types it, rounded to so many figures: "0.0456", "1230".

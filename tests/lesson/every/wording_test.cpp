@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <set>
 #include <string>
@@ -64,7 +65,7 @@ void forEachExercise(Problems& problems, void (*check)(Problems&, const Asked&))
     for (const char* const slug : slugs) {
         for (int level = 1; level <= 3; ++level) {
             const std::string kind = kindAt(slug, level);
-            for (const Asked& asked : firstExercises(kind, papersToCheck())) {
+            for (const Asked& asked : firstExercises(kind, std::min(papersToCheck(), 2000U))) {
                 problems.at(kind, asked.paper, asked.number);
                 check(problems, asked);
             }
