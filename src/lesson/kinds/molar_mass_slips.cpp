@@ -30,11 +30,6 @@ constexpr std::string_view countHydrogen = "Count the hydrogen atoms again.";
 
 constexpr int hydrogen = 1;
 
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 // A number in a formula: where its digits begin and end.
 struct Run {
     std::size_t begin;
