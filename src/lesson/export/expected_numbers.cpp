@@ -272,7 +272,8 @@ private:
     std::string sentenceOfClose(Decimal begin, int direction) const
     {
         const Ratio greatestMiss = answer.value * ratio(1, 100);
-        Decimal probe = {begin.digits * 10 + std::int64_t{5} * direction, begin.exponent - 1};
+        constexpr std::int64_t half = 5; // of the last figure
+        Decimal probe = {begin.digits * 10 + half * direction, begin.exponent - 1};
         do {
             probe.digits += direction;
             Mark marked = mark(probe);
