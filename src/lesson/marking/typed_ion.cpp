@@ -196,8 +196,11 @@ int withSign(std::string_view typedSigns, int size)
 void removeOuterBrackets(Placed& placed)
 {
     const std::string& text = placed.text;
+    if (text.size() < 3) {
+        return;
+    }
     const std::size_t last = text.size() - 1;
-    if (text.size() > 2 && text.front() == '(' && text.find(')') == last &&
+    if (text.front() == '(' && text.find(')') == last &&
         signs.find(text[last - 1]) != std::string_view::npos) {
         placed = {text.substr(1, last - 1), placed.places.substr(1, last - 1)};
     }
