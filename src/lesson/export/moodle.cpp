@@ -6,7 +6,9 @@
 #include "lesson/export/expected.hpp"
 #include "lesson/export/html.hpp"
 #include "lesson/export/units.hpp"
+#include "lesson/reaction.hpp"
 #include "lesson/tables/kinds.hpp"
+#include "lesson/values/decimal.hpp"
 
 namespace lesson
 {
@@ -128,16 +130,39 @@ std::string solutionOf(const Exercise& exercise)
     return html + "</ol>";
 }
 
+// The number or the equation that is asked for, as the step that arrives at it shows it. What else
+// is asked for, the last step alone tells.
+std::string htmlOfResult(const Exercise& exercise)
+{
+    if (const auto* const asked = std::get_if<NumberAnswer>(&exercise.answer)) {
+        return htmlOf(measure(shown(asked->value, exercise.ask.figures), exercise.ask.unit));
+    }
+    if (const auto* const asked = std::get_if<EquationAnswer>(&exercise.answer)) {
+        return htmlOf(spansOf(neutralisationOf(*asked->acid, asked->base)));
+    }
+    return {};
+}
+
+bool endsWith(std::string_view text, std::string_view end)
+{
+    return !end.empty() && text.size() >= end.size() &&
+           text.substr(text.size() - end.size()) == end;
+}
+
 // Each is shown behind a wrong try, and there is one try more than hints: first what helps without
-// giving anything away, then the solution but for its last step.
+// giving anything away, then the solution up to the step that arrives at the answer.
 std::vector<std::string> hintsOf(const Exercise& exercise)
 {
     const std::vector<Step>& steps = exercise.solution;
+    const std::string result = htmlOfResult(exercise);
     std::vector<std::string> hints;
     if (!steps.front().hint.empty()) {
         hints.push_back(htmlOf(steps.front().hint));
     }
     for (std::size_t i = 0; i + 1 < steps.size(); ++i) {
+        if (endsWith(htmlOf(steps[i].math), result)) {
+            break;
+        }
         hints.push_back(htmlOfStep(steps[i]));
     }
     return hints;

@@ -38,7 +38,7 @@ OF_TYPE = {
 POWERS = ("e{n}", "E{n}", "x10^{n}", " x 10^{n}", "*10^{n}", "×10^{n}", " × 10{r}", "×10{r}",
           " x 10{r}", "·10^{n}", " · 10{r}", "X10^{n}", " X 10^{n}", "x10^{{{n}}}", " x 10^{{{n}}}")
 MILLIMOLES = ("mmol/L", "mmol/dm3", "mmol/dm^3", "mmol L-1", "mmol L^-1", "mmol L⁻¹", "mmol dm-3",
-              "mmol dm^-3", "mmol dm⁻³", "mM")
+              "mmol dm^-3", "mmol dm⁻³", "mmol·L⁻¹", "mmol·dm⁻³", "mmol.dm-3", "mM")
 UNITS = {"mol/L": ("mol/L", "mol/dm3", "mol dm-3", "mol dm⁻³", "mol L-1", "M"), "mL": ("mL", "cm3"),
          "g": ("g",), "g/mol": ("g/mol", "g mol-1")}
 TYPES = {"number": "numerical", "formula": "shortanswer", "ion": "shortanswer", "equation": "cloze"}
@@ -368,12 +368,20 @@ def check_question(question, exercise, names):
 
 
 def check_hints(question, exercise, where):
-    """One try more than hints: what helps with the first step, then the steps but the last one."""
+    """One try more than hints: what helps with the first step, then the steps before the answer's."""
     steps = exercise["solution"]
+    is_number = exercise["ask"]["form"] == "number"
+    key = exercise["key"]["text"].replace("->", "→").replace(" ", "\u202f" if is_number else " ")
+    results = [i for i, step in enumerate(steps)
+               if exercise["ask"]["form"] in ("number", "equation")
+               and words_of_line(step["math"]).endswith(key)]
     expected = [steps[0]["hint"]] if steps[0]["hint"] else []
-    expected += [step["say"] for step in steps[:-1]]
+    expected += [step["say"] for step in steps[:min(results + [len(steps) - 1])]]
     hints = question.findall("hint")
     check(len(hints) == len(expected) > 0, where, "has", len(hints), "hints")
+    for hint in hints:
+        if is_number or question.get("type") == "cloze":
+            check(key not in words_of(hint.findtext("text")), where, "a hint tells the answer", hint)
     for hint, line in zip(hints, expected):
         check(hint.get("format") == "html", where, "the format of a hint")
         check(words_of_line(line) in words_of(hint.findtext("text")), where, "hint", hint)
