@@ -115,44 +115,69 @@ std::string atomsInWords(const Atoms& atoms)
     return words;
 }
 
-// What helps to find the atoms of a group, and its charge; the rows without a name are for all that
-// end so.
+// What helps to find the atoms of a group, and its charge. The charge follows from the acid of that
+// name, where there is one.
 struct GroupHint {
-    std::string_view name;
-    std::string_view end;
+    std::string_view ion;
     const char* atoms;
+    const char* acid;
     const char* charge;
 };
 
+constexpr const char* endingAte =
+    "The ending -ate tells of oxygen, the rest of the name of the other element.";
+constexpr const char* endingIte = "The ending -ite tells of oxygen, one atom less than -ate.";
+constexpr const char* hydrogenFirst = "Hydrogen comes first. What is the ion without it?";
 constexpr const char* withHydrogen =
     "What is the charge without the hydrogen, and what does a hydrogen ion add?";
-constexpr const char* acidCharge =
-    "Each hydrogen ion that its acid gives away leaves a charge of 1− behind.";
 
 // clang-format off
 constexpr GroupHint groupHints[] = {
-    {"ammonium", "", "It is a molecule of ammonia joined to a hydrogen ion.",
+    {"ammonium", "It is a molecule of ammonia joined to a hydrogen ion.", "",
      "The hydrogen ion brings its charge along."},
-    {"hydroxide", "", "Its name is made of those of two elements.",
+    {"hydroxide", "Its name is made of those of two elements.", "",
      "It is a water molecule that has given a hydrogen ion away."},
-    {"ethanoate", "", "Its acid is the one in vinegar, which has one hydrogen more.", acidCharge},
-    {"hydrogencarbonate", "", "Hydrogen comes first. What is the ion without it?", withHydrogen},
-    {"hydrogensulfate", "", "Hydrogen comes first. What is the ion without it?", withHydrogen},
-    {"dichromate", "", "The beginning di- means two, the ending -ate tells of oxygen.", acidCharge},
-    {"", "ite", "The ending -ite tells of oxygen, one atom less than -ate.", acidCharge},
-    {"", "", "The ending -ate tells of oxygen, the rest of the name of the other element.",
-     acidCharge},
+    {"cyanide", "The ending -ide: there is no oxygen in it. It has two elements, one atom of each.",
+     "", "Its charge is that of chloride."},
+    {"ethanoate", "Its acid is the one in vinegar, which has one hydrogen more.",
+     "the acid in vinegar", ""},
+    {"nitrate", endingAte, "nitric acid", ""},
+    {"sulfate", endingAte, "sulfuric acid", ""},
+    {"carbonate", endingAte, "carbonic acid", ""},
+    {"phosphate", endingAte, "phosphoric acid", ""},
+    {"chlorate", endingAte, "", "Its charge is that of chloride."},
+    {"nitrite", endingIte, "", "Its charge is that of nitrate."},
+    {"sulfite", endingIte, "", "Its charge is that of sulfate."},
+    {"hydrogencarbonate", hydrogenFirst, "", withHydrogen},
+    {"hydrogensulfate", hydrogenFirst, "", withHydrogen},
+    {"hydrogensulfite", hydrogenFirst, "", withHydrogen},
+    {"hydrogenphosphate", hydrogenFirst, "", withHydrogen},
+    {"dihydrogenphosphate",
+     "The beginning di- means two. Hydrogen comes first. What is the ion without it?", "",
+     "What is the charge without the hydrogen, and what does each hydrogen ion add?"},
+    {"chromate", endingAte, "", "Its charge is that of sulfate."},
+    {"dichromate", "The beginning di- means two, the ending -ate tells of oxygen.", "",
+     "Its charge is that of chromate."},
+    {"thiosulfate",
+     "Thio- stands for a sulfur in the place of an oxygen. What is the ion without it?", "",
+     "Its charge is that of sulfate."},
+    {"manganate(VII)", endingAte, "",
+     "Manganese has the oxidation number +7, each oxygen −2. They add up to the charge."},
 };
 // clang-format on
 
 const GroupHint& hintFor(const IonRow& ion)
 {
-    return *std::find_if(
-        std::begin(groupHints), std::end(groupHints), [&ion](const GroupHint& row) {
-            const std::string_view end =
-                ion.name.substr(ion.name.size() - std::min(ion.name.size(), row.end.size()));
-            return row.name == ion.name || (row.name.empty() && row.end == end);
-        });
+    return *std::find_if(std::begin(groupHints), std::end(groupHints),
+                         [&ion](const GroupHint& row) { return row.ion == ion.name; });
+}
+
+std::string chargeHint(const GroupHint& hint)
+{
+    const std::string acid = hint.acid;
+    return acid.empty()
+               ? hint.charge
+               : "Each hydrogen ion that " + acid + " gives away leaves a charge of 1− behind.";
 }
 
 std::vector<Step> groupSolution(const IonRow& ion)
@@ -164,7 +189,7 @@ std::vector<Step> groupSolution(const IonRow& ion)
         {line(capitalised(nameOf(ion)), " is ", atomsInWords(compositionOf(plain).atoms), "."),
          line(formula(plain)), line(hintFor(ion).atoms)},
         {line("The group as a whole has the charge ", chargeWords(ion), ".", remark),
-         line(spanOf(ion)), line(hintFor(ion).charge)},
+         line(spanOf(ion)), line(chargeHint(hintFor(ion)))},
     };
 }
 

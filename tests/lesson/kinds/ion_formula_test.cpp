@@ -160,6 +160,107 @@ TEST(IonFormulaTest, EachStepHasAHintThatGivesNothingAway)
     }
 }
 
+bool contains(const std::string& text, const std::string& part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+// The sentence on oxygen that a hint begins or ends with is true of the formula, and one on an
+// ending is about the ending of the name.
+void expectTrueOfOxygen(const IonRow& ion, const std::string& hint)
+{
+    const std::string name(ion.name.substr(0, ion.name.find('(')));
+    const bool hasOxygen = contains(std::string(ion.formula), "O");
+    const std::string told = "ending -" + name.substr(name.size() - 3);
+    EXPECT_EQ(contains(hint, "tells of oxygen"), contains(hint, told) && hasOxygen) << hint;
+    EXPECT_EQ(contains(hint, "no oxygen"), contains(hint, told) && ion.isGroup && !hasOxygen)
+        << hint;
+    EXPECT_FALSE(contains(hint, "The ending") && !contains(hint, told)) << name << ": " << hint;
+}
+
+// What stands behind the hydrogens in front, with the charge that they have left.
+void expectTrueOfHydrogen(const IonRow& ion, const std::string& hint)
+{
+    const bool isTold = contains(hint, "Hydrogen comes first.");
+    EXPECT_EQ(isTold, contains(std::string(ion.name), "hydrogen") && ion.isGroup) << hint;
+    if (isTold) {
+        const bool hasTwo = ion.formula.substr(0, 2) == "H2";
+        const IonRow* const rest =
+            findIon(ion.formula.substr(hasTwo ? 2 : 1), ion.charge - (hasTwo ? 2 : 1));
+        EXPECT_NE(rest, nullptr) << ion.name;
+        EXPECT_EQ(contains(hint, "di- means two"), hasTwo) << hint;
+    }
+}
+
+// Of an acid that is told, each hydrogen that is given away is one of the charge.
+void expectTrueOfAcid(const IonRow& ion, const std::string& hint)
+{
+    const std::map<std::string, std::string> acids = {{"nitric acid", "HNO3"},
+                                                      {"sulfuric acid", "H2SO4"},
+                                                      {"carbonic acid", "H2CO3"},
+                                                      {"phosphoric acid", "H3PO4"},
+                                                      {"the acid in vinegar", "HCH3COO"}};
+    const std::string begin = "Each hydrogen ion that ";
+    const std::string end = " gives away leaves a charge of 1\u2212 behind.";
+    if (!contains(hint, begin)) {
+        return;
+    }
+    const std::size_t place = hint.find(begin) + begin.size();
+    const auto acid = acids.find(hint.substr(place, hint.find(end) - place));
+    ASSERT_NE(acid, acids.end()) << hint;
+    const std::string number = ion.charge == -1 ? "" : std::to_string(-ion.charge);
+    EXPECT_EQ(acid->second, "H" + number + std::string(ion.formula)) << hint;
+}
+
+// "Its charge is that of …"
+void expectTrueOfCharge(const IonRow& ion, const std::string& hint)
+{
+    const std::string begin = "Its charge is that of ";
+    if (contains(hint, begin)) {
+        const std::string other = hint.substr(begin.size(), hint.size() - begin.size() - 1);
+        const IonRow* const like = findIon(other);
+        ASSERT_NE(like, nullptr) << hint;
+        EXPECT_EQ(like->charge, ion.charge) << ion.name << ": " << hint;
+    }
+}
+
+TEST(IonFormulaTest, TheHintsAreTrueOfTheIon)
+{
+    for (const int level : {1, 2, 3}) {
+        for (const Exercise& exercise : wholePool(level)) {
+            const IonRow& ion = givenIon(exercise, 0);
+            ASSERT_EQ(exercise.solution.size(), 2U);
+            const std::string atoms = textOf(exercise.solution[0].hint);
+            const std::string charge = textOf(exercise.solution[1].hint);
+            if (ion.isGroup) {
+                expectTrueOfOxygen(ion, atoms);
+            }
+            expectTrueOfHydrogen(ion, atoms);
+            expectTrueOfAcid(ion, charge);
+            expectTrueOfCharge(ion, charge);
+            EXPECT_FALSE(contains(charge, "its acid")) << "which acid? " << ion.name;
+        }
+    }
+}
+
+TEST(IonFormulaTest, HintsOfIonsThatAreBuiltAlikeAreAlike)
+{
+    const std::string first = "Hydrogen comes first. What is the ion without it?";
+    const std::string charge =
+        "What is the charge without the hydrogen, and what does a hydrogen ion add?";
+    for (const char* const key : {"HCO3^-", "HSO4^-", "HSO3^-", "HPO4^2-"}) {
+        const Exercise exercise = exerciseAbout(key);
+        EXPECT_EQ(textOf(exercise.solution[0].hint), first) << key;
+        EXPECT_EQ(textOf(exercise.solution[1].hint), charge) << key;
+    }
+    EXPECT_EQ(textOf(exerciseAbout("H2PO4^-").solution[0].hint),
+              "The beginning di- means two. " + first);
+    EXPECT_EQ(textOf(exerciseAbout("CN^-").solution[0].hint),
+              "The ending -ide: there is no oxygen in it. It has two elements, one atom of each.");
+    EXPECT_EQ(textOf(exerciseAbout("SO4^2-").solution[1].hint),
+              "Each hydrogen ion that sulfuric acid gives away leaves a charge of 1\u2212 behind.");
+}
+
 TEST(IonFormulaTest, TheCommonSlipsAreListed)
 {
     struct Row {
