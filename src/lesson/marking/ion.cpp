@@ -45,6 +45,24 @@ std::string withCaret(std::string plain)
     return stars == std::string::npos ? plain : plain.replace(stars, 2, "^");
 }
 
+// "SO4 2 minus" -> "SO4 2 -"; no formula has these letters in a row.
+std::string withSigns(std::string_view plain)
+{
+    const std::string lower = lowerCase(plain);
+    std::string_view rest = lower;
+    std::string text;
+    while (!rest.empty()) {
+        const char sign = take(rest, "minus") ? '-' : take(rest, "plus") ? '+' : ' ';
+        if (sign != ' ') {
+            text += sign;
+            continue;
+        }
+        text += plain[plain.size() - rest.size()];
+        rest.remove_prefix(1);
+    }
+    return text;
+}
+
 // "Fe3+ ion" -> "Fe3+", "Fe(III) ions." -> "Fe(III)", "Fe3+ion" -> "Fe3+"
 std::string withoutIon(const std::string& plain)
 {
@@ -80,6 +98,7 @@ std::string withChargeBehind(std::string marked)
 struct Attempt {
     const IonRow& ion;
     const std::vector<Slip>& slips;
+    std::string_view typed;
     std::string marked; // as `markedTyped` gives it
     TypedIon read;
     std::vector<std::string> right; // the formula without the charge, and its other spellings
@@ -208,6 +227,17 @@ std::optional<Mark> lookalikes(const Attempt& attempt)
     return std::nullopt;
 }
 
+// As it was typed: an ion is read without its blanks.
+std::string unreadPart(const Attempt& attempt)
+{
+    const std::string plain = plainTyped(attempt.typed);
+    const bool hasBlank = plain.find(' ') != std::string::npos;
+    const std::string withBlanks = hasBlank ? readFormula(plain).unread : "";
+    const std::string& unread =
+        withBlanks.empty() ? attempt.read.readings.back().formula.unread : withBlanks;
+    return unread.empty() ? attempt.marked : unread;
+}
+
 std::optional<Mark> notRead(const Attempt& attempt)
 {
     if (anyReading(attempt, [](const IonReading& reading) { return reading.formula.isRead; })) {
@@ -216,8 +246,7 @@ std::optional<Mark> notRead(const Attempt& attempt)
     if (isNameOf(attempt.marked, attempt.ion)) {
         return markOf(Verdict::unreadable, "That is its name. Type its formula with its charge.");
     }
-    const std::string& unread = attempt.read.readings.back().formula.unread;
-    return unreadable(unread.empty() ? attempt.marked : unread, typeIon);
+    return unreadable(unreadPart(attempt), typeIon);
 }
 
 std::optional<Mark> wrongCharge(const Attempt& attempt)
@@ -359,8 +388,9 @@ constexpr Rule rules[] = {
 
 Mark markIon(const IonAnswer& answer, const std::vector<Slip>& slips, std::string_view typed)
 {
-    const std::string marked = withoutIon(withCaret(spelledOut(markedTyped(typed))));
-    Attempt attempt = {*answer.ion, slips, withoutBond(withChargeBehind(marked)), {}, {}, {}};
+    const std::string marked = withoutIon(withSigns(withCaret(spelledOut(markedTyped(typed)))));
+    Attempt attempt = {*answer.ion, slips, typed, withoutBond(withChargeBehind(marked)),
+                       {},          {},    {}};
     attempt.read = readIon(attempt.marked);
     attempt.right = spellingsOf(answer.ion->formula);
     attempt.rightAtoms = readFormula(answer.ion->formula).atoms;

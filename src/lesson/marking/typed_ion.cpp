@@ -74,6 +74,7 @@ public:
                 readOther();
             }
         }
+        raiseBehindGap();
         return placed;
     }
 
@@ -120,6 +121,12 @@ private:
     void readOther()
     {
         const char first = left.front();
+        const bool isDigitBehindDigit =
+            isDigit(first) && !placed.text.empty() && isDigit(placed.text.back());
+        if (isBehindBlank && isDigitBehindDigit) {
+            gap = placed.text.size();
+        }
+        isBehindBlank = first == ' ';
         if (first == '[' || first == ']') {
             add(first == '[' ? "(" : ")", ordinary);
         } else if (first != '{' && first != '}') {
@@ -155,8 +162,25 @@ private:
         return front;
     }
 
+    // "Cr2O7 2-": a blank between digits sets the charge apart.
+    void raiseBehindGap()
+    {
+        const std::string_view behind = std::string_view(placed.text).substr(gap);
+        const std::size_t size = lengthOf(behind, digits);
+        const bool isCharge =
+            gap > 0 && size > 0 && size < behind.size() &&
+            lengthOf(behind.substr(size), signs) == behind.size() - size &&
+            lengthOf(std::string_view(placed.places).substr(gap), " ") == behind.size();
+        if (isCharge) {
+            std::fill(placed.places.begin() + static_cast<std::ptrdiff_t>(gap), placed.places.end(),
+                      raised);
+        }
+    }
+
     std::string_view left;
     Placed placed;
+    bool isBehindBlank = false;
+    std::size_t gap = 0; // where the last blank between digits stood; 0 where there is none
 };
 
 // The part of a text behind its last character that is none of these.
@@ -218,16 +242,24 @@ IonReading reading(const Placed& placed, std::size_t length, int charge)
             places.substr(0, length).find(raised) != std::string_view::npos};
 }
 
-// Each way to split digits and a sign that leaves at most one digit to the charge.
+// Each way to split digits and a sign that leaves at most one digit to the charge, or all that are
+// raised.
 std::vector<IonReading> splitReadings(const Placed& placed, std::string_view before,
                                       std::string_view sign)
 {
-    std::vector<IonReading> readings;
     const std::size_t end = placed.text.size() - sign.size();
-    const std::size_t most = std::min<std::size_t>(before.size(), 1);
-    for (std::size_t ofCharge = 0; ofCharge <= most; ++ofCharge) {
-        const std::string_view size = before.substr(before.size() - ofCharge);
-        readings.push_back(reading(placed, end - ofCharge, withSign(sign, sizeOf(size))));
+    const std::size_t firstRaised = std::min(placed.places.find(raised, end - before.size()), end);
+    std::vector<std::size_t> starts = {end};
+    if (!before.empty()) {
+        starts.push_back(end - 1);
+    }
+    if (firstRaised + 1 < end) {
+        starts.push_back(firstRaised);
+    }
+    std::vector<IonReading> readings;
+    for (const std::size_t start : starts) {
+        const std::string_view size = before.substr(before.size() - (end - start));
+        readings.push_back(reading(placed, start, withSign(sign, sizeOf(size))));
     }
     return readings;
 }

@@ -36,7 +36,8 @@ struct TypedIon {
 // Reads an ion with its charge as people type it: "SO42-", "SO4-2", "O--", "SO4^2-", "Fe^+3",
 // "Fe(3+)", or without a charge, "SO4". `marked` is what `markedTyped` gives.
 //   A "_" lowers one digit or sign, or what is in the brackets behind it; a "^" raises a charge,
-//   one digit, or what is in the brackets behind it, and brackets alone do so around a charge.
+//   one digit, or what is in the brackets behind it. Brackets around a charge raise it, and so does
+//   a blank between digits, "Cr2O7 2-".
 TypedIon readIon(std::string_view marked);
 
 // The ion in one spelling: no blanks, no state, round brackets, and before each digit or sign that

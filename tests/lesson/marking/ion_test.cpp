@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <cstdlib>
 #include <string>
 #include <variant>
@@ -148,22 +149,27 @@ TEST(IonMarkTest, SpellingsThatPeopleUse)
           "Fe+++",     "Fe(3+)",   "Fe 3+",     "Fe³+",       "Fe3⁺",        "Fe^3⁺",
           "Fe+³",      "Fe 3⁺",    "Fe^+++",    "Fe + + +",   "[Fe]3+",      "[Fe3+]",
           "Fe3+ (aq)", "Fe3+ ion", "Fe3+ ions", "Fe3+ Ions.", "Fe^{3+} ion", "Fe(3+) ions"}},
-        {"copper(II)", {"Cu2+ ion."}},
+        {"copper(II)", {"Cu2+ ion.", "Cu 2 plus", "Cu plus plus"}},
         {"sulfate",
-         {"SO42-",      "SO4^2-",   "SO4 2-",    "SO4-2",       "SO₄²⁻",   "SO4--",   "[SO4]2-",
-          "(SO4)2-",    "SO4²-",    "SO_4^{2-}", "SO_{4}^{2-}", "SO_42-",  "SO42⁻",   "SO4(2-)",
-          "[SO4^2-]",   "S O4 2-",  "SO4^-2",    "SO4^(2−)",    "SO4^2⁻",  "SO4-²",   "SO₄-²",
-          "SO4–2",      "(SO4)^-2", "SO4 --",    "SO4**2-",     "SO4**-2", "SO4⁽²⁻⁾", "SO4^2- ion",
-          "ＳＯ４２－", "SO4^2-,",  "\"SO4^2-\""}},
+         {"SO42-",      "SO4^2-",      "SO4 2-",      "SO4-2",           "SO₄²⁻",       "SO4--",
+          "[SO4]2-",    "(SO4)2-",     "SO4²-",       "SO_4^{2-}",       "SO_{4}^{2-}", "SO_42-",
+          "SO42⁻",      "SO4(2-)",     "[SO4^2-]",    "S O4 2-",         "SO4^-2",      "SO4^(2−)",
+          "SO4^2⁻",     "SO4-²",       "SO₄-²",       "SO4–2",           "(SO4)^-2",    "SO4 --",
+          "SO4**2-",    "SO4**-2",     "SO4⁽²⁻⁾",     "SO4^2- ion",      "ＳＯ４２－",  "SO4^2-,",
+          "\"SO4^2-\"", "SO4 2 minus", "SO4 minus 2", "SO4 2 Minus ion", "SO 42-",      "S O 4 2 -",
+          "SO₄ 2 -",    "SO4 2-(aq)"}},
         {"sodium", {"Na+", "Na1+", "Na^1+", "Na+1", "Na⁺", "Na^+", "Na +", "Na¹⁺"}},
         {"oxide", {"O--", "O2-", "O^2-", "O²⁻", "O-2", "O 2-", "O- -"}},
         {"manganate(VII)", {"MnO4-", "MnO4^-1", "MnO4^-", "MnO₄⁻", "MnO4 -", "[MnO4]-", "MnO4-1"}},
-        {"dichromate", {"Cr2O72-", "Cr2O7^2-", "Cr₂O₇²⁻", "[Cr2O7]2-", "Cr2O7--", "Cr2O7-2"}},
+        {"dichromate",
+         {"Cr2O72-", "Cr2O7^2-", "Cr₂O₇²⁻", "[Cr2O7]2-", "Cr2O7--", "Cr2O7-2", "Cr2O7 2-",
+          "Cr2 O7 2 -", "Cr 2 O 7 2-", "Cr2O 72-"}},
         {"ethanoate",
          {"CH3COO-",   "CH3CO2-",  "C2H3O2-",  "CH3COO^-", "CH₃COO⁻",   "(CH3COO)-", "H3CCOO-",
           "CH3CO2^-1", "CH3-COO-", "CH3–COO−", "C2H3O2 -", "CH3C(O)O-", "OOCCH3-",   "OAc-",
           "AcO-",      "AcO^-",    "Ac-",      "[OAc]-",   "MeCOO-",    "MeCO2-"}},
-        {"hydroxide", {"OH-", "HO-", "OH^-", "(OH)-", "OH⁻", "OH 1-"}},
+        {"hydroxide",
+         {"OH-", "HO-", "OH^-", "(OH)-", "OH⁻", "OH 1-", "OH minus", "OHminus", "OH MINUS."}},
         {"nitrate", {"NO3-", "NO3^-", "NO31-", "NO3-1", "NO₃⁻"}},
         {"ammonium", {"NH4+", "NH4^+", "NH41+", "NH₄⁺", "[NH4]+", "(NH4)+"}},
     };
@@ -244,6 +250,11 @@ TEST(IonMarkTest, SlipsGetTheirSentences)
         {"sulfate", "SO4^3-", size},
         {"sulfate", "SO4---", size},
         {"magnesium", "Mg+", size},
+        {"dichromate", "Cr2O7 12-", size},
+        {"dichromate", "Cr2O7 12 -", size},
+        {"dichromate", "Cr2O7^12-", size},
+        {"dichromate", "Cr2O7^{12-}", size},
+        {"sulfate", "SO4 12 minus", size},
         {"manganate(VII)", "MnO4^2-", size},
         {"sulfate", "S2-", ending},
         {"sulfide", "SO4^2-", ending},
@@ -324,6 +335,10 @@ TEST(IonMarkTest, WhatCannotBeReadIsTold)
         {"SO4)2-", "I can't read this part: ')'. Type a formula with its charge, such as Sr2+."},
         {"sulfate", "That is its name. Type its formula with its charge."},
         {"Sulfate ion", "That is its name. Type its formula with its charge."},
+        {"OH negative",
+         "I can't read this part: 'negative'. Type a formula with its charge, such as Sr2+."},
+        {"SO4 two minus",
+         "I can't read this part: 'two minus'. Type a formula with its charge, such as Sr2+."},
         {"\xFF\xFE",
          "I can't read this part: '\uFFFD\uFFFD'. Type a formula with its charge, such as Sr2+."},
     };
@@ -340,6 +355,25 @@ TEST(IonMarkTest, SloppyChargesAreNotRight)
          {"Zn02+", "Zn.2+", "Zn*2+", "Zn2+-", "Zn+-2", "Zn++2", "Zn2++", "Zn22+", "Zn2+2", "2+Zn",
           "+2Zn", "Zn^2", "Zn^", "Zn2", "Zn+2+", "Zn^2+^", "Zn2+Zn2+", "2Zn2+", "Zn 2+ 2e-"}) {
         EXPECT_NE(markFor("zinc", typed).verdict, Verdict::correct) << typed;
+    }
+}
+
+// A blank between digits tells where the charge begins, so that no atom is counted with it.
+TEST(IonMarkTest, ASizeSetApartIsNoNumberOfAtoms)
+{
+    for (const IonRow* const ion : allIons()) {
+        const bool isTold = ion->charge > 0 && hasRomanNumeral(*ion);
+        for (const char* const size : {"4", "12", "42"}) {
+            const std::string typed =
+                std::string(ion->formula) + " " + size + (ion->charge < 0 ? "-" : "+");
+            const bool endsWithDigit = std::isdigit(ion->formula.back()) != 0;
+            if (endsWithDigit || std::string(size).size() == 1) {
+                EXPECT_EQ(markIon({ion}, {}, typed).sentence,
+                          isTold ? "The Roman numeral tells the size of the charge."
+                                 : "The sign is right. Check the size of the charge.")
+                    << typed;
+            }
+        }
     }
 }
 

@@ -253,6 +253,11 @@ TEST(TypedIonTest, HasOneSpelling)
         {"Fe(3+)", "Fe^3^+"},
         {"Fe^III", "Fe^III"},
         {"SO^{2-}_4", "SO_4^2^-"},
+        {"Cr2O7 2-", "Cr2O7^2^-"},
+        {"Cr2O7 2 -", "Cr2O7^2^-"},
+        {"Cr2 O7 2", "Cr2O72"},
+        {"SO 42-", "SO42-"},
+        {"Fe 3+", "Fe3+"},
         {"Na", "Na"},
         {"", ""},
     };
