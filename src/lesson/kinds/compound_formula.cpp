@@ -9,6 +9,7 @@
 #include "lesson/kinds/salts.hpp"
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/formula.hpp"
+#include "lesson/marking/ions_within.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/tables/pairs.hpp"
@@ -72,10 +73,10 @@ std::string chargeTerm(int times, int charge)
     return times == 1 ? inBrackets : std::to_string(times) + inBrackets;
 }
 
-std::string lastSentence(bool repeatsGroup, bool repeatsNothing)
+std::string lastSentence(bool hasBracket, bool repeatsNothing)
 {
-    if (repeatsGroup) {
-        return "More than one group takes a bracket.";
+    if (hasBracket) {
+        return std::string(sentences::bracketForGroups);
     }
     return repeatsNothing ? "Write the positive ion first, and leave out the charges."
                           : "Write the positive ion first; small numbers count the ions.";
@@ -89,10 +90,10 @@ std::string ionsHint(const IonRow& cation)
     return "The name begins with the positive ion and ends with the negative one." + charges;
 }
 
-std::string lastHint(bool repeatsGroup)
+std::string lastHint(bool hasBracket)
 {
-    return repeatsGroup ? "Which number belongs to a whole group of atoms?"
-                        : "Which ion comes first? A number stands behind what it counts.";
+    return hasBracket ? "Which number belongs to a whole group of atoms?"
+                      : "Which ion comes first? A number stands behind what it counts.";
 }
 
 std::vector<Step> workedSolution(const IonRow& cation, const IonRow& anion)
@@ -100,7 +101,7 @@ std::vector<Step> workedSolution(const IonRow& cation, const IonRow& anion)
     const int positive = cationsIn(cation, anion);
     const int negative = anionsIn(cation, anion);
     const bool isOneEach = positive == 1 && negative == 1;
-    const bool repeatsGroup = (cation.isGroup && positive > 1) || (anion.isGroup && negative > 1);
+    const bool hasBracket = repeatsGroup(cation, anion);
     return {
         {line(capitalised(nameOf(cation, anion)), " has these ions.",
               hasRomanNumeral(cation) ? " The Roman numeral is the charge of the metal ion." : ""),
@@ -110,8 +111,8 @@ std::vector<Step> workedSolution(const IonRow& cation, const IonRow& anion)
          line(chargeTerm(positive, cation.charge) + " + " + chargeTerm(negative, anion.charge) +
               " = 0"),
          line("A compound has no charge. How many of each ion does that take?")},
-        {line(lastSentence(repeatsGroup, isOneEach)), line(formula(compoundFormula(cation, anion))),
-         line(lastHint(repeatsGroup))},
+        {line(lastSentence(hasBracket, isOneEach)), line(formula(compoundFormula(cation, anion))),
+         line(lastHint(hasBracket))},
     };
 }
 

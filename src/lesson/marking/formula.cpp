@@ -7,6 +7,8 @@
 
 #include "lesson/compound.hpp"
 #include "lesson/marking/confusions.hpp"
+#include "lesson/marking/group_braces.hpp"
+#include "lesson/marking/ions_within.hpp"
 #include "lesson/marking/lookalikes.hpp"
 #include "lesson/marking/reading.hpp"
 #include "lesson/marking/sentences.hpp"
@@ -28,7 +30,8 @@ struct Attempt {
     const FormulaAnswer& answer;
     const std::vector<Slip>& slips;
     std::string_view whatToType;
-    std::string plain;
+    std::string plain; // with its curly brackets as they were typed
+    std::string round; // with round ones for them
     TypedFormula read;
     std::vector<std::string> right; // the key and its other spellings
     Atoms rightAtoms;
@@ -45,37 +48,6 @@ std::string withoutBrackets(std::string text)
         std::remove_if(text.begin(), text.end(), [](char c) { return c == '(' || c == ')'; }),
         text.end());
     return text;
-}
-
-// An ion as often as it is asked, in brackets if it needs them.
-std::string repeated(std::string_view ion, int times)
-{
-    const std::string once(ion);
-    const std::string number = times == 1 ? "" : std::to_string(times);
-    return (isGroup(ion) && times > 1 ? "(" + once + ")" : once) + number;
-}
-
-// How often each of two ions stands in a formula; none in one that is not made of them.
-struct Counts {
-    int positive = 0;
-    int negative = 0;
-};
-
-Counts countsIn(std::string_view formula, std::string_view cation, std::string_view anion)
-{
-    constexpr int most = 9;
-    for (int positive = 1; positive <= most; ++positive) {
-        const std::string first = repeated(cation, positive);
-        if (formula.substr(0, first.size()) != first) {
-            continue;
-        }
-        for (int negative = 1; negative <= most; ++negative) {
-            if (formula.substr(first.size()) == repeated(anion, negative)) {
-                return {positive, negative};
-            }
-        }
-    }
-    return {};
 }
 
 bool endsWith(std::string_view text, std::string_view end)
@@ -140,28 +112,32 @@ std::optional<Mark> nothingTyped(const Attempt& attempt)
                                  : std::nullopt;
 }
 
+// Curly brackets count a group, or hold together what is in them; blanks may stand within a symbol.
 std::optional<Mark> right(const Attempt& attempt)
 {
     const TypedFormula& read = attempt.read;
     const bool isRight =
         (isAmong(attempt.right, read.text) && !read.hasCharge && !read.hasRaisedNumber) ||
-        isAmong(attempt.right, bareFormula(attempt.plain)); // with blanks within a symbol
+        isAmong(attempt.right, bareFormula(attempt.plain)) ||
+        isAmong(attempt.right, bareFormula(withAllBracesRound(attempt.plain)));
     return isRight ? std::optional(markOf(Verdict::correct, sentences::correct)) : std::nullopt;
 }
 
 std::optional<Mark> capitals(const Attempt& attempt)
 {
-    const std::string folded = withoutCapitals(attempt.plain);
+    const std::string folded[] = {withoutCapitals(attempt.plain), withoutCapitals(attempt.round)};
     const bool isSame =
-        std::any_of(attempt.right.begin(), attempt.right.end(),
-                    [&folded](const std::string& text) { return withoutCapitals(text) == folded; });
+        std::any_of(attempt.right.begin(), attempt.right.end(), [&folded](const std::string& text) {
+            const std::string wanted = withoutCapitals(text);
+            return wanted == folded[0] || wanted == folded[1];
+        });
     return slipWhen(isSame, sentences::capitals);
 }
 
 // A text that is no formula may still be a slip but for its capitals.
 std::optional<Mark> listedSlip(const Attempt& attempt)
 {
-    const std::string bare = bareFormula(attempt.plain);
+    const std::string bare = bareFormula(attempt.round);
     const std::string folded = lowerCase(bare);
     const bool isRead = attempt.read.isRead;
     const auto slip =
@@ -313,6 +289,17 @@ std::optional<Mark> otherIon(const Attempt& attempt)
     return std::nullopt;
 }
 
+// "PbOHOH", "MgClCl"
+std::optional<Mark> writtenOut(const Attempt& attempt)
+{
+    const IonRow& cation = *attempt.answer.cation;
+    const IonRow& anion = *attempt.answer.anion;
+    const std::string& typed = attempt.read.simplest;
+    const bool lacksBracket = repeatsGroup(cation, anion) && typed.find('(') == std::string::npos;
+    return slipWhen(attempt.read.atoms == attempt.rightAtoms && isWrittenOut(typed, cation, anion),
+                    lacksBracket ? sentences::bracketForGroups : sentences::numberForIons);
+}
+
 std::optional<Mark> otherOrder(const Attempt& attempt)
 {
     const IonRow& cation = *attempt.answer.cation;
@@ -344,10 +331,11 @@ std::optional<Mark> oxygens(const Attempt& attempt)
 }
 
 constexpr Rule rules[] = {
-    nothingTyped,     right,          capitals,      lookalikes,    listedSlip,         sum,
-    notRead,          chargesLeftIn,  raisedNumber,  numberInFront, numeralLeftIn,      waterLeftIn,
-    bracketNotNeeded, bracketMissing, notSimplified, otherOrder,    chargesDoNotCancel, otherIon,
-    symbol,           ending,         oxygens,
+    nothingTyped,  right,       capitals,           lookalikes,     listedSlip,
+    sum,           notRead,     chargesLeftIn,      raisedNumber,   numberInFront,
+    numeralLeftIn, waterLeftIn, bracketNotNeeded,   bracketMissing, notSimplified,
+    writtenOut,    otherOrder,  chargesDoNotCancel, otherIon,       symbol,
+    ending,        oxygens,
 };
 
 // A formula cut at its symbols: "K2SO4" -> K, S, O and "?2??4".
@@ -395,7 +383,8 @@ Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
                  std::string_view typed, std::string_view whatToType)
 {
     Attempt attempt = {answer, slips, whatToType, withoutBond(spelledOut(plainTyped(typed))),
-                       {},     {},    {}};
+                       {},     {},    {},         {}};
+    attempt.round = withRoundBraces(attempt.plain);
     attempt.read = readFormula(attempt.plain);
     attempt.right = spellingsOf(compoundFormula(*answer.cation, *answer.anion));
     attempt.rightAtoms = readFormula(attempt.right.front()).atoms;

@@ -41,6 +41,9 @@ constexpr std::string_view simplify = "Simplify.";
 constexpr std::string_view bracketMissing = "What does the small number multiply?";
 constexpr std::string_view bracketNotNeeded =
     "A bracket is needed only around a group of atoms that comes more than once.";
+constexpr std::string_view bracketForGroups = "More than one group takes a bracket.";
+constexpr std::string_view numberForIons =
+    "Write each ion once; a small number tells how many there are.";
 constexpr std::string_view chargesLeftIn =
     "A compound has no charge: leave out the charges of its ions.";
 constexpr std::string_view chargesDoNotCancel =

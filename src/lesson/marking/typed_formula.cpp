@@ -7,6 +7,7 @@
 #include <iterator>
 #include <vector>
 
+#include "lesson/marking/group_braces.hpp"
 #include "lesson/marking/typed.hpp"
 #include "lesson/tables/elements.hpp"
 
@@ -23,7 +24,8 @@ namespace lesson
 //   dot      = "." | "·" | "*" | "×"
 //   state    = "_"? ("(s)" | "(l)" | "(g)" | "(aq)") | "↓" | "↑"       perhaps in "_{" and "}"
 //
-// At most one number stands behind a unit: a second one is not read.
+// At most one number stands behind a unit: a second one is not read. Curly brackets around a group
+// are made round ones first.
 
 namespace
 {
@@ -480,11 +482,12 @@ Atoms countAtoms(const std::vector<Piece>& pieces)
 
 TypedFormula readFormula(std::string_view plain)
 {
-    const SplitState split = splitState(plain);
+    const std::string text = withRoundBraces(plain);
+    const SplitState split = splitState(text);
     Reader reader(split.formula);
     TypedFormula typed;
     if (!reader.read()) {
-        typed.unread = split.formula.empty() ? plain : reader.unread();
+        typed.unread = split.formula.empty() ? text : reader.unread();
         return typed;
     }
     typed.atoms = countAtoms(reader.pieces);

@@ -80,6 +80,13 @@ std::vector<std::string> spellingsTyped(const std::string& formula)
         withDigits(formula, subscript),
         withBlanksBetween(formula),
         replaced(replaced(formula, "(", "["), ")", "]"),
+        replaced(replaced(formula, "(", "{"), ")", "}"),
+        replaced(replaced(formula, "(", "{"), ")", "} "),
+        withDigits(replaced(replaced(formula, "(", "{"), ")", "}"),
+                   [](char c) { return "_{" + std::string(1, c) + "}"; }),
+        "{" + formula + "}",
+        replaced(replaced(formula, "(", "{("), ")", ")}"),
+        "\\ce{" + replaced(replaced(formula, "(", "{"), ")", "}") + "}",
         replaced(replaced(formula, "(", "₍"), ")", "₎"),
         replaced(replaced(formula, "(", " ("), ")", ") "),
         formula + "(s)",
@@ -118,6 +125,30 @@ TEST(FormulaMarkTest, NoOtherCompoundIsEverRight)
                 << formula << " for " << compoundName(*asked.cation, *asked.anion);
         }
     }
+}
+
+// Editors put curly brackets around the symbols before each "_".
+TEST(FormulaMarkTest, CurlyBracketsMayHoldSymbolsTogether)
+{
+    struct Row {
+        const char* cation;
+        const char* anion;
+        const char* typed;
+    };
+    const Row rows[] = {
+        {"sodium", "carbonate", "{Na}_2{CO}_3"},       {"sodium", "carbonate", "{{Na}_2CO}_3"},
+        {"potassium", "carbonate", "{K_2CO}_3"},       {"ammonium", "iodide", "{NH}_{4}I"},
+        {"ammonium", "sulfate", "{({NH}_4)}_2{SO}_4"}, {"calcium", "hydroxide", "{Ca(OH)}_2"},
+        {"calcium", "hydroxide", "Ca{OH}_2"},          {"aluminium", "sulfate", "{Al}_2{SO_4}_3"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(markFor(answerFor(row.cation, row.anion), row.typed).sentence, "Correct.")
+            << row.typed;
+    }
+    EXPECT_EQ(markFor(answerFor("sodium", "sulfate"), "{NA}_2{SO}_4").sentence,
+              "Check the capitals: first letter large, second small.");
+    EXPECT_EQ(markFor(answerFor("magnesium", "hydroxide"), "Mg{OH}_3").verdict,
+              Verdict::unreadable);
 }
 
 TEST(FormulaMarkTest, EthanoatesMayBeWrittenInTheirOtherWays)
@@ -166,6 +197,8 @@ TEST(FormulaMarkTest, SlipsGetTheirSentences)
     const std::string letterI = "There is a small l where the letter I should be.";
     const std::string largeI = "There is a large I where the small letter l should be.";
     const std::string one = "There is a 1 where the small letter l should be.";
+    const std::string group = "More than one group takes a bracket.";
+    const std::string eachOnce = "Write each ion once; a small number tells how many there are.";
     const std::string order = "The atoms are right. Write ion after ion, the positive one first.";
     struct Row {
         const char* cation;
@@ -214,6 +247,20 @@ TEST(FormulaMarkTest, SlipsGetTheirSentences)
         {"sodium", "chloride", "ClNa", "The positive ion comes first."},
         {"calcium", "nitrate", "(NO3)2Ca", "The positive ion comes first."},
         {"sodium", "hydroxide", "OHNa", "The positive ion comes first."},
+        {"lead(II)", "hydroxide", "PbOHOH", group},
+        {"lead(II)", "hydroxide", "Pb(OH)(OH)", group},
+        {"lead(II)", "ethanoate", "PbCH3COOCH3COO", group},
+        {"lead(II)", "ethanoate", "CH3COOPbCH3COO", order},
+        {"lead(II)", "ethanoate", "C2H3O2C2H3O2Pb", group},
+        {"aluminium", "sulfate", "Al2SO4SO4SO4", group},
+        {"aluminium", "sulfate", "AlAlSO4SO4SO4", group},
+        {"aluminium", "sulfate", "AlAl(SO4)3", eachOnce},
+        {"ammonium", "sulfate", "NH4NH4SO4", group},
+        {"magnesium", "chloride", "MgClCl", eachOnce},
+        {"sodium", "sulfate", "NaNaSO4", eachOnce},
+        {"aluminium", "sulfate", "Al2{SO4}2", cancel},
+        {"aluminium", "sulfate", "al2{so4}3", capitals},
+        {"magnesium", "hydroxide", "{MgOH}2", bracketMissing},
         {"sodium", "hydroxide", "NaHO", order},
         {"calcium", "hydroxide", "CaO2H2", order},
         {"ammonium", "nitrate", "N2H4O3", order},
