@@ -130,11 +130,13 @@ NumberAnswer numberOf(const Dilution& drawn)
     return {answerOf(drawn), {}, false, true};
 }
 
-// Who takes the whole volume for the water must not seem to have rounded it.
-bool isWaterToldFromWhole(const Dilution& drawn)
+// Who takes the whole volume for the water, or the one that is there before, must not seem right.
+bool isWaterToldFromOthers(const Dilution& drawn)
 {
-    return drawn.asked != Asked::water ||
-           isVisible(numberOf(drawn), figures, drawn.V2 * ratio(1000));
+    const auto isShown = [&](Ratio volume) {
+        return isVisible(numberOf(drawn), figures, volume * ratio(1000));
+    };
+    return drawn.asked != Asked::water || (isShown(drawn.V1) && isShown(drawn.V2));
 }
 
 Dilution draw(const Place& place)
@@ -143,7 +145,7 @@ Dilution draw(const Place& place)
     const Asked asked = drawAsked(draws, place.level);
     for (;;) {
         const Dilution drawn = drawOnce(draws, asked);
-        if (isSensible(drawn) && isWaterToldFromWhole(drawn) &&
+        if (isSensible(drawn) && isWaterToldFromOthers(drawn) &&
             CorrectAnswers(answerOf(drawn)).haveEveryOrderOf(calculationOf(drawn))) {
             return drawn;
         }

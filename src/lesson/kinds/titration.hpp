@@ -28,7 +28,8 @@ struct Titration {
 };
 
 // The one of a place. Every order of working it out ends at an answer that is correct, and who
-// exchanges the volumes or averages the rough titre in is told so.
+// exchanges the volumes, does without them, copies the known concentration or averages the rough
+// titre in is told so.
 Titration drawTitration(const Place& place);
 
 bool isKnownInBurette(const Titration& drawn);

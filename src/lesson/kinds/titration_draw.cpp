@@ -153,8 +153,10 @@ bool showsMistakes(const Titration& drawn)
     const auto isShown = [&](Ratio mistake) { return isVisible(answer, askedFigures, mistake); };
     const auto [known, unknown] = volumesOf(drawn);
     const Ratio exchange = unknown / known;
-    return (drawn.titres.empty() || isShown(answerFor(drawn, meanWithRoughTitre(drawn)))) &&
-           isShown(drawn.answer * exchange * exchange);
+    const Ratio withoutVolumes = drawn.answer * exchange;
+    return isShown(drawn.concentration) && isShown(withoutVolumes) &&
+           isShown(withoutVolumes * exchange) &&
+           (drawn.titres.empty() || isShown(answerFor(drawn, meanWithRoughTitre(drawn))));
 }
 
 Calculation calculationOf(const Titration& drawn)
