@@ -13,11 +13,12 @@
 //   number    = decimal ["/" decimal]
 //   decimal   = "10" power | (whole [point [fraction]] | point fraction) [exponent]
 //   whole     = digits, or groups of three with blanks or commas between them
-//   point     = "." or one "," or "'", or "·" where no power of ten follows
+//   point     = "." or one "," or "'", or "·" where no power of ten follows; behind a 0 alone also
+//               "." or "," with blanks beside it
 //   fraction  = digits, perhaps in groups of three with blanks between them
 //   exponent  = "e" [sign] digits | (times | blank) "10" (power | sign digits) | "." "10" power
 //   power     = ("^" | "**") [bracket] [sign] digits [bracket]
-//   times     = "x" | "×" | "*" | "·"
+//   times     = "x" | "×" | "*" | "·" | "times" | "multiplied by"
 //
 // A comma or an apostrophe before a group of three is left to the learner, unless something settles
 // what it means.
@@ -101,7 +102,9 @@ std::optional<std::int64_t> takeLetterExponent(std::string_view& rest)
 
 bool takeTimes(std::string_view& rest)
 {
-    constexpr std::string_view signs[] = {"x", "X", "×", "*", "·"};
+    constexpr std::string_view signs[] = {
+        "x", "X", "×", "*", "·", "times", "Times", "multiplied by", "Multiplied by",
+    };
     return std::any_of(std::begin(signs), std::end(signs),
                        [&rest](std::string_view sign) { return take(rest, sign); });
 }
@@ -194,12 +197,28 @@ std::string takeFraction(std::string_view& rest)
     return digits;
 }
 
-// The sign between a whole number and its fraction, where one is at the front. A raised dot is one
-// on some keyboards; before a power of ten it is a "times", and so is a point: "2·10^-1".
-std::string_view pointAtFront(std::string_view rest, bool hasDigits, bool mayBeComma)
+// A point where a phone may have set blanks beside it. That is read behind a 0 alone, which cannot
+// be the number of an answer, as in "1. 530".
+std::string_view pointWithBlanks(std::string_view rest)
 {
-    if (hasDigits && startsWithPowerOfTen(rest)) {
+    std::string_view behind = rest;
+    takeBlanks(behind);
+    const bool isPoint = take(behind, ".") || take(behind, ",");
+    takeBlanks(behind);
+    return isPoint && startsWithDigit(behind) ? rest.substr(0, rest.size() - behind.size()) : "";
+}
+
+// The sign between a whole number, in digits, and its fraction, where one is at the front. A raised
+// dot is one on some keyboards; before a power of ten it is a "times", and so is a point:
+// "2·10^-1".
+std::string_view pointAtFront(std::string_view rest, std::string_view whole, bool mayBeComma)
+{
+    if (!whole.empty() && startsWithPowerOfTen(rest)) {
         return {};
+    }
+    const std::string_view apart = whole == "0" ? pointWithBlanks(rest) : "";
+    if (!apart.empty()) {
+        return apart;
     }
     if (startsWith(rest, ".")) {
         return ".";
@@ -224,8 +243,7 @@ Mantissa takeMantissa(std::string_view& rest)
         mantissa.digits += hasThousandsCommas ? groups : takeGroups(rest, " ");
     }
     mantissa.wholeDigits = mantissa.digits.size();
-    const std::string_view point =
-        pointAtFront(rest, !mantissa.digits.empty(), !hasThousandsCommas);
+    const std::string_view point = pointAtFront(rest, mantissa.digits, !hasThousandsCommas);
     mantissa.hasPoint = !point.empty();
     if (!mantissa.hasPoint) {
         return mantissa;

@@ -114,6 +114,17 @@ std::string withPlainWords(std::string_view text)
     return plain;
 }
 
+// "mol/dm-3" is "mol/dm3": who writes both a stroke and a negative power means one of them.
+std::string withoutDoubleDivision(std::string plain)
+{
+    const std::size_t minus = plain.find('-');
+    if (plain.find('/') < minus && minus != std::string::npos) {
+        const std::string_view power = std::string_view(plain).substr(minus);
+        plain.erase(minus, power == "-1" ? 2 : power == "-3" ? 1 : 0);
+    }
+    return plain;
+}
+
 } // namespace
 
 std::optional<Unit> unitOf(std::string_view typed)
@@ -126,7 +137,7 @@ std::optional<Unit> unitOf(std::string_view typed)
     if (symbol == "mM") {
         return Unit{Measure::concentration, -3, "mM"};
     }
-    const std::string plain = withoutJoins(withPlainWords(typed));
+    const std::string plain = withoutDoubleDivision(withoutJoins(withPlainWords(typed)));
     const auto* const row = std::find_if(std::begin(units), std::end(units),
                                          [&](const UnitRow& unit) { return unit.plain == plain; });
     return row == std::end(units) ? std::nullopt : std::optional<Unit>(row->unit);

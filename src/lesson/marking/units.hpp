@@ -24,6 +24,7 @@ struct Unit {
 // answer can be in.
 //   "mL", "(ml)", "millilitres" -> volume, -3, "mL"    "cm^3", "cc" -> volume, -3, "cm³"
 //   "mol/L", "moles per litre" -> concentration, 0, "mol/L"    "mol.dm^{-3}" -> …, "mol dm⁻³"
+//   "mol/dm-3", which divides twice -> as "mol/dm3"
 std::optional<Unit> unitOf(std::string_view typed);
 
 // What is left of a text that ends with the formula or word, perhaps typed with other blanks, dots

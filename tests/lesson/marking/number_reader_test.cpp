@@ -105,6 +105,12 @@ TEST(NumberReaderTest, ReadsEverySpellingOfANumber)
         {"3.42x10²", "342e0 (3)"},
         {"3.42x10+2", "342e0 (3)"},
         {"3,42×10⁻²", "342e-4 (3)"},
+        {"3.42 times 10^-2", "342e-4 (3)"},
+        {"3.42 Times 10⁻²", "342e-4 (3)"},
+        {"3.42times10^-2", "342e-4 (3)"},
+        {"3.42 times 10-2", "342e-4 (3)"},
+        {"3.42 multiplied by 10^-2", "342e-4 (3)"},
+        {"3.42 multiplied by 10^(-2) mol/L", "342e-4 (3)"},
         {"342e-4", "342e-4 (3)"},
         {"25e1", "25e1 (2)"},
         {"250e0", "25e1 (2 to 3)"},
@@ -197,6 +203,30 @@ TEST(NumberReaderTest, ReadsRaisedPointsAndPowersOfTenWithoutATimesSign)
     }
 }
 
+TEST(NumberReaderTest, ReadsABlankBesideThePointBehindAZero)
+{
+    // clang-format off
+    const ReadCase cases[] = {
+        {"0. 0456", "456e-4 (3)"},
+        {"0 .0456", "456e-4 (3)"},
+        {"0 . 0456", "456e-4 (3)"},
+        {"0, 0456", "456e-4 (3)"},
+        {"0 ,0456", "456e-4 (3)"},
+        {"c = 0. 0456 mol/L", "456e-4 (3)"},
+        {"0. 0456 (3 s.f.)", "456e-4 (3)"},
+        {"0. 045 57", "4557e-5 (4)"},
+        {"0. 456 x 10^-1", "456e-4 (3)"},
+        {"0. 456e-1", "456e-4 (3)"},
+        {"0. 100", "1e-1 (3)"},
+        {"0.", "0"},
+        {"0. mol/L", "0"},
+    };
+    // clang-format on
+    for (const ReadCase& c : cases) {
+        EXPECT_EQ(read(c.typed), c.expected) << c.typed;
+    }
+}
+
 TEST(NumberReaderTest, ReadsTheDigitsOfOtherScripts)
 {
     // clang-format off
@@ -251,6 +281,7 @@ TEST(NumberReaderTest, WorksAQuotientOut)
         {"1.14e-3/0.025", ratio(114, 2500)},
         {"1.14×10⁻³/2.5×10⁻²", ratio(114, 2500)},
         {"0,00114/0,025", ratio(114, 2500)},
+        {"0. 00114/0. 025", ratio(114, 2500)},
         {"999999999/999999998", ratio(999999999, 999999998)},
     };
     // clang-format on
@@ -468,6 +499,14 @@ TEST(NumberReaderTest, ConvertsToTheAskedUnit)
         {"mL", "0.123 456 3 s.f.", "123456e-6 (6)"},
         {"mol/L", "45.6 mM [3 SF]", "456e-4 (3)"},
         {"mol/L", "0.0456 mmol/mL", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol/dm-3", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol/dm^-3", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol/dm-³", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol/dm⁻³", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol/dm−3", "456e-4 (3)"},
+        {"mol/L", "0.0456 mol/L-1", "456e-4 (3)"},
+        {"mol/L", "45.6 mmol/dm-3 of NaCl", "456e-4 (3)"},
+        {"g/mol", "249.7 g/mol-1", "2497e-1 (4)"},
         {"mol/L", "0.0456 mmol cm-3", "456e-4 (3)"},
         {"mol/L", "0.0456 mol per L", "456e-4 (3)"},
         {"mol/L", "0.0456 mol l^{-1}", "456e-4 (3)"},
@@ -492,7 +531,7 @@ TEST(NumberReaderTest, TellsWhichUnitTheAnswerHas)
         "0.0456 mL",      "0.0456 L",      "5 %",          "5%",
         "0.0456 g/mol",   "0.0456 mol/kg", "0.0456 (g/L)", "5 °C",
         "0.0456 µmol/L",  "0.0456 N",      "0.0456 mm",    "0.0456 [g]",
-        "0.0456 mol/L-1", "5 ppm",         "c = 2.66 g/L", "0.0456 mol/m^3",
+        "0.0456 mol/L-2", "5 ppm",         "c = 2.66 g/L", "0.0456 mol/m^3",
     };
     for (const char* const other : others) {
         EXPECT_EQ(read(other), "The answer should be in mol/L.") << other;
@@ -563,7 +602,18 @@ TEST(NumberReaderTest, QuotesThePartThatItCannotRead)
         {"1  250", "250"},
         {"0 456", "456"},
         {"1250 000", "000"},
-        {"0. 0456", "0456"},
+        // Who numbers the answer types such a point too.
+        {"1. 0456", "0456"},
+        {"10. 456", "456"},
+        {"1 .0456", ".0456"},
+        {"0.. 456", ". 456"},
+        {"0. 0. 456", ". 456"},
+        {"0.  ,456", ",456"},
+        {"0 456. 5", "456. 5"},
+        {"0.5 30", "30"},
+        {"5.30 times 102", "times 102"},
+        {"5.30 times 2", "times 2"},
+        {"5.30 multiplied 10^-1", "multiplied 10^-1"},
         {"0.045 5712", "5712"},
         {"0.0455 712", "712"},
         {"0.0456\x01", "\uFFFD"},

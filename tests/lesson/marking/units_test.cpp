@@ -27,6 +27,7 @@ TEST(UnitsTest, APrintedUnitIsTheOneThatWasTyped)
         {"mol/L", "mol/L"}, {"moles per litre", "mol/L"}, {"mol L^-1", "mol/L"}, {"mmol L-1", "mmol/L"},
         {"mol/dm^3", "mol/dm³"}, {"mol.dm^{-3}", "mol dm⁻³"}, {"M", "M"}, {"mM", "mM"},
         {"mmol dm^-3", "mmol dm⁻³"}, {"mmol/l", "mmol/L"}, {"g mol-1", "g mol⁻¹"},
+        {"mol/dm-3", "mol/dm³"}, {"g/mol-1", "g/mol"}, {"mmol/L^-1", "mmol/L"},
         {"cm^3", "cm³"}, {"cc", "cm³"}, {"ML", "mL"}, {"litres", "L"}, {"dm3", "dm³"},
         {"ltr", "L"}, {"cubic centimetres", "cm³"},
         {"cubic decimeter", "dm³"}, {"moles per cubic decimetre", "mol/dm³"},
@@ -85,6 +86,18 @@ TEST(UnitsTest, KnowsEveryUsualSpelling)
         {"millimolar", Measure::concentration, -3},
         {"mmol/mL", Measure::concentration, 0},
         {"mmol cm-3", Measure::concentration, 0},
+        // Divided twice.
+        {"mol/dm-3", Measure::concentration, 0},
+        {"mol/dm^-3", Measure::concentration, 0},
+        {"mol / dm^{-3}", Measure::concentration, 0},
+        {"moles per dm-3", Measure::concentration, 0},
+        {"mol/L-1", Measure::concentration, 0},
+        {"mol/litre^(-1)", Measure::concentration, 0},
+        {"mmol/dm-3", Measure::concentration, -3},
+        {"mmol/cm-3", Measure::concentration, 0},
+        {"g/mol-1", Measure::molarMass, 0},
+        {"g/mol^-1", Measure::molarMass, 0},
+        {"kg/mol-1", Measure::molarMass, 3},
         {"kg mol^-1", Measure::molarMass, 3},
         {"kg/mol", Measure::molarMass, 3},
         {"g/mol", Measure::molarMass, 0},
@@ -133,10 +146,12 @@ TEST(UnitsTest, KnowsEveryUsualSpelling)
 TEST(UnitsTest, OtherUnitsAndTextsAreNone)
 {
     const char* const others[] = {
-        "",       "m",       "mm",     "MM",   "Mm",          "mol", "mol L", "mol/L-1",
-        "mol-L",  "L/mol",   "g/L",    "%",    "cm",          "cm2", "dm",    "m3",
-        "mol/kg", "mol/m3",  "µL",     "gmol", "per",         "of",  "-1",    "mol//L",
-        "kmol/L", "mol per", "g/mol2", "\xC2", "mol/L mol/L",
+        "",         "m",       "mm",     "MM",   "Mm",          "mol",      "mol L",    "mol/L-3",
+        "mol-L",    "L/mol",   "g/L",    "%",    "cm",          "cm2",      "dm",       "m3",
+        "mol/kg",   "mol/m3",  "µL",     "gmol", "per",         "of",       "-1",       "mol//L",
+        "kmol/L",   "mol per", "g/mol2", "\xC2", "mol/L mol/L", "mol/dm-1", "mol/dm-2", "mol/dm--3",
+        "mol/m-3",  "mol/-L",  "mol/-1", "/-1",  "-3/",         "mol/L-",   "L-1/mol",  "mol-1/g",
+        "mol/L-11",
     };
     for (const char* const other : others) {
         EXPECT_FALSE(unitOf(other)) << other;
