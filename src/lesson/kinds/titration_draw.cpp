@@ -146,17 +146,20 @@ bool isInRange(const Titration& drawn)
     return ratio(2, 100) <= drawn.answer && drawn.answer <= ratio(1) && areTitresReadable;
 }
 
-// A ratio that is left out or turned over shows by itself, since it is 2 or a half.
+// A ratio that is left out or turned over shows by itself, since it is 2 or a half. A rough titre
+// shows the least often.
 bool showsMistakes(const Titration& drawn)
 {
     const NumberAnswer answer = numberAnswerOf(drawn);
     const auto isShown = [&](Ratio mistake) { return isVisible(answer, askedFigures, mistake); };
+    if (!drawn.titres.empty() && !isShown(answerFor(drawn, meanWithRoughTitre(drawn)))) {
+        return false;
+    }
     const auto [known, unknown] = volumesOf(drawn);
     const Ratio exchange = unknown / known;
     const Ratio withoutVolumes = drawn.answer * exchange;
     return isShown(drawn.concentration) && isShown(withoutVolumes) &&
-           isShown(withoutVolumes * exchange) &&
-           (drawn.titres.empty() || isShown(answerFor(drawn, meanWithRoughTitre(drawn))));
+           isShown(withoutVolumes * exchange);
 }
 
 Calculation calculationOf(const Titration& drawn)
