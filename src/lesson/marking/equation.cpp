@@ -131,6 +131,9 @@ Mark markSubstances(const TypedEquation& typed, const Roles& roles, const Assign
         return markOf(Verdict::slip, "The arrow points from acid and base to the products.");
     }
     const std::vector<Extra> extras = explainedExtras(roles, assignment);
+    if (const Extra* const extra = firstOf(extras, Mistake::ammoniaAndWater)) {
+        return {Verdict::unreadable, extra->sentence};
+    }
     for (const Mistake mistake :
          {Mistake::carbonicAcid, Mistake::hydrogenGas, Mistake::otherSubstance}) {
         if (const Extra* const extra = firstOf(extras, mistake)) {
@@ -257,6 +260,15 @@ bool hasCharge(const TypedTerm& term)
     return term.formula.isRead && term.formula.hasCharge;
 }
 
+// "CaCl2 - 2H2O"
+bool hasMinusForPlus(const TypedTerm& term)
+{
+    const std::string_view text = term.text;
+    const std::size_t minus = text.find('-');
+    return minus != std::string_view::npos && isCompound(text.substr(0, minus)) &&
+           isCompound(text.substr(minus + 1));
+}
+
 // The one term that is a name.
 Mark markName(const TypedEquation& typed)
 {
@@ -278,6 +290,9 @@ Mark markUnread(const TypedEquation& typed, const std::string& plain, const Role
     }
     if (hasRightSubstances(assigned(typed, roles, true))) {
         return markOf(Verdict::unreadable, sentences::capitals);
+    }
+    if (typed.arrow != Arrow::none && countTerms(typed, hasMinusForPlus) > 0) {
+        return markOf(Verdict::unreadable, "Put a plus sign between substances.");
     }
     const std::ptrdiff_t names = countTerms(typed, isTypedName);
     if (names > 1 || (names == 1 && typed.arrow == Arrow::none)) {

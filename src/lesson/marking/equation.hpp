@@ -23,6 +23,7 @@ constexpr std::string_view charges = "Check the charges.";
 constexpr std::string_view numberInFront =
     "The number of molecules stands in front of the formula.";
 constexpr std::string_view waterOfCrystals = "In solution the salt has no water of crystals.";
+constexpr std::string_view waterBesides = "Leave out the water of crystals.";
 constexpr std::string_view wholeFormulas = "Write whole formulas here, not ions.";
 constexpr std::string_view names = "Those are names. Type formulas.";
 

@@ -283,18 +283,21 @@ std::optional<Extra> misspeltIons(const TermOnSide& typed, const Role& role)
                          : std::optional(misspeltAs(typed, role, sentences::checkSymbol(wrong)));
 }
 
-// "CuSO4.5H2O"
+// "CuSO4.5H2O"; but "CaO.H2O" is the hydroxide.
 bool hasWaterOfCrystals(const TypedTerm& term, const Role& role)
 {
     const std::size_t dot = term.formula.text.find('.');
-    return dot != std::string::npos &&
-           readFormula(std::string_view(term.formula.text).substr(0, dot)).atoms == role.atoms;
+    return !role.noun.empty() && dot != std::string::npos &&
+           readFormula(std::string_view(term.formula.text).substr(0, dot)).atoms == role.atoms &&
+           findSubstance(term.formula.atoms, role.noun) == nullptr;
 }
 
 std::optional<Extra> misspelt(const TermOnSide& typed, const Role& role)
 {
     if (hasWaterOfCrystals(*typed.term, role)) {
-        return misspeltAs(typed, role, std::string(sentences::waterOfCrystals));
+        return misspeltAs(typed, role,
+                          std::string(role.noun == "salt" ? sentences::waterOfCrystals
+                                                          : sentences::waterBesides));
     }
     const std::string_view misspelled = misspelling(*typed.term, role);
     if (!misspelled.empty()) {
@@ -341,6 +344,24 @@ std::optional<Extra> product(const TermOnSide& typed, const Roles& roles)
     return halfWay(typed, roles);
 }
 
+// "NH4OH", "NH3.H2O"
+bool isAmmoniaAndWater(const TermOnSide& typed, const Role& base)
+{
+    static const Atoms both = atomsOf("NH4OH");
+    return typed.isOnTheLeft && base.formula == "NH3" && typed.term->formula.atoms == both;
+}
+
+// The right atoms, but those of another substance or in disorder.
+Extra inDisorder(const TermOnSide& typed, const Role& role)
+{
+    const std::string start = quotable(typed.term->formula.text) + " has the right atoms";
+    if (role.noun != "acid" && role.cation != nullptr) {
+        return misspeltAs(typed, role, start + ". Write ion after ion, the positive one first.");
+    }
+    const std::string what = role.noun.empty() ? "that molecule" : "the " + std::string(role.noun);
+    return misspeltAs(typed, role, start + ", but " + what + " is written in another way.");
+}
+
 Extra anElement(const TermOnSide& typed)
 {
     const std::string_view rule = typed.isOnTheLeft ? " is an element. Acid and base are compounds."
@@ -348,18 +369,40 @@ Extra anElement(const TermOnSide& typed)
     return {typed, Mistake::otherSubstance, quotable(typed.term->formula.text) + std::string(rule)};
 }
 
+// The species of its side that no term stands for.
+std::vector<const Role*> missingBeside(const TermOnSide& typed, const Roles& roles,
+                                       const Assignment& assignment)
+{
+    std::vector<const Role*> missing;
+    for (std::size_t i = 0; i < roles.size(); ++i) {
+        if (roles[i].isOnTheLeft == typed.isOnTheLeft && isMissing(assignment, i)) {
+            missing.push_back(&roles[i]);
+        }
+    }
+    return missing;
+}
+
 Extra explained(const TermOnSide& typed, const Roles& roles, const Assignment& assignment)
 {
+    if (isAmmoniaAndWater(typed, baseOf(roles))) {
+        return {typed, Mistake::ammoniaAndWater,
+                quotable(typed.term->formula.text) + " is ammonia and water: write NH3.",
+                &baseOf(roles)};
+    }
+    const std::vector<const Role*> missing = missingBeside(typed, roles, assignment);
+    for (const Role* const role : missing) {
+        if (typed.term->formula.atoms == role->atoms) {
+            return inDisorder(typed, *role);
+        }
+    }
     if (!typed.isOnTheLeft) {
         if (std::optional<Extra> known = product(typed, roles)) {
             return *known;
         }
     }
-    for (std::size_t i = 0; i < roles.size(); ++i) {
-        if (roles[i].isOnTheLeft == typed.isOnTheLeft && isMissing(assignment, i)) {
-            if (std::optional<Extra> wrong = misspelt(typed, roles[i])) {
-                return *wrong;
-            }
+    for (const Role* const role : missing) {
+        if (std::optional<Extra> wrong = misspelt(typed, *role)) {
+            return *wrong;
         }
     }
     return typed.term->formula.atoms.size() == 1 ? anElement(typed) : Extra{typed};

@@ -11,6 +11,7 @@ namespace lesson
 // What is wrong with a typed term that stands for no species of the equation.
 enum class Mistake {
     unknown,
+    ammoniaAndWater, // for ammonia, with the water in which it is dissolved
     carbonicAcid,
     hydrogenGas,
     otherSubstance, // one that another question asks for, or an element

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "lesson/marking/spellings.hpp"
+#include "lesson/marking/equation_spellings.hpp"
 #include "lesson/marking/typed.hpp"
 #include "lesson/marking/typed_formula.hpp"
 #include "lesson/tables/pairs.hpp"
@@ -29,10 +29,12 @@ States statesOfBase(const Pair& pair)
     return statesOfSalt(pair) == States{"s", ""} ? States{"s", ""} : solidOrDissolved;
 }
 
-// Formulas are the same where their atoms are: nobody has to write the groups in one order.
+// The same atoms may make another substance: "HCOOCH3" is not CH3COOH.
 bool isSpelledRight(const TypedTerm& term, const Role& role)
 {
-    return term.unread.empty() && term.formula.atoms == role.atoms;
+    const std::vector<std::string>& spellings = role.spellings;
+    return term.unread.empty() && term.formula.atoms == role.atoms &&
+           std::find(spellings.begin(), spellings.end(), term.formula.simplest) != spellings.end();
 }
 
 using IsSame = bool (*)(const TypedTerm&, const Role&);
@@ -112,6 +114,8 @@ Roles rolesOf(const EquationAnswer& answer)
             roles.back().coefficient = coefficient;
             roles.back().formula = formula;
             roles.back().atoms = atomsOf(formula);
+            roles.back().spellings =
+                spellingsInEquation(formula, roles.back().cation, roles.back().anion);
         }
     }
     return roles;
@@ -120,10 +124,9 @@ Roles rolesOf(const EquationAnswer& answer)
 bool isSpelledRightButForCapitals(const TypedTerm& term, const Role& role)
 {
     const std::string typed = withoutCapitals(term.text);
-    const std::vector<std::string> spellings = spellingsOf(role.formula);
-    return std::any_of(spellings.begin(), spellings.end(), [&typed](const std::string& spelling) {
-        return lowerCase(spelling) == typed;
-    });
+    return std::any_of(
+        role.spellings.begin(), role.spellings.end(),
+        [&typed](const std::string& spelling) { return lowerCase(spelling) == typed; });
 }
 
 Assignment assigned(const TypedEquation& typed, const Roles& roles, bool isAnyCase)

@@ -26,7 +26,8 @@ struct Role {
     bool isOnTheLeft = false;
     int coefficient = 0;
     std::string formula = {};
-    Atoms atoms = {}; // by atomic number, as those of a typed formula are
+    Atoms atoms = {};                        // by atomic number, as those of a typed formula are
+    std::vector<std::string> spellings = {}; // of the formula, as `spellingsInEquation` has them
 };
 
 // Acid, base, salt, and then water and carbon dioxide as far as they form.

@@ -55,6 +55,22 @@ std::string_view takeArrowName(std::string_view& rest)
     return isThere ? "->" : "";
 }
 
+// Whether a number that was raised stands where a coefficient belongs: "+ ^2H2O", while that of
+// "Ca^2+" and of "H^2O" stands behind a symbol.
+bool isRaisedCoefficient(std::string_view before, std::string_view rest)
+{
+    const std::size_t last = before.find_last_not_of(' ');
+    if ((last != std::string_view::npos && !isOneOf(before[last], "+>=")) || !take(rest, "^") ||
+        !startsWithDigit(rest)) {
+        return false;
+    }
+    while (startsWithDigit(rest)) {
+        rest.remove_prefix(1);
+    }
+    takeBlanks(rest);
+    return startsWith(rest, "(") || startsWithLetter(rest);
+}
+
 } // namespace
 
 std::string withPlainSigns(std::string_view plain)
@@ -68,6 +84,7 @@ std::string withPlainSigns(std::string_view plain)
             text.append(" ").append(sign);
             continue;
         }
+        rest.remove_prefix(isRaisedCoefficient(text, rest) ? 1 : 0);
         const std::size_t slipped = rest.find_first_not_of(slippedDashes);
         const std::size_t length = slipped == std::string_view::npos ? rest.size() : slipped;
         if (length == 0) {

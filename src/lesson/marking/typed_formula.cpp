@@ -505,6 +505,12 @@ TypedFormula readFormula(std::string_view plain)
     return typed;
 }
 
+bool isCompound(std::string_view text)
+{
+    const TypedFormula read = readFormula(text);
+    return read.isRead && !read.hasCharge && read.atoms.size() > 1;
+}
+
 std::string withoutBond(std::string plain)
 {
     const std::size_t bond = plain.find("-CO");

@@ -30,6 +30,9 @@ struct TypedFormula {
 //   "Ca(OH)_2 (s)" -> "Ca(OH)2", state "s"    "[Na]_{2} SO4" -> "(Na)2SO4", simplest "Na2SO4"
 TypedFormula readFormula(std::string_view plain);
 
+// Whether all of the text is a formula of several elements without a charge.
+bool isCompound(std::string_view plain);
+
 // With the groups written out that chemists abbreviate: Ac is ethanoate here, for no exercise asks
 // for actinium.
 //   "Ca(OAc)2" -> "Ca(CH3COO)2"    "CaAc2" -> "Ca(CH3COO)2"    "MeCOOH" -> "CH3COOH"

@@ -249,8 +249,12 @@ TEST(EquationMarkTest, WaterOfCrystals)
 {
     expectMarks(answerOf("H2SO4", "copper(II)", "oxide"),
                 {{"H2SO4 + CuO -> CuSO4·5H2O", Verdict::slip, "One more product."},
+                 {"H2SO4 + CuO.H2O -> CuSO4 + H2O", Verdict::slip,
+                  "Oxide and hydroxide are two different ions."},
                  {"H2SO4 + CuO -> CuSO4.5H2O + H2O", Verdict::slip,
                   "In solution the salt has no water of crystals."}});
+    expectMarks(soda(), {{"2HCl + Na2CO3.10H2O -> 2NaCl + 11H2O + CO2", Verdict::slip,
+                          "Leave out the water of crystals."}});
 }
 
 TEST(EquationMarkTest, NoArrow)
@@ -457,13 +461,46 @@ TEST(EquationMarkTest, States)
          {"2HCl + Na2CO3 -> 2NaCl(s) + H2O + CO2", Verdict::slip, "Check the state of NaCl."},
          {"2HCl + Na2CO3 -> 2NaCl + H2O(aq) + CO2(l)", Verdict::slip, "Check the state of H2O."},
          {"2HCl + Na2CO3 -> 2NaCl + H2O + CO2(aq)", Verdict::slip, "Check the state of CO2."}});
-    expectMarks(
-        {findAcid("HCl"), ammonia()},
-        {{"HCl + NH3 -> NH4Cl", Verdict::correct, "Correct."},
-         {"HCl(aq) + NH3(aq) -> NH4Cl(aq)", Verdict::correct, "Correct."},
-         {"HCl(aq) + NH3(g) -> NH4Cl(aq)", Verdict::correct, "Correct."},
-         {"HCl + NH3(l) -> NH4Cl", Verdict::slip, "Check the state of NH3."},
-         {"HCl + NH4OH -> NH4Cl", Verdict::wrong, "Not right yet. NH4OH does not react here."}});
+    expectMarks({findAcid("HCl"), ammonia()},
+                {{"HCl + NH3 -> NH4Cl", Verdict::correct, "Correct."},
+                 {"HCl(aq) + NH3(aq) -> NH4Cl(aq)", Verdict::correct, "Correct."},
+                 {"HCl(aq) + NH3(g) -> NH4Cl(aq)", Verdict::correct, "Correct."},
+                 {"HCl + NH3(l) -> NH4Cl", Verdict::slip, "Check the state of NH3."},
+                 {"HCl + NH3 -> NH4Cl(g)", Verdict::slip, "Check the state of NH4Cl."}});
+}
+
+TEST(EquationMarkTest, AmmoniaWithTheWaterAroundIt)
+{
+    for (const char* const typed : {"HCl + NH4OH -> NH4Cl + H2O", "HCl + NH4OH -> NH4Cl"}) {
+        expectMarks({findAcid("HCl"), ammonia()},
+                    {{typed, Verdict::unreadable, "NH4OH is ammonia and water: write NH3."}});
+    }
+    expectMarks({findAcid("H2SO4"), ammonia()},
+                {{"H2SO4 + 2NH3·H2O -> (NH4)2SO4 + 2H2O", Verdict::unreadable,
+                  "NH3.H2O is ammonia and water: write NH3."}});
+    // Nothing else stands for ammonia.
+    expectMarks(lye(), {{"H2SO4 + 2NH4OH -> Na2SO4 + 2H2O", Verdict::wrong,
+                         "Not right yet. NH4OH does not react here."}});
+}
+
+TEST(EquationMarkTest, RaisedCoefficients)
+{
+    for (const char* const typed :
+         {"²HCl + Na2CO3 -> ²NaCl + H2O + CO2", "²HCl+Na₂CO₃→²NaCl+H²O+CO²",
+          "Na2CO3+²HCl = ² NaCl + CO2 + H2O", "^2HCl + Na2CO3 -> ^2NaCl + ¹H2O + CO2"}) {
+        expectMarks(soda(), {{typed, Verdict::correct, "Correct."}});
+    }
+    expectMarks(soda(), {{"HCl + Na2CO3 -> ²NaCl + H2O + CO2", Verdict::slip,
+                          "Count the chlorine atoms: 1 on the left, 2 on the right."}});
+}
+
+TEST(EquationMarkTest, MinusForPlus)
+{
+    for (const char* const typed :
+         {"2HCl + Na2CO3 -> 2NaCl - H2O + CO2", "2HCl - Na2CO3 -> 2NaCl + H2O + CO2",
+          "2HCl + Na2CO3 -> 2NaCl + H2O − CO2", "Na2CO3-2HCl -> 2NaCl + H2O + CO2"}) {
+        expectMarks(soda(), {{typed, Verdict::unreadable, "Put a plus sign between substances."}});
+    }
 }
 
 std::string repeated(const std::string& piece, std::size_t length)
