@@ -10,6 +10,7 @@
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/typed.hpp"
 #include "lesson/marking/typed_formula.hpp"
+#include "lesson/marking/typed_precipitate.hpp"
 
 namespace lesson
 {
@@ -55,6 +56,7 @@ constexpr std::string_view everything[] = {
 constexpr std::string_view inSolution[] = {
     "soluble", "dissolved", "dissolve", "dissolves", "solution",
 };
+constexpr std::string_view aqueous[] = {"aq", "aqueous"};
 constexpr std::string_view precipitating[] = {
     "precipitate", "precipitates", "precipitated", "precipitation", "ppt", "ppte", "ppts", "form",
     "forms", "formed", "react", "reaction", "rxn", "solid", "solids", "product", "products",
@@ -320,10 +322,16 @@ bool saysNone(const std::string& words)
     return isSentenceOfNone({split.begin() + (pausesBehindNo(words) ? 1 : 0), split.end()});
 }
 
-bool isCompound(std::string_view text)
+// "none, BaBr2": a compound that is not said to stay in solution.
+bool isTakenBack(const std::string& words, std::string_view plain)
 {
-    const TypedFormula read = readFormula(text);
-    return read.isRead && !read.hasCharge && read.atoms.size() > 1;
+    const std::vector<std::string> split = splitWords(words);
+    const bool isDissolved = hasAny(split, inSolution) || hasAny(split, aqueous);
+    const bool isNoSolid =
+        hasAny(split, negations) && (hasAny(split, precipitating) || hasAny(split, insoluble));
+    const bool isSaid = (isDissolved && !hasAny(split, insoluble)) || isNoSolid;
+    const bool isDenied = standsBefore(split, negations, inSolution);
+    return namesCompound(plain) && !isAmong(none, words) && (!isSaid || isDenied);
 }
 
 // "CuCO3 + NH4Cl", "PbI2, KNO3" or a whole equation: more than the precipitate.
@@ -355,36 +363,53 @@ constexpr std::string_view lookAgain =
 constexpr std::string_view chooseYesOrNo = "Choose yes or no.";
 constexpr std::string_view typeFormulaOrNone = "Type a formula, or none.";
 
+Mark unreadPrecipitate(const std::string& plain)
+{
+    return unreadable(unreadWords(plain), typeFormulaOrNone);
+}
+
+Mark markName(const std::string& name)
+{
+    return {Verdict::unreadable,
+            "'" + quotable(name) + "' is a name. " + std::string(typeFormulaOrNone)};
+}
+
 // No precipitate forms, so that every formula is wrong.
 Mark markNone(const std::vector<Slip>& slips, const std::string& plain)
 {
-    const std::string bare = bareFormula(plain);
+    const TypedPrecipitate typed = readPrecipitate(plain);
+    const std::string bare = bareFormula(typed.formula);
     const auto slip = std::find_if(slips.begin(), slips.end(),
                                    [&bare](const Slip& known) { return known.text == bare; });
     if (slip != slips.end()) {
         return markOf(Verdict::slip, slip->sentence);
     }
-    const TypedFormula read = readFormula(plain);
-    return read.isRead ? markOf(Verdict::wrong, lookAgain)
-                       : unreadable(read.unread, typeFormulaOrNone);
-}
-
-// Whether the state in solution stands behind the formula.
-bool isDissolved(const std::string& plain)
-{
-    constexpr std::string_view state = "(aq)";
-    const std::string lower = lowerCase(plain);
-    return lower.size() > state.size() &&
-           lower.compare(lower.size() - state.size(), state.size(), state) == 0;
+    if (isNameOfSalt(typed.formula)) {
+        return markName(typed.formula);
+    }
+    return readFormula(typed.formula).isRead ? markOf(Verdict::wrong, lookAgain)
+                                             : unreadPrecipitate(plain);
 }
 
 Mark markFormulaOf(const PrecipitateAnswer& answer, const std::vector<Slip>& slips,
                    const std::string& plain)
 {
-    const Mark mark = markFormula({answer.cation, answer.anion}, slips, plain, typeFormulaOrNone);
+    const TypedPrecipitate typed = readPrecipitate(plain);
+    if (isNameOf(typed.formula, *answer.cation, *answer.anion)) {
+        return markOf(Verdict::unreadable, "That is its name. Type its formula.");
+    }
+    if (isNameOfSalt(typed.formula)) {
+        return markName(typed.formula);
+    }
+    const Mark mark =
+        markFormula({answer.cation, answer.anion}, slips, typed.formula, typeFormulaOrNone);
     if (mark.verdict == Verdict::correct) {
-        return isDissolved(plain) ? markOf(Verdict::slip, "A precipitate is a solid: (s).")
-                                  : Mark{Verdict::correct, joined(sentences::correct, answer.rule)};
+        return typed.state.empty() || typed.state == "s"
+                   ? Mark{Verdict::correct, joined(sentences::correct, answer.rule)}
+                   : markOf(Verdict::slip, "A precipitate is a solid: (s).");
+    }
+    if (mark.verdict == Verdict::unreadable) {
+        return unreadPrecipitate(plain);
     }
     return mark.verdict == Verdict::wrong ? markOf(Verdict::wrong, lookAgain) : mark;
 }
@@ -414,11 +439,14 @@ Mark markPrecipitate(const PrecipitateAnswer& answer, const std::vector<Slip>& s
     if (words.empty()) {
         return markOf(Verdict::unreadable, typeFormulaOrNone);
     }
+    const std::string plain = plainTyped(typed);
     if (saysNone(words)) {
+        if (isTakenBack(words, plain)) {
+            return unreadPrecipitate(plain);
+        }
         return hasPrecipitate ? markOf(Verdict::wrong, lookAgain)
                               : Mark{Verdict::correct, joined(sentences::correct, answer.rule)};
     }
-    const std::string plain = plainTyped(typed);
     if (areSeveral(plain)) {
         return markOf(Verdict::unreadable, "Type the formula of the precipitate alone, or none.");
     }

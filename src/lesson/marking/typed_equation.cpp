@@ -146,29 +146,6 @@ std::string_view takeStateIn(std::string_view& term, std::string_view opening,
     return state;
 }
 
-// Takes the state off the end of a term; empty where there is none.
-std::string_view takeState(std::string_view& term)
-{
-    if (removeEnd(term, "↓")) {
-        return "s";
-    }
-    if (removeEnd(term, "↑") || removeEnd(term, " ^")) {
-        return "g";
-    }
-    struct Brackets {
-        std::string_view opening;
-        std::string_view closing;
-    };
-    constexpr Brackets brackets[] = {{"{", "}"}, {"(", ")"}, {" ", ""}};
-    for (const Brackets& pair : brackets) {
-        const std::string_view state = takeStateIn(term, pair.opening, pair.closing);
-        if (!state.empty()) {
-            return state;
-        }
-    }
-    return "";
-}
-
 // The same with the blanks behind it.
 bool takeWithBlanks(std::string_view& rest, std::string_view expected)
 {
@@ -380,6 +357,28 @@ std::vector<TypedTerm> readSide(std::string_view side, std::string& unread)
 }
 
 } // namespace
+
+std::string_view takeState(std::string_view& term)
+{
+    if (removeEnd(term, "↓")) {
+        return "s";
+    }
+    if (removeEnd(term, "↑") || removeEnd(term, " ^")) {
+        return "g";
+    }
+    struct Brackets {
+        std::string_view opening;
+        std::string_view closing;
+    };
+    constexpr Brackets brackets[] = {{"{", "}"}, {"(", ")"}, {" ", ""}};
+    for (const Brackets& pair : brackets) {
+        const std::string_view state = takeStateIn(term, pair.opening, pair.closing);
+        if (!state.empty()) {
+            return state;
+        }
+    }
+    return "";
+}
 
 bool isFitCoefficient(Ratio value)
 {

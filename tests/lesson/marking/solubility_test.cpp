@@ -175,7 +175,26 @@ const std::vector<Slip> slips = {{"KNO3", std::nullopt, "That one stays in solut
 
 TEST(PrecipitateMarkTest, TheFormulaInItsSpellings)
 {
-    for (const char* const typed : {"PbI2", " PbI₂ ", "PbI_2(s)", "PbI2↓", "Pb I2", "PbI2."}) {
+    for (const char* const typed : {"PbI2",
+                                    " PbI₂ ",
+                                    "PbI_2(s)",
+                                    "PbI2↓",
+                                    "Pb I2",
+                                    "PbI2.",
+                                    "PbI2 (solid)",
+                                    "PbI2 solid",
+                                    "PbI2 Solid.",
+                                    "PbI2(s)↓",
+                                    "PbI2 s",
+                                    "PbI2_{(s)}",
+                                    "PbI2 forms",
+                                    "PbI2 (s) forms.",
+                                    "PbI2 precipitates",
+                                    "PbI2 is formed as a solid",
+                                    "The precipitate is PbI2",
+                                    "precipitate: PbI2(s)",
+                                    "It is PbI2.",
+                                    "PbI2 is the precipitate"}) {
         const Mark mark = markPrecipitate(leadIodide(), slips, typed);
         EXPECT_EQ(mark.verdict, Verdict::correct) << typed;
         EXPECT_EQ(mark.sentence, "Correct. Iodides are soluble, except some.") << typed;
@@ -186,11 +205,24 @@ TEST(PrecipitateMarkTest, TheFormulaInItsSpellings)
         const char* sentence;
     };
     const char* const lookAgain = "Not right yet. Check each new pair of ions against the rules.";
+    const char* const solid = "A precipitate is a solid: (s).";
+    const char* const name = "That is its name. Type its formula.";
     const char* const alone = "Type the formula of the precipitate alone, or none.";
     const Row rows[] = {
         {"pbi2", Verdict::slip, "Check the capitals: first letter large, second small."},
         {"KNO3", Verdict::slip, "That one stays in solution."},
-        {"PbI2 (aq)", Verdict::slip, "A precipitate is a solid: (s)."},
+        {"PbI2 (aq)", Verdict::slip, solid},
+        {"PbI2(g)", Verdict::slip, solid},
+        {"PbI2 (l)", Verdict::slip, solid},
+        {"PbI2_{(aq)}", Verdict::slip, solid},
+        {"PbI2 (aqueous)", Verdict::slip, solid},
+        {"PbI2↑", Verdict::slip, solid},
+        {"PbI2(s)(aq)", Verdict::slip, solid},
+        {"The precipitate is PbI2(g).", Verdict::slip, solid},
+        {"PbI(aq)", Verdict::slip,
+         "The charges do not cancel yet. How many of each ion are needed?"},
+        {"The precipitate is KNO3", Verdict::slip, "That one stays in solution."},
+        {"pbi2 (solid)", Verdict::slip, "Check the capitals: first letter large, second small."},
         {"PbI", Verdict::slip, "The charges do not cancel yet. How many of each ion are needed?"},
         {"Pb2+I-2", Verdict::slip, "A compound has no charge: leave out the charges of its ions."},
         {"none", Verdict::wrong, lookAgain},
@@ -210,7 +242,25 @@ TEST(PrecipitateMarkTest, TheFormulaInItsSpellings)
         {"nothing but PbI2", Verdict::unreadable,
          "I can't read this part: 'nothing but PbI2'. Type a formula, or none."},
         {"", Verdict::unreadable, "Type a formula, or none."},
-        {"lead(II) iodide", Verdict::unreadable, "That is its name. Type its formula."},
+        {"lead(II) iodide", Verdict::unreadable, name},
+        {"Lead (II) Iodide", Verdict::unreadable, name},
+        {"lead iodide", Verdict::unreadable, name},
+        {"The precipitate is lead iodide.", Verdict::unreadable, name},
+        {"lead(IV) iodide", Verdict::unreadable,
+         "'lead(IV) iodide' is a name. Type a formula, or none."},
+        {"potassium nitrate", Verdict::unreadable,
+         "'potassium nitrate' is a name. Type a formula, or none."},
+        {"Lead sulphate", Verdict::unreadable,
+         "'Lead sulphate' is a name. Type a formula, or none."},
+        {"There isn't one", Verdict::unreadable,
+         "I can't read this part: 'There isn't one'. Type a formula, or none."},
+        {"The precipitate is yellow", Verdict::unreadable,
+         "I can't read this part: 'The precipitate is yellow'. Type a formula, or none."},
+        {"I don't know", Verdict::unreadable,
+         "I can't read this part: 'I don't know'. Type a formula, or none."},
+        {"PbI2 perhaps", Verdict::unreadable,
+         "I can't read this part: 'perhaps'. Type a formula, or none."},
+        {"PbX2", Verdict::unreadable, "I can't read this part: 'X2'. Type a formula, or none."},
         {"yes", Verdict::unreadable, "I can't read this part: 'yes'. Type a formula, or none."},
     };
     for (const Row& row : rows) {
@@ -306,10 +356,75 @@ TEST(PrecipitateMarkTest, TheOppositeOfNoneIsAskedBack)
     }
 }
 
+// A sulfur at the end stays, whether in small letters or in brackets.
+TEST(PrecipitateMarkTest, SulfurIsNoState)
+{
+    const PrecipitateAnswer silver = {findIon("silver"), findIon("sulfide"), ""};
+    for (const char* const typed : {"Ag2S", "Ag2 S", "Ag2S s", "Ag2S (s)", "Ag2S(S)"}) {
+        EXPECT_EQ(markPrecipitate(silver, {}, typed).verdict, Verdict::correct) << typed;
+    }
+    EXPECT_EQ(markPrecipitate(silver, {}, "Ag2(S)").sentence,
+              "A bracket is needed only around a group of atoms that comes more than once.");
+    EXPECT_EQ(markPrecipitate(silver, {}, "ag2 s").sentence,
+              "Check the capitals: first letter large, second small.");
+}
+
+TEST(PrecipitateMarkTest, SulfateInBothSpellings)
+{
+    const PrecipitateAnswer barium = {findIon("barium"), findIon("sulfate"), ""};
+    for (const char* const typed : {"barium sulfate", "Barium Sulphate", "BARIUM SULPHATE (s)"}) {
+        EXPECT_EQ(markPrecipitate(barium, {}, typed).sentence,
+                  "That is its name. Type its formula.")
+            << typed;
+    }
+}
+
+TEST(PrecipitateMarkTest, NoneAndACompound)
+{
+    for (const char* const typed :
+         {"none, BaBr2", "none BaBr2", "None: BaBr2", "none, because BaSO4", "no because BaSO4",
+          "nothing (BaSO4)", "none, BaBr2 is not soluble", "none, BaBr2 is insoluble",
+          "none, BaBr2(s)", "none, KI"}) {
+        const Mark mark = markPrecipitate(nothing, slips, typed);
+        EXPECT_EQ(mark.verdict, Verdict::unreadable) << typed;
+        EXPECT_EQ(mark.sentence,
+                  "I can't read this part: '" + std::string(typed) + "'. Type a formula, or none.");
+        EXPECT_EQ(markPrecipitate(leadIodide(), slips, typed).verdict, Verdict::unreadable);
+    }
+    for (const char* const typed :
+         {"none, BaBr2 is soluble", "none, KNO3 and BaBr2 are both soluble",
+          "none, because BaBr2 dissolves", "no, as BaBr2 is soluble", "none: KNO3(aq), BaBr2(aq)",
+          "none (KNO3 and BaBr2 stay in solution)", "none, BaBr2 doesn't precipitate",
+          "none, K+ and NO3- are spectators", "NONE, NO IONS REACT"}) {
+        EXPECT_EQ(markPrecipitate(nothing, slips, typed).verdict, Verdict::correct) << typed;
+        EXPECT_EQ(markPrecipitate(leadIodide(), slips, typed).verdict, Verdict::wrong) << typed;
+    }
+}
+
+TEST(PrecipitateMarkTest, HostileTexts)
+{
+    for (const char* const piece : {"(s)", " s", "↓", " ", ".", "the ", " forms", "Pb ", "none ",
+                                    "BaBr2 ", "(H", "^", "_{s}", "none, (", "sulph", "I don't "}) {
+        std::string text = "PbI2";
+        while (text.size() < 50000) {
+            text += piece;
+        }
+        for (const std::string& typed : {text, "none, " + text, text.substr(4)}) {
+            EXPECT_LT(markPrecipitate(leadIodide(), slips, typed).sentence.size(), 300U) << piece;
+            EXPECT_LT(markPrecipitate(nothing, slips, typed).sentence.size(), 300U) << piece;
+        }
+    }
+}
+
 TEST(PrecipitateMarkTest, AFormulaWhereThereIsNone)
 {
     EXPECT_EQ(markPrecipitate(nothing, slips, "KNO₃").sentence, "That one stays in solution.");
     EXPECT_EQ(markPrecipitate(nothing, slips, "AgCl").verdict, Verdict::wrong);
+    EXPECT_EQ(markPrecipitate(nothing, slips, "KNO3 (solid)").sentence,
+              "That one stays in solution.");
+    EXPECT_EQ(markPrecipitate(nothing, slips, "AgCl forms").verdict, Verdict::wrong);
+    EXPECT_EQ(markPrecipitate(nothing, slips, "silver chloride").sentence,
+              "'silver chloride' is a name. Type a formula, or none.");
     EXPECT_EQ(markPrecipitate(nothing, slips, "").verdict, Verdict::unreadable);
     EXPECT_EQ(markPrecipitate(nothing, slips, "CuCO3 + NH4Cl").sentence,
               "Type the formula of the precipitate alone, or none.");
