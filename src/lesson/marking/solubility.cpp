@@ -331,7 +331,8 @@ bool isTakenBack(const std::string& words, std::string_view plain)
         hasAny(split, negations) && (hasAny(split, precipitating) || hasAny(split, insoluble));
     const bool isSaid = (isDissolved && !hasAny(split, insoluble)) || isNoSolid;
     const bool isDenied = standsBefore(split, negations, inSolution);
-    return namesCompound(plain) && !isAmong(none, words) && (!isSaid || isDenied);
+    const bool isNamed = namesCompound(plain) || endsWithNameOfSalt(words);
+    return isNamed && !isAmong(none, words) && (!isSaid || isDenied);
 }
 
 // "CuCO3 + NH4Cl", "PbI2, KNO3" or a whole equation: more than the precipitate.

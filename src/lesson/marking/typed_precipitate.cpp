@@ -208,4 +208,17 @@ bool isNameOfSalt(std::string_view text)
     });
 }
 
+bool endsWithNameOfSalt(std::string_view text)
+{
+    constexpr int mostWordsOfName = 3; // "lead (II) iodide"
+    std::size_t begin = text.size();
+    for (int i = 0; i < mostWordsOfName && begin != std::string_view::npos && begin > 0; ++i) {
+        begin = text.rfind(' ', begin - 1);
+        if (isNameOfSalt(text.substr(begin == std::string_view::npos ? 0 : begin + 1))) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace lesson

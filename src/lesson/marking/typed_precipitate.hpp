@@ -30,5 +30,7 @@ std::string unreadWords(std::string_view plain);
 // "Lead(II) sulfate". A Roman numeral may be left out, but no other one is right.
 bool isNameOf(std::string_view text, const IonRow& cation, const IonRow& anion);
 bool isNameOfSalt(std::string_view text);
+// The same of its last words: "none, barium bromide".
+bool endsWithNameOfSalt(std::string_view text);
 
 } // namespace lesson

@@ -384,7 +384,8 @@ TEST(PrecipitateMarkTest, NoneAndACompound)
     for (const char* const typed :
          {"none, BaBr2", "none BaBr2", "None: BaBr2", "none, because BaSO4", "no because BaSO4",
           "nothing (BaSO4)", "none, BaBr2 is not soluble", "none, BaBr2 is insoluble",
-          "none, BaBr2(s)", "none, KI"}) {
+          "none, BaBr2(s)", "none, KI", "none, barium bromide",
+          "none because Lead (II) sulphate"}) {
         const Mark mark = markPrecipitate(nothing, slips, typed);
         EXPECT_EQ(mark.verdict, Verdict::unreadable) << typed;
         EXPECT_EQ(mark.sentence,
@@ -392,7 +393,8 @@ TEST(PrecipitateMarkTest, NoneAndACompound)
         EXPECT_EQ(markPrecipitate(leadIodide(), slips, typed).verdict, Verdict::unreadable);
     }
     for (const char* const typed :
-         {"none, BaBr2 is soluble", "none, KNO3 and BaBr2 are both soluble",
+         {"none, BaBr2 is soluble", "none, barium bromide is soluble",
+          "none, soluble: barium bromide", "none, KNO3 and BaBr2 are both soluble",
           "none, because BaBr2 dissolves", "no, as BaBr2 is soluble", "none: KNO3(aq), BaBr2(aq)",
           "none (KNO3 and BaBr2 stay in solution)", "none, BaBr2 doesn't precipitate",
           "none, K+ and NO3- are spectators", "NONE, NO IONS REACT"}) {
