@@ -351,15 +351,31 @@ bool isAmmoniaAndWater(const TermOnSide& typed, const Role& base)
     return typed.isOnTheLeft && base.formula == "NH3" && typed.term->formula.atoms == both;
 }
 
+// "NaNaSO4", "ClCaCl"
+bool isTwiceIn(const std::string& text, std::string_view ion)
+{
+    const std::size_t first = text.find(ion);
+    return first != std::string::npos && text.find(ion, first + ion.size()) != std::string::npos;
+}
+
+std::string_view orderOfIons(const TypedFormula& formula, const Role& role)
+{
+    const bool isRepeated = isTwiceIn(formula.simplest, role.cation->formula) ||
+                            isTwiceIn(formula.simplest, role.anion->formula);
+    return isRepeated ? ". Write each kind of ion once, its number behind it."
+                      : ". Write ion after ion, the positive one first.";
+}
+
 // The right atoms, but those of another substance or in disorder.
 Extra inDisorder(const TermOnSide& typed, const Role& role)
 {
-    const std::string start = quotable(typed.term->formula.text) + " has the right atoms";
+    const TypedFormula& formula = typed.term->formula;
+    std::string sentence = quotable(formula.text) + " has the right atoms";
     if (role.noun != "acid" && role.cation != nullptr) {
-        return misspeltAs(typed, role, start + ". Write ion after ion, the positive one first.");
+        return misspeltAs(typed, role, sentence.append(orderOfIons(formula, role)));
     }
     const std::string what = role.noun.empty() ? "that molecule" : "the " + std::string(role.noun);
-    return misspeltAs(typed, role, start + ", but " + what + " is written in another way.");
+    return misspeltAs(typed, role, sentence + ", but " + what + " is written in another way.");
 }
 
 Extra anElement(const TermOnSide& typed)

@@ -169,6 +169,8 @@ TEST(EquationSpellingsTest, TheRightAtomsInDisorder)
 {
     constexpr const char* ions =
         " has the right atoms. Write ion after ion, the positive one first.";
+    constexpr const char* once =
+        " has the right atoms. Write each kind of ion once, its number behind it.";
     constexpr const char* acid = " has the right atoms, but the acid is written in another way.";
     constexpr const char* molecule =
         " has the right atoms, but that molecule is written in another way.";
@@ -189,10 +191,11 @@ TEST(EquationSpellingsTest, TheRightAtomsInDisorder)
         {milk, "2CH3COOH + Mg(OH)2 -> ", "Mg(OCH2CHO)2", " + 2H2O", ions},
         {lime, "2HCl + ", "CaO.H2O", " -> CaCl2 + 2H2O", ions},
         {lime, "2HCl + ", "CaOH2O", " -> CaCl2 + 2H2O", ions},
-        {lime, "2HCl + Ca(OH)2 -> ", "ClCaCl", " + 2H2O", ions},
+        {lime, "2HCl + Ca(OH)2 -> ", "ClCaCl", " + 2H2O", once},
+        {lime, "2HCl + ", "Ca(OH)(OH)", " -> CaCl2 + 2H2O", once},
         {lime, "2HCl + Ca(OH)2 -> CaCl2 + 2", "HHO", "", molecule},
         {lye, "H2SO4 + 2NaOH -> ", "Na2O.SO3", " + 2H2O", ions},
-        {lye, "H2SO4 + 2NaOH -> ", "NaNaSO4", " + 2H2O", ions},
+        {lye, "H2SO4 + 2NaOH -> ", "NaNaSO4", " + 2H2O", once},
         {lye, "", "SO3.H2O", " + 2NaOH -> Na2SO4 + 2H2O", acid},
         // Told before what is not balanced.
         {lye, "H2SO4 + NaOH -> ", "Na2O.SO3", " + 2H2O", ions},
