@@ -111,10 +111,13 @@ bool isHalfWay(const Extra& extra)
     return extra.mistake == Mistake::acidSalt || extra.mistake == Mistake::halfCarbonate;
 }
 
-// Whether it is an equation of less base or less acid, and true as that.
+// Whether it is an equation of less base or less acid, and true as that; what is left by less base
+// and what is left by less acid react with each other.
 bool isTrueHalfWay(const TypedEquation& typed, const std::vector<Extra>& extras)
 {
-    return std::all_of(extras.begin(), extras.end(), isHalfWay) && isBalanced(typed);
+    return std::all_of(extras.begin(), extras.end(), isHalfWay) && isBalanced(typed) &&
+           (firstOf(extras, Mistake::acidSalt) == nullptr ||
+            firstOf(extras, Mistake::halfCarbonate) == nullptr);
 }
 
 // Whether acid and base stand where the products belong, and these where they do.
@@ -255,9 +258,11 @@ bool isTypedName(const TypedTerm& term)
     return !term.unread.empty() && isName(term.text);
 }
 
+// The sign of a charge that was taken for a "+" or for the beginning of an arrow leaves its "^".
 bool hasCharge(const TypedTerm& term)
 {
-    return term.formula.isRead && term.formula.hasCharge;
+    return (term.formula.isRead && term.formula.hasCharge) ||
+           (!term.text.empty() && term.text.back() == '^');
 }
 
 // "CaCl2 - 2H2O"

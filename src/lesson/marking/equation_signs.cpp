@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "lesson/marking/reading.hpp"
+#include "lesson/marking/typed.hpp"
 
 namespace lesson
 {
@@ -12,7 +13,8 @@ namespace lesson
 namespace
 {
 
-constexpr std::string_view slippedDashes = "_~"; // before ">": Shift was held too long
+constexpr std::string_view slippedDashes = "_~"; // of an arrow: Shift was held too long
+constexpr std::string_view ofArrows = "-=<>";
 
 struct WordSpelling {
     std::string_view typed;
@@ -27,7 +29,8 @@ constexpr WordSpelling words[] = {
     {"and", "+"}, {"plus", "+"}, {"&", "+"},
 };
 // clang-format on
-constexpr std::string_view arrowNames[] = {"rightarrow", "rarr"}; // not in any formula
+// With any capitals, perhaps behind a backslash; not in any formula.
+constexpr std::string_view arrowNames[] = {"rightarrow", "rarr"};
 
 // Takes a word between two blanks, and the blank in front of it; empty where there is none.
 std::string_view takeWord(std::string_view& rest)
@@ -50,9 +53,30 @@ std::string_view takeWord(std::string_view& rest)
 
 std::string_view takeArrowName(std::string_view& rest)
 {
-    const bool isThere = std::any_of(std::begin(arrowNames), std::end(arrowNames),
-                                     [&rest](std::string_view name) { return take(rest, name); });
-    return isThere ? "->" : "";
+    const std::string_view named = startsWith(rest, "\\") ? rest.substr(1) : rest;
+    if (named.empty() || smallLetter(named.front()) != 'r') {
+        return "";
+    }
+    for (const std::string_view name : arrowNames) {
+        if (lowerCase(named.substr(0, name.size())) == name) {
+            rest = named.substr(name.size());
+            return "->";
+        }
+    }
+    return "";
+}
+
+// What a run of slipped dashes stands for: "_>" and "_=>" are arrows, "->_" is one, and " _ " was
+// perhaps meant as one.
+std::string_view meantBy(std::string_view slipped, std::string_view before, std::string_view behind)
+{
+    const std::size_t last = before.find_last_not_of(' ');
+    if (last != std::string_view::npos && isOneOf(before[last], ofArrows)) {
+        return "";
+    }
+    const bool isAlone =
+        !before.empty() && before.back() == ' ' && (behind.empty() || behind.front() == ' ');
+    return isAlone || (!behind.empty() && isOneOf(behind.front(), ofArrows)) ? "-" : slipped;
 }
 
 // Whether a number that was raised stands where a coefficient belongs: "+ ^2H2O", while that of
@@ -92,7 +116,7 @@ std::string withPlainSigns(std::string_view plain)
             rest.remove_prefix(1);
             continue;
         }
-        text += startsWith(rest.substr(length), ">") ? "-" : rest.substr(0, length);
+        text += meantBy(rest.substr(0, length), text, rest.substr(length));
         rest.remove_prefix(length);
     }
     return text;

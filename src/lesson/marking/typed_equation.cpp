@@ -286,11 +286,45 @@ std::string withoutBonds(std::string_view formula)
     return plain;
 }
 
+bool isBareFormula(const TypedFormula& formula)
+{
+    return formula.isRead && !formula.hasCharge && formula.state.empty();
+}
+
+// Marks of what stands below the line; here they may be left out.
+constexpr std::string_view idleMarks = "_{}";
+
+// As it stands, or without marks that mark nothing: "H2_SO4".
+TypedFormula readBareFormula(std::string_view text)
+{
+    TypedFormula formula = readFormula(text);
+    if (isBareFormula(formula)) {
+        return formula;
+    }
+    std::string unmarked(text);
+    unmarked.erase(std::remove_if(unmarked.begin(), unmarked.end(),
+                                  [](char c) { return isOneOf(c, idleMarks); }),
+                   unmarked.end());
+    TypedFormula other = readFormula(unmarked);
+    return isBareFormula(other) ? other : formula;
+}
+
+// "_2HCl", "{ 2HCl"
+void removeMarksBeforeNumber(std::string_view& rest)
+{
+    std::string_view behind = rest;
+    while (!behind.empty() && (isOneOf(behind.front(), idleMarks) || behind.front() == ' ')) {
+        behind.remove_prefix(1);
+    }
+    rest = startsWithDigit(behind) ? behind : rest;
+}
+
 TypedTerm readTerm(std::string_view typed)
 {
     TypedTerm term;
     std::string_view rest = typed;
     term.state = takeState(rest);
+    removeMarksBeforeNumber(rest);
     term.coefficient = takeCoefficient(rest);
     term.text = rest;
     const bool hasSecondCoefficient = startsWithDigit(rest);
@@ -304,10 +338,8 @@ TypedTerm readTerm(std::string_view typed)
         return term;
     }
     term.text = withoutBonds(rest);
-    term.formula = readFormula(term.text);
-    const bool isRead =
-        term.formula.isRead && !term.formula.hasCharge && term.formula.state.empty();
-    if (!isRead) {
+    term.formula = readBareFormula(term.text);
+    if (!isBareFormula(term.formula)) {
         term.unread = term.formula.unread.empty() ? typed : term.formula.unread;
     }
     return term;

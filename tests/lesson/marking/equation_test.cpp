@@ -104,6 +104,31 @@ TEST(EquationMarkTest, RightInEverySpelling)
     }
 }
 
+// A sign that slipped in changes nothing that could be marked, and is no mistake in capitals.
+TEST(EquationMarkTest, StraySigns)
+{
+    for (const char* const typed :
+         {"2HCl + Na2CO3 _-> 2NaCl + H2O + CO2", "2HCl + Na2CO3 _=> 2NaCl + H2O + CO2",
+          "2HCl + Na2CO3 _→ 2NaCl + H2O + CO2", "2HCl + Na2CO3 _>_ 2NaCl + H2O + CO2",
+          "2HCl + Na2CO3 -->_ 2NaCl + H2O + CO2", "2HCl + Na2CO3 -> _2NaCl + H2O + CO2",
+          "_2HCl + Na2CO3 -> 2NaCl + H2O + CO2", "2_HCl + Na2CO3 -> 2NaCl + H2O + CO2_",
+          "2H_Cl + {Na}_2{CO}_3 -> 2NaCl + H2_O + CO2", "2HCl} + Na2CO3 -> 2NaCl + H2{O + CO2",
+          "2HCl + Na2CO3 \\rarr 2NaCl + H2O + CO2", "2HCl + Na2CO3 RARR 2NaCl + H2O + CO2",
+          "2HCl + Na2CO3 Rarr 2NaCl + H2O + CO2"}) {
+        expectMarks(soda(), {{typed, Verdict::correct, "Correct."}});
+    }
+    const std::string right = "2HCl + Na2CO3 -> 2NaCl + H2O + CO2";
+    for (std::size_t place = 0; place <= right.size(); ++place) {
+        for (const char* const sign : {"_", "{", "}", "~", "\\", "|", ";"}) {
+            const std::string typed = right.substr(0, place) + sign + right.substr(place);
+            const Mark mark = markEquation(soda(), typed);
+            EXPECT_NE(mark.sentence, capitals) << typed;
+            EXPECT_TRUE(mark.verdict == Verdict::correct || mark.verdict == Verdict::unreadable)
+                << typed << ": " << mark.sentence;
+        }
+    }
+}
+
 TEST(EquationMarkTest, EthanoicAcidMayBeAbbreviated)
 {
     for (const char* const typed :
@@ -173,7 +198,7 @@ TEST(EquationMarkTest, IonsInPlaceOfFormulas)
           "H+(aq) + OH-(aq) -> H2O(l)", "2H+ + CO3^2- -> H2O + CO2", "2H+ + CO32- = H2O + CO2",
           "H3O+ + OH- -> 2H2O", "2H+ + 2Cl- + 2Na+ + CO3 2- -> 2Na+ + 2Cl- + H2O + CO2",
           "2H+ + Na2CO3 -> 2Na+ + H2O + CO2", "2HCl + CO3(2-) + 2Na+ -> H2O + CO2",
-          "2H+Cl- + Na2CO3 -> 2Na+Cl- + H2O + CO2"}) {
+          "2H+Cl- + Na2CO3 -> 2Na+Cl- + H2O + CO2", "2H^+Cl^- + Na2CO3 -> 2NaCl + H2O + CO2"}) {
         expectMarks(soda(), {{typed, Verdict::unreadable, whole}});
     }
 }
@@ -262,6 +287,7 @@ TEST(EquationMarkTest, NoArrow)
     expectMarks(soda(), {{"2HCl + Na2CO3", Verdict::unreadable, noArrow},
                          {"2HCl + Na2CO3 - 2NaCl + H2O + CO2", Verdict::unreadable, noArrow},
                          {"2HCl + Na2CO3 — 2NaCl + H2O + CO2", Verdict::unreadable, noArrow},
+                         {"2HCl + Na2CO3 _ 2NaCl + H2O + CO2", Verdict::unreadable, noArrow},
                          {"2HCl + Na2CO3 + 2NaCl + H2O + CO2", Verdict::unreadable, noArrow}});
 }
 
@@ -361,6 +387,10 @@ TEST(EquationMarkTest, SaltsOfHalfTheWay)
                 {{"H3PO4 + CaO -> CaHPO4 + H2O", Verdict::slip, lessBase},
                  {"2H3PO4 + CaO -> Ca(H2PO4)2 + H2O", Verdict::slip, lessBase}});
     expectMarks(soda(), {{"HCl + Na2CO3 -> NaCl + NaHCO3", Verdict::slip, lessAcid}});
+    // These two react with each other.
+    expectMarks(answerOf("H2SO4", "sodium", "carbonate"),
+                {{"H2SO4 + Na2CO3 -> NaHSO4 + NaHCO3", Verdict::slip,
+                  "NaHSO4 is an acid salt. Neutralise completely."}});
 }
 
 // "True with less …" is said of a true equation alone.
@@ -554,8 +584,8 @@ TEST(EquationMarkTest, HostileTexts)
             const Mark mark = markEquation(soda(), typed);
             EXPECT_LT(mark.sentence.size(), 300U) << piece;
             EXPECT_FALSE(mark.sentence.empty()) << piece;
-            const bool isOnlyBlanks = std::string(piece) == " ";
-            EXPECT_TRUE(mark.verdict != Verdict::correct || isOnlyBlanks) << piece;
+            const bool isNothing = std::string(piece) == " " || std::string(piece) == "_{";
+            EXPECT_TRUE(mark.verdict != Verdict::correct || isNothing) << piece;
         }
     }
     for (const char* const typed :
