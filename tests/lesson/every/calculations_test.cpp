@@ -392,7 +392,9 @@ bool isSensible(const Dilution& dilution)
            // A given concentration is told as it is, not rounded.
            (asked == "c2" || c2 == c2.toFigures(3)) &&
            // Nobody can tell the whole volume from the water in two figures.
-           (asked != "V" || ((V2 - V1) * 1000).toFigures(2) != V2 * 1000);
+           (asked != "V" || ((V2 - V1) * 1000).toFigures(2) != V2 * 1000) &&
+           // Who copies the volume that is there before is not right.
+           (asked != "V" || V2 - V1 != V1);
 }
 
 // What is given of a dilution, for the spread.
