@@ -505,9 +505,9 @@ TypedFormula readFormula(std::string_view plain)
     return typed;
 }
 
-bool isCompound(std::string_view text)
+bool isCompound(std::string_view plain)
 {
-    const TypedFormula read = readFormula(text);
+    const TypedFormula read = readFormula(plain);
     return read.isRead && !read.hasCharge && read.atoms.size() > 1;
 }
 

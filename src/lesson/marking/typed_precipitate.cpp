@@ -169,8 +169,11 @@ bool namesCompound(std::string_view plain)
 
 std::string unreadWords(std::string_view plain)
 {
-    const std::string unread = readFormula(plain).unread;
+    std::string unread = readFormula(plain).unread;
     std::size_t begin = endsWith(plain, unread) ? plain.size() - unread.size() : plain.find(unread);
+    if (begin == std::string_view::npos) {
+        return unread;
+    }
     std::size_t end = begin;
     while (begin > 0 && isLetter(plain[begin - 1])) {
         --begin;
