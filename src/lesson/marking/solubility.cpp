@@ -325,6 +325,9 @@ bool saysNone(const std::string& words)
 // "none, BaBr2": a compound that is not said to stay in solution.
 bool isTakenBack(const std::string& words, std::string_view plain)
 {
+    if (isAmong(none, words)) {
+        return false;
+    }
     const std::vector<std::string> split = splitWords(words);
     const bool isDissolved = hasAny(split, inSolution) || hasAny(split, aqueous);
     const bool isNoSolid =
@@ -332,7 +335,7 @@ bool isTakenBack(const std::string& words, std::string_view plain)
     const bool isSaid = (isDissolved && !hasAny(split, insoluble)) || isNoSolid;
     const bool isDenied = standsBefore(split, negations, inSolution);
     const bool isNamed = namesCompound(plain) || endsWithNameOfSalt(words);
-    return isNamed && !isAmong(none, words) && (!isSaid || isDenied);
+    return isNamed && (!isSaid || isDenied);
 }
 
 // "CuCO3 + NH4Cl", "PbI2, KNO3" or a whole equation: more than the precipitate.

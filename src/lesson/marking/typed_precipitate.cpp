@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <vector>
 
 #include "lesson/marking/reading.hpp"
 #include "lesson/marking/typed.hpp"
@@ -117,6 +118,26 @@ std::string withoutBracket(std::string name)
     return name;
 }
 
+// Of all salts, sorted, as they compare without a bracket.
+std::vector<std::string> makeNamesOfSalts()
+{
+    std::vector<std::string> names;
+    for (const IonRow* const cation : cations()) {
+        for (const IonRow* const anion : anions()) {
+            names.push_back(withoutBracket(comparableName(compoundName(*cation, *anion))));
+            names.push_back(withoutBracket(comparableName(americanName(*cation, *anion))));
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+const std::vector<std::string>& namesOfSalts()
+{
+    static const std::vector<std::string> names = makeNamesOfSalts();
+    return names;
+}
+
 bool isSmall(char letter)
 {
     return isLetter(letter) && smallLetter(letter) == letter;
@@ -204,11 +225,8 @@ bool isNameOfSalt(std::string_view text)
     if (text.size() > longest || std::any_of(text.begin(), text.end(), isDigit)) {
         return false;
     }
-    const std::string typed = withoutBracket(comparableName(text));
-    return std::any_of(cations().begin(), cations().end(), [&typed](const IonRow* cation) {
-        return std::any_of(anions().begin(), anions().end(),
-                           [&](const IonRow* anion) { return isNameOf(typed, *cation, *anion); });
-    });
+    return std::binary_search(namesOfSalts().begin(), namesOfSalts().end(),
+                              withoutBracket(comparableName(text)));
 }
 
 bool endsWithNameOfSalt(std::string_view text)
