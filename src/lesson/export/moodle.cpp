@@ -6,6 +6,7 @@
 #include "lesson/export/expected.hpp"
 #include "lesson/export/html.hpp"
 #include "lesson/export/units.hpp"
+#include "lesson/marking/reading.hpp"
 #include "lesson/reaction.hpp"
 #include "lesson/tables/kinds.hpp"
 #include "lesson/values/decimal.hpp"
@@ -143,12 +144,6 @@ std::string htmlOfResult(const Exercise& exercise)
     return {};
 }
 
-bool endsWith(std::string_view text, std::string_view end)
-{
-    return !end.empty() && text.size() >= end.size() &&
-           text.substr(text.size() - end.size()) == end;
-}
-
 // Each is shown behind a wrong try, and there is one try more than hints: first what helps without
 // giving anything away, then the solution up to the step that arrives at the answer.
 std::vector<std::string> hintsOf(const Exercise& exercise)
@@ -160,7 +155,7 @@ std::vector<std::string> hintsOf(const Exercise& exercise)
         hints.push_back(htmlOf(steps.front().hint));
     }
     for (std::size_t i = 0; i + 1 < steps.size(); ++i) {
-        if (endsWith(htmlOf(steps[i].math), result)) {
+        if (!result.empty() && endsWith(htmlOf(steps[i].math), result)) {
             break;
         }
         hints.push_back(htmlOfStep(steps[i]));

@@ -14,7 +14,6 @@ namespace
 {
 
 constexpr std::string_view slippedDashes = "_~"; // of an arrow: Shift was held too long
-constexpr std::string_view ofArrows = "-=<>";
 
 struct WordSpelling {
     std::string_view typed;

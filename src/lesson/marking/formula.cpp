@@ -50,11 +50,6 @@ std::string withoutBrackets(std::string text)
     return text;
 }
 
-bool endsWith(std::string_view text, std::string_view end)
-{
-    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
-}
-
 bool hasOxygen(const Atoms& atoms)
 {
     return std::any_of(atoms.begin(), atoms.end(),

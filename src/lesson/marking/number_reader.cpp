@@ -80,11 +80,6 @@ std::string_view withoutAtTheEnd(std::string_view text, std::string_view charact
     return text;
 }
 
-bool endsWith(std::string_view text, std::string_view ending)
-{
-    return text.size() >= ending.size() && text.substr(text.size() - ending.size()) == ending;
-}
-
 bool endsWithEquality(std::string_view front)
 {
     constexpr std::string_view signs[] = {"=", ":", "~", "≈", "≅", "≃", "∼", "(", "[", "∴"};

@@ -6,7 +6,7 @@
 namespace lesson
 {
 
-// Small steps of reading a text from its front. Letters are those of ASCII, whatever the locale.
+// Small steps of reading a text. Letters are those of ASCII, whatever the locale.
 
 constexpr bool isDigit(char character)
 {
@@ -39,6 +39,10 @@ constexpr std::int64_t wholeNumber(std::string_view digits)
 constexpr bool startsWith(std::string_view text, std::string_view beginning)
 {
     return text.substr(0, beginning.size()) == beginning;
+}
+constexpr bool endsWith(std::string_view text, std::string_view end)
+{
+    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
 constexpr bool startsWithDigit(std::string_view text)
 {

@@ -33,11 +33,6 @@ namespace
 
 constexpr std::size_t mostTerms = 50;
 
-bool endsWith(std::string_view text, std::string_view end)
-{
-    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
-}
-
 std::string_view trimmed(std::string_view text)
 {
     takeBlanks(text);
@@ -59,8 +54,6 @@ bool removeEnd(std::string_view& text, std::string_view end)
 }
 
 // ---- Arrows
-
-constexpr std::string_view ofArrows = "-=<>";
 
 struct Run {
     std::size_t begin;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "lesson/marking/group_braces.hpp"
+#include "lesson/marking/reading.hpp"
 #include "lesson/marking/typed.hpp"
 #include "lesson/tables/elements.hpp"
 
@@ -33,11 +34,6 @@ namespace
 constexpr std::int64_t greatestNumber = 999999;
 constexpr std::int64_t greatestCount = 1000000000;
 
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 bool isLarge(char c)
 {
     return c >= 'A' && c <= 'Z';
@@ -51,16 +47,6 @@ bool isSmall(char c)
 bool isSign(char c)
 {
     return c == '+' || c == '-';
-}
-
-bool startsWith(std::string_view text, std::string_view start)
-{
-    return text.substr(0, start.size()) == start;
-}
-
-bool endsWith(std::string_view text, std::string_view end)
-{
-    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
 
 std::string_view withoutEnd(std::string_view text, std::size_t length)

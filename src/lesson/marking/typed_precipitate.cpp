@@ -29,11 +29,6 @@ constexpr std::string_view wordsBehind[] = {
 };
 // clang-format on
 
-bool endsWith(std::string_view text, std::string_view end)
-{
-    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
-}
-
 // "PbI2 s" has a state; "Ag2 s" and "Ag2(S)" have a sulfur.
 bool isStateBehind(std::string_view formula, std::string_view taken)
 {
