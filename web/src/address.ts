@@ -39,6 +39,11 @@ export function addressOf(route: PracticeRoute | SheetRoute): string {
     return `#practice/${route.paper}/${route.number}/${route.kinds}?${set}v=${version}`;
 }
 
+// Under which name the device keeps what an exercise has come to.
+export function placeOf(route: PracticeRoute): string {
+    return `${route.paper}/${route.number}/${route.kinds}`;
+}
+
 // The same choice of exercises at another number.
 export function atNumber(route: PracticeRoute, number: number): PracticeRoute {
     return { ...route, number };

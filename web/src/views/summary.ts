@@ -1,11 +1,10 @@
 // What a set of exercises has come to: to print or to save, for a teacher.
-import { addressOf, atNumber } from "../address";
+import { addressOf, atNumber, placeOf } from "../address";
 import { button, element, save, scrollBox, show } from "../dom";
 import * as storage from "../storage";
 import { texts } from "../texts";
 import type { PracticeRoute } from "../types";
 import { type Page, randomPaper, titleOf } from "./page";
-import { placeOf } from "./practice";
 
 interface Row {
     number: number;

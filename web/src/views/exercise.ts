@@ -1,0 +1,168 @@
+// One exercise: the question, a field, the mark, the solution step by step; and what each press leads to.
+import { addressOf, atNumber, placeOf } from "../address";
+import { announce, bringIntoView, button, element, fitIntoView, show } from "../dom";
+import { typesetLine } from "../spans";
+import * as state from "../state";
+import * as storage from "../storage";
+import { texts } from "../texts";
+import type { Exercise, Mark, PracticeRoute } from "../types";
+import { type AnswerField, answerField } from "./answer";
+import { drawingOf } from "./drawing";
+import { headerOf } from "./head";
+import { showMark, spokenMark, withoutStep } from "./mark";
+import type { Page } from "./page";
+import { lastStepSpoken, showSolution } from "./solution";
+
+export interface Place {
+    route: PracticeRoute;
+    exercise: Exercise;
+    page: Page;
+    solved(): void; // a result was added to the record
+}
+
+// What changes while the reader works on it.
+interface Work extends Place {
+    progress: state.Progress;
+    mark: Mark | null;
+}
+
+interface Parts {
+    field: AnswerField;
+    check: HTMLButtonElement;
+    form: HTMLElement;
+    mark: HTMLElement;
+    offer: HTMLElement;
+    help: HTMLElement;
+    solution: HTMLElement;
+    next: HTMLButtonElement;
+    goOn: HTMLElement;
+}
+
+// Gives what puts the focus into the field.
+export function showExercise(article: HTMLElement, place: Place): () => void {
+    const work: Work = { ...place, progress: storage.progressOf(placeOf(place.route)), mark: null };
+    const parts = partsOf(work);
+    parts.form.addEventListener("submit", (event) => {
+        event.preventDefault();
+        check(work, parts);
+    });
+    parts.field.set(work.progress.typed);
+    if (work.progress.checked) {
+        work.mark = markOf(work, work.progress.typed);
+    }
+    update(work, parts);
+    show(article, ...contentsOf(work, parts));
+    return () => parts.field.focus();
+}
+
+// header       h1 and what exercise it is
+// p.prompt
+// figure       where there is a drawing
+// form         the field, Check
+// p.mark
+// p.offer
+// div.help     Show a step, Show the answer
+// section.solution
+// div.help     Next, Another like this
+function contentsOf({ route, exercise, page }: Place, parts: Parts): HTMLElement[] {
+    const drawing = drawingOf(exercise, page.settings);
+    return [
+        headerOf(route, exercise, page),
+        element("p", { class: "prompt" }, ...typesetLine(exercise.prompt, page.settings)),
+        ...(drawing === null ? [] : [drawing]),
+        parts.form,
+        parts.mark,
+        parts.offer,
+        parts.help,
+        parts.solution,
+        parts.goOn,
+    ];
+}
+
+function partsOf(work: Work): Parts {
+    const { route, exercise, page } = work;
+    const steps = exercise.solution.length;
+    const field = answerField(exercise.ask, page.settings, () => keep(work, state.typed(work.progress, field.text())));
+    const check = element("button", { type: "submit", class: "main" }, texts.check);
+    const next = button(isLast(route) ? texts.finish : texts.next, () => page.go(addressOf(atNumber(route, route.number + 1))));
+    const another = button(texts.another, () => page.go(addressOf(likeThis(route, exercise))));
+    const step = button(texts.showStep, () => advance(work, parts, state.afterStep(work.progress, steps)));
+    const answer = button(texts.showAnswer, () => advance(work, parts, state.afterAnswer(work.progress, steps)));
+    const parts: Parts = {
+        field,
+        check,
+        form: element("form", { autocomplete: "off" }, field.element, check),
+        mark: element("p", { class: "mark", hidden: true }),
+        offer: element("p", { class: "offer", hidden: true }, texts.wouldHelp),
+        help: element("div", { class: "help" }, step, answer),
+        solution: element("section", { class: "solution", "aria-label": texts.solution, hidden: true }),
+        next,
+        goOn: element("div", { class: "help" }, next, another),
+    };
+    return parts;
+}
+
+function keep(work: Work, progress: state.Progress): void {
+    if (progress.result !== null && work.progress.result === null) {
+        storage.addToRecord(work.exercise.kind, progress.result);
+        work.solved();
+    }
+    work.progress = progress;
+    storage.keepProgress(placeOf(work.route), progress);
+}
+
+function update(work: Work, parts: Parts): void {
+    const { exercise, page, progress } = work;
+    showSolution(parts.solution, exercise, progress.steps, page);
+    showMark(parts.mark, markToShow(work), page);
+    parts.help.hidden = isShownWhole(work);
+    parts.offer.hidden = !state.offersHelp(progress);
+    parts.next.classList.toggle("main", progress.result !== null);
+    parts.check.classList.toggle("main", progress.result === null);
+}
+
+function check(work: Work, parts: Parts): void {
+    const mark = markOf(work, parts.field.text());
+    work.mark = mark;
+    keep(work, state.afterMark(work.progress, mark));
+    update(work, parts);
+    announce([spokenMark(markToShow(work)!, work.page), ...(parts.offer.hidden ? [] : [texts.wouldHelp])].join(" "));
+    if (mark.verdict === "correct") {
+        parts.next.focus();
+        bringIntoView(parts.mark, parts.goOn);
+    } else {
+        parts.field.focus();
+        const focused = document.activeElement ?? parts.form;
+        bringIntoView(fitIntoView(focused, parts.mark) ? focused : parts.mark, parts.mark);
+    }
+}
+
+function advance(work: Work, parts: Parts, progress: state.Progress): void {
+    keep(work, progress);
+    update(work, parts);
+    announce(lastStepSpoken(work.exercise, progress.steps, work.page));
+    if (isShownWhole(work)) {
+        parts.next.focus({ preventScroll: true });
+    }
+    bringIntoView(parts.solution, parts.goOn);
+}
+
+function markOf({ route, page }: Work, text: string): Mark {
+    return page.lesson.mark(route.paper, route.number, route.kinds, text);
+}
+
+function markToShow(work: Work): Mark | null {
+    return work.mark !== null && isShownWhole(work) ? withoutStep(work.mark) : work.mark;
+}
+
+function isShownWhole({ progress, exercise }: Work): boolean {
+    return state.isShownWhole(progress, exercise.solution.length);
+}
+
+function isLast(route: PracticeRoute): boolean {
+    return route.set > 0 && route.number >= route.set;
+}
+
+function likeThis(route: PracticeRoute, exercise: Exercise): PracticeRoute {
+    return { ...route, number: route.number + 1, kinds: `${exercise.kind}:${exercise.level}`, set: 0 };
+}
