@@ -10,8 +10,8 @@ export const triesBeforeHelp = 2;
 const harmless: ReadonlySet<Verdict> = new Set(["unreadable", "figures", "close"]);
 
 // A try that counts is one that was read and was neither nearly right nor only badly rounded.
-export function afterMark(progress: Progress, mark: Mark): Progress {
-    const marked = { ...progress, checked: true };
+export function afterMark(progress: Progress, text: string, mark: Mark): Progress {
+    const marked = { ...progress, typed: text, marked: text };
     if (progress.result !== null) {
         return marked;
     }
@@ -36,7 +36,12 @@ export function afterAnswer(progress: Progress, all: number): Progress {
 }
 
 export function typed(progress: Progress, text: string): Progress {
-    return { ...progress, typed: text, checked: false };
+    return { ...progress, typed: text };
+}
+
+// The mark is of another answer than the one that stands in the field.
+export function isMarkStale({ typed, marked }: Progress): boolean {
+    return marked !== null && marked.trim() !== typed.trim();
 }
 
 export function offersHelp(progress: Progress): boolean {

@@ -19,7 +19,7 @@ export type Record_ = Partial<Record<string, Tally>>;
 export interface Progress {
     typed: string;
     failed: number;
-    checked: boolean;
+    marked: string | null; // the text that the mark was given for
     steps: number;
     result: Result | null;
 }
@@ -145,11 +145,11 @@ function progressKey(place: string): string {
 
 export function progressOf(place: string): Progress {
     const kept = read("sessionStorage", progressKey(place));
-    const { typed, failed, checked, steps, result } = isObject(kept) ? kept : {};
+    const { typed, failed, marked, steps, result } = isObject(kept) ? kept : {};
     return {
         typed: typeof typed === "string" ? typed : "",
         failed: Number.isSafeInteger(failed) ? (failed as number) : 0,
-        checked: checked === true,
+        marked: typeof marked === "string" ? marked : null,
         steps: Number.isSafeInteger(steps) ? (steps as number) : 0,
         result: result === "first" || result === "help" || result === "shown" ? result : null,
     };

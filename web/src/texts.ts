@@ -32,6 +32,7 @@ export const texts = {
     hint: "Hint",
     solution: "Solution",
     key: "Answer",
+    markOf: (text: string) => (text === "" ? "For an empty answer" : `For ${text}`),
     // In front of the library's sentence, where that does not say so itself.
     verdicts: {
         correct: "✓",

@@ -8,6 +8,7 @@ import type { Ask, Settings, Span } from "../types";
 export interface AnswerField {
     element: HTMLElement;
     text(): string;
+    worded(text: string): string; // as the reader has given it
     set(text: string): void;
     focus(): void;
 }
@@ -34,6 +35,7 @@ function choiceField(words: string[], changed: () => void): AnswerField {
     return {
         element: box,
         text: () => radios.find((radio) => radio.checked)?.value ?? "",
+        worded: (text) => texts.choiceOf[text] ?? text,
         set: (text) => radios.forEach((radio) => (radio.checked = radio.value === text)),
         focus: () => (radios.find((radio) => radio.checked) ?? radios[0]!).focus({ preventScroll: true }),
     };
@@ -75,6 +77,7 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
     return {
         element: box,
         text: () => input.value,
+        worded: (text) => text.trim(),
         set: (text) => {
             input.value = text;
             showPreview(preview, ask, text, settings);

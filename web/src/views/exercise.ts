@@ -47,8 +47,8 @@ export function showExercise(article: HTMLElement, place: Place): () => void {
         check(work, parts);
     });
     parts.field.set(work.progress.typed);
-    if (work.progress.checked) {
-        work.mark = markOf(work, work.progress.typed);
+    if (work.progress.marked !== null) {
+        work.mark = markOf(work, work.progress.marked);
     }
     update(work, parts);
     show(article, ...contentsOf(work, parts));
@@ -82,7 +82,10 @@ function contentsOf({ route, exercise, page }: Place, parts: Parts): HTMLElement
 function partsOf(work: Work): Parts {
     const { route, exercise, page } = work;
     const steps = exercise.solution.length;
-    const field = answerField(exercise.ask, page.settings, () => keep(work, state.typed(work.progress, field.text())));
+    const field = answerField(exercise.ask, page.settings, () => {
+        keep(work, state.typed(work.progress, field.text()));
+        updateMark(work, parts);
+    });
     const check = element("button", { type: "submit", class: "main" }, texts.check);
     const next = button(isLast(route) ? texts.finish : texts.next, () => page.go(addressOf(atNumber(route, route.number + 1))));
     const another = button(texts.another, () => page.go(addressOf(likeThis(route, exercise))));
@@ -114,17 +117,24 @@ function keep(work: Work, progress: state.Progress): void {
 function update(work: Work, parts: Parts): void {
     const { exercise, page, progress } = work;
     showSolution(parts.solution, exercise, progress.steps, page);
-    showMark(parts.mark, markToShow(work), page);
+    updateMark(work, parts);
     parts.help.hidden = isShownWhole(work);
     parts.offer.hidden = !state.offersHelp(progress);
     parts.next.classList.toggle("main", progress.result !== null);
     parts.check.classList.toggle("main", progress.result === null);
 }
 
+function updateMark(work: Work, parts: Parts): void {
+    const { marked } = work.progress;
+    const of = marked !== null && state.isMarkStale(work.progress) ? parts.field.worded(marked) : null;
+    showMark(parts.mark, markToShow(work), of, work.page);
+}
+
 function check(work: Work, parts: Parts): void {
-    const mark = markOf(work, parts.field.text());
+    const text = parts.field.text();
+    const mark = markOf(work, text);
     work.mark = mark;
-    keep(work, state.afterMark(work.progress, mark));
+    keep(work, state.afterMark(work.progress, text, mark));
     update(work, parts);
     announce([spokenMark(markToShow(work)!, work.page), ...(parts.offer.hidden ? [] : [texts.wouldHelp])].join(" "));
     if (mark.verdict === "correct") {

@@ -6,15 +6,22 @@ import { texts } from "../texts";
 import type { Mark } from "../types";
 import type { Page } from "./page";
 
-export function showMark(line: HTMLElement, mark: Mark | null, page: Page): void {
+// p.mark
+//   span         what is seen: .of where it was given for another text than stands in the field, the word,
+//                the sentence
+//   .spoken
+export function showMark(line: HTMLElement, mark: Mark | null, of: string | null, page: Page): void {
     line.hidden = mark === null;
+    line.classList.toggle("stale", of !== null);
     if (mark === null) {
         return;
     }
     line.dataset["verdict"] = mark.verdict;
     const word = element("strong", {}, texts.verdicts[mark.verdict] ?? "");
-    const seen = element("span", { "aria-hidden": "true" }, word, " ", seenSentence(mark.sentence, page.settings, page.names));
-    show(line, seen, wholeSpoken(spokenMark(mark, page)));
+    const text = of === null ? [] : [element("span", { class: "of" }, texts.markOf(of))];
+    const seen = element("span", { "aria-hidden": "true" }, ...text, word, " ", seenSentence(mark.sentence, page.settings, page.names));
+    const said = `${of === null ? "" : `${texts.markOf(of)}: `}${spokenMark(mark, page)}`;
+    show(line, seen, wholeSpoken(said));
 }
 
 export function spokenMark(mark: Mark, page: Page): string {

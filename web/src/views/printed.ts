@@ -3,10 +3,11 @@
 import { element } from "../dom";
 import { massesNeeded } from "../masses";
 import { spansOfSentence } from "../sentence";
-import { typeset, typesetLine } from "../spans";
+import { typesetLine } from "../spans";
 import { texts } from "../texts";
 import type { ElementInfo, Exercise, Form, SheetRoute, Span } from "../types";
 import { drawingOf } from "./drawing";
+import { massesLine } from "./masses-line";
 import type { Page } from "./page";
 
 export interface Version {
@@ -50,14 +51,6 @@ export function labelOf(version: Version, route: SheetRoute): string {
 
 function blank(label: string, kind: string): HTMLElement {
     return element("span", { class: `blank ${kind}` }, label);
-}
-
-function massesLine(masses: ElementInfo[], page: Page): HTMLElement {
-    const pairs = masses.flatMap(({ symbol, mass }, at) => [
-        at === 0 ? ": " : "; ",
-        element("span", { class: "pair" }, `${symbol}\u00A0`, typeset([{ number: mass }], page.settings)),
-    ]);
-    return element("p", { class: "masses" }, texts.massesLine, ...pairs);
 }
 
 // li

@@ -40,6 +40,37 @@ test("a wrong answer keeps the focus in the field, and after two of them help is
     await leave(page);
 });
 
+const marked = [
+    { kind: "titration:3", text: "0.678", other: "0.6789", of: "For 0.678" },
+    { kind: "titration:3", text: "777", other: "", of: "For 777" },
+    { kind: "titration:3", text: "", other: "5", of: "For an empty answer" },
+    { kind: "neutralisation:3", text: "H2SO4 + NaOH -> Na2SO4", other: "H2SO4", of: "For H2SO4 + NaOH -> Na2SO4" },
+    { kind: "solubility:1", text: "yes", other: "no", of: "For Yes, it dissolves" },
+    { kind: "solubility:1", text: "no", other: "yes", of: "For No, it does not" },
+];
+
+for (const { kind, text, other, of } of marked) {
+    test(`${kind}, "${text}" marked: with "${other}" in its place the mark is grey and says what it was for`, async () => {
+        const page = await openPage(browser, `#practice/4821/3/${kind}`);
+        const mark = page.locator(".mark");
+        const colour = () => mark.locator("strong").evaluate((word) => getComputedStyle(word).color);
+        await type(page, text);
+        await check(page);
+        const [fresh, freshColour] = [await mark.ariaSnapshot(), await colour()];
+        assert.equal(await mark.locator(".of").count(), 0);
+        for (const step of ["typed", "after a reload"]) {
+            await (step === "typed" ? type(page, other) : page.reload());
+            await mark.locator(".of").waitFor();
+            assert.equal(await mark.locator(".of").innerText(), of, step);
+            assert.ok((await mark.ariaSnapshot()).includes(`${of}: `), step);
+            assert.notEqual(await colour(), freshColour, step);
+        }
+        await type(page, text);
+        assert.deepEqual([await mark.ariaSnapshot(), await colour()], [fresh, freshColour], "the same text again");
+        await leave(page);
+    });
+}
+
 test("where all is shown no sentence names a button that is gone", async () => {
     const page = await openPage(browser, "#practice/4821/3/titration");
     const mark = page.locator(".mark");

@@ -18,6 +18,10 @@ export const states = [
     ...Object.entries(verdicts).map(([verdict, text]) => [
         `the verdict ${verdict}`, "#practice/4821/3/titration:3", (page) => answerWith(page, text, verdict),
     ]),
+    ["a mark of another text", "#practice/4821/3/titration:3", async (page) => {
+        await answerWith(page, verdicts.correct, "correct");
+        await type(page, "0.6789");
+    }],
     ["a formula being typed", "#practice/4821/3/neutralisation:3", (page) => type(page, "H2SO4 + NaOH -> ")],
     ["a choice that was wrong", "#practice/4821/3/solubility:1", (page) => answerWith(page, "no", "wrong")],
     ["help offered", "#practice/4821/3/titration:3", async (page) => {

@@ -1,10 +1,11 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { afterAnswer, afterMark, afterStep, isShownWhole, offersHelp, typed, type Progress } from "../../src/state";
-import type { Verdict } from "../../src/types";
+import { afterAnswer, afterMark as afterMarkOf, afterStep, isMarkStale, isShownWhole, offersHelp, typed, type Progress } from "../../src/state";
+import type { Mark, Verdict } from "../../src/types";
 
-const fresh: Progress = { typed: "", failed: 0, checked: false, steps: 0, result: null };
-const mark = (verdict: Verdict) => ({ verdict, sentence: "" });
+const fresh: Progress = { typed: "", failed: 0, marked: null, steps: 0, result: null };
+const mark = (verdict: Verdict): Mark => ({ verdict, sentence: "" });
+const afterMark = (progress: Progress, given: Mark, text = "777") => afterMarkOf(progress, text, given);
 
 test("right at once is solved at the first try", () => {
     assert.equal(afterMark(fresh, mark("correct")).result, "first");
@@ -54,7 +55,12 @@ test("the answer shown is shown, but not where it was solved before", () => {
     assert.equal(afterMark(afterAnswer(fresh, 3), mark("correct")).result, "shown");
 });
 
-test("typing on takes the mark away and keeps the rest", () => {
-    const after = typed(afterMark(fresh, mark("wrong")), "0.1");
-    assert.deepEqual(after, { ...fresh, typed: "0.1", failed: 1 });
+test("typing on keeps all else, and the mark is stale until its own text stands there again", () => {
+    const marked = afterMark(fresh, mark("wrong"), "0.2");
+    assert.deepEqual(typed(marked, "0.1"), { ...fresh, typed: "0.1", marked: "0.2", failed: 1 });
+    const stale: [string, boolean][] = [["0.2", false], ["0.21", true], ["", true], [" 0.2 ", false], ["0.20", true]];
+    for (const [text, expected] of stale) {
+        assert.equal(isMarkStale(typed(marked, text)), expected, `"${text}"`);
+    }
+    assert.equal(isMarkStale(typed(fresh, "0.1")), false, "nothing was marked");
 });
