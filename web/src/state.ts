@@ -1,8 +1,21 @@
 // What one exercise has come to, as data and pure steps from one state to the next.
-import type { Result, Progress } from "./storage";
 import type { Mark, Verdict } from "./types";
 
-export type { Progress } from "./storage";
+// At the first try; at a later one, wrong before; with a hint or a step; shown before it was solved.
+export const results = ["first", "later", "help", "shown"] as const;
+export type Result = (typeof results)[number];
+
+export interface Progress {
+    typed: string;
+    failed: number; // tries that count and were wrong, until there is a result
+    marked: string | null; // the text that the mark was given for
+    steps: number; // presses of "Show a step", so one more than there are steps once all is shown
+    result: Result | null;
+}
+
+export function resultOf(value: unknown): Result | null {
+    return results.find((result) => result === value) ?? null;
+}
 
 // So many failed tries, and help is offered.
 export const triesBeforeHelp = 2;
@@ -22,7 +35,7 @@ export function afterMark(progress: Progress, text: string, mark: Mark): Progres
 }
 
 function solvedHow(progress: Progress): Result {
-    return progress.failed === 0 && progress.steps === 0 ? "first" : "help";
+    return progress.steps > 0 ? "help" : progress.failed > 0 ? "later" : "first";
 }
 
 // The first press shows the hint to the first step; each further one a step, and the hint to the next.

@@ -1,32 +1,11 @@
-// What is kept on the device, and nowhere else. Storage that is refused is no error: then the page
-// forgets when it is closed.
+// The two stores of the browser, for the device and for the tab, and the small things in them: settings,
+// and where each view was left. Storage that is refused is no error: then the page forgets when it is
+// closed.
 import type { Settings } from "./types";
 
-export type Result = "first" | "help" | "shown";
-
-// By kind: how often it was solved at the first try, with help, or shown; and how many of the last
-// ones in a row at the first try.
-export interface Tally {
-    first: number;
-    help: number;
-    shown: number;
-    row: number;
-    ticked: boolean;
-}
-export type Record_ = Partial<Record<string, Tally>>;
-
-// What one exercise has come to, so that a reload loses nothing. Kept for the tab alone.
-export interface Progress {
-    typed: string;
-    failed: number;
-    marked: string | null; // the text that the mark was given for
-    steps: number;
-    result: Result | null;
-}
+type Store = "localStorage" | "sessionStorage";
 
 const settingsKey = "chempractice.settings";
-const recordKey = "chempractice.record";
-const rowThatTicks = 3;
 
 export const usualSettings: Settings = {
     volume: "mL",
@@ -35,6 +14,7 @@ export const usualSettings: Settings = {
     names: "british",
 };
 
+// What the browser refused to keep, for as long as the page is open.
 const forgetful = new Map<string, string>();
 
 // The first look into a store waits for the browser to fetch it. Who has time for that early has not to
@@ -44,35 +24,59 @@ export function open(): void {
     read("sessionStorage", settingsKey);
 }
 
-function read(kind: "localStorage" | "sessionStorage", key: string): unknown {
+// Null where nothing is kept that can be read.
+export function read(store: Store, key: string): unknown {
     try {
-        const text = window[kind].getItem(key) ?? forgetful.get(key) ?? "null";
-        return JSON.parse(text) as unknown;
+        return JSON.parse(forgetful.get(key) ?? window[store].getItem(key) ?? "null") as unknown;
     } catch {
-        return fallback(key);
+        return null;
     }
 }
 
-function fallback(key: string): unknown {
-    return JSON.parse(forgetful.get(key) ?? "null") as unknown;
-}
-
-function write(kind: "localStorage" | "sessionStorage", key: string, value: unknown): void {
-    forgetful.set(key, JSON.stringify(value));
+export function write(store: Store, key: string, value: unknown): void {
+    const text = JSON.stringify(value);
     try {
-        window[kind].setItem(key, JSON.stringify(value));
+        window[store].setItem(key, text);
+        forgetful.delete(key);
     } catch {
-        // Refused: `forgetful` has it for as long as the page is open.
+        forgetful.set(key, text);
     }
 }
 
-function isObject(value: unknown): value is Record<string, unknown> {
-    return typeof value === "object" && value !== null;
+export function remove(store: Store, key: string): void {
+    forgetful.delete(key);
+    try {
+        window[store].removeItem(key);
+    } catch {
+        // Refused: it was nowhere else.
+    }
+}
+
+// Without the prefix, which they all have.
+export function keysBehind(store: Store, prefix: string): string[] {
+    const keys = new Set([...keysOf(store), ...forgetful.keys()]);
+    return [...keys].filter((key) => key.startsWith(prefix)).map((key) => key.slice(prefix.length));
+}
+
+function keysOf(store: Store): string[] {
+    try {
+        return Object.keys(window[store]);
+    } catch {
+        return [];
+    }
+}
+
+// What is damaged, or another's, is taken field by field.
+export function fieldsOf(value: unknown): Record<string, unknown> {
+    return typeof value === "object" && value !== null ? (value as Record<string, unknown>) : {};
+}
+
+export function countOf(value: unknown): number {
+    return Number.isSafeInteger(value) && (value as number) >= 0 ? (value as number) : 0;
 }
 
 export function settings(): Settings {
-    const kept = read("localStorage", settingsKey);
-    const { volume, per, decimal, names } = isObject(kept) ? kept : {};
+    const { volume, per, decimal, names } = fieldsOf(read("localStorage", settingsKey));
     return {
         volume: volume === "cm3" ? "cm3" : "mL",
         per: per === "power" ? "power" : "slash",
@@ -85,50 +89,6 @@ export function keepSettings(chosen: Settings): void {
     write("localStorage", settingsKey, chosen);
 }
 
-export function record(): Record_ {
-    const kept = read("localStorage", recordKey);
-    const tallies: Record_ = {};
-    for (const [kind, tally] of Object.entries(isObject(kept) ? kept : {})) {
-        if (isTally(tally)) {
-            tallies[kind] = tally;
-        }
-    }
-    return tallies;
-}
-
-function isTally(value: unknown): value is Tally {
-    return (
-        isObject(value) &&
-        [value["first"], value["help"], value["shown"], value["row"]].every(Number.isSafeInteger) &&
-        typeof value["ticked"] === "boolean"
-    );
-}
-
-// Read anew before it is changed, since another tab may have written.
-export function addToRecord(kind: string, result: Result): void {
-    const tallies = record();
-    const tally = tallies[kind] ?? { first: 0, help: 0, shown: 0, row: 0, ticked: false };
-    tally[result] += 1;
-    tally.row = result === "first" ? tally.row + 1 : 0;
-    tally.ticked ||= tally.row >= rowThatTicks;
-    write("localStorage", recordKey, { ...tallies, [kind]: tally });
-}
-
-// With what the exercises of this tab have come to, so that nobody sees the answers of who sat here before.
-export function clearRecord(): void {
-    write("localStorage", recordKey, {});
-    [...forgetful.keys()].filter(isProgress).forEach((key) => forgetful.delete(key));
-    try {
-        Object.keys(window.sessionStorage).filter(isProgress).forEach((key) => window.sessionStorage.removeItem(key));
-    } catch {
-        // Refused: there was nothing but in `forgetful`.
-    }
-}
-
-function isProgress(key: string): boolean {
-    return key.startsWith(progressKey(""));
-}
-
 // Where a view leads back to, as an address; empty where it was not opened in this tab.
 export function placeLeft(view: "practice" | "sheet"): string {
     const kept = read("sessionStorage", `chempractice.left.${view}`);
@@ -137,24 +97,4 @@ export function placeLeft(view: "practice" | "sheet"): string {
 
 export function keepPlaceLeft(view: "practice" | "sheet", address: string): void {
     write("sessionStorage", `chempractice.left.${view}`, address);
-}
-
-function progressKey(place: string): string {
-    return `chempractice.exercise.${place}`;
-}
-
-export function progressOf(place: string): Progress {
-    const kept = read("sessionStorage", progressKey(place));
-    const { typed, failed, marked, steps, result } = isObject(kept) ? kept : {};
-    return {
-        typed: typeof typed === "string" ? typed : "",
-        failed: Number.isSafeInteger(failed) ? (failed as number) : 0,
-        marked: typeof marked === "string" ? marked : null,
-        steps: Number.isSafeInteger(steps) ? (steps as number) : 0,
-        result: result === "first" || result === "help" || result === "shown" ? result : null,
-    };
-}
-
-export function keepProgress(place: string, progress: Progress): void {
-    write("sessionStorage", progressKey(place), progress);
 }

@@ -1,9 +1,10 @@
 // One exercise: the question, a field, the mark, the solution step by step; and what each press leads to.
 import { addressOf, atNumber, placeOf } from "../address";
 import { announce, bringIntoView, button, element, fitIntoView, show } from "../dom";
+import { keepProgress, progressOf } from "../progress";
+import { addToRecord } from "../record";
 import { typesetLine } from "../spans";
 import * as state from "../state";
-import * as storage from "../storage";
 import { texts } from "../texts";
 import type { Exercise, Mark, PracticeRoute } from "../types";
 import { type AnswerField, answerField } from "./answer";
@@ -40,7 +41,7 @@ interface Parts {
 
 // Gives what puts the focus into the field.
 export function showExercise(article: HTMLElement, place: Place): () => void {
-    const work: Work = { ...place, progress: storage.progressOf(placeOf(place.route)), mark: null };
+    const work: Work = { ...place, progress: progressOf(placeOf(place.route)), mark: null };
     const parts = partsOf(work);
     parts.form.addEventListener("submit", (event) => {
         event.preventDefault();
@@ -107,11 +108,11 @@ function partsOf(work: Work): Parts {
 
 function keep(work: Work, progress: state.Progress): void {
     if (progress.result !== null && work.progress.result === null) {
-        storage.addToRecord(work.exercise.kind, progress.result);
+        addToRecord(work.exercise.kind, progress.result);
         work.solved();
     }
     work.progress = progress;
-    storage.keepProgress(placeOf(work.route), progress);
+    keepProgress(placeOf(work.route), progress);
 }
 
 function update(work: Work, parts: Parts): void {

@@ -1,37 +1,58 @@
 // What the reader has solved on this device, by kind.
 import { announce, button, element, scrollBox, show } from "../dom";
-import * as storage from "../storage";
+import { clearRecord, record, type Tallies, type Tally } from "../record";
+import { results } from "../state";
 import { texts } from "../texts";
+import type { KindInfo } from "../types";
 import type { Page } from "./page";
+import { ask } from "./question";
 
+// details
+//   summary
+//   p.hint
+//   div        the table, what a tick means where there is one, and what clears it
 export function recordPanel(page: Page): { element: HTMLElement; update(): void } {
     const body = element("div", {});
-    const update = () => show(body, ...contents(page, clear));
-    const clear = () => {
-        storage.clearRecord();
+    const summary = element("summary", {}, texts.recordTitle);
+    const clear: HTMLElement = button(texts.clearRecord, () => ask(clear, texts.askClearRecord, cleared));
+    const update = () => {
+        clear.hidden = false;
+        show(body, ...contents(page, clear));
+    };
+    const cleared = () => {
+        clearRecord();
         update();
         announce(texts.cleared);
         summary.focus();
     };
-    const summary = element("summary", {}, texts.recordTitle);
     update();
     return { element: element("details", {}, summary, element("p", { class: "hint" }, texts.recordNote), body), update };
 }
 
-function contents(page: Page, clear: () => void): Node[] {
-    const tallies = storage.record();
+function contents(page: Page, clear: HTMLElement): Node[] {
+    const tallies = record();
     const known = page.kinds.filter((info) => tallies[info.kind] !== undefined);
     if (known.length === 0) {
         return [element("p", {}, texts.recordEmpty)];
     }
-    const { kind, first, help, shown } = texts.columns;
-    const head = element("tr", {}, ...[kind, first, help, shown].map((text) => element("th", { scope: "col" }, text!)));
-    const rows = known.map((info) => {
-        const tally = tallies[info.kind]!;
-        const tick = tally.ticked ? [element("span", { "aria-hidden": "true" }, " ✓"), element("span", { class: "spoken" }, `, ${texts.ticked}`)] : [];
-        const numbers = [tally.first, tally.help, tally.shown].map((count) => element("td", {}, String(count)));
-        return element("tr", {}, element("th", { scope: "row" }, info.title, ...tick), ...numbers);
-    });
-    const table = element("table", {}, element("thead", {}, head), element("tbody", {}, ...rows));
-    return [scrollBox("box", texts.recordTitle, table), element("p", { class: "hint" }, `✓ ${texts.ticked}`), button(texts.clearRecord, clear)];
+    const hasTick = known.some((info) => tallies[info.kind]!.ticked);
+    const legend = element("p", { class: "hint" }, texts.tickMeans);
+    return [scrollBox("box", texts.recordTitle, tableOf(known, tallies)), ...(hasTick ? [legend] : []), clear];
+}
+
+function tableOf(known: KindInfo[], tallies: Tallies): HTMLElement {
+    const titles = [texts.columns.kind, ...results.map((result) => large(texts.results[result]))];
+    const head = element("tr", {}, ...titles.map((title) => element("th", { scope: "col" }, title)));
+    const rows = known.map((info) => rowOf(info.title, tallies[info.kind]!));
+    return element("table", { class: "record" }, element("thead", {}, head), element("tbody", {}, ...rows));
+}
+
+function rowOf(title: string, tally: Tally): HTMLElement {
+    const tick = element("span", { class: "tick" }, element("span", { "aria-hidden": "true" }, "✓ "), texts.ticked);
+    const name = element("th", { scope: "row" }, title, ...(tally.ticked ? [" ", tick] : []));
+    return element("tr", {}, name, ...results.map((result) => element("td", {}, String(tally[result]))));
+}
+
+function large(word: string): string {
+    return word.charAt(0).toUpperCase() + word.slice(1);
 }

@@ -1,7 +1,7 @@
 // What a set of exercises has come to: to print or to save, for a teacher.
 import { addressOf, atNumber, placeOf } from "../address";
 import { button, element, save, scrollBox, show } from "../dom";
-import * as storage from "../storage";
+import { progressOf } from "../progress";
 import { texts } from "../texts";
 import type { PracticeRoute } from "../types";
 import { type Page, randomPaper, titleOf } from "./page";
@@ -44,11 +44,11 @@ function rowsOf(route: PracticeRoute, page: Page): Row[] {
     return Array.from({ length: route.set }, (_, at) => {
         const place = atNumber(route, at + 1);
         const exercise = page.lesson.exercise(place.paper, place.number, place.kinds);
-        const result = storage.progressOf(placeOf(place)).result;
+        const result = progressOf(placeOf(place)).result;
         return {
             number: at + 1,
             kind: exercise === null ? "" : texts.kindAndLevel(titleOf(page, exercise.kind), exercise.level),
-            result: result === null ? texts.notDone : texts.results[result]!,
+            result: result === null ? texts.notDone : texts.results[result],
         };
     });
 }

@@ -175,16 +175,27 @@ test("how it is written is chosen with the arrow keys", async () => {
     await leave(page);
 });
 
-test("the record is cleared, and the focus goes to what opened it", async () => {
+test("clearing the record is asked for; Enter pressed twice keeps it", async () => {
     const page = await open("#practice/4821/3/ion-formula:1");
     await tabTo(page, button(page, "Show the answer"));
     await page.keyboard.press("Enter");
     await tabTo(page, panel(page, "My record"));
     await page.keyboard.press("Enter");
     await tabTo(page, button(page, "Clear my record"));
+    for (const harmless of ["Enter", "Escape"]) {
+        await page.keyboard.press("Enter");
+        assert.equal(await announced(page), "Clear your record?");
+        assert.equal(await isFocused(button(page, "Keep")), true);
+        await page.keyboard.press(harmless);
+        assert.equal(await isFocused(button(page, "Clear my record")), true, harmless);
+        assert.equal(await page.getByRole("row", { name: /Formula of an ion/ }).count(), 1, harmless);
+    }
+    await page.keyboard.press("Enter");
+    await tabTo(page, button(page, "Clear"), "Shift+Tab");
     await page.keyboard.press("Enter");
     assert.equal(await announced(page), "Your record is cleared.");
     assert.equal(await isFocused(panel(page, "My record")), true);
+    assert.equal(await page.getByRole("row", { name: /Formula of an ion/ }).count(), 0);
     await leave(page);
 });
 

@@ -11,9 +11,15 @@ test("right at once is solved at the first try", () => {
     assert.equal(afterMark(fresh, mark("correct")).result, "first");
 });
 
-test("right after a wrong try, or after a step of the solution, is solved with help", () => {
-    assert.equal(afterMark(afterMark(fresh, mark("wrong")), mark("correct")).result, "help");
-    assert.equal(afterMark(afterStep(fresh, 3), mark("correct")).result, "help");
+test("right after a wrong try alone is solved at a later one", () => {
+    assert.equal(afterMark(afterMark(fresh, mark("wrong")), mark("correct")).result, "later");
+});
+
+test("right after a hint or a step is solved with help, wrong before or not", () => {
+    const afterHint = afterStep(fresh, 3);
+    assert.equal(afterMark(afterHint, mark("correct")).result, "help");
+    assert.equal(afterMark(afterMark(afterHint, mark("wrong")), mark("correct")).result, "help");
+    assert.equal(afterMark(afterStep(afterMark(fresh, mark("wrong")), 3), mark("correct")).result, "help");
 });
 
 test("what could not be read or is nearly right is no failed try", () => {
