@@ -51,11 +51,14 @@ export function byId(id: string): HTMLElement {
     return found;
 }
 
-// The region is empty at load; a text that comes again is announced again.
+let waiting = 0;
+
+// The region is empty at load; a text that comes again is announced again. The last one counts.
 export function announce(text: string): void {
     const region = byId("announcement");
     region.textContent = "";
-    window.setTimeout(() => {
+    window.clearTimeout(waiting);
+    waiting = window.setTimeout(() => {
         region.textContent = text;
     }, 50);
 }
