@@ -17,7 +17,9 @@ export const usualSheet: Omit<SheetRoute, "paper"> = {
     versions: 1,
     title: "Chemical calculations",
     room: "some",
+    masses: "shown",
     drawings: false,
+    leaf: true,
     parts: "both",
     key: "line",
     keys: "together",
@@ -27,6 +29,7 @@ export const usualSheet: Omit<SheetRoute, "paper"> = {
 // The first of each is what an address without it means.
 const choices = {
     room: ["some", "much", "none"],
+    masses: ["shown", "table"],
     parts: ["both", "sheet", "key"],
     key: ["line", "working"],
     keys: ["together", "apart"],
@@ -35,37 +38,42 @@ const choices = {
 
 type Choice = keyof typeof choices;
 
+// In an address 1 or 0; without it, what they usually are.
+const flags = ["drawings", "leaf"] as const;
+
+type Flag = (typeof flags)[number];
+
+const written = ["versions", "title", "room", "masses", "drawings", "parts", "key", "keys", "leaf", "size"] as const;
+
 // Of the parts behind "#sheet/" and the options behind "?"; null where they name no sheet.
 export function sheetOf(parts: string[], options: URLSearchParams): SheetRoute | null {
     const [paper = "", list = ""] = parts;
     const entries = entriesOf(list);
     const versions = options.get("versions") ?? "1";
     const title = options.get("title") ?? usualSheet.title;
-    const drawings = options.get("drawings") ?? "0";
     const chosen = choicesOf(options);
-    const isRead = parts.length === 2 && isPaper(paper) && entries !== null && chosen !== null;
-    if (!isRead || !isCount(versions, mostVersions) || title.length > longestTitle || !/^[01]$/.test(drawings)) {
+    const set = flagsOf(options);
+    const isRead = parts.length === 2 && isPaper(paper) && entries !== null && chosen !== null && set !== null;
+    if (!isRead || !isCount(versions, mostVersions) || title.length > longestTitle) {
         return null;
     }
     const route: SheetRoute = {
         ...usualSheet,
         ...chosen,
+        ...set,
         paper: Number(paper),
         entries,
         versions: Number(versions),
         title,
-        drawings: drawings === "1",
     };
     return isFew(route) ? route : null;
 }
 
 export function sheetAddress(route: SheetRoute, version: number): string {
     const options = new URLSearchParams();
-    const usual = { ...usualSheet, drawings: "0" };
-    const written = { ...route, drawings: route.drawings ? "1" : "0" };
-    for (const key of ["versions", "title", "room", "drawings", "parts", "key", "keys", "size"] as const) {
-        if (written[key] !== usual[key]) {
-            options.set(key, String(written[key]));
+    for (const key of written) {
+        if (route[key] !== usualSheet[key]) {
+            options.set(key, valueOf(route[key]));
         }
     }
     options.set("v", String(version));
@@ -117,6 +125,17 @@ function choicesOf(options: URLSearchParams): Pick<SheetRoute, Choice> | null {
     const chosen = Object.entries(choices).map(([key, values]) => [key, options.get(key) ?? values[0]] as const);
     const isKnown = chosen.every(([key, value]) => (choices[key as Choice] as readonly string[]).includes(value));
     return isKnown ? (Object.fromEntries(chosen) as Pick<SheetRoute, Choice>) : null;
+}
+
+function flagsOf(options: URLSearchParams): Pick<SheetRoute, Flag> | null {
+    const set = flags.map((key) => [key, options.get(key) ?? valueOf(usualSheet[key])] as const);
+    const isKnown = set.every(([, value]) => value === "1" || value === "0");
+    return isKnown ? (Object.fromEntries(set.map(([key, value]) => [key, value === "1"])) as Pick<SheetRoute, Flag>) : null;
+}
+
+// As it stands in an address.
+function valueOf(value: string | number | boolean): string {
+    return typeof value === "boolean" ? (value ? "1" : "0") : String(value);
 }
 
 export function isPaper(text: string): boolean {

@@ -124,6 +124,9 @@ export const texts = {
     titleHint: "May be left empty.",
     room: "Room to write",
     rooms: { none: "None", some: "Some lines", much: "Many lines" },
+    massesOf: { shown: "Shown", table: "Use the table" },
+    newLeaf: "Start the key on a new leaf",
+    newLeafHint: "For printing on both sides. Each version does so too, and each key that is printed apart.",
     parts: "What to print",
     partsOf: { both: "Sheet and key", sheet: "The sheet alone", key: "The key alone" },
     keyForm: "Key",
@@ -157,6 +160,8 @@ export const texts = {
     nameBlank: "Name",
     dateBlank: "Date",
     massesLine: "Relative atomic masses",
+    useTheTable: "Relative atomic masses: use the periodic table.",
+    blankSide: "This side is blank.",
 
     burette: "burette",
     flask: "conical flask",

@@ -143,7 +143,9 @@ export interface SheetRoute {
     versions: number;
     title: string;
     room: "none" | "some" | "much"; // to write, below each exercise
+    masses: "shown" | "table"; // those that are needed, or the word that the periodic table has them
     drawings: boolean;
+    leaf: boolean; // whether what is handed out apart begins on a new leaf, printed on both sides
     parts: "both" | "sheet" | "key";
     key: "line" | "working";
     keys: "together" | "apart"; // of several versions: one after another, or each from a new page on

@@ -39,15 +39,34 @@ export function* leaves(box: HTMLElement, route: SheetRoute, page: Page): Genera
     const elements = page.lesson.tables().elements;
     const places = exercisesOf(route.entries);
     const keys: { label: string; run: Run }[] = [];
+    const put = putInto(box, route);
     for (const [at, paper] of papersOf(route).entries()) {
         const version: Version = { paper, number: at + 1, exercises: yield* exercisesOfPaper(paper, places, page) };
         const { sheet, key } = yield* runsOf(version, route, elements, measure, page);
         const label = labelOf(version, route);
-        box.append(...leavesOf(label, [sheet], route));
+        put(label, leavesOf(label, [sheet], route));
         keys.push({ label, run: key });
     }
     measuring.remove();
-    box.append(...keyLeaves(keys, route));
+    keysApart(keys, route).forEach(({ label, runs }) => put(label, leavesOf(label, runs, route)));
+}
+
+// What is handed out apart, one after another: each from a front side on, where that is wanted.
+function putInto(box: HTMLElement, route: SheetRoute): (label: string, pages: HTMLElement[]) => void {
+    let sides = 0;
+    let before = "";
+    return (label, pages) => {
+        const blank = route.leaf && sides % 2 === 1 && pages.length > 0 ? [blankSide(before)] : [];
+        box.append(...blank, ...pages);
+        sides += blank.length + pages.length;
+        before = label;
+    };
+}
+
+// div.leaf
+//   p.running, p.empty
+function blankSide(label: string): HTMLElement {
+    return element("div", { class: "leaf" }, element("p", { class: "running" }, label), element("p", { class: "empty" }, texts.blankSide));
 }
 
 // What is not printed is not made.
@@ -91,13 +110,12 @@ function measureIn(measuring: HTMLElement, width: number): Measure {
     };
 }
 
-function keyLeaves(keys: { label: string; run: Run }[], route: SheetRoute): HTMLElement[] {
+function keysApart(keys: { label: string; run: Run }[], route: SheetRoute): { label: string; runs: Run[] }[] {
     if (route.keys === "apart" || keys.length === 1) {
-        return keys.flatMap(({ label, run }) => leavesOf(label, [run], route));
+        return keys.map(({ label, run }) => ({ label, runs: [run] }));
     }
     const papers = papersOf(route);
-    const label = texts.papers(papers[0]!, papers[papers.length - 1]!);
-    return leavesOf(label, keys.map(({ run }) => run), route);
+    return [{ label: texts.papers(papers[0]!, papers[papers.length - 1]!), runs: keys.map(({ run }) => run) }];
 }
 
 // div.leaf

@@ -32,12 +32,17 @@ export function sheetHead(version: Version, route: SheetRoute, elements: Element
         { class: "head" },
         ...(route.title.trim() === "" ? [] : [element("h2", {}, route.title)]),
         element("p", { class: "blanks" }, blank(texts.nameBlank, "wide"), blank(texts.dateBlank, "")),
-        ...(masses.length === 0 ? [] : [massesLine(masses, page)]),
+        ...(masses.length === 0 ? [] : [massesOf(masses, route, page)]),
     );
 }
 
+// div.head
+//   p.of     the sheet's title; once where keys follow each other
+//   h2
 export function keyHead(version: Version, route: SheetRoute): HTMLElement {
-    return element("div", { class: "head" }, element("h2", {}, texts.keyTo(labelOf(version, route))));
+    const isFirst = version.number === 1 || route.keys === "apart";
+    const title = isFirst && route.title.trim() !== "" ? [element("p", { class: "of" }, route.title)] : [];
+    return element("div", { class: "head key" }, ...title, element("h2", {}, texts.keyTo(labelOf(version, route))));
 }
 
 // Above what did not fit on the page before.
@@ -51,6 +56,11 @@ export function labelOf(version: Version, route: SheetRoute): string {
 
 function blank(label: string, kind: string): HTMLElement {
     return element("span", { class: `blank ${kind}` }, label);
+}
+
+// Where the table is used, the sheet says so, lest a pupil looks for them on it.
+function massesOf(masses: ElementInfo[], route: SheetRoute, page: Page): HTMLElement {
+    return route.masses === "table" ? element("p", { class: "masses" }, texts.useTheTable) : massesLine(masses, page);
 }
 
 // li

@@ -23,7 +23,9 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
     const versions = element("input", { type: "number", min: 1, max: mostVersions, value: opened.versions });
     const title = element("input", { type: "text", maxlength: longestTitle, value: opened.title, autocomplete: "off" });
     const drawings = element("input", { type: "checkbox", checked: opened.drawings });
+    const leaf = element("input", { type: "checkbox", id: "new-leaf", checked: opened.leaf });
     const room = choice(texts.rooms, opened.room);
+    const masses = choice(texts.massesOf, opened.masses);
     const parts = choice(texts.partsOf, opened.parts);
     const key = choice(texts.keyForms, opened.key);
     const keys = choice(texts.keysOf, opened.keys);
@@ -43,12 +45,14 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
             hinted(labelled("versions", texts.versions, versions), versions, texts.versionsHint(mostVersions)),
             hinted(labelled("sheet-title", texts.sheetTitle, title), title, texts.titleHint),
             labelled("room", texts.room, room),
+            labelled("masses", texts.massesLine, masses),
             labelled("parts", texts.parts, parts),
             labelled("key", texts.keyForm, key),
             labelled("keys", texts.keys, keys),
             labelled("size", texts.pageSize, size),
         ),
         element("label", { class: "word" }, drawings, texts.withDrawings),
+        hinted(element("div", {}, element("label", { class: "word" }, leaf, texts.newLeaf)), leaf, texts.newLeafHint),
     );
 
     // Enter in a field is a change like any other, and sends nothing anywhere.
@@ -77,7 +81,9 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
             versions: Number(versions.value),
             title: title.value,
             room: room.value as SheetRoute["room"],
+            masses: masses.value as SheetRoute["masses"],
             drawings: drawings.checked,
+            leaf: leaf.checked,
             parts: parts.value as SheetRoute["parts"],
             key: key.value as SheetRoute["key"],
             keys: keys.value as SheetRoute["keys"],

@@ -53,6 +53,7 @@ for (const { kind, title } of lesson.kinds()) {
 
 const sheets = {
     A4: "#sheet/4821/3*titration:3,2*dilution:3,3*molar-mass:3,2*ion-formula?versions=2&drawings=1&v=1",
+    "A4, with sides left blank": "#sheet/4821/2*titration,2*dilution?versions=2&keys=apart&v=1",
     Letter: "#sheet/4821/6*titration:3,6*concentration:3,6*neutralisation?versions=2&key=working&size=Letter&v=1",
 };
 
@@ -69,8 +70,9 @@ async function leavesInChromium(hash) {
 // The driver gives the size and the margins itself, so they have to be told here.
 const margin = { top: "15mm", bottom: "15mm", left: "18mm", right: "18mm" };
 
-for (const [format, hash] of Object.entries(sheets)) {
-    test(`a sheet on ${format}: what is printed is the preview, page by page`, { skip }, async () => {
+for (const [what, hash] of Object.entries(sheets)) {
+    const format = what.split(",")[0];
+    test(`a sheet on ${what}: what is printed is the preview, page by page`, { skip }, async () => {
         await open(hash);
         await page.waitForSelector(".size:not(:empty)");
         const preview = await page.evaluate(leafTexts);

@@ -69,7 +69,7 @@ export function leafTexts() {
 
 // Each page as grey values, 0 black and 255 white.
 export function shadesOf(pdf) {
-    const pictures = read("pdftoppm", ["-r", "40", "-gray", "-", "-"], pdf, "buffer");
+    const pictures = read("pdftoppm", ["-r", "40", "-gray", "-"], pdf, "buffer");
     const pages = [];
     for (let at = 0; at < pictures.length; ) {
         const header = /^P5\s(\d+)\s(\d+)\s255\s/.exec(pictures.toString("latin1", at, at + 40));
