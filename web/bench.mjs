@@ -1,4 +1,5 @@
-// The speed of the page, as medians of cold starts: each in a browser that has just been started.
+// The speed of the page, against what a browser takes for the same without it. What is compared is
+// measured in turn, and the figure is a ratio, since the speed of a machine changes by the hour.
 //   node bench.mjs PRACTICE.HTML LESSON.WASM
 import { readFileSync, writeFileSync } from "node:fs";
 import { resolve } from "node:path";
@@ -10,21 +11,33 @@ process.env.PAGE = page;
 process.env.LESSON = lesson;
 const { address, openChromium, openLesson, type } = await import("./test/page/support.mjs");
 
-const starts = 10;
+const turns = 10;
 // A browser that has just been started is still busy with itself.
 const settling = 1500;
 const marksEach = 30;
 const slowed = 6;
-const classSets = 10;
 
 const bytes = readFileSync(page);
 const empty = resolve(page, "../empty.html");
+const saved = resolve(page, "../saved.html");
+const savedLaidOut = resolve(page, "../saved-laid-out.html");
 writeFileSync(empty, emptyPage(bytes.length));
 
 const median = (numbers) => {
     const sorted = [...numbers].sort((a, b) => a - b);
     return (sorted[(sorted.length - 1) >> 1] + sorted[sorted.length >> 1]) / 2;
 };
+
+// One after the other, so many times, each with the number of the turn. Gives a list of times for each.
+async function inTurn(...works) {
+    const times = works.map(() => []);
+    for (let turn = 0; turn < turns; ++turn) {
+        for (const [at, work] of works.entries()) {
+            times[at].push(await work(turn));
+        }
+    }
+    return times;
+}
 
 // As large as the page, with a heading as the last thing and nothing to do.
 function emptyPage(size) {
@@ -45,7 +58,7 @@ function tellWhenShown() {
     watch.observe(document, { childList: true, subtree: true });
 }
 
-async function coldStart(url, slowness) {
+async function coldStart(url, slowness = 1) {
     const browser = await openChromium();
     const tab = await browser.newPage();
     await tab.addInitScript(tellWhenShown);
@@ -55,14 +68,6 @@ async function coldStart(url, slowness) {
     const [message] = await Promise.all([tab.waitForEvent("console"), tab.goto(url)]);
     await browser.close();
     return Number(message.text());
-}
-
-async function coldStarts(url, slowness = 1) {
-    const times = [];
-    for (let start = 0; start < starts; ++start) {
-        times.push(await coldStart(url, slowness));
-    }
-    return times;
 }
 
 // From the press of Check until the page is laid out with the mark.
@@ -97,37 +102,72 @@ async function allMarks() {
     return byKind;
 }
 
-// From the press of a link until all pages of a class set, 30 papers of 20 exercises and their keys, are
-// there and laid out.
-function classSetTime(hash) {
+// A class set, 30 papers of 20 exercises with their keys, each time another one.
+const classSet = (turn) => `#sheet/${1 + 30 * turn}/7*concentration,7*dilution,6*titration?versions=30`;
+
+// From the press of a link to the sheet until its last page is there and a frame with it has been made.
+function pressToFrame(hash) {
     return new Promise((done) => {
         const from = performance.now();
-        const laidOut = () => {
-            document.body.getBoundingClientRect();
-            done(performance.now() - from);
-        };
+        const shown = () => requestAnimationFrame(() => setTimeout(() => done(performance.now() - from)));
         const main = document.querySelector("main");
-        const shown = new MutationObserver(() => {
-            shown.disconnect();
-            new MutationObserver(laidOut).observe(main.querySelector(".size"), { childList: true });
+        const opened = new MutationObserver(() => {
+            opened.disconnect();
+            new MutationObserver(shown).observe(main.querySelector(".size"), { childList: true });
         });
-        shown.observe(main, { childList: true });
+        opened.observe(main, { childList: true });
         location.hash = hash;
     });
 }
 
+// From the start of the navigation until the last page is there and a frame with it has been made.
+function tellWhenLoaded() {
+    document.addEventListener("DOMContentLoaded", () => requestAnimationFrame(() => setTimeout(() => console.info(performance.now()))));
+}
+
+// The pages as the browser has them once they are made, with the style that lays them out, and no script.
+function finishedPages(furtherStyle) {
+    const style = document.querySelector("style").textContent + furtherStyle;
+    const leaves = document.querySelector(".leaves").outerHTML;
+    return `<!doctype html><html lang="en-GB" data-view="sheet"><meta charset="utf-8"><title>Saved</title><style>${style}</style><body><main>${leaves}</main></html>`;
+}
+
 // Each in a tab of its own, so that nothing is compiled or laid out yet.
-async function classSetTimes() {
-    const browser = await openChromium();
-    const times = [];
-    for (let set = 0; set < classSets; ++set) {
-        const tab = await browser.newPage();
-        await tab.goto(`${address}#tables`);
-        await tab.locator("h1").waitFor();
-        await tab.waitForTimeout(settling);
-        times.push(await tab.evaluate(classSetTime, `#sheet/${1 + 30 * set}/7*concentration,7*dilution,6*titration?versions=30`));
+async function inNewTab(browser, work) {
+    const tab = await browser.newPage();
+    try {
+        return await work(tab);
+    } finally {
         await tab.close();
     }
+}
+
+async function madeSet(tab, turn) {
+    await tab.goto(`${address}#tables`);
+    await tab.locator("h1").waitFor();
+    await tab.waitForTimeout(settling);
+    const time = await tab.evaluate(pressToFrame, classSet(turn));
+    writeFileSync(saved, await tab.evaluate(finishedPages, ""));
+    writeFileSync(savedLaidOut, await tab.evaluate(finishedPages, ".leaf { content-visibility: visible; }"));
+    return time;
+}
+
+async function savedSet(tab, file) {
+    await tab.addInitScript(tellWhenLoaded);
+    await tab.waitForTimeout(settling);
+    const [message] = await Promise.all([tab.waitForEvent("console"), tab.goto(pathToFileURL(file).href)]);
+    return Number(message.text());
+}
+
+// The pages are laid out as they come into the window. So the browser has less to do for the saved ones
+// than the page, which has to know how high each exercise is; with all of them laid out it is the same.
+async function classSets() {
+    const browser = await openChromium();
+    const times = await inTurn(
+        (turn) => inNewTab(browser, (tab) => madeSet(tab, turn)),
+        () => inNewTab(browser, (tab) => savedSet(tab, saved)),
+        () => inNewTab(browser, (tab) => savedSet(tab, savedLaidOut)),
+    );
     await browser.close();
     return times;
 }
@@ -141,21 +181,34 @@ function timeLine(what, times) {
     line(what, `${median(times).toFixed(1)} ms   (${least.toFixed(1)} to ${most.toFixed(1)})`);
 }
 
+// The median of the turns' own ratios, so that neither a slow hour nor one disturbed turn weighs.
+function ratioLine(what, times, others, goal = "") {
+    line(what, `${median(times.map((time, turn) => time / others[turn])).toFixed(2)}      ${goal}`);
+}
+
 const hash = "#practice/1/1/titration";
-const emptyTimes = await coldStarts(pathToFileURL(empty).href);
-const pageTimes = await coldStarts(address + hash);
-const slowTimes = await coldStarts(address + hash, slowed);
+const cold = await inTurn(
+    () => coldStart(address + hash),
+    () => coldStart(pathToFileURL(empty).href),
+    () => coldStart(address + hash, slowed),
+);
 
 line("practice.html", `${bytes.length} bytes`);
 line("compressed by gzip", `${gzipSync(bytes, { level: 9 }).length} bytes`);
-console.log(`\nMedians of ${starts} cold starts, least and most in brackets`);
-timeLine("first exercise on the screen", pageTimes);
-timeLine("an empty file of the same size", emptyTimes);
-line("difference of the medians", `${(median(pageTimes) - median(emptyTimes)).toFixed(1)} ms`);
-timeLine(`first exercise, processor slowed ${slowed} times`, slowTimes);
+console.log(`\nCold starts, each in a browser that has just been started: medians of ${turns}, least and most in brackets`);
+timeLine("first exercise on the screen", cold[0]);
+timeLine("an empty file of the same size", cold[1]);
+ratioLine("ratio", cold[0], cold[1], "(goal 2.5)");
+timeLine(`first exercise, processor slowed ${slowed} times`, cold[2]);
 console.log(`\nA mark: medians of ${marksEach}`);
 for (const [kind, times] of await allMarks()) {
     timeLine(kind, times);
 }
 
-timeLine(`\nA class set, 30 papers of 20 exercises with keys, median of ${classSets}`, await classSetTimes());
+const [made, loaded, laidOut] = await classSets();
+console.log(`\nA class set, 30 papers of 20 exercises with keys: medians of ${turns}`);
+timeLine("all its pages made", made);
+timeLine("the same pages saved and loaded", loaded);
+ratioLine("ratio", made, loaded, "(goal 2.0)");
+timeLine("saved, loaded and all laid out", laidOut);
+ratioLine("ratio", made, laidOut);
