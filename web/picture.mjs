@@ -23,7 +23,7 @@ await tab.goto(`${pathToFileURL(page).href}#sheet/4821/molar-mass:3,concentratio
 await tab.locator(".size:not(:empty)").waitFor();
 // The two pages alone, side by side.
 await tab.evaluate(() => {
-    document.querySelectorAll("header, .sheets").forEach((one) => (one.hidden = true));
+    document.querySelectorAll("header, .sheets, .outcome > :not(.leaves)").forEach((one) => (one.hidden = true));
     const box = document.querySelector(".leaves");
     box.style.setProperty("--mm", "0.75mm");
     Object.assign(box.style, { display: "flex", gap: "1.5rem", position: "absolute", insetBlockStart: "0", insetInlineStart: "0", marginInlineStart: "0", inlineSize: "auto", padding: "1px" });

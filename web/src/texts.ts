@@ -140,6 +140,7 @@ export const texts = {
     anki: "Anki cards",
     fileOf: "Version to save",
     pages: "Pages",
+    stalePages: "Something in the form is wrong. These are the pages of the last sheet without a mistake, and they are what is printed.",
     noCounts: "Fill in how many, at least one exercise of one kind.",
     wrongTitle: (most: number) => `A title has at most ${most} characters.`,
     wrongCount: (most: number) => `Each count is a whole number up to ${most}.`,

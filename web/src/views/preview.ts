@@ -9,15 +9,18 @@ import type { Page } from "./page";
 
 export interface Preview {
     size: HTMLElement; // how many pages, in words
+    stale: HTMLElement; // what is told while the pages are not of what stands in the form
     box: HTMLElement; // the pages
     show(route: SheetRoute, isNews: boolean): void;
+    setStale(isStale: boolean): void;
+    reach(): void; // puts the focus there
     finish(): void; // at once what is left to do
-    clear(): void;
 }
 
 export function previewOf(page: Page): Preview {
     const size = element("p", { class: "size" });
     const box = element("section", { class: "leaves", "aria-label": texts.pages, tabindex: 0 });
+    const stale = element("p", { class: "stale", hidden: true }, texts.stalePages);
     let work: Work | null = null;
 
     function clear(): void {
@@ -28,10 +31,20 @@ export function previewOf(page: Page): Preview {
 
     return {
         size,
+        stale,
         box,
+        setStale(isStale) {
+            stale.hidden = !isStale;
+            box.classList.toggle("of-before", isStale);
+        },
+        reach() {
+            box.focus({ preventScroll: true });
+            size.scrollIntoView();
+        },
         show(route, isNews) {
             clear();
-            box.className = `leaves ${route.size.toLowerCase()}`;
+            box.classList.remove("a4", "letter");
+            box.classList.add(route.size.toLowerCase());
             const done = () => {
                 show(size, texts.sheetSize(countOf(route.entries), route.versions, box.childElementCount));
                 if (isNews) {
@@ -42,6 +55,5 @@ export function previewOf(page: Page): Preview {
             work = inSlices(leaves(box, route, page), () => box.isConnected, done);
         },
         finish: () => work?.finish(),
-        clear,
     };
 }

@@ -1,24 +1,21 @@
 // What a sheet is to be: so many of each kind and level, the paper, the layout.
-import { button, element, show } from "../dom";
-import { isCount, isFew, isPaper, kindOf, longestTitle, mostExercises, mostVersions } from "../sheet";
+import { button, element } from "../dom";
+import { isCount, isFew, isPaper, longestTitle, mostExercises, mostVersions } from "../sheet";
 import { texts } from "../texts";
-import type { KindInfo, SheetEntry, SheetRoute } from "../types";
+import type { KindInfo, SheetRoute } from "../types";
+import { countFields } from "./counts";
 import { randomPaper } from "./page";
+import type { Problem } from "./problems";
 
 // A sheet, or why what stands in the fields is none.
-export type Reading = { route: SheetRoute } | { complaint: string };
-
-interface CountField {
-    entry: Omit<SheetEntry, "count">;
-    input: HTMLInputElement;
-}
+export type Reading = { route: SheetRoute } | { problems: Problem[] };
 
 // form
 //   fieldset      how many of each kind and level
 //   div.fields    the paper, versions, title and layout
 //   label         drawings
 export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => void): { element: HTMLElement; read(): Reading } {
-    const counts = kinds.flatMap((info) => info.levels.map((_, at) => countField(opened, info, at + 1)));
+    const counts = countFields(opened.entries, kinds);
     const paper = element("input", { type: "text", inputmode: "numeric", value: opened.paper, autocomplete: "off" });
     const versions = element("input", { type: "number", min: 1, max: mostVersions, value: opened.versions });
     const title = element("input", { type: "text", maxlength: longestTitle, value: opened.title, autocomplete: "off" });
@@ -30,6 +27,7 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
     const key = choice(texts.keyForms, opened.key);
     const keys = choice(texts.keysOf, opened.keys);
     const size = choice(texts.pageSizes, opened.size);
+    let lastNumber = versions; // of how many; where there are too many in all, it is told there
     const anew = button(texts.newPaper, () => {
         paper.value = String(randomPaper());
         changed();
@@ -37,7 +35,7 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
     const form = element(
         "form",
         { class: "choice sheet-form", autocomplete: "off" },
-        countRows(counts, kinds),
+        counts.element,
         element(
             "div",
             { class: "fields" },
@@ -57,7 +55,9 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
 
     // Enter in a field is a change like any other, and sends nothing anywhere.
     form.addEventListener("submit", (event) => event.preventDefault());
-    form.addEventListener("input", () => {
+    form.addEventListener("input", (event) => {
+        const target = event.target as HTMLInputElement;
+        lastNumber = target === versions || target.matches(".count") ? target : lastNumber;
         relate();
         changed();
     });
@@ -69,10 +69,10 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
     }
 
     function read(): Reading {
-        const entries = entriesIn(counts, opened);
-        const complaint = complaintOf(entries, paper.value.trim(), versions, title.value);
-        if (entries === null || complaint !== "") {
-            return { complaint };
+        const { entries, problems } = counts.read();
+        const all = [...problems, ...problemsIn(paper, versions, title)];
+        if (all.length > 0) {
+            return { problems: all };
         }
         const route: SheetRoute = {
             view: "sheet",
@@ -89,77 +89,23 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
             keys: keys.value as SheetRoute["keys"],
             size: size.value as SheetRoute["size"],
         };
-        return isFew(route) ? { route } : { complaint: texts.tooMany(mostExercises) };
+        return isFew(route) ? { route } : { problems: [{ field: lastNumber, sentence: texts.tooMany(mostExercises) }] };
     }
 
     return { element: form, read };
 }
 
-function complaintOf(entries: SheetEntry[] | null, paper: string, versions: HTMLInputElement, title: string): string {
-    if (entries === null) {
-        return texts.wrongCount(mostExercises);
-    }
-    if (entries.length === 0) {
-        return texts.noCounts;
-    }
-    if (!isPaper(paper)) {
-        return texts.wrongPaper;
-    }
-    if (!isCount(versions.value, mostVersions)) {
-        return texts.wrongVersions(mostVersions);
-    }
-    return title.length > longestTitle ? texts.wrongTitle(longestTitle) : "";
-}
-
-function countField(opened: SheetRoute, info: KindInfo, level: number): CountField {
-    const entry = { kind: info.kind, level };
-    const count = opened.entries.find((one) => kindOf(one) === kindOf({ ...entry, count: 0 }))?.count ?? "";
-    const label = texts.fieldOf(info.title, level, info.levels[level - 1]!);
-    return { entry, input: element("input", { type: "number", min: 0, max: mostExercises, value: count, class: "count", "aria-label": label, title: label }) };
-}
-
-// Null where a field holds no count. In the order of the table, but an address may have its own.
-function entriesIn(counts: CountField[], opened: SheetRoute): SheetEntry[] | null {
-    const filled = counts.filter(({ input }) => input.validity.badInput || !/^0*$/.test(input.value));
-    if (!filled.every(({ input }) => isCount(input.value, mostExercises))) {
-        return null;
-    }
-    const entries = filled.map(({ entry, input }) => ({ ...entry, count: Number(input.value) }));
-    return isInOrder(opened.entries, counts) ? entries : inOrderOf(opened.entries, entries);
-}
-
-function isInOrder(entries: SheetEntry[], counts: CountField[]): boolean {
-    const places = entries.map((one) => counts.findIndex(({ entry }) => entry.kind === one.kind && entry.level === one.level));
-    return places.every((place, at) => at === 0 || place > places[at - 1]!);
-}
-
-function inOrderOf(first: SheetEntry[], entries: SheetEntry[]): SheetEntry[] {
-    const names = first.map(kindOf);
-    const placeOf = (entry: SheetEntry) => (names.includes(kindOf(entry)) ? names.indexOf(kindOf(entry)) : names.length);
-    return [...entries].sort((one, other) => placeOf(one) - placeOf(other));
-}
-
-// fieldset
-//   legend
-//   div.row.heads    what the columns are; each field's own label says it too
-//   div.row          the kind, and in div.levels a field a level
-//   p.hint           what the level of the field asks for
-function countRows(counts: CountField[], kinds: KindInfo[]): HTMLElement {
-    const hint = element("p", { class: "hint" }, texts.howManyHint);
-    const heads = [1, 2, 3].map((level) => element("span", { class: "count" }, texts.level(level)));
-    const rows = kinds.map((info) => {
-        const fields = counts.filter(({ entry }) => entry.kind === info.kind).map(({ input }) => input);
-        return element("div", { class: "row" }, element("span", { class: "title", "aria-hidden": "true" }, info.title), element("div", { class: "levels" }, ...fields));
-    });
-    const head = element("div", { class: "row heads", "aria-hidden": "true" }, element("span", { class: "title" }, texts.columns.kind), element("div", { class: "levels" }, ...heads));
-    const box = element("fieldset", { class: "counts" }, element("legend", {}, texts.howMany), head, ...rows, hint);
-    box.addEventListener("focusin", (event) => show(hint, (event.target as HTMLInputElement).title));
-    return box;
+function problemsIn(paper: HTMLInputElement, versions: HTMLInputElement, title: HTMLInputElement): Problem[] {
+    return [
+        ...(isPaper(paper.value.trim()) ? [] : [{ field: paper, sentence: texts.wrongPaper }]),
+        ...(isCount(versions.value, mostVersions) ? [] : [{ field: versions, sentence: texts.wrongVersions(mostVersions) }]),
+        ...(title.value.length <= longestTitle ? [] : [{ field: title, sentence: texts.wrongTitle(longestTitle) }]),
+    ];
 }
 
 function labelled(id: string, label: string, control: HTMLElement, ...further: HTMLElement[]): HTMLElement {
     control.id = id;
-    return element("div", { class: "labelled" }, element("label", { for: id }, label), element("div", { class: "field" }, control, ...further));
+    return element("div", { class: "labelled asked" }, element("label", { for: id }, label), element("div", { class: "field" }, control, ...further));
 }
 
 function hinted(box: HTMLElement, control: HTMLElement, text: string): HTMLElement {

@@ -1,4 +1,4 @@
-// Sheets to print: what is chosen above, and below it the pages as they come out of the printer.
+// Sheets to print: what is chosen, and beside or below it the pages as they come out of the printer.
 import { button, element, show } from "../dom";
 import { texts } from "../texts";
 import type { SheetRoute } from "../types";
@@ -6,50 +6,73 @@ import { displayPanel } from "./display";
 import { filesPanel } from "./files";
 import type { Page } from "./page";
 import { previewOf } from "./preview";
+import { problemMarks } from "./problems";
 import { sheetForm } from "./sheet-form";
 
 const pause = 150; // milliseconds behind the last key press, so that nothing is made for half a number
+const patience = 600; // more, so that nothing is called wrong that is still being typed
 
-// article
-//   h1
+// article.sheets
+//   div.title        h1, Pages, which leads there in a narrow window
 //   form             what is chosen
 //   aside            how it is written
+// div.outcome
 //   div.help         Print, the files
-//   p.message        what is wrong in the form, or why there is no file
+//   p.message        why there is no file
 //   p.size
-// section.leaves     the pages
+//   p.stale          while something in the form is wrong
+//   section.leaves   the pages
 // Null for kinds that the library does not know.
 export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (() => void) | null {
     if (!opened.entries.every((entry) => page.kinds.some((info) => info.kind === entry.kind))) {
         return null;
     }
     let timer = 0;
+    let present = opened;
     const heading = element("h1", { tabindex: -1 }, texts.sheetsTitle);
     const message = element("p", { class: "message", role: "alert" });
     const preview = previewOf(page);
     const files = filesPanel(page, opened, (sentence) => show(message, sentence));
-    const form = sheetForm(opened, page.kinds, () => {
-        window.clearTimeout(timer);
-        timer = window.setTimeout(changed, pause);
-    });
-    const actions = element("div", { class: "help" }, button(texts.printIt, () => window.print(), { class: "main" }), files.element);
+    const form = sheetForm(opened, page.kinds, () => later(pause, changed));
+    const markProblems = problemMarks();
 
+    function later(milliseconds: number, work: () => void): void {
+        window.clearTimeout(timer);
+        timer = window.setTimeout(work, milliseconds);
+    }
+
+    // What is wrong stays untold while it may still become right.
     function changed(): void {
+        if ("problems" in form.read()) {
+            later(patience, settle);
+        } else {
+            settle();
+        }
+    }
+
+    // What is printed stays what is shown, the last sheet without a mistake.
+    function settle(): void {
         timer = 0;
         if (!form.element.isConnected) {
             return; // The reader has gone to another view meanwhile.
         }
         const reading = form.read();
-        const complaint = "complaint" in reading ? reading.complaint : "";
-        show(message, complaint);
-        actions.hidden = complaint !== "";
-        if ("complaint" in reading) {
-            preview.clear();
-            return;
+        show(message);
+        markProblems("problems" in reading ? reading.problems : []);
+        preview.setStale("problems" in reading);
+        if ("route" in reading) {
+            present = reading.route;
+            page.stay(present);
+            files.update(present);
+            preview.show(present, true);
         }
-        page.stay(reading.route);
-        files.update(reading.route);
-        preview.show(reading.route, true);
+    }
+
+    function restyle(): void {
+        settle();
+        if ("problems" in form.read()) {
+            preview.show(present, true);
+        }
     }
 
     // However printing was asked for: what is still being typed or made belongs to what is printed.
@@ -57,13 +80,19 @@ export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (
     window.onbeforeprint = () => {
         if (timer !== 0) {
             window.clearTimeout(timer);
-            changed();
+            settle();
         }
         preview.finish();
     };
 
-    const display = element("aside", { "aria-label": texts.display }, displayPanel(page, changed));
-    show(main, element("article", { class: "sheets" }, heading, form.element, display, actions, message, preview.size), preview.box);
+    const title = element("div", { class: "title-line" }, heading, button(texts.pages, preview.reach, { class: "to-pages" }));
+    const display = element("aside", { "aria-label": texts.display }, displayPanel(page, restyle));
+    const actions = element("div", { class: "help" }, button(texts.printIt, () => window.print(), { class: "main" }), files.element);
+    show(
+        main,
+        element("article", { class: "sheets" }, title, form.element, display),
+        element("div", { class: "outcome" }, actions, message, preview.size, preview.stale, preview.box),
+    );
     preview.show(opened, false);
     return () => heading.focus();
 }

@@ -3,7 +3,7 @@ import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
 import { after, before, test } from "node:test";
 import { leafTexts, letters, pageSize, pagesOf, plain, shadesOf } from "./pdf.mjs";
-import { compareWithApproved, go, leave, openChromium, openLesson, openPage } from "./support.mjs";
+import { announced, compareWithApproved, go, leave, openChromium, openLesson, openPage } from "./support.mjs";
 
 const lesson = await openLesson();
 let browser;
@@ -412,17 +412,27 @@ const complaints = [
     ["31 versions", "Versions", "31", /^Versions are a number from 1 to 30/, "1"],
     ["no version", "Versions", "", /^Versions are a number from 1 to 30/, "1"],
 ];
+// The sentence that a field is described by, where it is marked as wrong.
+const told = (field) =>
+    field.evaluate((one) => {
+        const lines = (one.getAttribute("aria-describedby") ?? "").split(" ").map((id) => document.getElementById(id)?.textContent);
+        return one.getAttribute("aria-invalid") === "true" ? lines.at(-1) : "";
+    });
+
 for (const [what, field, wrong, sentence, right] of complaints) {
-    test(`${what}: a plain sentence instead of a sheet, and a sheet again when it is mended`, async () => {
+    test(`${what}: a plain sentence at the field, beside the sheet as it was, and nothing once it is mended`, async () => {
         const page = await openSheet("#sheet/4821/2*titration?v=1");
+        const before = await previewTexts(page);
         const number = page.getByRole("spinbutton", { name: new RegExp(`^${field}`) });
         await number.fill(wrong);
-        await page.getByRole("alert").filter({ hasText: sentence }).waitFor();
-        assert.equal(await page.locator(".leaf").count(), 0);
-        assert.equal(await page.getByRole("button", { name: "Print" }).isVisible(), false);
-        await number.fill(right);
-        await isMade(page);
-        assert.equal(await page.getByRole("alert").textContent(), "");
+        await page.locator(".problem").waitFor();
+        assert.match(await told(number), sentence);
+        assert.match(await announced(page), sentence);
+        assert.deepEqual(await previewTexts(page), before);
+        await page.getByText("These are the pages of the last sheet without a mistake").waitFor();
+        await change(page, () => number.fill(right));
+        assert.equal(await told(number), "");
+        assert.equal(await page.locator(".problem:visible, .stale:visible").count(), 0);
         assert.equal(page.url().split("#")[1], "sheet/4821/2*titration?v=1");
         await leave(page);
     });
@@ -430,11 +440,87 @@ for (const [what, field, wrong, sentence, right] of complaints) {
 
 test("a paper that is none is asked for again", async () => {
     const page = await openSheet("#sheet/4821/2*titration?v=1");
+    const paper = page.getByLabel("Paper", { exact: true });
     for (const wrong of ["0", "1000000", "", "12a"]) {
-        await page.getByLabel("Paper", { exact: true }).fill(wrong);
-        await page.getByRole("alert").filter({ hasText: "A paper is a number from 1 to 999999." }).waitFor();
-        assert.equal(await page.locator(".leaf").count(), 0, wrong);
+        await change(page, () => paper.fill("4821"));
+        await paper.fill(wrong);
+        await page.locator(".problem").waitFor();
+        assert.equal(await told(paper), "A paper is a number from 1 to 999999.", wrong);
     }
+    await leave(page);
+});
+
+test("each thing that is wrong is told at its own field, and announced once", async () => {
+    const page = await openSheet("#sheet/4821/2*titration?v=1");
+    await page.evaluate(() => {
+        window.said = [];
+        new MutationObserver(() => window.said.push(document.getElementById("announcement").textContent)).observe(document.getElementById("announcement"), { childList: true });
+    });
+    const [titration, dilution, versions] = [/^Acid-base titration, level 2/, /^Dilution, level 1/, "Versions"].map((name) => page.getByRole("spinbutton", { name }));
+    await titration.fill("1.5");
+    await page.locator(".problem").waitFor();
+    await dilution.fill("-1");
+    await versions.fill("0");
+    await page.locator(".problem").nth(2).waitFor();
+    await page.waitForTimeout(100);
+    const [count, ofVersions] = ["Each count is a whole number up to 1000.", "Versions are a number from 1 to 30."];
+    assert.deepEqual([await told(titration), await told(dilution), await told(versions)], [count, count, ofVersions]);
+    assert.deepEqual(await page.evaluate(() => window.said.filter((text) => text !== "")), [count, `${count} ${ofVersions}`]);
+    await leave(page);
+});
+
+test("printing while something is wrong prints what is shown, and the files are of it", async () => {
+    const page = await openSheet("#sheet/4821/2*ion-formula?v=1", { acceptDownloads: true });
+    const before = await previewTexts(page);
+    await page.getByLabel("Versions", { exact: true }).fill("31");
+    await page.locator(".stale:visible").waitFor();
+    assert.deepEqual(pagesOf(await printed(page)).map((lines) => letters(textOf(lines))), before.map(letters));
+    const [download] = await Promise.all([page.waitForEvent("download"), page.getByRole("button", { name: "Anki cards" }).click()]);
+    assert.equal(await readFile(await download.path(), "utf8"), lesson.exportText(4821, "2*ion-formula", "anki"));
+    await leave(page);
+});
+
+test("how it is written is changed in the pages while something is wrong in the form", async () => {
+    const page = await openSheet("#sheet/4821/2*titration?v=1");
+    await page.getByLabel("Versions", { exact: true }).fill("31");
+    await page.locator(".stale:visible").waitFor();
+    await page.locator("summary", { hasText: "How it is written" }).click();
+    await change(page, () => page.getByLabel("cm³, dm³").check());
+    assert.match(plain((await previewTexts(page))[0]), /cm3/);
+    assert.ok(await page.locator(".stale").isVisible());
+    await leave(page);
+});
+
+test("what each level of each kind asks for is read without going into a field", async () => {
+    const page = await openSheet("#sheet/4821/2*titration?v=1");
+    for (const { title, levels } of lesson.kinds()) {
+        for (const [at, level] of levels.entries()) {
+            assert.ok(await page.locator(".meanings", { hasText: `${at + 1}\u00A0${level}` }).first().isVisible(), `${title}: ${level}`);
+        }
+    }
+    await leave(page);
+});
+
+for (const width of [1100, 1280, 1920]) {
+    test(`at ${width} pixels the pages stand beside the form, and stay there while it is filled in`, async () => {
+        const page = await openSheet("#sheet/4821/2*titration?v=1", { viewport: { width, height: 800 }, reducedMotion: "reduce" });
+        const box = (selector) => page.locator(selector).first().evaluate((one) => one.getBoundingClientRect().toJSON());
+        const [form, leaf] = [await box(".sheets"), await box(".leaf")];
+        assert.ok(leaf.left >= form.right && leaf.right <= width && leaf.top < 300, JSON.stringify([form, leaf]));
+        await page.getByLabel("Page size").focus();
+        assert.deepEqual((await box(".leaf")).top, leaf.top);
+        assert.equal(await page.getByRole("button", { name: "Pages" }).isVisible(), false);
+        await leave(page);
+    });
+}
+
+test("in a narrow window a button near the top leads to the pages", async () => {
+    const page = await openSheet("#sheet/4821/2*titration?v=1", { viewport: { width: 360, height: 740 }, reducedMotion: "reduce" });
+    const button = page.getByRole("button", { name: "Pages" });
+    assert.ok((await button.boundingBox()).y < 200);
+    await button.press("Enter");
+    assert.equal(await page.evaluate(() => document.activeElement.getAttribute("aria-label")), "Pages");
+    assert.ok((await page.locator(".leaf").first().boundingBox()).y < 400);
     await leave(page);
 });
 

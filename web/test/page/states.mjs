@@ -50,7 +50,12 @@ export const states = [
     ["a sheet in versions", "#sheet/4821/3*titration?versions=3&size=Letter&v=1", async () => {}],
     ["a sheet of nothing", "#sheet/4821/2*titration", async (page) => {
         await page.getByRole("spinbutton", { name: /^Acid-base titration, level 2/ }).fill("");
-        await page.getByRole("alert").filter({ hasText: "Fill in" }).waitFor();
+        await page.locator(".problem", { hasText: "Fill in" }).waitFor();
+    }],
+    ["a sheet with two mistakes", "#sheet/4821/2*titration", async (page) => {
+        await page.getByRole("spinbutton", { name: /^Dilution, level 2/ }).fill("0.5");
+        await page.getByLabel("Versions", { exact: true }).fill("31");
+        await page.locator(".problem").nth(1).waitFor();
     }],
     ["a bad address of a sheet", "#sheet/4821/4*alchemy", async () => {}],
     ["the tables", "#tables", async () => {}],
