@@ -1,6 +1,6 @@
 // The address behind the "#", to a route and back. Whatever it holds, it stays text.
 import { sheetAddress, sheetOf } from "./sheet";
-import type { PracticeRoute, Route, SheetRoute } from "./types";
+import type { ExerciseLeft, PracticeRoute, Route, SheetRoute } from "./types";
 import { texts } from "./texts";
 
 // Raised with the library's exercises: an address made for others says so.
@@ -36,7 +36,8 @@ export function addressOf(route: PracticeRoute | SheetRoute): string {
         return sheetAddress(route, version);
     }
     const set = route.set > 0 ? `set=${route.set}&` : "";
-    return `#practice/${route.paper}/${route.number}/${route.kinds}?${set}v=${version}`;
+    const back = route.back === undefined ? "" : `back=${route.back.number}:${route.back.kinds}&`;
+    return `#practice/${route.paper}/${route.number}/${route.kinds}?${set}${back}v=${version}`;
 }
 
 // Under which name the device keeps what an exercise has come to.
@@ -49,13 +50,29 @@ export function atNumber(route: PracticeRoute, number: number): PracticeRoute {
     return { ...route, number };
 }
 
+// From a side road back to the exercise that was left for it; any other exercise is itself.
+export function mainRoad({ back, ...route }: PracticeRoute): PracticeRoute {
+    return back === undefined ? route : { ...route, ...back };
+}
+
+// Far from the exercises that Next leads to, so that none of them has been practised here.
+const aside = 500_000;
+
+export function sideRoad(route: PracticeRoute, kind: string): PracticeRoute {
+    const { number, kinds } = route;
+    const ahead = route.back === undefined ? aside : 1;
+    return { ...route, number: ((number - 1 + ahead) % greatest) + 1, kinds: kind, set: 0, back: route.back ?? { number, kinds } };
+}
+
 function practice(parts: string[], options: URLSearchParams): Route {
     const [paper, number, kinds] = parts;
-    const set = options.get("set");
-    if (parts.length !== 3 || !isNumber(paper) || !isNumber(number) || kinds === undefined) {
+    const [set, back] = [options.get("set"), options.get("back")];
+    const left = back === null ? null : exerciseLeft(back);
+    if (parts.length !== 3 || !isNumber(paper) || !isNumber(number) || !isKinds(kinds)) {
         return bad();
     }
-    if (!/^[a-z0-9:,-]+$/.test(kinds) || (set !== null && !isSet(set))) {
+    // No side road leads out of a set.
+    if ((set !== null && !isSet(set)) || (back !== null && (left === null || set !== null))) {
         return bad();
     }
     if (isOfOtherVersion(options)) {
@@ -67,7 +84,14 @@ function practice(parts: string[], options: URLSearchParams): Route {
         number: Number(number),
         kinds,
         set: set === null ? 0 : Number(set),
+        ...(left === null ? {} : { back: left }),
     };
+}
+
+// "4:titration:1,dilution" is exercise 4 of these kinds.
+function exerciseLeft(text: string): ExerciseLeft | null {
+    const [number, kinds] = splitAt(text, ":");
+    return isNumber(number) && isKinds(kinds) ? { number: Number(number), kinds } : null;
 }
 
 function sheet(parts: string[], options: URLSearchParams): Route {
@@ -91,6 +115,10 @@ function bad(): Route {
 
 function isNumber(text: string | undefined): boolean {
     return text !== undefined && /^[1-9]\d{0,5}$/.test(text) && Number(text) <= greatest;
+}
+
+function isKinds(text: string | undefined): text is string {
+    return text !== undefined && /^[a-z0-9:,-]+$/.test(text);
 }
 
 function isSet(text: string): boolean {

@@ -1,6 +1,6 @@
 // Wires the page together; imported by none.
 import packed from "lesson.bin";
-import { addressOf, routeOf } from "./address";
+import { addressOf, mainRoad, routeOf } from "./address";
 import { byId, element, show } from "./dom";
 import { lessonOf } from "./engine/lesson";
 import { instantiate, unpacked } from "./engine/memory";
@@ -10,6 +10,7 @@ import { usualSheet } from "./sheet";
 import { texts } from "./texts";
 import type { Lesson, PracticeRoute, Route, SheetRoute } from "./types";
 import { keepFieldInView } from "./views/answer";
+import { nameOf } from "./views/head";
 import { showMessage } from "./views/message";
 import { type Page, randomPaper } from "./views/page";
 import { showPractice } from "./views/practice";
@@ -111,11 +112,15 @@ function showBad(of: "practice" | "sheet", message: string, page: Page): Focus {
 // Null for kinds that the library does not know. Behind the last exercise of a set is its summary.
 function showExercise(route: PracticeRoute, page: Page): Focus | null {
     const exercise = page.lesson.exercise(route.paper, route.number, route.kinds);
-    if (exercise === null) {
+    if (exercise === null || !leadsBack(route, page)) {
         return null;
     }
-    practised = route;
+    practised = mainRoad(route);
     return isSummary(route) ? showSummary(main, route, page) : showPractice(main, route, exercise, page);
+}
+
+function leadsBack({ paper, back }: PracticeRoute, page: Page): boolean {
+    return back === undefined || page.lesson.exercise(paper, back.number, back.kinds) !== null;
 }
 
 function isSummary(route: PracticeRoute): boolean {
@@ -144,7 +149,7 @@ function showViews(route: Route): void {
 function titleOf(route: Route): string {
     switch (route.view) {
         case "practice":
-            return isSummary(route) ? texts.summaryOf(route.paper) : `${texts.exercise(route.number)} of ${texts.paper(route.paper).toLowerCase()}`;
+            return isSummary(route) ? texts.summaryOf(route.paper) : `${nameOf({ ...route, set: 0 })} of ${texts.paper(route.paper).toLowerCase()}`;
         case "sheet":
             return texts.sheetOf(route.paper);
         case "tables":

@@ -25,6 +25,8 @@ export const texts = {
     next: "Next",
     finish: "Finish",
     another: "Another like this",
+    anotherLike: (number: number) => `Another like exercise ${number}`,
+    backTo: (number: number) => `Back to exercise ${number}`,
     showStep: "Show a step",
     orPressStep: ", or press Show a step", // in the library's sentences
     showAnswer: "Show the answer",

@@ -127,6 +127,12 @@ export interface PracticeRoute {
     number: number;
     kinds: string; // as the library reads it: "titration:1,dilution", "mixed"
     set: number; // so many exercises and then a summary; 0 without end
+    back?: ExerciseLeft; // on a side road: the exercise of the same paper that was left for it
+}
+
+export interface ExerciseLeft {
+    number: number;
+    kinds: string;
 }
 
 export interface SheetEntry {

@@ -40,7 +40,7 @@ const allowed = {
     "views/mark": ["dom", "sentence", "spans", "texts", "types", "views/page"],
     "views/masses-line": ["dom", "spans", "texts", "types", "views/page"],
     "views/message": ["dom"],
-    "views/practice": ["dom", "texts", "types", "views/choice", "views/display", "views/exercise", "views/page", "views/record"],
+    "views/practice": ["address", "dom", "texts", "types", "views/choice", "views/display", "views/exercise", "views/page", "views/record"],
     "views/preview": ["dom", "sheet", "slices", "texts", "types", "views/leaves", "views/page"],
     "views/printed": ["dom", "masses", "sentence", "spans", "texts", "types", "views/drawing", "views/masses-line", "views/page"],
     "views/problems": ["dom"],
@@ -56,7 +56,7 @@ const allowed = {
     "views/tables": ["dom", "sentence", "spans", "texts", "types", "views/page"],
     "main": [
         "address", "dom", "engine/lesson", "engine/memory", "lesson.bin", "sentence", "sheet", "storage", "texts", "types",
-        "views/answer", "views/message", "views/page", "views/practice", "views/sheets", "views/summary", "views/tables",
+        "views/answer", "views/head", "views/message", "views/page", "views/practice", "views/sheets", "views/summary", "views/tables",
     ],
 };
 

@@ -1,5 +1,5 @@
 // One exercise: the question, a field, the mark, the solution step by step; and what each press leads to.
-import { addressOf, atNumber, placeOf } from "../address";
+import { addressOf, atNumber, mainRoad, placeOf, sideRoad } from "../address";
 import { announce, bringIntoView, button, element, fitIntoView, show } from "../dom";
 import { keepProgress, progressOf } from "../progress";
 import { addToRecord } from "../record";
@@ -64,7 +64,7 @@ export function showExercise(article: HTMLElement, place: Place): () => void {
 // p.offer
 // div.help     Show a step, Show the answer
 // section.solution
-// div.help     Next, Another like this
+// div.help     Next or Back to exercise 4, Another like this
 function contentsOf({ route, exercise, page }: Place, parts: Parts): HTMLElement[] {
     const drawing = drawingOf(exercise, page.settings);
     return [
@@ -88,8 +88,7 @@ function partsOf(work: Work): Parts {
         updateMark(work, parts);
     });
     const check = element("button", { type: "submit", class: "main" }, texts.check);
-    const next = button(isLast(route) ? texts.finish : texts.next, () => page.go(addressOf(atNumber(route, route.number + 1))));
-    const another = button(texts.another, () => page.go(addressOf(likeThis(route, exercise))));
+    const next = nextButton(route, page);
     const step = button(texts.showStep, () => advance(work, parts, state.afterStep(work.progress, steps)));
     const answer = button(texts.showAnswer, () => advance(work, parts, state.afterAnswer(work.progress, steps)));
     const parts: Parts = {
@@ -101,9 +100,22 @@ function partsOf(work: Work): Parts {
         help: element("div", { class: "help" }, step, answer),
         solution: element("section", { class: "solution", "aria-label": texts.solution, hidden: true }),
         next,
-        goOn: element("div", { class: "help" }, next, another),
+        goOn: element("div", { class: "help" }, next, ...(route.set > 0 ? [] : [anotherButton(work)])),
     };
     return parts;
+}
+
+function nextButton(route: PracticeRoute, page: Page): HTMLButtonElement {
+    if (route.back !== undefined) {
+        return button(texts.backTo(route.back.number), () => page.go(addressOf(mainRoad(route))));
+    }
+    return button(isLast(route) ? texts.finish : texts.next, () => page.go(addressOf(atNumber(route, route.number + 1))));
+}
+
+// Off to one of the same kind and level, from where the way back leads here. A set has no such side roads.
+function anotherButton({ route, exercise, page }: Place): HTMLButtonElement {
+    const like = `${exercise.kind}:${exercise.level}`;
+    return button(texts.another, () => page.go(addressOf(sideRoad(route, like))), { class: "aside" });
 }
 
 function keep(work: Work, progress: state.Progress): void {
@@ -172,8 +184,4 @@ function isShownWhole({ progress, exercise }: Work): boolean {
 
 function isLast(route: PracticeRoute): boolean {
     return route.set > 0 && route.number >= route.set;
-}
-
-function likeThis(route: PracticeRoute, exercise: Exercise): PracticeRoute {
-    return { ...route, number: route.number + 1, kinds: `${exercise.kind}:${exercise.level}`, set: 0 };
 }

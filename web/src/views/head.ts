@@ -8,12 +8,18 @@ import { type Page, titleOf } from "./page";
 //   h1
 //   p.which      kind, level and paper
 export function headerOf(route: PracticeRoute, exercise: Exercise, page: Page): HTMLElement {
-    const title = route.set > 0 ? texts.exerciseOf(route.number, route.set) : texts.exercise(route.number);
     return element(
         "header",
         {},
-        element("h1", {}, title),
+        element("h1", {}, nameOf(route)),
         element("p", { class: "which" }, `${texts.kindAndLevel(titleOf(page, exercise.kind), exercise.level)} · ${texts.paper(route.paper)}`),
     );
 }
 
+
+export function nameOf({ number, set, back }: PracticeRoute): string {
+    if (back !== undefined) {
+        return texts.anotherLike(back.number);
+    }
+    return set > 0 ? texts.exerciseOf(number, set) : texts.exercise(number);
+}

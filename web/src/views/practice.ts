@@ -1,4 +1,5 @@
 // Practice: one exercise at a time, and around it the choice, the display and the record.
+import { mainRoad } from "../address";
 import { element, show } from "../dom";
 import { texts } from "../texts";
 import type { Exercise, PracticeRoute } from "../types";
@@ -18,6 +19,6 @@ export function showPractice(main: HTMLElement, route: PracticeRoute, exercise: 
     const draw = () => showExercise(article, { route, exercise, page, solved: record.update });
     const focus = draw();
     const display = displayPanel(page, draw);
-    show(main, article, element("aside", { "aria-label": texts.around }, choicePanel(route, page), display, record.element));
+    show(main, article, element("aside", { "aria-label": texts.around }, choicePanel(mainRoad(route), page), display, record.element));
     return focus;
 }

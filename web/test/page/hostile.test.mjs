@@ -25,6 +25,8 @@ const addresses = [
     `#practice/1/1/${encoded}`,
     `#practice/1/1/mixed?set=${encoded}`,
     `#practice/1/1/mixed?v=${encoded}`,
+    `#practice/1/1/mixed?back=4:${encoded}`,
+    "#practice/1/1/mixed?back=4:alchemy",
     `#${encoded}`,
     `#tables/${encoded}`,
     "#%",

@@ -144,10 +144,90 @@ test("Another like this stays with the kind and level that was drawn", async () 
     const page = await openPage(browser, "#practice/4821/1/mixed");
     const { kind, level } = lesson.exercise(4821, 1, "mixed");
     await page.getByRole("button", { name: "Another like this" }).click();
-    await page.getByRole("heading", { name: "Exercise 2" }).waitFor();
-    assert.match(page.url(), new RegExp(`#practice/4821/2/${kind}:${level}\\?`));
+    await page.getByRole("heading", { name: "Another like exercise 1" }).waitFor();
+    assert.match(page.url(), new RegExp(`#practice/4821/\\d+/${kind}:${level}\\?back=1:mixed&v=1$`));
     await leave(page);
 });
+
+const mainButton = (page) => page.locator("main button.main:visible").allInnerTexts();
+
+test("Another like this goes off, one further each time, and comes back to the exercise that was left", async () => {
+    const page = await openPage(browser, "#practice/4821/4/mixed?v=1");
+    const prompt = () => page.locator(".prompt").innerText();
+    const seen = [await prompt()];
+    for (const hop of [1, 2]) {
+        await page.getByRole("button", { name: "Another like this" }).click();
+        await page.getByRole("heading", { level: 1, name: "Another like exercise 4", exact: true }).waitFor();
+        assert.match(await page.title(), /^Another like exercise 4 of paper\s4821/);
+        assert.equal(seen.includes(await prompt()), false, `hop ${hop}`);
+        seen.push(await prompt());
+        assert.equal(await page.getByRole("button", { name: "Next" }).count(), 0);
+        const hash = new URL(page.url()).hash;
+        await page.reload();
+        assert.equal(await prompt(), seen.at(-1), hash);
+        assert.equal(await page.getByRole("link", { name: "Practice" }).getAttribute("href"), "#practice/4821/4/mixed?v=1", hash);
+    }
+    await page.goBack();
+    await page.waitForFunction((text) => document.querySelector(".prompt").innerText === text, seen[1]);
+    assert.deepEqual(await mainButton(page), ["Check"]);
+    const { paper, number, kind, level } = aside(page.url());
+    await type(page, lesson.exercise(paper, number, `${kind}:${level}`).key.text);
+    await check(page);
+    assert.deepEqual(await mainButton(page), ["Back to exercise 4"]);
+    assert.equal(await focusedText(page), "Back to exercise 4");
+    await panel(page, "My record").click();
+    assert.match(await page.locator("details table tbody").innerText(), /1\s+0\s+0/);
+    await page.keyboard.press("Escape");
+    await page.getByRole("button", { name: "Back to exercise 4" }).click();
+    await page.getByRole("heading", { level: 1, name: "Exercise 4", exact: true }).waitFor();
+    assert.equal(await prompt(), seen[0]);
+    assert.equal(new URL(page.url()).hash, "#practice/4821/4/mixed?v=1");
+    await leave(page);
+});
+
+function aside(url) {
+    const [, paper, number, kind, level] = /#practice\/(\d+)\/(\d+)\/([a-z-]+):(\d)\?/.exec(url);
+    return { paper: Number(paper), number: Number(number), kind, level };
+}
+
+test("what is practised aside is not what Next leads to", async () => {
+    const page = await openPage(browser, "#practice/4821/4/titration?v=1");
+    await page.getByRole("button", { name: "Another like this" }).click();
+    await page.getByRole("heading", { name: "Another like exercise 4" }).waitFor();
+    const prompt = await page.locator(".prompt").innerText();
+    await page.getByRole("button", { name: "Back to exercise 4" }).click();
+    for (let number = 5; number <= 8; ++number) {
+        await page.getByRole("button", { name: "Next" }).click();
+        await page.getByRole("heading", { name: `Exercise ${number}` }).waitFor();
+        assert.notEqual(await page.locator(".prompt").innerText(), prompt, `exercise ${number}`);
+    }
+    await leave(page);
+});
+
+test("inside a set there is no other way than on", async () => {
+    const page = await openPage(browser, "#practice/4821/2/titration?set=5&v=1");
+    assert.equal(await page.getByRole("button", { name: "Another like this" }).count(), 0);
+    await page.getByRole("button", { name: "Show the answer" }).click();
+    assert.equal(await page.getByRole("button", { name: "Another like this" }).count(), 0);
+    assert.deepEqual(await mainButton(page), ["Next"]);
+    await leave(page);
+});
+
+for (const [what, reach] of [
+    ["new", async () => {}],
+    ["wrong", async (page) => (await type(page, "777"), await check(page))],
+    ["nearly right", async (page) => (await type(page, "0.68"), await check(page))],
+    ["in steps", (page) => page.getByRole("button", { name: "Show a step" }).click()],
+]) {
+    test(`an exercise that is ${what}: Check is the main button, not Next`, async () => {
+        const page = await openPage(browser, "#practice/4821/3/titration:3");
+        await reach(page);
+        assert.deepEqual(await mainButton(page), ["Check"]);
+        const shade = (name) => page.getByRole("button", { name, exact: true }).evaluate((one) => getComputedStyle(one).backgroundColor);
+        assert.notEqual(await shade("Next"), await shade("Check"));
+        await leave(page);
+    });
+}
 
 test("the bare page draws a paper, and its address shows the same exercise again", async () => {
     const page = await openPage(browser);

@@ -22,6 +22,8 @@ export const states = [
         await answerWith(page, verdicts.correct, "correct");
         await type(page, "0.6789");
     }],
+    ["a side road", "#practice/4821/500004/titration:2?back=4:mixed", async () => {}],
+    ["a side road to its end", "#practice/4821/500004/titration:2?back=4:mixed", (page) => press(page, "Show the answer")],
     ["a formula being typed", "#practice/4821/3/neutralisation:3", (page) => type(page, "H2SO4 + NaOH -> ")],
     ["a choice that was wrong", "#practice/4821/3/solubility:1", (page) => answerWith(page, "no", "wrong")],
     ["help offered", "#practice/4821/3/titration:3", async (page) => {

@@ -1,12 +1,12 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { addressOf, atNumber, routeOf } from "../../src/address";
+import { addressOf, atNumber, mainRoad, routeOf, sideRoad } from "../../src/address";
 import type { PracticeRoute } from "../../src/types";
 
 const route: PracticeRoute = { view: "practice", paper: 4821, number: 3, kinds: "titration:1,dilution", set: 0 };
 
 test("an address leads back to the route that it was made from", () => {
-    for (const made of [route, { ...route, set: 10 }, { ...route, kinds: "mixed" }, atNumber(route, 999999)]) {
+    for (const made of [route, { ...route, set: 10 }, { ...route, kinds: "mixed" }, { ...route, back: { number: 4, kinds: "mixed" } }, { ...route, back: { number: 12, kinds: "titration:1,dilution" } }, atNumber(route, 999999)]) {
         assert.deepEqual(routeOf(addressOf(made)), made, addressOf(made));
     }
 });
@@ -17,6 +17,22 @@ test("an address without a version is of this one, and one of another version sa
     const other = routeOf("#practice/4821/3/titration?v=2");
     assert.equal(other.view, "bad");
     assert.match(other.view === "bad" ? other.message : "", /another version/);
+});
+
+test("a side road leads far from what Next leads to, one further each time, and back to what was left", () => {
+    for (const number of [1, 4, 499999, 500000, 999999]) {
+        const left = { ...route, number };
+        const first = sideRoad(left, "titration:1");
+        const second = sideRoad(first, "titration:1");
+        assert.ok(Math.abs(first.number - number) > 100_000, `${number} ${first.number}`);
+        assert.equal(second.number, first.number === 999999 ? 1 : first.number + 1);
+        for (const road of [first, second]) {
+            assert.equal(road.kinds, "titration:1");
+            assert.deepEqual(mainRoad(road), left, addressOf(road));
+            assert.deepEqual(routeOf(addressOf(road)), road, addressOf(road));
+        }
+    }
+    assert.deepEqual(mainRoad(route), route);
 });
 
 test("nothing behind the sign is no address, and the page chooses", () => {
@@ -45,6 +61,14 @@ test("what names no exercise is a bad address", () => {
         "#practice/1/1/mixed?set=0",
         "#practice/1/1/mixed?set=100",
         "#practice/1/1/mixed?set=ten",
+        "#practice/1/1/mixed?back=",
+        "#practice/1/1/mixed?back=4",
+        "#practice/1/1/mixed?back=0:mixed",
+        "#practice/1/1/mixed?back=4:",
+        "#practice/1/1/mixed?back=mixed:4",
+        "#practice/1/1/mixed?back=4:<b>",
+        "#practice/1/1/mixed?back=1000000:mixed",
+        "#practice/1/1/mixed?set=5&back=4:mixed",
         "#tables/more",
         "#elsewhere",
         "#%",
