@@ -7,6 +7,11 @@ export function massesNeeded(exercises: Exercise[], elements: ElementInfo[]): El
     return elements.filter((element) => symbols.has(element.symbol));
 }
 
+// Tells so without the elements, which take a while to get.
+export function needsMasses(exercise: Exercise): boolean {
+    return formulasToWeigh(exercise).length > 0;
+}
+
 // Of the substances whose molar mass is asked for, or needed and not told.
 function formulasToWeigh({ ask, given }: Exercise): string[] {
     const hidden = given.filter((one): one is GivenQuantity => isMolarMass(one) && one.shown === "");

@@ -12,6 +12,7 @@ export const usualSettings: Settings = {
     per: "slash",
     decimal: ".",
     names: "british",
+    masses: "shown",
 };
 
 // What the browser refused to keep, for as long as the page is open.
@@ -76,12 +77,13 @@ export function countOf(value: unknown): number {
 }
 
 export function settings(): Settings {
-    const { volume, per, decimal, names } = fieldsOf(read("localStorage", settingsKey));
+    const { volume, per, decimal, names, masses } = fieldsOf(read("localStorage", settingsKey));
     return {
         volume: volume === "cm3" ? "cm3" : "mL",
         per: per === "power" ? "power" : "slash",
         decimal: decimal === "," ? "," : ".",
         names: names === "american" ? "american" : "british",
+        masses: masses === "table" ? "table" : "shown",
     };
 }
 

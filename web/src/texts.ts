@@ -84,6 +84,9 @@ export const texts = {
     per: "Concentrations",
     decimal: "Decimal sign",
     names: "Names",
+    masses: "Atomic masses",
+    massesBelow: { shown: "Below the question", table: "Use the table" },
+    usePeriodicTable: ["Use the ", "periodic table", "."], // the middle part leads there
     american: "American",
     british: "British",
     point: "Point: 0.5",

@@ -171,4 +171,5 @@ export interface Settings {
     per: "slash" | "power"; // mol/L or mol L⁻¹
     decimal: "." | ",";
     names: "british" | "american";
+    masses: "shown" | "table"; // below a question that cannot be answered without: the numbers, or where they are
 }

@@ -3,9 +3,10 @@ import { type Exports, withTexts } from "./memory";
 
 // The lesson library behind its five functions.
 export function lessonOf(module: Exports): Lesson {
+    let tables: Tables | null = null; // takes longer than an exercise, so it is made once
     return {
         kinds: () => JSON.parse(withTexts(module, [], module.lesson_kinds)) as KindInfo[],
-        tables: () => JSON.parse(withTexts(module, [], module.lesson_tables)) as Tables,
+        tables: () => (tables ??= JSON.parse(withTexts(module, [], module.lesson_tables)) as Tables),
         exercise(paper, number, kinds) {
             const json = withTexts(module, [kinds], (kind) =>
                 module.lesson_exercise(paper, number, kind!),

@@ -7,7 +7,7 @@ import type { Page } from "./page";
 
 type Choices<Key extends keyof Settings> = { value: Settings[Key]; label: string }[];
 
-export function displayPanel(page: Page, changed: () => void): HTMLElement {
+export function displayPanel(page: Page, changed: () => void, ...more: HTMLElement[]): HTMLElement {
     return element(
         "details",
         {},
@@ -28,7 +28,17 @@ export function displayPanel(page: Page, changed: () => void): HTMLElement {
             { value: "british", label: `${texts.british}: aluminium, ethanoate` },
             { value: "american", label: `${texts.american}: aluminum, acetate` },
         ]),
+        ...more,
     );
+}
+
+// Of an exercise alone; a sheet has its own.
+export function massesChoice(page: Page, changed: () => void): HTMLElement {
+    const { shown, table } = texts.massesBelow;
+    return group(page, changed, "masses", texts.masses, [
+        { value: "shown", label: shown },
+        { value: "table", label: table },
+    ]);
 }
 
 function group<Key extends keyof Settings>(page: Page, changed: () => void, key: Key, legend: string, choices: Choices<Key>): HTMLElement {

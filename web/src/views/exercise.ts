@@ -10,6 +10,7 @@ import type { Exercise, Mark, PracticeRoute } from "../types";
 import { type AnswerField, answerField } from "./answer";
 import { drawingOf } from "./drawing";
 import { headerOf } from "./head";
+import { massesBelow } from "./masses-line";
 import { showMark, spokenMark, withoutStep } from "./mark";
 import type { Page } from "./page";
 import { lastStepSpoken, showSolution } from "./solution";
@@ -58,6 +59,7 @@ export function showExercise(article: HTMLElement, place: Place): () => void {
 
 // header       h1 and what exercise it is
 // p.prompt
+// p.masses     where it cannot be answered without
 // figure       where there is a drawing
 // form         the field, Check
 // p.mark
@@ -70,6 +72,7 @@ function contentsOf({ route, exercise, page }: Place, parts: Parts): HTMLElement
     return [
         headerOf(route, exercise, page),
         element("p", { class: "prompt" }, ...typesetLine(exercise.prompt, page.settings)),
+        ...massesBelow(exercise, page),
         ...(drawing === null ? [] : [drawing]),
         parts.form,
         parts.mark,
@@ -165,7 +168,7 @@ function advance(work: Work, parts: Parts, progress: state.Progress): void {
     update(work, parts);
     announce(lastStepSpoken(work.exercise, progress.steps, work.page));
     if (isShownWhole(work)) {
-        parts.next.focus({ preventScroll: true });
+        parts.solution.querySelector("h2")?.focus({ preventScroll: true });
     }
     bringIntoView(parts.solution, parts.goOn);
 }

@@ -1,8 +1,9 @@
 // The relative atomic masses that exercises need, in one line.
 import { element } from "../dom";
+import { massesNeeded, needsMasses } from "../masses";
 import { typesetLine } from "../spans";
 import { texts } from "../texts";
-import type { ElementInfo, Span } from "../types";
+import type { ElementInfo, Exercise, Span } from "../types";
 import type { Page } from "./page";
 
 // "Relative atomic masses: H 1.008; O 16.00", which breaks between elements only.
@@ -14,4 +15,17 @@ export function massesLine(masses: ElementInfo[], page: Page): HTMLElement {
         { number: mass },
     ]);
     return element("p", { class: "masses" }, ...typesetLine(pairs, page.settings));
+}
+
+// Below a question: the masses, or the way to the table that has them; none where it needs none.
+export function massesBelow(exercise: Exercise, page: Page): HTMLElement[] {
+    if (!needsMasses(exercise)) {
+        return [];
+    }
+    return [page.settings.masses === "table" ? useTheTable() : massesLine(massesNeeded([exercise], page.lesson.tables().elements), page)];
+}
+
+function useTheTable(): HTMLElement {
+    const [before = "", link = "", behind = ""] = texts.usePeriodicTable;
+    return element("p", { class: "masses" }, before, element("a", { href: "#tables" }, link), behind);
 }

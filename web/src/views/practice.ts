@@ -4,7 +4,7 @@ import { element, show } from "../dom";
 import { texts } from "../texts";
 import type { Exercise, PracticeRoute } from "../types";
 import { choicePanel } from "./choice";
-import { displayPanel } from "./display";
+import { displayPanel, massesChoice } from "./display";
 import { showExercise } from "./exercise";
 import type { Page } from "./page";
 import { recordPanel } from "./record";
@@ -18,7 +18,7 @@ export function showPractice(main: HTMLElement, route: PracticeRoute, exercise: 
     const record = recordPanel(page);
     const draw = () => showExercise(article, { route, exercise, page, solved: record.update });
     const focus = draw();
-    const display = displayPanel(page, draw);
+    const display = displayPanel(page, draw, massesChoice(page, draw));
     show(main, article, element("aside", { "aria-label": texts.around }, choicePanel(mainRoad(route), page), display, record.element));
     return focus;
 }

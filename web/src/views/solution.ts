@@ -6,7 +6,7 @@ import { texts } from "../texts";
 import type { Exercise, Span, Step } from "../types";
 import type { Page } from "./page";
 
-// h2
+// h2        takes the focus once all is shown
 // ol        the steps that are shown
 //   li      p.say, p.math
 // p.next    the hint to the step that comes next
@@ -19,7 +19,7 @@ export function showSolution(box: HTMLElement, exercise: Exercise, steps: number
     const next = exercise.solution[steps - 1];
     const end = next === undefined ? labelled("key", texts.key, spansOfKey(exercise), page) : labelled("next", texts.hint, next.hint, page);
     const list = element("ol", {}, ...exercise.solution.slice(0, steps - 1).map((step) => rowOf(step, page)));
-    show(box, element("h2", {}, texts.solution), ...(steps === 1 ? [] : [list]), end);
+    show(box, element("h2", { tabindex: -1 }, texts.solution), ...(steps === 1 ? [] : [list]), end);
 }
 
 function rowOf(step: Step, page: Page): HTMLElement {

@@ -97,7 +97,7 @@ for (const { form, kind } of forms) {
     });
 }
 
-test("steps of the solution are asked for one by one, and the last one leads to Next", async () => {
+test("steps of the solution are asked for one by one; the last one leads to its heading, and Tab from there to Next", async () => {
     const page = await open("#practice/4821/3/titration:3");
     const steps = lesson.exercise(4821, 3, "titration:3").solution.length;
     await tabTo(page, button(page, "Show a step"));
@@ -106,9 +106,28 @@ test("steps of the solution are asked for one by one, and the last one leads to 
         await page.keyboard.press("Enter");
         assert.notEqual(await announced(page), "");
     }
-    assert.equal(await isFocused(button(page, "Next")), true);
+    await solutionIsRead(page);
     await leave(page);
 });
+
+// From the heading on, which is on the screen.
+async function solutionIsRead(page) {
+    const heading = page.getByRole("heading", { name: "Solution", exact: true });
+    assert.equal(await isFocused(heading), true);
+    assert.equal((await page.evaluate(focusShown)).problem, "");
+    await page.keyboard.press("Tab");
+    assert.equal(await isFocused(button(page, "Next")), true);
+}
+
+for (const kind of ["titration:3", "ion-formula:3", "solubility:1", "neutralisation:3"]) {
+    test(`${kind}: Show the answer leads to the solution's heading, and Tab from there to Next`, async () => {
+        const page = await openPage(browser, `#practice/4821/3/${kind}`, { reducedMotion: "reduce", viewport: { width: 360, height: 640 } });
+        await tabTo(page, button(page, "Show the answer"));
+        await page.keyboard.press("Enter");
+        await solutionIsRead(page);
+        await leave(page);
+    });
+}
 
 const inserted = [
     { kind: "ion-formula:1", before: "Ca", sign: "charge two plus", behind: "", all: "Ca^2+" },

@@ -112,7 +112,7 @@ test("Show a step gives a hint, then a step and the next hint a press, and at la
     assert.equal(await page.locator(".solution .next").count(), 0);
     assert.equal(await page.locator(".key").isVisible(), true);
     assert.equal(await step.isVisible(), false);
-    assert.equal(await focusedText(page), "Next");
+    assert.equal(await page.evaluate(() => document.activeElement.matches(".solution h2")), true);
     await leave(page);
 });
 
@@ -451,3 +451,45 @@ for (const [kind, typed, shown] of previews) {
         await leave(page);
     });
 }
+
+// Paper 4821, exercise 3 of each: what is asked, and the relative atomic masses that it takes.
+const weighed = ["molar-mass:1", "molar-mass:2", "molar-mass:3", "concentration:2", "concentration:3"];
+
+for (const kind of weighed) {
+    test(`${kind}: the relative atomic masses stand below the question, or the way to the table`, async () => {
+        const elements = new Map(lesson.tables().elements.map(({ symbol, mass }) => [symbol, mass]));
+        const number = Array.from({ length: 50 }, (_, at) => at + 1).find((at) => {
+            const { ask, given } = lesson.exercise(4821, at, kind);
+            return ask.quantity === "M" || given.some((one) => one.quantity === "M" && one.shown === "");
+        });
+        const { ask, given } = lesson.exercise(4821, number, kind);
+        const formula = ask.quantity === "M" ? ask.of : given.find((one) => one.quantity === "M").of;
+        const symbols = [...formula].filter((sign) => /[A-Za-z]/.test(sign)).join("").split(/(?=[A-Z])/);
+        const page = await openPage(browser, `#practice/4821/${number}/${kind}`);
+        const line = page.locator(".prompt + .masses");
+        const seen = (await line.locator("[aria-hidden]").innerText()).replace(/\s/g, " ");
+        assert.match(seen, /^Relative atomic masses: [A-Z]/, formula);
+        const pairs = seen.replace("Relative atomic masses: ", "").split("; ");
+        assert.deepEqual(pairs.sort(), [...new Set(symbols)].map((symbol) => `${symbol} ${elements.get(symbol)}`).sort(), formula);
+
+        await panel(page, "How it is written").click();
+        await page.getByRole("group", { name: "Atomic masses" }).getByLabel("Use the table").check();
+        assert.equal(await line.innerText(), "Use the periodic table.");
+        await page.reload();
+        await line.getByRole("link", { name: "periodic table" }).click();
+        await page.getByRole("heading", { name: "Relative atomic masses" }).waitFor();
+        await page.goBack();
+        await panel(page, "How it is written").click();
+        await page.getByLabel("Below the question").check();
+        assert.equal((await line.locator("[aria-hidden]").innerText()).replace(/\s/g, " "), seen);
+        await leave(page);
+    });
+}
+
+test("where no molar mass has to be worked out there is no line of masses", async () => {
+    for (const kind of ["titration:2", "dilution:1", "ion-formula:3", "compound-formula:3", "solubility:1", "neutralisation:2"]) {
+        const page = await openPage(browser, `#practice/4821/3/${kind}`);
+        assert.equal(await page.locator(".masses").count(), 0, kind);
+        await leave(page);
+    }
+});

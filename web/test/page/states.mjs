@@ -24,6 +24,10 @@ export const states = [
     }],
     ["a side road", "#practice/4821/500004/titration:2?back=4:mixed", async () => {}],
     ["a side road to its end", "#practice/4821/500004/titration:2?back=4:mixed", (page) => press(page, "Show the answer")],
+    ["the way to the table of masses", "#practice/4821/3/molar-mass:3", async (page) => {
+        await panel(page, "How it is written").click();
+        await page.getByLabel("Use the table").check();
+    }],
     ["a formula being typed", "#practice/4821/3/neutralisation:3", (page) => type(page, "H2SO4 + NaOH -> ")],
     ["a choice that was wrong", "#practice/4821/3/solubility:1", (page) => answerWith(page, "no", "wrong")],
     ["help offered", "#practice/4821/3/titration:3", async (page) => {
