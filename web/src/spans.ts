@@ -13,7 +13,7 @@ export function typeset(spans: Span[], settings: Settings): DocumentFragment {
 // (.spoken.whole), so that it is read without a stop at each formula and is found where it stands.
 export function typesetLine(spans: Span[], settings: Settings): Node[] {
     const seenLine = seenOf(spans, settings);
-    const isPlain = [...seenLine.childNodes].every((node) => node.nodeType === Node.TEXT_NODE);
+    const isPlain = spans.every((span) => isSaidAsSeen(span, settings));
     return isPlain ? [seenLine] : [element("span", { "aria-hidden": "true" }, seenLine), wholeSpoken(speech(spans, settings))];
 }
 
@@ -67,11 +67,11 @@ function isSaidAsSeen(span: Span, settings: Settings): boolean {
     return "name" in span || ("text" in span && speechOf(span, settings) === span.text) || ("number" in span && !span.number.includes("e"));
 }
 
-// One node a span. Text alone needs no element: a line breaks in it at its blanks only.
+// One node a span. Text alone needs no element where a line breaks in it at its blanks only.
 function seenSpan(span: Span, settings: Settings): Node {
     const nodes = seenNodes(span, settings);
-    const isText = "text" in span || "name" in span || ("number" in span && nodes.length === 1);
-    return isText ? nodes[0]! : element("span", { class: classOf(span) }, ...nodes);
+    const isText = nodes.length === 1 && nodes[0] instanceof Text && !/[/·]/.test(nodes[0].data);
+    return isText || "text" in span ? nodes[0]! : element("span", { class: classOf(span) }, ...nodes);
 }
 
 // A sign begins a line rather than ends one.
