@@ -177,6 +177,12 @@ export const texts = {
     drawings: {
         titration: "The burette and the flask, with what is known of each",
         dilution: "The solution before and after",
+        rough: "rough",
+        inUnit: " in ",
+        after: (titration: number) => `The burette is shown after titration\u00A0${titration}.`,
+        reads: (volume: string) => `The burette was filled to 0 and now reads ${volume}.`,
+        toScale: "The areas of liquid are to scale.",
+        notToScale: "Not to scale.",
     },
 
     tablesTitle: "Tables",

@@ -19,6 +19,7 @@ const allowed = {
     "sheet": ["types"],
     "masses": ["types"],
     "filling": [],
+    "levels": [],
     "slices": [],
     "spans": ["dom", "types"],
     "sentence": ["spans", "types"],
@@ -29,7 +30,8 @@ const allowed = {
     "views/answer": ["dom", "spans", "texts", "types"],
     "views/choice": ["address", "dom", "texts", "types", "views/page"],
     "views/display": ["dom", "storage", "texts", "types", "views/page"],
-    "views/drawing": ["dom", "spans", "texts", "types"],
+    "views/apparatus": ["dom", "levels", "spans", "types"],
+    "views/drawing": ["dom", "levels", "spans", "texts", "types", "views/apparatus"],
     "views/exercise": [
         "address", "dom", "spans", "progress", "record", "state", "texts", "types",
         "views/answer", "views/drawing", "views/head", "views/mark", "views/masses-line", "views/page", "views/solution",

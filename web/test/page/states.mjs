@@ -43,6 +43,7 @@ export const states = [
         await page.locator("input[value='titration:2']").uncheck();
         await press(page, "Start");
     }],
+    ["beakers that are not to scale", "#practice/4821/3/dilution:3", async () => {}],
     ["how it is written", "#practice/4821/3/titration", (page) => panel(page, "How it is written").click()],
     ["an empty record", "#practice/4821/3/titration", (page) => panel(page, "My record").click()],
     ["a record", "#practice/4821/3/titration:3", async (page) => {
