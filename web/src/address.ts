@@ -40,9 +40,18 @@ export function addressOf(route: PracticeRoute | SheetRoute): string {
     return `#practice/${route.paper}/${route.number}/${route.kinds}?${set}${back}v=${version}`;
 }
 
-// Under which name the device keeps what an exercise has come to.
+// Under which name a tab keeps what an exercise has come to: in a set another one than outside of it.
 export function placeOf(route: PracticeRoute): string {
-    return `${route.paper}/${route.number}/${route.kinds}`;
+    return `${route.paper}/${route.number}/${route.kinds}${route.set > 0 ? `?set=${route.set}` : ""}`;
+}
+
+export function isInSet(place: string): boolean {
+    return place.includes("?set=");
+}
+
+// A set is known by the address of its first exercise.
+export function addressOfSet(route: PracticeRoute): string {
+    return addressOf(atNumber(route, 1));
 }
 
 // The same choice of exercises at another number.

@@ -17,6 +17,7 @@ import { showPractice } from "./views/practice";
 import { showSheets } from "./views/sheets";
 import { showSummary } from "./views/summary";
 import { showTables } from "./views/tables";
+import * as working from "./working";
 
 type Focus = () => void;
 
@@ -85,6 +86,7 @@ function render(page: Page): Focus {
         history.replaceState(null, "", route.of === "sheet" ? newSheet() : newPaper());
         return render(page);
     }
+    working.rest();
     const focus = showView(route, page);
     showViews(route);
     return focus;
@@ -159,6 +161,14 @@ function titleOf(route: Route): string {
     }
 }
 
+function keepClock(): void {
+    document.addEventListener("visibilitychange", () => working.see(document.visibilityState === "visible"));
+    window.addEventListener("pagehide", () => working.see(false));
+    window.addEventListener("pageshow", () => working.see(true));
+    document.addEventListener("keydown", () => working.touch());
+    document.addEventListener("pointerdown", () => working.touch());
+}
+
 // The page lives as long as its window, so nothing is ever taken off again.
 async function start(): Promise<void> {
     const instantiated = instantiate(await unpacked(packed));
@@ -167,6 +177,7 @@ async function start(): Promise<void> {
     rememberPlaces();
     render(page);
     window.addEventListener("hashchange", () => open(page));
+    keepClock();
     // What a tablet's keyboard leaves of the window has to show the field.
     window.visualViewport?.addEventListener("resize", keepFieldInView);
     byId("skip").addEventListener("click", (event) => {

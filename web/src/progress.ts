@@ -1,13 +1,21 @@
-// What the exercises of this tab have come to, so that a reload loses nothing.
+// What an exercise has come to, so that a reload loses nothing. Outside sets the tab keeps it. In a set the
+// device does, and the tab what is being typed.
+import { isInSet, placeOf } from "./address";
+import * as sets from "./sets";
 import { type Progress, resultOf } from "./state";
-import { countOf, fieldsOf, read, write } from "./storage";
+import { countOf, fieldsOf, keysBehind, read, remove, write } from "./storage";
+import type { PracticeRoute } from "./types";
+import { spend, workAt } from "./working";
 
-function keyOf(place: string): string {
-    return `chempractice.exercise.${place}`;
+const prefix = "chempractice.exercise.";
+
+export function progressOf(route: PracticeRoute): Progress {
+    const kept = read("sessionStorage", prefix + placeOf(route));
+    return route.set === 0 ? progressIn(kept) : joined(kept, sets.keptSet(route)?.exercises.get(route.number));
 }
 
-export function progressOf(place: string): Progress {
-    const { typed, failed, marked, steps, result } = fieldsOf(read("sessionStorage", keyOf(place)));
+function progressIn(kept: unknown): Progress {
+    const { typed, failed, marked, steps, result } = fieldsOf(kept);
     return {
         typed: typeof typed === "string" ? typed : "",
         failed: countOf(failed),
@@ -17,6 +25,37 @@ export function progressOf(place: string): Progress {
     };
 }
 
-export function keepProgress(place: string, progress: Progress): void {
-    write("sessionStorage", keyOf(place), progress);
+// What was marked in this tab goes with its set, where that was cleared.
+function joined(inTab: unknown, inSet: sets.Done | undefined): Progress {
+    const { typed, marked } = progressIn(inTab);
+    if (inSet === undefined) {
+        return { ...progressIn(null), typed: typed === marked ? "" : typed };
+    }
+    return inTab === null ? { ...inSet, typed: inSet.marked ?? "" } : { ...inSet, typed, marked: marked ?? inSet.marked };
+}
+
+export function keepTyped(route: PracticeRoute, progress: Progress): void {
+    write("sessionStorage", prefix + placeOf(route), progress);
+}
+
+export function keepProgress(route: PracticeRoute, progress: Progress): void {
+    keepTyped(route, progress);
+    if (route.set > 0) {
+        sets.keepInSet(route, progress, spend());
+        workAt(route, progress.result === null);
+    }
+}
+
+// With what this tab keeps of it.
+export function forgetSet(route: PracticeRoute): void {
+    sets.clearSet(route);
+    for (let number = 1; number <= route.set; ++number) {
+        remove("sessionStorage", prefix + placeOf({ ...route, number }));
+    }
+}
+
+export function forgetSets(): void {
+    sets.clearSets();
+    const places = keysBehind("sessionStorage", prefix);
+    places.filter(isInSet).forEach((place) => remove("sessionStorage", prefix + place));
 }

@@ -14,7 +14,11 @@ const allowed = {
     "storage": ["types"],
     "state": ["types"],
     "record": ["state", "storage"],
-    "progress": ["state", "storage"],
+    "progress": ["address", "sets", "state", "storage", "types", "working"],
+    "clock": [],
+    "sets": ["address", "state", "storage", "types"],
+    "working": ["address", "clock", "sets", "types"],
+    "summary": ["sets", "texts", "types"],
     "address": ["sheet", "texts", "types"],
     "sheet": ["types"],
     "masses": ["types"],
@@ -33,7 +37,7 @@ const allowed = {
     "views/apparatus": ["dom", "levels", "spans", "types"],
     "views/drawing": ["dom", "levels", "spans", "texts", "types", "views/apparatus"],
     "views/exercise": [
-        "address", "dom", "spans", "progress", "record", "state", "texts", "types",
+        "address", "dom", "spans", "progress", "record", "state", "texts", "types", "working",
         "views/answer", "views/drawing", "views/head", "views/mark", "views/masses-line", "views/page", "views/solution",
     ],
     "views/files": ["dom", "sheet", "texts", "types", "views/page"],
@@ -54,11 +58,12 @@ const allowed = {
         "views/display", "views/files", "views/page", "views/preview", "views/problems", "views/sheet-form",
     ],
     "views/solution": ["dom", "sentence", "spans", "texts", "types", "views/page"],
-    "views/summary": ["address", "dom", "progress", "texts", "types", "views/page"],
+    "views/results": ["address", "dom", "summary", "texts", "types"],
+    "views/summary": ["address", "dom", "progress", "sets", "summary", "texts", "types", "views/page", "views/question", "views/results"],
     "views/tables": ["dom", "sentence", "spans", "texts", "types", "views/page"],
     "main": [
         "address", "dom", "engine/lesson", "engine/memory", "lesson.bin", "sentence", "sheet", "storage", "texts", "types",
-        "views/answer", "views/head", "views/message", "views/page", "views/practice", "views/sheets", "views/summary", "views/tables",
+        "views/answer", "views/head", "views/message", "views/page", "views/practice", "views/sheets", "views/summary", "views/tables", "working",
     ],
 };
 

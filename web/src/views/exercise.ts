@@ -1,12 +1,13 @@
 // One exercise: the question, a field, the mark, the solution step by step; and what each press leads to.
-import { addressOf, atNumber, mainRoad, placeOf, sideRoad } from "../address";
+import { addressOf, atNumber, mainRoad, sideRoad } from "../address";
 import { announce, bringIntoView, button, element, fitIntoView, show } from "../dom";
-import { keepProgress, progressOf } from "../progress";
+import { keepProgress, keepTyped, progressOf } from "../progress";
 import { addToRecord } from "../record";
 import { typesetLine } from "../spans";
 import * as state from "../state";
 import { texts } from "../texts";
 import type { Exercise, Mark, PracticeRoute } from "../types";
+import { workAt } from "../working";
 import { type AnswerField, answerField } from "./answer";
 import { drawingOf } from "./drawing";
 import { headerOf } from "./head";
@@ -28,6 +29,8 @@ interface Work extends Place {
     mark: Mark | null;
 }
 
+type Step = (progress: state.Progress) => state.Progress;
+
 interface Parts {
     field: AnswerField;
     check: HTMLButtonElement;
@@ -42,7 +45,7 @@ interface Parts {
 
 // Gives what puts the focus into the field.
 export function showExercise(article: HTMLElement, place: Place): () => void {
-    const work: Work = { ...place, progress: progressOf(placeOf(place.route)), mark: null };
+    const work: Work = { ...place, progress: progressOf(place.route), mark: null };
     const parts = partsOf(work);
     parts.form.addEventListener("submit", (event) => {
         event.preventDefault();
@@ -54,6 +57,9 @@ export function showExercise(article: HTMLElement, place: Place): () => void {
     }
     update(work, parts);
     show(article, ...contentsOf(work, parts));
+    if (place.route.set > 0) {
+        workAt(place.route, work.progress.result === null);
+    }
     return () => parts.field.focus();
 }
 
@@ -87,13 +93,14 @@ function partsOf(work: Work): Parts {
     const { route, exercise, page } = work;
     const steps = exercise.solution.length;
     const field = answerField(exercise.ask, page.settings, () => {
-        keep(work, state.typed(work.progress, field.text()));
+        work.progress = state.typed(work.progress, field.text());
+        keepTyped(route, work.progress);
         updateMark(work, parts);
     });
     const check = element("button", { type: "submit", class: "main" }, texts.check);
     const next = nextButton(route, page);
-    const step = button(texts.showStep, () => advance(work, parts, state.afterStep(work.progress, steps)));
-    const answer = button(texts.showAnswer, () => advance(work, parts, state.afterAnswer(work.progress, steps)));
+    const step = button(texts.showStep, () => advance(work, parts, (before) => state.afterStep(before, steps)));
+    const answer = button(texts.showAnswer, () => advance(work, parts, (before) => state.afterAnswer(before, steps)));
     const parts: Parts = {
         field,
         check,
@@ -121,13 +128,15 @@ function anotherButton({ route, exercise, page }: Place): HTMLButtonElement {
     return button(texts.another, () => page.go(addressOf(sideRoad(route, like))), { class: "aside" });
 }
 
-function keep(work: Work, progress: state.Progress): void {
-    if (progress.result !== null && work.progress.result === null) {
-        addToRecord(work.exercise.kind, progress.result);
+// Another tab may have got further with the same exercise.
+function keep(work: Work, step: Step): void {
+    const before = progressOf(work.route);
+    work.progress = step(before);
+    keepProgress(work.route, work.progress);
+    if (work.progress.result !== null && before.result === null) {
+        addToRecord(work.exercise.kind, work.progress.result);
         work.solved();
     }
-    work.progress = progress;
-    keepProgress(placeOf(work.route), progress);
 }
 
 function update(work: Work, parts: Parts): void {
@@ -150,7 +159,7 @@ function check(work: Work, parts: Parts): void {
     const text = parts.field.text();
     const mark = markOf(work, text);
     work.mark = mark;
-    keep(work, state.afterMark(work.progress, text, mark));
+    keep(work, (before) => state.afterMark(before, text, mark));
     update(work, parts);
     announce([spokenMark(markToShow(work)!, work.page), ...(parts.offer.hidden ? [] : [texts.wouldHelp])].join(" "));
     if (mark.verdict === "correct") {
@@ -163,10 +172,10 @@ function check(work: Work, parts: Parts): void {
     }
 }
 
-function advance(work: Work, parts: Parts, progress: state.Progress): void {
-    keep(work, progress);
+function advance(work: Work, parts: Parts, step: Step): void {
+    keep(work, step);
     update(work, parts);
-    announce(lastStepSpoken(work.exercise, progress.steps, work.page));
+    announce(lastStepSpoken(work.exercise, work.progress.steps, work.page));
     if (isShownWhole(work)) {
         parts.solution.querySelector("h2")?.focus({ preventScroll: true });
     }

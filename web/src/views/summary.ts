@@ -1,73 +1,65 @@
-// What a set of exercises has come to: to print or to save, for a teacher.
-import { addressOf, atNumber, placeOf } from "../address";
-import { button, element, save, scrollBox, show } from "../dom";
-import { progressOf } from "../progress";
+// What a set of exercises has come to, as the device keeps it: to print or to save, for a teacher.
+import { addressOfSet } from "../address";
+import { announce, button, element, save, show } from "../dom";
+import { forgetSet } from "../progress";
+import { keptSet, type KeptSet } from "../sets";
+import { type Summary, summaryOf, textOf } from "../summary";
 import { texts } from "../texts";
 import type { PracticeRoute } from "../types";
 import { type Page, randomPaper, titleOf } from "./page";
+import { ask } from "./question";
+import { factsOf, resultsTable } from "./results";
 
-interface Row {
-    number: number;
-    kind: string;
-    result: string;
-}
-
+// Gives what puts the focus on the heading.
 export function showSummary(main: HTMLElement, route: PracticeRoute, page: Page): () => void {
-    const rows = rowsOf(route, page);
+    const kept = keptSet(route);
     const heading = element("h1", { tabindex: -1 }, texts.summaryOf(route.paper));
-    const lines = rows.map((row) =>
-        element("tr", {}, element("th", { scope: "row" }, linkTo(route, row.number)), element("td", {}, row.kind), element("td", {}, row.result)),
-    );
-    const first = atNumber({ ...route, paper: randomPaper() }, 1);
-    show(
-        main,
-        element(
-            "article",
-            { class: "summary" },
-            heading,
-            element("p", { class: "blanks on-paper" }, element("span", { class: "blank wide" }, texts.nameBlank), element("span", { class: "blank" }, texts.dateBlank)),
-            element("p", {}, countsOf(rows)),
-            scrollBox("box", texts.summary, element("table", {}, element("tbody", {}, ...lines))),
-            element(
-                "div",
-                { class: "help" },
-                button(texts.printIt, () => window.print(), { class: "main" }),
-                button(texts.saveIt, () => save(`paper-${route.paper}-summary.txt`, textOf(route, rows))),
-                button(texts.newSet, () => page.go(addressOf(first))),
-            ),
-        ),
-    );
+    const contents = kept === null ? nothingKept(route, page) : keptContents(route, kept, page, () => showSummary(main, route, page)());
+    show(main, element("article", { class: "summary" }, heading, ...contents));
     return () => heading.focus();
 }
 
-function rowsOf(route: PracticeRoute, page: Page): Row[] {
-    return Array.from({ length: route.set }, (_, at) => {
-        const place = atNumber(route, at + 1);
-        const exercise = page.lesson.exercise(place.paper, place.number, place.kinds);
-        const result = progressOf(placeOf(place)).result;
-        return {
-            number: at + 1,
-            kind: exercise === null ? "" : texts.kindAndLevel(titleOf(page, exercise.kind), exercise.level),
-            result: result === null ? texts.notDone : texts.results[result],
-        };
-    });
+// p
+// div.help     begin
+function nothingKept(route: PracticeRoute, page: Page): HTMLElement[] {
+    const begin = button(texts.beginSet, () => page.go(addressOfSet(route)), { class: "main" });
+    return [element("p", {}, texts.nothingKept), element("div", { class: "help" }, begin)];
 }
 
-function linkTo(route: PracticeRoute, number: number): HTMLElement {
-    return element("a", { href: addressOf(atNumber(route, number)) }, texts.exercise(number));
+// p.blanks     the name, on paper
+// dl           when, how long, the total
+// p.hint
+// div.box      table
+// div.help     what can be done with it
+function keptContents(route: PracticeRoute, kept: KeptSet, page: Page, redraw: () => void): HTMLElement[] {
+    const summary = summaryOf(kept, route.set, (number) => kindOf(page, route, number));
+    const name = element("p", { class: "blanks on-paper" }, element("span", { class: "blank wide" }, texts.nameBlank));
+    return [name, ...factsOf(summary), resultsTable(route, summary), buttonsOf(route, summary, page, redraw)];
 }
 
-function countsOf(rows: Row[]): string {
-    return [...Object.values(texts.results), texts.notDone]
-        .map((result) => [rows.filter((row) => row.result === result).length, result] as const)
-        .filter(([count]) => count > 0)
-        .map(([count, result]) => `${count} ${result}`)
-        .join(", ");
+function buttonsOf(route: PracticeRoute, summary: Summary, page: Page, redraw: () => void): HTMLElement {
+    const clear: HTMLElement = button(texts.clearSet, () => ask(clear, texts.askClearSet, cleared));
+    const cleared = () => {
+        forgetSet(route);
+        redraw();
+        announce(texts.clearedSet);
+    };
+    return element(
+        "div",
+        { class: "help" },
+        button(texts.printIt, () => window.print(), { class: "main" }),
+        button(texts.saveIt, () => save(`paper-${route.paper}-summary.txt`, textOf(summary, route, addressToQuote()))),
+        button(texts.newSet, () => page.go(addressOfSet({ ...route, paper: randomPaper() }))),
+        clear,
+    );
 }
 
-function textOf(route: PracticeRoute, rows: Row[]): string {
-    const lines = rows.map((row) => `${row.number}. ${row.kind}: ${row.result}`);
-    // From a disk the whole address would tell no more than whose disk it is.
-    const address = location.protocol === "file:" ? location.hash : location.href;
-    return [texts.title, texts.summaryOf(route.paper), `${texts.nameBlank}: `, countsOf(rows), "", ...lines, "", address, ""].join("\n");
+function kindOf(page: Page, route: PracticeRoute, number: number): string {
+    const exercise = page.lesson.exercise(route.paper, number, route.kinds);
+    return exercise === null ? "" : texts.kindAndLevel(titleOf(page, exercise.kind), exercise.level);
+}
+
+// From a disk the whole address would tell no more than whose disk it is.
+function addressToQuote(): string {
+    return location.protocol === "file:" ? location.hash : location.href;
 }
