@@ -202,6 +202,12 @@ export const texts = {
 
     tablesTitle: "Tables",
     elementsTitle: "Relative atomic masses",
+    find: "Find an element",
+    findHint: "Symbols, names, atomic numbers, or a formula such as Na2SO4.",
+    foundHeads: ["Symbol", "Name", "Number", "Mass"],
+    foundElement: (symbol: string, name: string, number: number, mass: string) => `${symbol}, ${name}, number ${number}, relative atomic mass ${mass}.`,
+    noElement: (words: string[]) =>
+        `There is no such element: ${words.join(", ")}.${words.some((word) => /^\p{Ll}/u.test(word)) ? " In a formula, each symbol begins with a capital letter." : ""}`,
     group: "Group",
     period: "Period",
     lanthanides: "Lanthanides",

@@ -1,5 +1,5 @@
 import type { Names } from "../sentence";
-import type { KindInfo, Lesson, Settings, SheetRoute } from "../types";
+import type { ElementInfo, IonInfo, KindInfo, Lesson, Settings, SheetRoute } from "../types";
 
 // What every view gets from the page around it.
 export interface Page {
@@ -15,6 +15,10 @@ export interface Page {
 
 export function titleOf(page: Page, kind: string): string {
     return page.kinds.find((info) => info.kind === kind)?.title ?? kind;
+}
+
+export function nameOf(row: ElementInfo | IonInfo, page: Page): string {
+    return page.settings.names === "american" && row.american ? row.american : row.name;
 }
 
 export function randomPaper(): number {

@@ -66,6 +66,10 @@ export const states = [
     }],
     ["a bad address of a sheet", "#sheet/4821/4*alchemy", async () => {}],
     ["the tables", "#tables", async () => {}],
+    ["elements found", "#tables", async (page) => {
+        await page.getByLabel("Find an element").fill("CuSO4.5H2O and nacl");
+        await page.locator(".results .message").waitFor();
+    }],
     ["the reason of a pair", "#tables", async (page) => {
         await page.locator(".solubility button").first().click();
         await panel(page, "Show them with the reasons").click();
