@@ -25,10 +25,11 @@ const char* lesson_mark(unsigned paper, unsigned number, const char* kind, const
 // The data that the exercises rest on.
 const char* lesson_tables(void);
 
-// The exercises of a sheet ("4*titration:2,3*dilution"), those of each kind and level numbered from
-// 1, as the text of a file for another program: "moodle" gives XML for Moodle's question bank,
-// "anki" lines of cards, as many as fit a card. Only an error is JSON, and begins with "{", which
-// no file does; for Anki it is one too where no exercise of the sheet fits a card.
+// The exercises of a sheet ("4*titration:2,3*dilution,titration@9"), those of each entry numbered
+// from 1 or from the number behind its @, as the text of a file for another program: "moodle" gives
+// XML for Moodle's question bank, "anki" lines of cards, as many as fit a card. Only an error is
+// JSON, and begins with "{", which no file does; for Anki it is one too where no exercise of the
+// sheet fits a card.
 const char* lesson_export(unsigned paper, const char* sheet, const char* format);
 
 #ifdef __cplusplus

@@ -167,6 +167,20 @@ TEST(InterfaceTest, AnExportIsAFileAndNoJson)
     EXPECT_EQ(std::string(lesson_export(1, "solubility", "anki")).substr(0, 11), "#separator:");
 }
 
+TEST(InterfaceTest, ExercisesNamedByTheirNumbersAreTheSameInAFile)
+{
+    const auto file = [](const char* sheet) {
+        return std::string(lesson_export(4821, sheet, "moodle"));
+    };
+    EXPECT_EQ(file("titration@1,titration@2,dilution:1@1"), file("2*titration,dilution:1"));
+    EXPECT_EQ(file("2*titration@8"), file("titration@8,titration@9"));
+    const std::string all = file("9*titration");
+    const std::string one = file("titration@9");
+    const std::size_t question = one.rfind("<question");
+    EXPECT_NE(all.find(one.substr(question)), std::string::npos) << one;
+    EXPECT_EQ(all.find(one.substr(question)), all.rfind("<question"));
+}
+
 TEST(InterfaceTest, AResultHoldsUntilTheNextCallOfTheSameFunction)
 {
     const char* const made = lesson_exercise(4821, 3, "titration");

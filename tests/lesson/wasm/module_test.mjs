@@ -39,10 +39,18 @@ test('bad arguments are told', async () => {
 test('bad arguments of an export are told', async () => {
   const lesson = await loadLesson()
   const cases = [[0, 'titration', 'moodle'], [1, null, 'moodle'], [1, 'titration', null], [1, '', 'anki'],
-    [1, 'mixed', 'moodle'], [1, '1001*titration', 'moodle'], [1, 'titration', 'anki']]
+    [1, 'mixed', 'moodle'], [1, '1001*titration', 'moodle'], [1, 'titration', 'anki'],
+    [1, 'titration@0', 'moodle'], [1, 'titration@1000000', 'moodle'], [1, '3*titration,titration@3', 'moodle']]
   for (const args of cases) {
     assert.deepEqual(Object.keys(lesson.json('lesson_export', ...args)), ['error'], `${args}`)
   }
+})
+
+test('exercises that are named by their numbers are the same in a file', async () => {
+  const lesson = await loadLesson()
+  const fileOf = (sheet) => Buffer.from(lesson.bytes('lesson_export', 4821, sheet, 'anki')).toString()
+  assert.equal(fileOf('ion-formula@1,ion-formula@2,ion-formula@3'), fileOf('3*ion-formula'))
+  assert.notEqual(fileOf('ion-formula@2,ion-formula@1,ion-formula@3'), fileOf('3*ion-formula'))
 })
 
 test('any typed text gets a mark', async () => {
