@@ -1,11 +1,10 @@
 // What a sheet is, as data: its address and back, its papers, its exercises in order.
+import { countOf, isCount, kindOf, listOf, mostExercises, oneByOne, readList } from "./list";
 import type { SheetEntry, SheetRoute } from "./types";
 
 export const mostVersions = 30;
-export const mostExercises = 1000; // of one sheet, and of all its versions together
 export const longestTitle = 80;
 const greatestPaper = 999999;
-const usualLevel = 2;
 
 export const usualSheet: Omit<SheetRoute, "paper"> = {
     view: "sheet",
@@ -48,7 +47,7 @@ const written = ["versions", "title", "room", "masses", "drawings", "parts", "ke
 // Of the parts behind "#sheet/" and the options behind "?"; null where they name no sheet.
 export function sheetOf(parts: string[], options: URLSearchParams): SheetRoute | null {
     const [paper = "", list = ""] = parts;
-    const entries = entriesOf(list);
+    const entries = readList(list);
     const versions = options.get("versions") ?? "1";
     const title = options.get("title") ?? usualSheet.title;
     const chosen = choicesOf(options);
@@ -80,45 +79,18 @@ export function sheetAddress(route: SheetRoute, version: number): string {
     return `#sheet/${route.paper}/${listOf(route.entries)}?${options}`;
 }
 
-// As the library reads a sheet: "4*titration,dilution:1".
-export function listOf(entries: SheetEntry[]): string {
-    return entries.map((entry) => `${entry.count === 1 ? "" : `${entry.count}*`}${kindOf(entry)}`).join(",");
-}
-
-// As the library reads a kind: "titration", "dilution:1".
-export function kindOf({ kind, level }: SheetEntry): string {
-    return level === usualLevel ? kind : `${kind}:${level}`;
-}
-
 // One a version, consecutive; behind the greatest comes 1.
 export function papersOf(route: SheetRoute): number[] {
     return Array.from({ length: route.versions }, (_, at) => ((route.paper - 1 + at) % greatestPaper) + 1);
-}
-
-export function countOf(entries: SheetEntry[]): number {
-    return entries.reduce((sum, entry) => sum + entry.count, 0);
 }
 
 export function isFew(route: SheetRoute): boolean {
     return countOf(route.entries) * route.versions <= mostExercises;
 }
 
-// In the order of the sheet: each kind's exercises are numbered from 1.
+// In the order of the sheet, as the library is asked for them.
 export function exercisesOf(entries: SheetEntry[]): { kind: string; number: number }[] {
-    return entries.flatMap((entry) => Array.from({ length: entry.count }, (_, at) => ({ kind: kindOf(entry), number: at + 1 })));
-}
-
-// Null for a list that cannot be read or names a kind and level twice.
-function entriesOf(list: string): SheetEntry[] | null {
-    const entries = list.split(",").map(entryOf);
-    const read = entries.filter((entry): entry is SheetEntry => entry !== null);
-    const names = new Set(read.map(kindOf));
-    return names.size === entries.length ? read : null;
-}
-
-function entryOf(text: string): SheetEntry | null {
-    const [, count = "1", kind, level = String(usualLevel)] = /^(?:(\d+)\*)?([a-z][a-z-]*)(?::([123]))?$/.exec(text) ?? [];
-    return kind === undefined || !isCount(count, mostExercises) ? null : { kind, level: Number(level), count: Number(count) };
+    return oneByOne(entries).map((one) => ({ kind: kindOf(one), number: one.number }));
 }
 
 function choicesOf(options: URLSearchParams): Pick<SheetRoute, Choice> | null {
@@ -140,9 +112,4 @@ function valueOf(value: string | number | boolean): string {
 
 export function isPaper(text: string): boolean {
     return isCount(text, greatestPaper);
-}
-
-// A whole number from 1, without zeros in front.
-export function isCount(text: string, most: number): boolean {
-    return /^[1-9]\d{0,5}$/.test(text) && Number(text) <= most;
 }

@@ -133,6 +133,18 @@ export const texts = {
 
     sheetsTitle: "Sheets to print",
     sheetOf: (paper: number) => `Sheet of paper ${paper}`,
+    picks: { another: "Another", up: "Up", down: "Down" },
+    pickNames: {
+        another: (number: number) => `Another instead of exercise ${number}`,
+        up: (number: number) => `Up with exercise ${number}`,
+        down: (number: number) => `Down with exercise ${number}`,
+    },
+    pickedNow: {
+        another: (number: number) => `Exercise ${number} is another one now.`,
+        up: (number: number) => `Exercise ${number} is exercise ${number - 1} now.`,
+        down: (number: number) => `Exercise ${number} is exercise ${number + 1} now.`,
+    },
+    pickHint: "Point at an exercise, or go to it with the Tab key, to replace it by another one or to move it.",
     howMany: "How many of each",
     howManyHint: "A field for each level; empty is none.",
     level: (level: number) => `Level ${level}`,

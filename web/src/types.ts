@@ -139,13 +139,14 @@ export interface SheetEntry {
     kind: string;
     level: number;
     count: number;
+    first?: number; // the number of the first one where it is not 1
 }
 
 // What a teacher prints.
 export interface SheetRoute {
     view: "sheet";
     paper: number; // of the first version; the others follow
-    entries: SheetEntry[]; // no kind and level twice
+    entries: SheetEntry[]; // no exercise twice
     versions: number;
     title: string;
     room: "none" | "some" | "much"; // to write, below each exercise

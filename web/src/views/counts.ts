@@ -1,6 +1,7 @@
 // How many of each kind and level: a field for each, and below each kind what its levels ask for.
 import { element } from "../dom";
-import { isCount, kindOf, mostExercises } from "../sheet";
+import { countOf, isCount, kindOf, mostExercises } from "../list";
+import { withCounts } from "../picks";
 import { texts } from "../texts";
 import type { KindInfo, SheetEntry } from "../types";
 import type { Problem } from "./problems";
@@ -13,12 +14,15 @@ interface CountField {
 export interface Counts {
     element: HTMLElement;
     read(): { entries: SheetEntry[]; problems: Problem[] };
+    pick(entries: SheetEntry[]): void; // others in their place, as many of each
 }
 
 export function countFields(opened: SheetEntry[], kinds: KindInfo[]): Counts {
     const counts = kinds.flatMap((info) => info.levels.map((_, at) => countField(opened, info, at + 1)));
     const box = countRows(counts, kinds);
     let last = counts[0]!.input;
+    // To which what is typed comes and from which it goes, so that nothing is lost on the way to a number.
+    let picked = opened;
     box.addEventListener("input", (event) => {
         last = event.target as HTMLInputElement;
     });
@@ -29,33 +33,24 @@ export function countFields(opened: SheetEntry[], kinds: KindInfo[]): Counts {
         if (wrong.length > 0) {
             return { entries: [], problems: wrong.map(({ input }) => ({ field: input, sentence: texts.wrongCount(mostExercises) })) };
         }
-        const entries = filled.map(({ entry, input }) => ({ ...entry, count: Number(input.value) }));
-        return entries.length === 0
-            ? { entries, problems: [{ field: last, sentence: texts.noCounts }] }
-            : { entries: isInOrder(opened, counts) ? entries : inOrderOf(opened, entries), problems: [] };
+        const wanted = counts.map(({ entry, input }) => ({ ...entry, count: Number(input.value) }));
+        const entries = countOf(wanted) > mostExercises ? wanted : withCounts(picked, wanted);
+        return { entries, problems: entries.length === 0 ? [{ field: last, sentence: texts.noCounts }] : [] };
     }
 
-    return { element: box, read };
+    function pick(entries: SheetEntry[]): void {
+        picked = entries;
+    }
+
+    return { element: box, read, pick };
 }
 
 function countField(opened: SheetEntry[], info: KindInfo, level: number): CountField {
     const entry = { kind: info.kind, level };
-    const count = opened.find((one) => kindOf(one) === kindOf({ ...entry, count: 0 }))?.count ?? "";
+    const count = countOf(opened.filter((one) => kindOf(one) === kindOf(entry)));
     const label = texts.fieldOf(info.title, level, info.levels[level - 1]!);
     const id = `count-${info.kind}-${level}`;
-    return { entry, input: element("input", { id, type: "number", min: 0, max: mostExercises, value: count, class: "count", "aria-label": label }) };
-}
-
-// In the order of the table, but an address may have its own.
-function isInOrder(entries: SheetEntry[], counts: CountField[]): boolean {
-    const places = entries.map((one) => counts.findIndex(({ entry }) => entry.kind === one.kind && entry.level === one.level));
-    return places.every((place, at) => at === 0 || place > places[at - 1]!);
-}
-
-function inOrderOf(first: SheetEntry[], entries: SheetEntry[]): SheetEntry[] {
-    const names = first.map(kindOf);
-    const placeOf = (entry: SheetEntry) => (names.includes(kindOf(entry)) ? names.indexOf(kindOf(entry)) : names.length);
-    return [...entries].sort((one, other) => placeOf(one) - placeOf(other));
+    return { entry, input: element("input", { id, type: "number", min: 0, max: mostExercises, value: count === 0 ? "" : count, class: "count", "aria-label": label }) };
 }
 
 // fieldset

@@ -1,6 +1,7 @@
 // The exercises of a sheet as files for other programs, a version a file.
 import { button, element, save, show } from "../dom";
-import { listOf, papersOf } from "../sheet";
+import { listOf } from "../list";
+import { papersOf } from "../sheet";
 import { texts } from "../texts";
 import type { ExportFormat, SheetRoute } from "../types";
 import type { Page } from "./page";

@@ -1,6 +1,6 @@
 // The pages of the present sheet, made in slices: a class set has dozens.
-import { announce, element, show } from "../dom";
-import { countOf } from "../sheet";
+import { element, show } from "../dom";
+import { countOf } from "../list";
 import { inSlices, type Work } from "../slices";
 import { texts } from "../texts";
 import type { SheetRoute } from "../types";
@@ -11,7 +11,7 @@ export interface Preview {
     size: HTMLElement; // how many pages, in words
     stale: HTMLElement; // what is told while the pages are not of what stands in the form
     box: HTMLElement; // the pages
-    show(route: SheetRoute, isNews: boolean): void;
+    show(route: SheetRoute, shown: (size: string) => void): void;
     setStale(isStale: boolean): void;
     reach(): void; // puts the focus there
     finish(): void; // at once what is left to do
@@ -41,15 +41,16 @@ export function previewOf(page: Page): Preview {
             box.focus({ preventScroll: true });
             size.scrollIntoView();
         },
-        show(route, isNews) {
+        show(route, shown) {
+            // As high as before until it is filled again, so that nothing on the screen moves.
+            box.style.setProperty("min-block-size", `${box.offsetHeight}px`);
             clear();
             box.classList.remove("a4", "letter");
             box.classList.add(route.size.toLowerCase());
             const done = () => {
+                box.style.removeProperty("min-block-size");
                 show(size, texts.sheetSize(countOf(route.entries), route.versions, box.childElementCount));
-                if (isNews) {
-                    announce(size.textContent ?? "");
-                }
+                shown(size.textContent ?? "");
             };
             // Who goes to another view takes the box away.
             work = inSlices(leaves(box, route, page), () => box.isConnected, done);

@@ -1,8 +1,9 @@
 // What a sheet is to be: so many of each kind and level, the paper, the layout.
 import { button, element } from "../dom";
-import { isCount, isFew, isPaper, longestTitle, mostExercises, mostVersions } from "../sheet";
+import { isCount, mostExercises } from "../list";
+import { isFew, isPaper, longestTitle, mostVersions } from "../sheet";
 import { texts } from "../texts";
-import type { KindInfo, SheetRoute } from "../types";
+import type { KindInfo, SheetEntry, SheetRoute } from "../types";
 import { countFields } from "./counts";
 import { randomPaper } from "./page";
 import type { Problem } from "./problems";
@@ -10,11 +11,17 @@ import type { Problem } from "./problems";
 // A sheet, or why what stands in the fields is none.
 export type Reading = { route: SheetRoute } | { problems: Problem[] };
 
+export interface SheetForm {
+    element: HTMLElement;
+    read(): Reading;
+    pick(entries: SheetEntry[]): void; // others in their place, as many of each
+}
+
 // form
 //   fieldset      how many of each kind and level
 //   div.fields    the paper, versions, title and layout
 //   label         drawings
-export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => void): { element: HTMLElement; read(): Reading } {
+export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => void): SheetForm {
     const counts = countFields(opened.entries, kinds);
     const paper = element("input", { type: "text", inputmode: "numeric", value: opened.paper, autocomplete: "off" });
     const versions = element("input", { type: "number", min: 1, max: mostVersions, value: opened.versions });
@@ -92,7 +99,7 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
         return isFew(route) ? { route } : { problems: [{ field: lastNumber, sentence: texts.tooMany(mostExercises) }] };
     }
 
-    return { element: form, read };
+    return { element: form, read, pick: counts.pick };
 }
 
 function problemsIn(paper: HTMLInputElement, versions: HTMLInputElement, title: HTMLInputElement): Problem[] {

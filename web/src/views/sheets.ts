@@ -1,10 +1,12 @@
 // Sheets to print: what is chosen, and beside or below it the pages as they come out of the printer.
-import { button, element, show } from "../dom";
+import { announce, button, element, show } from "../dom";
+import { type Pick, picked } from "../picks";
 import { texts } from "../texts";
 import type { SheetRoute } from "../types";
 import { displayPanel } from "./display";
 import { filesPanel } from "./files";
 import type { Page } from "./page";
+import { focusTool, pickTools } from "./pick-tools";
 import { previewOf } from "./preview";
 import { problemMarks } from "./problems";
 import { sheetForm } from "./sheet-form";
@@ -21,6 +23,7 @@ const patience = 600; // more, so that nothing is called wrong that is still bei
 //   p.message        why there is no file
 //   p.size
 //   p.stale          while something in the form is wrong
+//   p.hint           how an exercise is replaced or moved
 //   section.leaves   the pages
 // Null for kinds that the library does not know.
 export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (() => void) | null {
@@ -64,15 +67,41 @@ export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (
             present = reading.route;
             page.stay(present);
             files.update(present);
-            preview.show(present, true);
+            preview.show(present, isMade);
         }
     }
 
     function restyle(): void {
         settle();
         if ("problems" in form.read()) {
-            preview.show(present, true);
+            preview.show(present, isMade);
         }
+    }
+
+    function isMade(size: string): void {
+        putTools();
+        announce(size);
+    }
+
+    function putTools(): void {
+        pickTools(preview.box, present, change);
+    }
+
+    // What is wrong in the form meanwhile stays so.
+    function change(at: number, pick: Pick): void {
+        const entries = picked(present.entries, at, pick);
+        if (entries === null) {
+            return;
+        }
+        present = { ...present, entries };
+        form.pick(entries);
+        page.stay(present);
+        files.update(present);
+        preview.show(present, () => {
+            putTools();
+            announce(texts.pickedNow[pick](at + 1));
+            focusTool(preview.box, pick === "another" ? at : pick === "up" ? at - 1 : at + 1, pick);
+        });
     }
 
     // However printing was asked for: what is still being typed or made belongs to what is printed.
@@ -88,11 +117,12 @@ export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (
     const title = element("div", { class: "title-line" }, heading, button(texts.pages, preview.reach, { class: "to-pages" }));
     const display = element("aside", { "aria-label": texts.display }, displayPanel(page, restyle));
     const actions = element("div", { class: "help" }, button(texts.printIt, () => window.print(), { class: "main" }), files.element);
+    const pickHint = element("p", { class: "hint pick-hint" }, texts.pickHint);
     show(
         main,
         element("article", { class: "sheets" }, title, form.element, display),
-        element("div", { class: "outcome" }, actions, message, preview.size, preview.stale, preview.box),
+        element("div", { class: "outcome" }, actions, message, preview.size, preview.stale, pickHint, preview.box),
     );
-    preview.show(opened, false);
+    preview.show(opened, () => putTools());
     return () => heading.focus();
 }

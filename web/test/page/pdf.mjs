@@ -61,7 +61,7 @@ export const letters = (text) => [...plain(text)].sort().join("");
 export function leafTexts() {
     return [...document.querySelectorAll(".leaf")].map((leaf) => {
         const seen = leaf.cloneNode(true);
-        seen.querySelectorAll(".spoken").forEach((one) => one.remove());
+        seen.querySelectorAll(".spoken, .picks").forEach((one) => one.remove());
         seen.querySelectorAll("ol").forEach((list) => [...list.children].forEach((item, at) => item.prepend(`${list.start + at}.`)));
         return seen.textContent;
     });

@@ -59,6 +59,7 @@ export const states = [
         await page.getByRole("spinbutton", { name: /^Acid-base titration, level 2/ }).fill("");
         await page.locator(".problem", { hasText: "Fill in" }).waitFor();
     }],
+    ["a sheet with the buttons of an exercise", "#sheet/4821/2*titration,titration@9", (page) => page.getByRole("button", { name: "Up with exercise 1" }).focus()],
     ["a sheet with two mistakes", "#sheet/4821/2*titration", async (page) => {
         await page.getByRole("spinbutton", { name: /^Dilution, level 2/ }).fill("0.5");
         await page.getByLabel("Versions", { exact: true }).fill("31");

@@ -1,7 +1,8 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
 import { addressOf, routeOf } from "../../src/address";
-import { exercisesOf, listOf, papersOf, usualSheet } from "../../src/sheet";
+import { listOf } from "../../src/list";
+import { exercisesOf, papersOf, usualSheet } from "../../src/sheet";
 import type { SheetRoute } from "../../src/types";
 
 const sheet: SheetRoute = { ...usualSheet, paper: 4821 };
