@@ -63,9 +63,24 @@ export function announce(text: string): void {
     }, 50);
 }
 
+// An element, or a line of one.
+export type Place = Pick<Element, "getBoundingClientRect">;
+
+// The last line of what is seen of an element.
+export function lastLineOf(element: Element): Place {
+    const range = document.createRange();
+    range.selectNodeContents(element.querySelector("[aria-hidden]") ?? element);
+    return { getBoundingClientRect: () => [...range.getClientRects()].pop() ?? element.getBoundingClientRect() };
+}
+
+// A finger's screen, where a field that has the focus brings up a keyboard.
+export function isTouched(): boolean {
+    return window.matchMedia("(pointer: coarse)").matches;
+}
+
 // Scrolls as little as shows everything from the first element to the last; where that is too much,
 // the beginning of it.
-export function bringIntoView(first: Element, last: Element): void {
+export function bringIntoView(first: Place, last: Place): void {
     const above = first.getBoundingClientRect().top - margin - seenWindow().top;
     const below = last.getBoundingClientRect().bottom + margin - seenWindow().bottom;
     if (above < 0 || below > 0) {
@@ -73,7 +88,7 @@ export function bringIntoView(first: Element, last: Element): void {
     }
 }
 
-export function fitIntoView(first: Element, last: Element): boolean {
+export function fitIntoView(first: Place, last: Place): boolean {
     const { top, bottom } = seenWindow();
     return last.getBoundingClientRect().bottom - first.getBoundingClientRect().top + 2 * margin <= bottom - top;
 }

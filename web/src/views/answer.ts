@@ -1,15 +1,18 @@
 // The field for an answer: its label and hint, the signs to insert, and what the page makes of what
 // is being typed. Nothing here knows chemistry: digits behind letters are set low, charges high.
-import { bringIntoView, button, element, show, spoken } from "../dom";
+import { bringIntoView, button, element, fitIntoView, isTouched, lastLineOf, show, spoken } from "../dom";
 import { bound, formulaNodes, plainUnit, spokenUnit, localUnit, typeset } from "../spans";
 import { texts } from "../texts";
 import type { Ask, Settings, Span } from "../types";
+
+export const markId = "mark";
 
 export interface AnswerField {
     element: HTMLElement;
     text(): string;
     worded(text: string): string; // as the reader has given it
     set(text: string): void;
+    setWrong(isWrong: boolean): void; // whether the text in it has a mark that is not right
     focus(): void;
 }
 
@@ -30,20 +33,21 @@ export function answerField(ask: Ask, settings: Settings, changed: () => void): 
 function choiceField(words: string[], changed: () => void): AnswerField {
     const radios = words.map((word) => element("input", { type: "radio", name: "answer", value: word }));
     const labels = words.map((word, at) => element("label", { class: "word" }, radios[at]!, texts.choiceOf[word] ?? word));
-    const box = element("fieldset", { class: "answer" }, element("legend", {}, texts.dissolves), ...labels);
+    const box = element("fieldset", { class: "answer", role: "radiogroup" }, element("legend", {}, texts.dissolves), ...labels);
     box.addEventListener("change", changed);
     return {
         element: box,
         text: () => radios.find((radio) => radio.checked)?.value ?? "",
         worded: (text) => texts.choiceOf[text] ?? text,
         set: (text) => radios.forEach((radio) => (radio.checked = radio.value === text)),
+        setWrong: wrongness(box, ""),
         focus: () => (radios.find((radio) => radio.checked) ?? radios[0]!).focus({ preventScroll: true }),
     };
 }
 
 // div.answer
 //   label
-//   div.field    what is asked for =, input, unit
+//   div.field    as wide as answers of this form are; what is asked for =, input, unit
 //   p#hint
 //   div.keys
 //   p.preview
@@ -51,12 +55,13 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
     const input = element("input", {
         id: "answer",
         type: "text",
+        inputmode: ask.form === "number" ? "decimal" : "text",
         autocapitalize: "off",
         autocorrect: "off",
         autocomplete: "off",
         spellcheck: "false",
         enterkeyhint: "go",
-        "aria-describedby": "hint",
+        "aria-describedby": hintId,
     });
     const preview = element("p", { class: "preview", hidden: true });
     const update = () => {
@@ -65,12 +70,13 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
         changed();
     };
     input.addEventListener("input", update);
+    input.addEventListener("focus", () => isTouched() && keepFieldInView());
     const box = element(
         "div",
         { class: "answer" },
         element("label", { for: "answer" }, ...labelOf(ask, settings)),
-        element("div", { class: "field" }, input, unitOf(ask, settings)),
-        element("p", { id: "hint", class: "hint" }, hintOf(ask, settings)),
+        element("div", { class: `field ${ask.form}` }, input, unitOf(ask, settings)),
+        element("p", { id: hintId, class: "hint" }, hintOf(ask, settings)),
         keysOf(ask, input, update),
         preview,
     );
@@ -82,16 +88,52 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
             input.value = text;
             showPreview(preview, ask, text, settings);
         },
+        setWrong: wrongness(input, hintId),
         focus: () => input.focus({ preventScroll: true }),
     };
 }
 
-// While the reader is typing: the field with its preview, and the button that checks it.
+// While the reader is typing: the field with its preview, the button that checks it, and, where there is
+// room, the last line of the question.
 export function keepFieldInView(): void {
     const focused = document.activeElement;
     const form = focused?.closest(".exercise form");
-    if (focused && form) {
-        bringIntoView(focused, form);
+    const prompt = form?.parentElement?.querySelector(".prompt");
+    if (focused && form && prompt) {
+        const first = [lastLineOf(prompt), form].find((place) => fitIntoView(place, form)) ?? focused;
+        bringIntoView(first, form);
+    }
+}
+
+const hintId = "hint";
+const settled = 200; // milliseconds, in which a screen reader has taken in where the focus has gone
+
+// Tells a screen reader that what stands in the field is wrong, and why. The mark is announced by itself:
+// a field that only now gets the focus is described by it later, so that it is not heard twice.
+function wrongness(field: HTMLElement, hint: string): (isWrong: boolean) => void {
+    let timer = 0;
+    return (isWrong) => {
+        window.clearTimeout(timer);
+        const describe = () => setOrRemove(field, "aria-describedby", `${hint} ${isWrong ? markId : ""}`.trim());
+        setOrRemove(field, "aria-invalid", isWrong ? "true" : "");
+        if (isWrong && isBesideField(field)) {
+            timer = window.setTimeout(describe, settled);
+        } else {
+            describe();
+        }
+    };
+}
+
+function isBesideField(field: HTMLElement): boolean {
+    const focused = document.activeElement;
+    return focused !== null && !field.contains(focused) && focused.closest("form") === field.closest("form");
+}
+
+function setOrRemove(target: Element, name: string, value: string): void {
+    if (value === "") {
+        target.removeAttribute(name);
+    } else {
+        target.setAttribute(name, value);
     }
 }
 

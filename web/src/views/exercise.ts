@@ -1,6 +1,6 @@
 // One exercise: the question, a field, the mark, the solution step by step; and what each press leads to.
 import { addressOf, atNumber, mainRoad, sideRoad } from "../address";
-import { announce, bringIntoView, button, element, fitIntoView, show } from "../dom";
+import { announce, bringIntoView, button, element, fitIntoView, isTouched, show } from "../dom";
 import { keepProgress, keepTyped, progressOf } from "../progress";
 import { addToRecord } from "../record";
 import { typesetLine } from "../spans";
@@ -8,9 +8,9 @@ import * as state from "../state";
 import { texts } from "../texts";
 import type { Exercise, Mark, PracticeRoute } from "../types";
 import { workAt } from "../working";
-import { type AnswerField, answerField } from "./answer";
+import { type AnswerField, answerField, markId } from "./answer";
 import { drawingOf } from "./drawing";
-import { headerOf } from "./head";
+import { headerOf, nameOf } from "./head";
 import { massesBelow } from "./masses-line";
 import { showMark, spokenMark, withoutStep } from "./mark";
 import type { Page } from "./page";
@@ -43,7 +43,8 @@ interface Parts {
     goOn: HTMLElement;
 }
 
-// Gives what puts the focus into the field.
+// Gives what puts the focus into the field, or, where that would bring up a keyboard over the question, says
+// where the reader has come to.
 export function showExercise(article: HTMLElement, place: Place): () => void {
     const work: Work = { ...place, progress: progressOf(place.route), mark: null };
     const parts = partsOf(work);
@@ -60,7 +61,7 @@ export function showExercise(article: HTMLElement, place: Place): () => void {
     if (place.route.set > 0) {
         workAt(place.route, work.progress.result === null);
     }
-    return () => parts.field.focus();
+    return () => (isTouched() ? announce(nameOf(place.route)) : parts.field.focus());
 }
 
 // header       h1 and what exercise it is
@@ -105,7 +106,7 @@ function partsOf(work: Work): Parts {
         field,
         check,
         form: element("form", { autocomplete: "off" }, field.element, check),
-        mark: element("p", { class: "mark", hidden: true }),
+        mark: element("p", { id: markId, class: "mark", hidden: true }),
         offer: element("p", { class: "offer", hidden: true }, texts.wouldHelp),
         help: element("div", { class: "help" }, step, answer),
         solution: element("section", { class: "solution", "aria-label": texts.solution, hidden: true }),
@@ -151,8 +152,9 @@ function update(work: Work, parts: Parts): void {
 
 function updateMark(work: Work, parts: Parts): void {
     const { marked } = work.progress;
-    const of = marked !== null && state.isMarkStale(work.progress) ? parts.field.worded(marked) : null;
-    showMark(parts.mark, markToShow(work), of, work.page);
+    const isStale = state.isMarkStale(work.progress);
+    showMark(parts.mark, markToShow(work), isStale && marked !== null ? parts.field.worded(marked) : null, work.page);
+    parts.field.setWrong(work.mark !== null && !isStale && work.mark.verdict !== "correct");
 }
 
 function check(work: Work, parts: Parts): void {

@@ -7,7 +7,7 @@ import type { Mark } from "../types";
 import type { Page } from "./page";
 
 // p.mark
-//   span         what is seen: .of where it was given for another text than stands in the field, the word,
+//   span         what is seen: .marked where it was given for another text than stands in the field, the word,
 //                the sentence
 //   .spoken
 export function showMark(line: HTMLElement, mark: Mark | null, of: string | null, page: Page): void {
@@ -18,7 +18,7 @@ export function showMark(line: HTMLElement, mark: Mark | null, of: string | null
     }
     line.dataset["verdict"] = mark.verdict;
     const word = element("strong", {}, texts.verdicts[mark.verdict] ?? "");
-    const text = of === null ? [] : [element("span", { class: "of" }, texts.markOf(of))];
+    const text = of === null ? [] : [element("span", { class: "marked" }, texts.markOf(of))];
     const seen = element("span", { "aria-hidden": "true" }, ...text, word, " ", seenSentence(mark.sentence, page.settings, page.names));
     const said = `${of === null ? "" : `${texts.markOf(of)}: `}${spokenMark(mark, page)}`;
     show(line, seen, wholeSpoken(said));

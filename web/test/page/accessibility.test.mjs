@@ -93,9 +93,59 @@ for (const { kind, levels } of (await openLesson()).kinds()) {
     });
 }
 
+const invalid = [
+    { kind: "titration:3", wrong: verdicts.wrong, right: verdicts.correct },
+    { kind: "titration:3", wrong: verdicts.figures, right: verdicts.correct },
+    { kind: "titration:3", wrong: verdicts.unreadable, right: verdicts.correct },
+    { kind: "ion-formula:3", wrong: "Zz^+", right: null },
+    { kind: "solubility:1", wrong: "no", right: "yes" },
+];
+const answerField = (page) => page.locator("#answer, .answer[role=radiogroup]");
+const descriptionOf = (field) => field.evaluate((one) => (one.getAttribute("aria-describedby") ?? "").split(" ").map((id) => document.getElementById(id)?.textContent ?? "").join(" "));
+
+for (const { kind, wrong, right } of invalid) {
+    for (const way of ["Enter", "Check"]) {
+        test(`${kind}, "${wrong}", ${way}: the field is invalid and tells the mark, until the text is another`, async () => {
+            const page = await openPage(browser, `#practice/4821/3/${kind}`);
+            const field = answerField(page);
+            const before = await descriptionOf(field);
+            assert.equal(await field.getAttribute("aria-invalid"), null, "new");
+            await type(page, wrong);
+            await (way === "Check" ? check(page) : page.keyboard.press("Enter"));
+            const said = await announced(page);
+            await page.locator("[aria-describedby~=mark]").waitFor();
+            assert.equal(await field.getAttribute("aria-invalid"), "true");
+            const described = await descriptionOf(field);
+            assert.ok(described.startsWith(before) && described.includes(said), described);
+            await type(page, right ?? lesson.exercise(4821, 3, kind).key.text);
+            assert.deepEqual([await field.getAttribute("aria-invalid"), await descriptionOf(field)], [null, before], "another text");
+            await type(page, wrong);
+            assert.deepEqual([await field.getAttribute("aria-invalid"), await descriptionOf(field)], ["true", described], "the same again");
+            await page.reload();
+            assert.deepEqual([await field.getAttribute("aria-invalid"), await descriptionOf(field)], ["true", described], "after a reload");
+            await type(page, right ?? lesson.exercise(4821, 3, kind).key.text);
+            await check(page);
+            await page.locator(".mark[data-verdict=correct]").waitFor();
+            assert.deepEqual([await field.getAttribute("aria-invalid"), await descriptionOf(field)], [null, before], "right");
+            await leave(page);
+        });
+    }
+}
+
+// Else a screen reader tells the mark twice: as the field's description, and as an announcement.
+test("where Check gives the focus to the field, the field does not tell the mark at that moment", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration:3");
+    await page.locator("#answer").evaluate((field) => field.addEventListener("focus", () => (window.toldAtFocus = field.getAttribute("aria-describedby"))));
+    await type(page, verdicts.wrong);
+    await check(page);
+    await page.locator("#answer:focus").waitFor();
+    assert.equal(await page.evaluate(() => window.toldAtFocus), "hint");
+    await leave(page);
+});
+
 test("choices are a group with a question", async () => {
     const page = await openPage(browser, "#practice/4821/3/solubility:1");
-    const group = page.getByRole("group", { name: "Does it dissolve?" });
+    const group = page.getByRole("radiogroup", { name: "Does it dissolve?" });
     assert.deepEqual(await group.getByRole("radio").count(), 2);
     await leave(page);
 });

@@ -3,7 +3,7 @@ import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { after, before, test } from "node:test";
 import { press, states } from "./states.mjs";
-import { leave, openChromium, openPage } from "./support.mjs";
+import { announced, leave, openChromium, openPage, panel } from "./support.mjs";
 
 let browser;
 before(async () => {
@@ -90,6 +90,70 @@ for (const [what, viewport] of [["a tablet, upright", { width: 768, height: 1024
             await isInView(page, ["#answer", ".preview", ".exercise form > button"]);
             await page.keyboard.press("Enter");
             await isInView(page, viewport.width < 500 ? [".mark"] : ["#answer", ".mark"]);
+            await leave(page);
+        }
+    });
+}
+
+const phone = { viewport: { width: 360, height: 740 }, hasTouch: true, isMobile: true, reducedMotion: "reduce" };
+const keyboard = 300; // pixels, of a usual one on a phone
+const openOnPhone = (hash) => openPage(browser, hash, phone);
+const withKeyboard = (page) => page.setViewportSize({ ...phone.viewport, height: phone.viewport.height - keyboard });
+const nothingFocused = (page) => page.evaluate(() => document.activeElement === document.body && scrollY === 0);
+
+test("on a phone nothing has the focus on arrival, by any way, and the question is in view", async () => {
+    const page = await openOnPhone("#practice/4821/3/titration:3");
+    assert.equal(await nothingFocused(page), true, "by the address");
+    const ways = [
+        ["Next", "Exercise 4"],
+        ["Another like this", "Another like exercise 4"],
+        ["Back to exercise 4", "Exercise 4"],
+    ];
+    for (const [name, heading] of ways) {
+        await press(page, name);
+        await page.getByRole("heading", { level: 1, name: heading, exact: true }).waitFor();
+        assert.equal(await nothingFocused(page), true, name);
+        await isInView(page, ["h1"]);
+        assert.equal(await announced(page), heading);
+    }
+    await panel(page, "Choose exercises").tap();
+    await page.getByRole("button", { name: "Start", exact: true }).tap();
+    await page.getByRole("heading", { level: 1, name: "Exercise 1", exact: true }).waitFor();
+    assert.equal(await nothingFocused(page), true, "Start");
+    await leave(page);
+});
+
+// The bottom of the question's last line; the field's top and bottom; of Check.
+function placesInView() {
+    const prompt = document.querySelector(".prompt > [aria-hidden]") ?? document.querySelector(".prompt");
+    const range = document.createRange();
+    range.selectNodeContents(prompt);
+    const line = [...range.getClientRects()].pop();
+    const edges = (selector) => {
+        const { top, bottom } = document.querySelector(selector).getBoundingClientRect();
+        return { top, bottom };
+    };
+    const seen = window.visualViewport;
+    return { line: { top: line.top, bottom: line.bottom }, field: edges("#answer"), preview: edges(".preview"), check: edges(".exercise form > button"), from: seen.offsetTop, to: seen.offsetTop + seen.height };
+}
+
+for (const kind of ["titration:3", "titration:1", "dilution:2", "concentration:3", "molar-mass:3", "compound-formula:3", "ion-formula:3", "solubility:3", "neutralisation:3"]) {
+    test(`${kind}, on a phone: where the field is tapped, it and Check are in view above the keyboard, and the question's last line if it fits`, async () => {
+        for (const order of ["focus, then keyboard", "keyboard, then focus"]) {
+            const page = await openOnPhone(`#practice/4821/3/${kind}`);
+            const [first, second] = order.startsWith("focus") ? [() => page.locator("#answer").tap(), () => withKeyboard(page)] : [() => withKeyboard(page), () => page.locator("#answer").focus()];
+            await first();
+            await second();
+            await page.waitForTimeout(100);
+            for (const step of [order, "typed"]) {
+                const { line, field, preview, check, from, to } = await page.evaluate(placesInView);
+                const where = `${step}: ${JSON.stringify({ line, field, check, from, to })}`;
+                assert.ok(field.top >= from && check.bottom <= to, where);
+                assert.ok(step !== "typed" || (preview.top >= field.bottom && preview.bottom <= check.top), where);
+                assert.ok(line.top >= from || check.bottom - line.top > to - from - 20, `the question, ${where}`);
+                await page.locator("#answer").fill("2e-2 CaSO4 -> H2O");
+                await page.waitForTimeout(100);
+            }
             await leave(page);
         }
     });

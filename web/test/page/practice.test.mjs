@@ -57,11 +57,11 @@ for (const { kind, text, other, of } of marked) {
         await type(page, text);
         await check(page);
         const [fresh, freshColour] = [await mark.ariaSnapshot(), await colour()];
-        assert.equal(await mark.locator(".of").count(), 0);
+        assert.equal(await mark.locator(".marked").count(), 0);
         for (const step of ["typed", "after a reload"]) {
             await (step === "typed" ? type(page, other) : page.reload());
-            await mark.locator(".of").waitFor();
-            assert.equal(await mark.locator(".of").innerText(), of, step);
+            await mark.locator(".marked").waitFor();
+            assert.equal(await mark.locator(".marked").innerText(), of, step);
             assert.ok((await mark.ariaSnapshot()).includes(`${of}: `), step);
             assert.notEqual(await colour(), freshColour, step);
         }
@@ -491,5 +491,51 @@ test("where no molar mass has to be worked out there is no line of masses", asyn
         const page = await openPage(browser, `#practice/4821/3/${kind}`);
         assert.equal(await page.locator(".masses").count(), 0, kind);
         await leave(page);
+    }
+});
+
+for (const { kind, levels } of (await openLesson()).kinds()) {
+    test(`${kind}: a field for numbers brings up a keypad of numbers, any other letters`, async () => {
+        for (const [at] of levels.entries()) {
+            const { ask } = lesson.exercise(4821, 3, `${kind}:${at + 1}`);
+            if (ask.choices === undefined) {
+                const page = await openPage(browser, `#practice/4821/3/${kind}:${at + 1}`);
+                assert.equal(await page.locator("#answer").getAttribute("inputmode"), ask.form === "number" ? "decimal" : "text", ask.form);
+                await leave(page);
+            }
+        }
+    });
+
+    // A keypad of numbers has digits and the decimal sign.
+    test(`${kind}: no number that is asked for needs another sign than a keypad has`, () => {
+        for (const [at] of levels.entries()) {
+            for (let number = 1; number <= 500; ++number) {
+                const { ask, key } = lesson.exercise(4821, number, `${kind}:${at + 1}`);
+                if (ask.form === "number") {
+                    assert.match(key.text.replace(` ${ask.unit}`, ""), /^\d+(\.\d+)?$/, `level ${at + 1}, exercise ${number}`);
+                }
+            }
+        }
+    });
+}
+
+test("the field is as wide as answers of its form are, whatever the answer, with its unit beside it", async () => {
+    const widths = new Map();
+    for (const [kind, numbers] of [["titration:3", [1, 2, 3]], ["molar-mass:2", [1, 2]], ["dilution:3", [1, 2]], ["compound-formula:2", [1, 2, 3]], ["ion-formula:2", [1, 2]], ["solubility:3", [1, 2]], ["neutralisation:2", [1, 2]]]) {
+        for (const number of numbers) {
+            const page = await openPage(browser, `#practice/4821/${number}/${kind}`);
+            const { form, unit } = lesson.exercise(4821, number, kind).ask;
+            const field = await page.locator("#answer").evaluate((one) => ({ ...one.getBoundingClientRect().toJSON(), em: parseFloat(getComputedStyle(one).fontSize), room: one.closest("form").clientWidth }));
+            widths.set(form, [...(widths.get(form) ?? []), form === "equation" ? field.width / field.room : field.width / field.em]);
+            if (unit !== undefined) {
+                const beside = await page.locator(".asked").boundingBox();
+                assert.ok(beside.x - field.right < field.em && beside.y < field.bottom && beside.y + beside.height > field.top, kind);
+            }
+            await leave(page);
+        }
+    }
+    for (const [form, [least, most]] of Object.entries({ number: [8, 10], formula: [10, 12], ion: [10, 12], solubility: [10, 12], equation: [0.99, 1] })) {
+        const found = widths.get(form);
+        assert.ok(found.every((width) => width >= least && width <= most), `${form}: ${found}`);
     }
 });
