@@ -1,6 +1,30 @@
-// Which items come on which page. Nothing here knows what an item is: only how high.
+// Which items come beside each other, and which on which page. Nothing here knows what an item is: only
+// how high, and whether it is half as wide as the page.
 
-// Items under a heading. Where they go on over a page, another heading may stand above the rest.
+// The items from `from` up to, not with, `to`: one, or two halves beside each other.
+export interface Row {
+    from: number;
+    to: number;
+    height: number;
+}
+
+// In order, so that the numbers run across and then down.
+export function rowsOf(items: { height: number; isHalf: boolean }[]): Row[] {
+    const rows: Row[] = [];
+    items.forEach(({ height, isHalf }, at) => {
+        const last = rows[rows.length - 1];
+        const hasRoom = last !== undefined && last.to - last.from === 1 && items[last.from]!.isHalf;
+        if (isHalf && hasRoom) {
+            last.to = at + 1;
+            last.height = Math.max(last.height, height);
+        } else {
+            rows.push({ from: at, to: at + 1, height });
+        }
+    });
+    return rows;
+}
+
+// Items, or rows of them, under a heading. Where they go on over a page, another heading may stand above the rest.
 export interface Heights {
     head: number;
     again: number;

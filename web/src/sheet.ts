@@ -17,7 +17,9 @@ export const usualSheet: Omit<SheetRoute, "paper"> = {
     title: "Chemical calculations",
     room: "some",
     masses: "shown",
+    columns: "auto",
     drawings: false,
+    marks: false,
     leaf: true,
     parts: "both",
     key: "line",
@@ -29,6 +31,7 @@ export const usualSheet: Omit<SheetRoute, "paper"> = {
 const choices = {
     room: ["some", "much", "none"],
     masses: ["shown", "table"],
+    columns: ["auto", "one"],
     parts: ["both", "sheet", "key"],
     key: ["line", "working"],
     keys: ["together", "apart"],
@@ -38,11 +41,11 @@ const choices = {
 type Choice = keyof typeof choices;
 
 // In an address 1 or 0; without it, what they usually are.
-const flags = ["drawings", "leaf"] as const;
+const flags = ["drawings", "marks", "leaf"] as const;
 
 type Flag = (typeof flags)[number];
 
-const written = ["versions", "title", "room", "masses", "drawings", "parts", "key", "keys", "leaf", "size"] as const;
+const written = ["versions", "title", "room", "masses", "columns", "drawings", "marks", "parts", "key", "keys", "leaf", "size"] as const;
 
 // Of the parts behind "#sheet/" and the options behind "?"; null where they name no sheet.
 export function sheetOf(parts: string[], options: URLSearchParams): SheetRoute | null {

@@ -152,6 +152,8 @@ export interface SheetRoute {
     room: "none" | "some" | "much"; // to write, below each exercise
     masses: "shown" | "table"; // those that are needed, or the word that the periodic table has them
     drawings: boolean;
+    columns: "auto" | "one"; // short questions and answers, two beside each other where they fit
+    marks: boolean; // how many each question is worth, and all of them
     leaf: boolean; // whether what is handed out apart begins on a new leaf, printed on both sides
     parts: "both" | "sheet" | "key";
     key: "line" | "working";

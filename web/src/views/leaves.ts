@@ -1,24 +1,29 @@
 // The pages of a sheet as they come out of the printer. Each is filled here, so that preview and print
 // break at the same places in every browser, and each page tells its paper.
 import { element } from "../dom";
-import { fill, type Part } from "../filling";
+import { agreedFigures, type Group, groupsOf } from "../asking";
+import { fill, type Part, type Row, rowsOf } from "../filling";
 import { exercisesOf, papersOf } from "../sheet";
 import { texts } from "../texts";
 import type { ElementInfo, Exercise, SheetRoute } from "../types";
 import type { Page } from "./page";
-import { exerciseItem, keyHead, keyHeadAgain, keyItem, labelOf, sheetHead, type Version } from "./printed";
+import { exerciseItem, keyItem } from "./printed";
+import { frameHead, keyHead, keyHeadAgain, labelOf, sheetHead, type Version } from "./printed-heads";
 
-// An element and how high it is on paper, in millimetres.
+// An element and how high it is on paper, in millimetres; whether another can stand beside it.
 interface Item {
     element: HTMLElement;
     height: number;
+    isHalf: boolean;
 }
 
-// Items under a heading, and what stands above those on a further page.
+// Items under headings, and what stands above those on a further page.
 interface Run {
-    head: Item;
-    again: Item | null;
+    head: Item[];
+    again: Item[];
     items: Item[];
+    rows: Row[];
+    first: number; // of its items, counted from 0
 }
 
 type Measure = (elements: HTMLElement[]) => Item[];
@@ -28,6 +33,7 @@ const atOnce = 25; // exercises that are made and measured in one step
 // In millimetres, as in sheet.css: the page without its margins and its running line, less what a line
 // that breaks otherwise in print than on the screen may need.
 const spare = 5;
+const oneLine = 11; // an item of the key that is higher has two
 const widths: Record<SheetRoute["size"], number> = { A4: 210, Letter: 215.9 };
 const capacities: Record<SheetRoute["size"], number> = { A4: 297 - 2 * 15 - 8 - spare, Letter: 279.4 - 2 * 15 - 8 - spare };
 
@@ -44,7 +50,7 @@ export function* leaves(box: HTMLElement, route: SheetRoute, page: Page): Genera
         const version: Version = { paper, number: at + 1, exercises: yield* exercisesOfPaper(paper, places, page) };
         const { sheet, key } = yield* runsOf(version, route, elements, measure, page);
         const label = labelOf(version, route);
-        put(label, leavesOf(label, [sheet], route));
+        put(label, leavesOf(label, sheet, route));
         keys.push({ label, run: key });
     }
     measuring.remove();
@@ -70,23 +76,44 @@ function blankSide(label: string): HTMLElement {
 }
 
 // What is not printed is not made.
-function* runsOf(version: Version, route: SheetRoute, elements: ElementInfo[], measure: Measure, page: Page): Generator<void, { sheet: Run; key: Run }> {
-    const heads: Item[] = [];
+function* runsOf(version: Version, route: SheetRoute, elements: ElementInfo[], measure: Measure, page: Page): Generator<void, { sheet: Run[]; key: Run }> {
+    const groups = groupsOf(version.exercises, route);
+    const frames = groups.map((group) => (group.frame === null ? null : frameHead(group, version, route, page)));
+    const headings = [sheetHead(version, route, elements, page), keyHead(version, route), keyHeadAgain(version, route)];
+    const [head, keyAtFirst, keyAgain, ...framed] = measure([...headings, ...frames.flatMap((frame) => frame ?? [])]);
     const sheet: Item[] = [];
     const key: Item[] = [];
     for (let from = 0; from < version.exercises.length; from += atOnce) {
-        const exercises = version.exercises.slice(from, from + atOnce);
-        const headings = from > 0 ? [] : [sheetHead(version, route, elements, page), keyHead(version, route), keyHeadAgain(version, route)];
-        const asked = route.parts === "key" ? [] : exercises.map((exercise) => exerciseItem(exercise, route, page));
-        const answered = route.parts === "sheet" ? [] : exercises.map((exercise) => keyItem(exercise, route, page));
-        const items = measure([...headings, ...asked, ...answered]);
-        heads.push(...items.splice(0, headings.length));
+        const asked = route.parts === "key" ? [] : askedItems(version, groups, from, route, page);
+        const answered = route.parts === "sheet" ? [] : version.exercises.slice(from, from + atOnce).map((exercise) => keyItem(exercise, route, page));
+        const items = measure([...asked, ...answered]);
         sheet.push(...items.splice(0, asked.length));
-        key.push(...items);
+        key.push(...items.map(alone));
         yield;
     }
-    const [head, keyAtFirst, keyAgain] = heads;
-    return { sheet: { head: head!, again: null, items: sheet }, key: { head: keyAtFirst!, again: keyAgain!, items: key } };
+    const runs = route.parts === "key" ? [] : groups.map((group, at) => runOf(at === 0 ? [head!] : [], group.frame === null ? [] : [framed.shift()!], sheet.slice(group.from, group.to), group.from));
+    return { sheet: runs, key: { ...runOf([keyAtFirst!], [], key, 0), again: [keyAgain!] } };
+}
+
+function askedItems({ exercises }: Version, groups: Group[], from: number, route: SheetRoute, page: Page): HTMLElement[] {
+    const saysFigures = agreedFigures(exercises) === null;
+    return exercises.slice(from, from + atOnce).map((exercise, at) => {
+        const group = groups.find(({ to }) => to > from + at);
+        return exerciseItem(exercise, { isFramed: group?.frame != null, saysFigures }, route, page);
+    });
+}
+
+function runOf(head: Item[], frame: Item[], items: Item[], first: number): Run {
+    return { head: [...head, ...frame], again: frame, items, rows: rowsOf(items), first };
+}
+
+// Where half of the width is not enough for one line, it has the whole.
+function alone(item: Item): Item {
+    if (!item.isHalf || item.height <= oneLine) {
+        return item;
+    }
+    item.element.classList.remove("half");
+    return { ...item, isHalf: false };
 }
 
 // Kinds that the library does not know were refused before.
@@ -103,10 +130,12 @@ function* exercisesOfPaper(paper: number, places: { kind: string; number: number
 
 function measureIn(measuring: HTMLElement, width: number): Measure {
     return (elements) => {
-        const list = element("ol", {}, ...elements.filter((one) => one.localName === "li"));
-        measuring.replaceChildren(...elements.filter((one) => one.localName !== "li"), list);
+        const isHalf = (one: HTMLElement) => one.className === "half";
+        const whole = element("ol", {}, ...elements.filter((one) => one.localName === "li" && !isHalf(one)));
+        const halves = element("ol", { class: "halves" }, ...elements.filter(isHalf));
+        measuring.replaceChildren(...elements.filter((one) => one.localName !== "li"), whole, halves);
         const millimetre = measuring.getBoundingClientRect().width / width;
-        return elements.map((one) => ({ element: one, height: one.getBoundingClientRect().height / millimetre }));
+        return elements.map((one) => ({ element: one, height: one.getBoundingClientRect().height / millimetre, isHalf: isHalf(one) }));
     };
 }
 
@@ -120,10 +149,10 @@ function keysApart(keys: { label: string; run: Run }[], route: SheetRoute): { la
 
 // div.leaf
 //   p.running
-//   div.head, ol   for each part
+//   div.head, p.frame, ol   for each part
 function leavesOf(label: string, runs: Run[], route: SheetRoute): HTMLElement[] {
     const pages = fill(
-        runs.map(({ head, again, items }) => ({ head: head.height, again: again?.height ?? 0, items: items.map((item) => item.height) })),
+        runs.map(({ head, again, rows }) => ({ head: heightOf(head), again: heightOf(again), items: heightsOf(rows) })),
         capacities[route.size],
     );
     return pages.map((parts, at) => {
@@ -132,8 +161,14 @@ function leavesOf(label: string, runs: Run[], route: SheetRoute): HTMLElement[] 
     });
 }
 
-function partOf({ from, to }: Part, { head, again, items }: Run): HTMLElement[] {
-    const list = element("ol", { start: from + 1 }, ...items.slice(from, to).map((item) => item.element));
-    const heading = from === 0 ? head.element : (again?.element.cloneNode(true) as HTMLElement | undefined);
-    return heading === undefined ? [list] : [heading, list];
+function partOf(part: Part, { head, again, items, rows, first }: Run): HTMLElement[] {
+    const [from, to] = [rows[part.from]!.from, rows[part.to - 1]!.to];
+    const shown = items.slice(from, to);
+    const columns = shown.some((item) => item.isHalf) ? { class: "columns" } : {};
+    const list = element("ol", { start: first + from + 1, ...columns }, ...shown.map((item) => item.element));
+    const headings = from === 0 ? head.map((item) => item.element) : again.map((item) => item.element.cloneNode(true));
+    return [...(headings as HTMLElement[]), list];
 }
+
+const heightsOf = (all: { height: number }[]) => all.map(({ height }) => height);
+const heightOf = (all: { height: number }[]) => heightsOf(all).reduce((sum, height) => sum + height, 0);

@@ -1,95 +1,93 @@
-// What is printed of a version: its exercises, and its key with the same numbers. On paper there is no
-// field and no mark, so it is all text.
+// What is printed of an exercise: the question with its room to write, and the answer in the key. On paper
+// there is no field and no mark, so it is all text.
+import { ownPartOf } from "../asking";
 import { element } from "../dom";
-import { massesNeeded } from "../masses";
+import { marksOf } from "../marks";
 import { spansOfSentence } from "../sentence";
-import { typesetLine } from "../spans";
+import { seenOf, typesetLine } from "../spans";
 import { texts } from "../texts";
-import type { ElementInfo, Exercise, Form, SheetRoute, Span } from "../types";
+import type { Ask, Exercise, Form, SheetRoute, Span } from "../types";
 import { drawingOf } from "./drawing";
-import { massesLine } from "./masses-line";
 import type { Page } from "./page";
 
-export interface Version {
-    paper: number;
-    number: number; // from 1
-    exercises: Exercise[];
+// How the question stands on its sheet.
+export interface Place {
+    isFramed: boolean; // the words that it shares with others stand above them
+    saysFigures: boolean; // how many are wanted is not said above
 }
 
-// Lines to write on, by the form of the answer.
+// Lines to write on, by the form of the answer; the last of them is for the answer.
 const lines: Record<SheetRoute["room"], Record<Form, number>> = {
     none: { number: 0, equation: 0, formula: 0, ion: 0, solubility: 0 },
     some: { number: 4, equation: 2, formula: 1, ion: 1, solubility: 1 },
     much: { number: 8, equation: 3, formula: 2, ion: 2, solubility: 2 },
 };
 
-// div.head
-//   h2, p.blanks, p.masses
-export function sheetHead(version: Version, route: SheetRoute, elements: ElementInfo[], page: Page): HTMLElement {
-    const masses = massesNeeded(version.exercises, elements);
-    return element(
-        "div",
-        { class: "head" },
-        ...(route.title.trim() === "" ? [] : [element("h2", {}, route.title)]),
-        element("p", { class: "blanks" }, blank(texts.nameBlank, "wide"), blank(texts.dateBlank, "")),
-        ...(masses.length === 0 ? [] : [massesOf(masses, route, page)]),
-    );
-}
-
-// div.head
-//   p.of     the sheet's title; once where keys follow each other
-//   h2
-export function keyHead(version: Version, route: SheetRoute): HTMLElement {
-    const isFirst = version.number === 1 || route.keys === "apart";
-    const title = isFirst && route.title.trim() !== "" ? [element("p", { class: "of" }, route.title)] : [];
-    return element("div", { class: "head key" }, ...title, element("h2", {}, texts.keyTo(labelOf(version, route))));
-}
-
-// Above what did not fit on the page before.
-export function keyHeadAgain(version: Version, route: SheetRoute): HTMLElement {
-    return element("div", { class: "head" }, element("p", { class: "again" }, texts.continued(texts.keyTo(labelOf(version, route)))));
-}
-
-export function labelOf(version: Version, route: SheetRoute): string {
-    return route.versions === 1 ? texts.paper(version.paper) : texts.paperAndVersion(version.paper, version.number);
-}
-
-function blank(label: string, kind: string): HTMLElement {
-    return element("span", { class: `blank ${kind}` }, label);
-}
-
-// Where the table is used, the sheet says so, lest a pupil looks for them on it.
-function massesOf(masses: ElementInfo[], route: SheetRoute, page: Page): HTMLElement {
-    return route.masses === "table" ? element("p", { class: "masses" }, texts.useTheTable) : massesLine(masses, page);
-}
-
-// li
-//   p.asks, figure, div.rules
-export function exerciseItem(exercise: Exercise, route: SheetRoute, page: Page): HTMLElement {
+// li, or li.half beside another
+//   p.asks       the question, its figures and its marks
+//   figure
+//   div.rule     as many as there is room for
+//   p.answer-line
+export function exerciseItem(exercise: Exercise, place: Place, route: SheetRoute, page: Page): HTMLElement {
+    const { ask } = exercise;
+    const count = lines[route.room][ask.form];
     const drawing = route.drawings ? drawingOf(exercise, page.settings) : null;
-    const rules = Array.from({ length: lines[route.room][exercise.ask.form] }, () => element("div", { class: "rule" }));
-    return element(
-        "li",
-        {},
-        element("p", { class: "asks" }, ...typesetLine(exercise.prompt, page.settings)),
-        ...(drawing === null ? [] : [drawing]),
-        ...(rules.length === 0 ? [] : [element("div", { class: "rules" }, ...rules)]),
-    );
+    if (place.isFramed) {
+        return framedItem(exercise, count, page);
+    }
+    const figures = place.saysFigures && ask.figures !== undefined ? [{ text: ` ${texts.figures(ask.figures)}` }] : [];
+    const question = typesetLine([...exercise.prompt, ...figures], page.settings);
+    const marks = route.marks ? texts.worth(marksOf(exercise)) : "";
+    return element("li", {}, line("asks", question, marks), ...(drawing === null ? [] : [drawing]), ...roomFor(ask, count, page));
+}
+
+// Where one line is enough, the answer stands beside what it is of.
+function framedItem(exercise: Exercise, count: number, page: Page): HTMLElement {
+    const own = typesetLine(ownPartOf(exercise), page.settings);
+    if (count !== 1) {
+        return element("li", { class: "half" }, element("p", { class: "asks" }, ...own), ...roomFor(exercise.ask, count, page));
+    }
+    return element("li", { class: "half" }, element("p", { class: "asks beside" }, element("span", {}, ...own), gap()));
 }
 
 export function keyItem(exercise: Exercise, route: SheetRoute, page: Page): HTMLElement {
-    return route.key === "line" ? lineItem(exercise, page) : workedItem(exercise, page);
-}
-
-function lineItem(exercise: Exercise, page: Page): HTMLElement {
-    return element("li", {}, element("p", { class: "asks" }, ...answerOf(exercise, page)));
-}
-
-function workedItem(exercise: Exercise, page: Page): HTMLElement {
+    const answer = answerOf(exercise, page);
+    const marks = route.marks ? texts.worthInKey(marksOf(exercise)) : "";
+    if (route.key === "line") {
+        return element("li", route.columns === "auto" ? { class: "half" } : {}, line("asks brief", answer, marks));
+    }
     const steps = exercise.solution.map((step) =>
         element("p", { class: "step" }, ...typesetLine([...step.say, { text: "\u2003" }, ...(step.math ?? [])], page.settings)),
     );
-    return element("li", {}, ...steps, element("p", { class: "result" }, ...answerOf(exercise, page)));
+    return element("li", {}, ...steps, line("result brief", answer, marks));
+}
+
+// The marks stand in a margin of their own, at the end of the last line.
+function line(kind: string, content: Node[], marks: string): HTMLElement {
+    if (marks === "") {
+        return element("p", { class: kind }, ...content);
+    }
+    return element("p", { class: `${kind} marked` }, ...content, element("span", { class: "marks" }, marks));
+}
+
+function roomFor(ask: Ask, count: number, page: Page): HTMLElement[] {
+    if (count === 0) {
+        return [];
+    }
+    const rules = Array.from({ length: count - 1 }, () => element("div", { class: "rule" }));
+    return [...rules, answerLine(ask, page)];
+}
+
+// p.answer-line     "c(KOH) = ____ mol/L", "Answer: ____"
+// For the pen alone: what it says, the question says as well.
+function answerLine({ quantity, of, unit }: Ask, page: Page): HTMLElement {
+    const before = quantity === undefined ? [{ text: `${texts.key}:` }] : [quantityOf(quantity, of), { text: " =" }];
+    const behind = unit === undefined ? [] : [seenOf([{ unit }], page.settings)];
+    return element("p", { class: "answer-line", "aria-hidden": "true" }, element("span", {}, seenOf(before, page.settings)), gap(), ...behind);
+}
+
+function gap(): HTMLElement {
+    return element("span", { class: "gap" });
 }
 
 // "c(KOH) = 0.290 mol/L", "Ca(OH)2", "yes".

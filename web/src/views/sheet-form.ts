@@ -20,16 +20,19 @@ export interface SheetForm {
 // form
 //   fieldset      how many of each kind and level
 //   div.fields    the paper, versions, title and layout
-//   label         drawings
+//   label, label  drawings, marks
+//   div           a new leaf
 export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => void): SheetForm {
     const counts = countFields(opened.entries, kinds);
     const paper = element("input", { type: "text", inputmode: "numeric", value: opened.paper, autocomplete: "off" });
     const versions = element("input", { type: "number", min: 1, max: mostVersions, value: opened.versions });
     const title = element("input", { type: "text", maxlength: longestTitle, value: opened.title, autocomplete: "off" });
     const drawings = element("input", { type: "checkbox", checked: opened.drawings });
+    const marks = element("input", { type: "checkbox", checked: opened.marks });
     const leaf = element("input", { type: "checkbox", id: "new-leaf", checked: opened.leaf });
     const room = choice(texts.rooms, opened.room);
     const masses = choice(texts.massesOf, opened.masses);
+    const columns = choice(texts.shortQuestionsOf, opened.columns);
     const parts = choice(texts.partsOf, opened.parts);
     const key = choice(texts.keyForms, opened.key);
     const keys = choice(texts.keysOf, opened.keys);
@@ -51,12 +54,14 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
             hinted(labelled("sheet-title", texts.sheetTitle, title), title, texts.titleHint),
             labelled("room", texts.room, room),
             labelled("masses", texts.massesLine, masses),
+            labelled("columns", texts.shortQuestions, columns),
             labelled("parts", texts.parts, parts),
             labelled("key", texts.keyForm, key),
             labelled("keys", texts.keys, keys),
             labelled("size", texts.pageSize, size),
         ),
         element("label", { class: "word" }, drawings, texts.withDrawings),
+        element("label", { class: "word" }, marks, texts.withMarks),
         hinted(element("div", {}, element("label", { class: "word" }, leaf, texts.newLeaf)), leaf, texts.newLeafHint),
     );
 
@@ -90,6 +95,8 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
             room: room.value as SheetRoute["room"],
             masses: masses.value as SheetRoute["masses"],
             drawings: drawings.checked,
+            columns: columns.value as SheetRoute["columns"],
+            marks: marks.checked,
             leaf: leaf.checked,
             parts: parts.value as SheetRoute["parts"],
             key: key.value as SheetRoute["key"],

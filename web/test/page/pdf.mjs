@@ -12,7 +12,8 @@ export function pageSize(pdf) {
 }
 
 // A page: its lines from top to bottom, each with its `text` without blanks, its `top` and `bottom` in
-// millimetres from the upper edge, and its `left` and `right` from the left one. Small and raised or lowered words belong to the line that they are at.
+// millimetres from the upper edge, and its `left` and `right` from the left one. Small and raised or
+// lowered words belong to the line that they are at; what stands in two columns is two lines.
 export function pagesOf(pdf) {
     const pages = read("pdftotext", ["-bbox", "-", "-"], pdf, "utf8").split("<page ").slice(1);
     return pages.map((page) => linesOf([...page.matchAll(/xMin="([\d.-]+)" yMin="([\d.-]+)" xMax="([\d.-]+)" yMax="([\d.-]+)">(.*?)<\/word>/g)]));
@@ -37,11 +38,25 @@ function linesOf(words) {
     }
     return lines
         .sort((one, other) => one.top - other.top)
-        .map(({ top, bottom, words: inside }) => {
-            const inOrder = inside.sort((one, other) => one.left - other.left);
-            const right = Math.max(...inside.map((word) => word.right));
-            return { top, bottom, left: inOrder[0].left, right, text: inOrder.map((word) => word.text).join("") };
+        .flatMap(({ top, bottom, words: inside }) => {
+            return columnsOf(inside.sort((one, other) => one.left - other.left)).map((inOrder) => {
+                const right = Math.max(...inOrder.map((word) => word.right));
+                return { top, bottom, left: inOrder[0].left, right, text: inOrder.map((word) => word.text).join("") };
+            });
         });
+}
+
+// A number of an exercise behind a gap begins another line, that of the second column.
+function columnsOf(words) {
+    const columns = [];
+    words.forEach((word, at) => {
+        const isNext = at > 0 && /^\d+\.$/.test(word.text) && word.left - words[at - 1].right > 2;
+        if (at === 0 || isNext) {
+            columns.push([]);
+        }
+        columns.at(-1).push(word);
+    });
+    return columns;
 }
 
 const height = ({ top, bottom }) => bottom - top;

@@ -54,6 +54,7 @@ export const states = [
     ["a bad address", "#practice/0/1/titration", async () => {}],
     ["the sheets", "#sheet", async () => {}],
     ["a sheet with drawings, room and a worked key", "#sheet/4821/titration:3,dilution:1,molar-mass:3,solubility:1,ion-formula?drawings=1&key=working&v=1", async () => {}],
+    ["a sheet in two columns, with marks", "#sheet/4821/6*ion-formula,4*molar-mass:3,titration?marks=1&masses=table&v=1", async () => {}],
     ["a sheet in versions", "#sheet/4821/3*titration?versions=3&size=Letter&v=1", async () => {}],
     ["a sheet of nothing", "#sheet/4821/2*titration", async (page) => {
         await page.getByRole("spinbutton", { name: /^Acid-base titration, level 2/ }).fill("");

@@ -1,6 +1,6 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { fill, type Heights } from "../../src/filling";
+import { fill, type Heights, rowsOf } from "../../src/filling";
 
 // "0-1 | 2" are items 0 and 1 on the first page and item 2 on the second; "A" the run.
 function pages(runs: Heights[], capacity: number): string {
@@ -37,3 +37,21 @@ test("every item comes once and in order, however high", () => {
         assert.deepEqual(parts.flatMap(({ from, to }) => items.slice(from, to)), items, `seed ${seed}`);
     }
 });
+
+// "a" is a half, "A" as wide as the page; each as high as its number.
+const items = (text: string) => text.split(" ").map((one) => ({ height: Number(one.slice(1)), isHalf: one.startsWith("a") }));
+
+const inRows: [string, string][] = [
+    ["A5 A6", "0:5 1:6"],
+    ["a5 a6", "0-1:6"],
+    ["a6 a5 a4", "0-1:6 2:4"],
+    ["A9 a5 a6 A1", "0:9 1-2:6 3:1"],
+    ["a5 A6 a7 a8", "0:5 1:6 2-3:8"],
+    ["a1 a2 a3 a4 A5 a6", "0-1:2 2-3:4 4:5 5:6"],
+];
+for (const [given, expected] of inRows) {
+    test(`rows of ${given}`, () => {
+        const rows = rowsOf(items(given)).map(({ from, to, height }) => `${to - from === 1 ? from : `${from}-${to - 1}`}:${height}`);
+        assert.equal(rows.join(" "), expected);
+    });
+}
