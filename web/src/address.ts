@@ -1,4 +1,5 @@
 // The address behind the "#", to a route and back. Whatever it holds, it stays text.
+import { countOf, isList, readList } from "./list";
 import { sheetAddress, sheetOf } from "./sheet";
 import type { ExerciseLeft, PracticeRoute, Route, SheetRoute } from "./types";
 import { texts } from "./texts";
@@ -74,14 +75,15 @@ export function sideRoad(route: PracticeRoute, kind: string): PracticeRoute {
 }
 
 function practice(parts: string[], options: URLSearchParams): Route {
-    const [paper, number, kinds] = parts;
-    const [set, back] = [options.get("set"), options.get("back")];
+    const [paper, number, kinds = ""] = parts;
+    const back = options.get("back");
     const left = back === null ? null : exerciseLeft(back);
-    if (parts.length !== 3 || !isNumber(paper) || !isNumber(number) || !isKinds(kinds)) {
+    const set = setOf(kinds, options);
+    if (parts.length !== 3 || !isNumber(paper) || !isNumber(number) || set === null) {
         return bad();
     }
     // No side road leads out of a set.
-    if ((set !== null && !isSet(set)) || (back !== null && (left === null || set !== null))) {
+    if (back !== null && (left === null || set > 0)) {
         return bad();
     }
     if (isOfOtherVersion(options)) {
@@ -92,9 +94,20 @@ function practice(parts: string[], options: URLSearchParams): Route {
         paper: Number(paper),
         number: Number(number),
         kinds,
-        set: set === null ? 0 : Number(set),
+        set,
         ...(left === null ? {} : { back: left }),
     };
+}
+
+// A list is a set of as many exercises as it names, whatever else the address says. Null where there are no
+// kinds or no length.
+function setOf(kinds: string, options: URLSearchParams): number | null {
+    if (isList(kinds)) {
+        const entries = readList(kinds);
+        return entries === null ? null : countOf(entries);
+    }
+    const set = options.get("set") ?? "0";
+    return isKinds(kinds) && (!options.has("set") || isSet(set)) ? Number(set) : null;
 }
 
 // "4:titration:1,dilution" is exercise 4 of these kinds.
@@ -126,8 +139,8 @@ function isNumber(text: string | undefined): boolean {
     return text !== undefined && /^[1-9]\d{0,5}$/.test(text) && Number(text) <= greatest;
 }
 
-function isKinds(text: string | undefined): text is string {
-    return text !== undefined && /^[a-z0-9:,-]+$/.test(text);
+function isKinds(text: string): boolean {
+    return /^[a-z0-9:,-]+$/.test(text);
 }
 
 function isSet(text: string): boolean {

@@ -18,6 +18,15 @@ export function listOf(entries: SheetEntry[]): string {
         .join(",");
 }
 
+// With each count spelt out, so that it is never taken for a choice of kinds: "4*titration,1*dilution:1@7".
+export function spelt(entries: SheetEntry[]): string {
+    return entries.map((entry) => (entry.count === 1 ? `1*${listOf([entry])}` : listOf([entry]))).join(",");
+}
+
+export function isList(kinds: string): boolean {
+    return /[*@]/.test(kinds);
+}
+
 // As the library reads a kind: "titration", "dilution:1".
 export function kindOf({ kind, level }: { kind: string; level: number }): string {
     return level === usualLevel ? kind : `${kind}:${level}`;

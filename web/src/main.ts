@@ -4,6 +4,7 @@ import { addressOf, mainRoad, routeOf } from "./address";
 import { byId, element, show } from "./dom";
 import { lessonOf } from "./engine/lesson";
 import { instantiate, unpacked } from "./engine/memory";
+import { withLists } from "./lists";
 import { namesOf } from "./sentence";
 import * as storage from "./storage";
 import { usualSheet } from "./sheet";
@@ -113,7 +114,7 @@ function showBad(of: "practice" | "sheet", message: string, page: Page): Focus {
 
 // Null for kinds that the library does not know. Behind the last exercise of a set is its summary.
 function showExercise(route: PracticeRoute, page: Page): Focus | null {
-    const exercise = page.lesson.exercise(route.paper, route.number, route.kinds);
+    const exercise = page.lesson.exercise(route.paper, isSummary(route) ? route.set : route.number, route.kinds);
     if (exercise === null || !leadsBack(route, page)) {
         return null;
     }
@@ -173,7 +174,7 @@ function keepClock(): void {
 async function start(): Promise<void> {
     const instantiated = instantiate(await unpacked(packed));
     storage.open(); // while the module is compiled
-    const page = pageOf(lessonOf(await instantiated));
+    const page = pageOf(withLists(lessonOf(await instantiated)));
     rememberPlaces();
     render(page);
     window.addEventListener("hashchange", () => open(page));

@@ -1,6 +1,6 @@
 // What a sheet is, as data: its address and back, its papers, its exercises in order.
-import { countOf, isCount, kindOf, listOf, mostExercises, oneByOne, readList } from "./list";
-import type { SheetEntry, SheetRoute } from "./types";
+import { countOf, isCount, kindOf, listOf, mostExercises, oneByOne, readList, spelt } from "./list";
+import type { PracticeRoute, SheetEntry, SheetRoute } from "./types";
 
 export const mostVersions = 30;
 export const longestTitle = 80;
@@ -80,6 +80,11 @@ export function sheetAddress(route: SheetRoute, version: number): string {
     }
     options.set("v", String(version));
     return `#sheet/${route.paper}/${listOf(route.entries)}?${options}`;
+}
+
+// The same exercises as a set, for one of the versions.
+export function practiceOf({ entries }: SheetRoute, paper: number): PracticeRoute {
+    return { view: "practice", paper, number: 1, kinds: spelt(entries), set: countOf(entries) };
 }
 
 // One a version, consecutive; behind the greatest comes 1.

@@ -125,7 +125,7 @@ export interface PracticeRoute {
     view: "practice";
     paper: number;
     number: number;
-    kinds: string; // as the library reads it: "titration:1,dilution", "mixed"
+    kinds: string; // "titration:1,dilution", "mixed"; or a list, "4*titration:1,1*dilution@7", which is a set
     set: number; // so many exercises and then a summary; 0 without end
     back?: ExerciseLeft; // on a side road: the exercise of the same paper that was left for it
 }

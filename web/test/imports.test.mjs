@@ -19,8 +19,9 @@ const allowed = {
     "sets": ["address", "state", "storage", "types"],
     "working": ["address", "clock", "sets", "types"],
     "summary": ["sets", "texts", "types"],
-    "address": ["sheet", "texts", "types"],
+    "address": ["list", "sheet", "texts", "types"],
     "list": ["types"],
+    "lists": ["list", "types"],
     "picks": ["list", "types"],
     "sheet": ["list", "types"],
     "masses": ["types"],
@@ -45,7 +46,7 @@ const allowed = {
         "address", "dom", "spans", "progress", "record", "state", "texts", "types", "working",
         "views/answer", "views/drawing", "views/head", "views/mark", "views/masses-line", "views/page", "views/solution",
     ],
-    "views/files": ["dom", "list", "sheet", "texts", "types", "views/page"],
+    "views/files": ["address", "dom", "list", "sheet", "texts", "types", "views/page"],
     "views/head": ["dom", "texts", "types", "views/page"],
     "views/leaves": ["asking", "dom", "filling", "sheet", "texts", "types", "views/page", "views/printed", "views/printed-heads"],
     "views/mark": ["dom", "sentence", "spans", "texts", "types", "views/page"],
@@ -73,7 +74,7 @@ const allowed = {
     "views/ions": ["dom", "spans", "texts", "types", "views/page"],
     "views/solubility": ["dom", "sentence", "spans", "texts", "types", "views/page"],
     "main": [
-        "address", "dom", "engine/lesson", "engine/memory", "lesson.bin", "sentence", "sheet", "storage", "texts", "types",
+        "address", "dom", "engine/lesson", "engine/memory", "lesson.bin", "lists", "sentence", "sheet", "storage", "texts", "types",
         "views/answer", "views/head", "views/message", "views/page", "views/practice", "views/sheets", "views/summary", "views/tables", "working",
     ],
 };

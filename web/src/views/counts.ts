@@ -72,6 +72,6 @@ function countRows(counts: CountField[], kinds: KindInfo[]): HTMLElement {
 }
 
 function meanings({ levels }: KindInfo): HTMLElement {
-    const parts = levels.flatMap((text, at) => [element("b", {}, String(at + 1)), `\u00A0${text}${at < levels.length - 1 ? "; " : ""}`]);
+    const parts = levels.flatMap((text, at) => [element("strong", {}, String(at + 1)), `\u00A0${text}${at < levels.length - 1 ? "; " : ""}`]);
     return element("p", { class: "meanings", "aria-hidden": "true" }, ...parts);
 }

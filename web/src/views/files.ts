@@ -1,7 +1,8 @@
-// The exercises of a sheet as files for other programs, a version a file.
+// The exercises of a sheet elsewhere, a version at a time: as files for other programs, and as a set to practise.
+import { addressOf } from "../address";
 import { button, element, save, show } from "../dom";
 import { listOf } from "../list";
-import { papersOf } from "../sheet";
+import { papersOf, practiceOf } from "../sheet";
 import { texts } from "../texts";
 import type { ExportFormat, SheetRoute } from "../types";
 import type { Page } from "./page";
@@ -11,11 +12,14 @@ const endings: Record<ExportFormat, string> = { moodle: "xml", anki: "txt" };
 // div.files
 //   label, select    which version, where there are several
 //   button, button
+//   a                the set
 // Says by `complain` why there is no file, and nothing where there is one.
 export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: string) => void): { element: HTMLElement; update(route: SheetRoute): void } {
     let present = opened;
     const version = element("select", { id: "version" });
     const which = element("div", { class: "which-version" }, element("label", { for: "version" }, texts.fileOf), version);
+
+    const practise = element("a", { class: "practise" }, texts.practiseSheet);
 
     function download(format: ExportFormat): void {
         const paper = Number(version.value);
@@ -26,6 +30,10 @@ export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: 
         }
     }
 
+    function link(): void {
+        practise.href = addressOf(practiceOf(present, Number(version.value)));
+    }
+
     function update(route: SheetRoute): void {
         const chosen = version.value;
         const papers = papersOf(route);
@@ -33,9 +41,11 @@ export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: 
         show(version, ...options);
         which.hidden = papers.length === 1;
         present = route;
+        link();
     }
 
+    version.addEventListener("change", link);
     update(opened);
     const buttons = [button(texts.moodle, () => download("moodle")), button(texts.anki, () => download("anki"))];
-    return { element: element("div", { class: "files" }, which, ...buttons), update };
+    return { element: element("div", { class: "files" }, which, ...buttons, practise), update };
 }

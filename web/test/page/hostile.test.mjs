@@ -20,6 +20,15 @@ const addresses = [
     "#practice/1/1/titration,titration:2",
     "#practice/1/1/mixed,titration",
     "#practice/1/1/mixed?v=2",
+    "#practice/1/1/1*alchemy",
+    "#practice/1/1/1*titration,1*alchemy",
+    "#practice/1/1/1*mixed",
+    "#practice/1/1/2*titration,1*titration@2",
+    "#practice/1/1/1001*titration",
+    "#practice/1/1/titration@0",
+    "#practice/1/1/1*titration@1000000",
+    `#practice/1/1/1*${encoded}`,
+    `#practice/1/1/titration@${encoded}`,
     `#practice/${encoded}/1/mixed`,
     `#practice/1/${encoded}/mixed`,
     `#practice/1/1/${encoded}`,
@@ -61,6 +70,10 @@ const sheets = [
     `#sheet/4821/titration?size=${encoded}`,
     `#sheet/4821/titration?title=${"x".repeat(81)}`,
     "#sheet/4821/titration?v=2",
+    "#sheet/4821/2*titration,titration@2",
+    "#sheet/4821/titration@0",
+    "#sheet/4821/2*titration@999999",
+    `#sheet/4821/titration@${encoded}`,
 ];
 
 for (const hash of sheets) {

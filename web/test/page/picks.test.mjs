@@ -115,7 +115,7 @@ test("what is picked holds for all versions, in print, in the key and in the fil
             assert.ok(all.includes(text), `${paper}: ${text}`);
         }
     }
-    await page.getByLabel("Version to save").selectOption("4822");
+    await page.getByLabel("Version to save or practise").selectOption("4822");
     const [download] = await Promise.all([page.waitForEvent("download"), page.getByRole("button", { name: "Anki cards" }).click()]);
     assert.equal(await readFile(await download.path(), "utf8"), lesson.exportText(4822, list, "anki"));
     await leave(page);

@@ -543,7 +543,7 @@ const downloads = [
 for (const [label, format, ending] of downloads) {
     test(`${label} saves the exercises of the chosen version`, async () => {
         const page = await openSheet("#sheet/4821/2*ion-formula,compound-formula:3?versions=3&v=1", { acceptDownloads: true });
-        await page.getByLabel("Version to save").selectOption("4823");
+        await page.getByLabel("Version to save or practise").selectOption("4823");
         const [download] = await Promise.all([page.waitForEvent("download"), page.getByRole("button", { name: label }).click()]);
         assert.equal(download.suggestedFilename(), `paper-4823-${format}.${ending}`);
         assert.equal(await readFile(await download.path(), "utf8"), lesson.exportText(4823, "2*ion-formula,compound-formula:3", format));

@@ -35,6 +35,25 @@ test("a side road leads far from what Next leads to, one further each time, and 
     assert.deepEqual(mainRoad(route), route);
 });
 
+test("a list is a set as long as it is, whatever else the address says", () => {
+    const list = "4*titration:1,1*dilution@7";
+    for (const options of ["", "?set=5", "?set=3&v=1", "?set=0", "?set=%3Cb%3E", "?v=1"]) {
+        const read = routeOf(`#practice/4821/2/${list}${options}`);
+        assert.deepEqual(read, { view: "practice", paper: 4821, number: 2, kinds: list, set: 5 }, options);
+        assert.deepEqual(routeOf(addressOf(read as PracticeRoute)), read);
+    }
+    assert.deepEqual(routeOf("#practice/1/1/titration@3"), { view: "practice", paper: 1, number: 1, kinds: "titration@3", set: 1 });
+});
+
+test("what is no list is no practice, and no side road leads out of one", () => {
+    const lists = ["4*", "*titration", "0*titration", "1001*titration", "titration@0", "titration@1000000", "2*titration,1*titration@2", "1*mixed:4", "1*<b>", "1*%3Cscript%3E", "1*titration,", "1*titration@1@2", "titration:1@x"];
+    for (const list of lists) {
+        assert.equal(routeOf(`#practice/1/1/${list}`).view, "bad", list);
+    }
+    assert.equal(routeOf("#practice/1/1/2*titration?back=4:titration").view, "bad");
+    assert.equal(routeOf("#practice/1/1/titration?back=4:2*titration").view, "bad");
+});
+
 test("nothing behind the sign is no address, and the page chooses", () => {
     assert.deepEqual(routeOf(""), { view: "none", of: "practice" });
     assert.deepEqual(routeOf("#"), { view: "none", of: "practice" });
