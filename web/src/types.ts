@@ -103,9 +103,16 @@ export interface PairInfo {
     reason: string;
 }
 
+// What is learnt of the salts of one anion.
+export interface RuleInfo {
+    anion: string;
+    sentence: string;
+}
+
 export interface Tables {
     elements: ElementInfo[];
     ions: IonInfo[];
+    rules: RuleInfo[];
     pairs: PairInfo[];
 }
 

@@ -1,5 +1,5 @@
 // The elements: a field that finds them, above the periodic table.
-import { announce, bringIntoView, element, show } from "../dom";
+import { announce, bringIntoView, element, scrollBox, show } from "../dom";
 import { elementsMeant, type Meant } from "../elements";
 import { localNumber, spokenFormula } from "../spans";
 import { texts } from "../texts";
@@ -77,7 +77,7 @@ function closeKeyboard(input: HTMLElement): void {
 
 function resultsOf({ elements, unknown }: Meant, page: Page): Node[] {
     const none = unknown.length === 0 ? [] : [element("p", { class: "message" }, texts.noElement(unknown))];
-    return elements.length === 0 ? none : [resultTable(elements, page), ...none];
+    return elements.length === 0 ? none : [scrollBox("box", texts.found, resultTable(elements, page)), ...none];
 }
 
 function resultTable(elements: ElementInfo[], page: Page): HTMLElement {

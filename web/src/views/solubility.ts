@@ -1,59 +1,131 @@
-// The solubility of each pair, with its reason.
-import { button, element, scrollBox, show } from "../dom";
-import { spokenSentence, typesetSentence } from "../sentence";
-import { typeset } from "../spans";
+// The solubility of salts: the rules, and a grid of all pairs that tells the reason of the chosen one.
+import { bringIntoView, button, element, scrollBox, show } from "../dom";
+import { typesetSentence } from "../sentence";
 import { texts } from "../texts";
-import type { PairInfo, Tables } from "../types";
+import type { IonInfo, PairInfo, Tables } from "../types";
 import { nameOf, type Page } from "./page";
+import { labelOf, reasonOf } from "./pairs";
 
-// A grid with one cell at a time in the order of the Tab key; the arrow keys go on from it.
-export function solubilityGrid(tables: Tables, page: Page): HTMLElement {
-    const asked = tables.pairs;
-    const cations = [...new Set(asked.map((pair) => pair.cation))];
-    const anions = [...new Set(asked.map((pair) => pair.anion))];
-    const named = new Map(tables.ions.map((ion) => [ion.name, ion]));
-    const reason = element("p", { class: "reason", role: "status" });
-    const cells = new Map(asked.map((pair) => [`${pair.cation}|${pair.anion}`, pairButton(pair, reason, page)]));
-    const rows = cations.map((cation) =>
-        element(
-            "tr",
-            {},
-            element("th", { scope: "row" }, named.has(cation) ? nameOf(named.get(cation)!, page) : cation),
-            ...anions.map((anion) => element("td", {}, cells.get(`${cation}|${anion}`) ?? "")),
-        ),
-    );
-    const heads = anions.map((anion) => element("th", { scope: "col" }, element("span", {}, named.has(anion) ? nameOf(named.get(anion)!, page) : anion)));
-    const table = element("table", { class: "solubility" }, element("thead", {}, element("tr", {}, element("td", {}), ...heads)), element("tbody", {}, ...rows));
-    walkWithArrows([...cells.values()], anions.length);
-    return element("div", {}, element("p", { class: "hint" }, texts.signNotes), scrollBox("scrolling grid", texts.solubilityTitle, table), reason);
+interface Grid {
+    readonly tables: Tables;
+    readonly page: Page;
+    readonly box: HTMLElement; // the table is made anew in it
+    readonly reason: HTMLElement;
+    readonly cells: Map<PairInfo, HTMLButtonElement>;
+    readonly heads: Map<string, HTMLElement>; // of rows and columns, by the ion's name
+    isWhole: boolean; // with the rows and columns of which nothing is asked
+    chosen: PairInfo | null;
 }
 
-function pairButton(pair: PairInfo, reason: HTMLElement, page: Page): HTMLButtonElement {
-    const name = spokenSentence(`${pair.cation} ${pair.anion}`, page.settings, page.names);
-    const made = button(texts.signs[pair.verdict] ?? pair.verdict, () => show(reason, ...reasonOf(pair, page)), {
-        "aria-label": `${name}: ${pair.verdict}`,
-        "data-verdict": pair.verdict,
-        tabindex: -1,
+// div
+//   ul.rules
+//   p.hint.how
+//   div.beside
+//     p.hint.signs
+//     div.scrolling.grid    table.solubility
+//     p.reason
+//   p.never                 what is left out, and a button that brings it back
+export function solubility(tables: Tables, page: Page): HTMLElement {
+    const grid: Grid = {
+        tables,
+        page,
+        box: scrollBox("scrolling grid", texts.solubilityTitle),
+        reason: element("p", { class: "reason", role: "status" }),
+        cells: new Map(),
+        heads: new Map(),
+        isWhole: false,
+        chosen: null,
+    };
+    draw(grid);
+    const beside = element("div", { class: "beside" }, element("p", { class: "hint signs" }, texts.signNotes), grid.box, grid.reason);
+    return element("div", {}, ruleList(tables, page), element("p", { class: "hint how" }, texts.gridNote), beside, leftOut(grid));
+}
+
+function ruleList({ rules }: Tables, page: Page): HTMLElement {
+    return element("ul", { class: "rules" }, ...rules.map(({ sentence }) => element("li", {}, typesetSentence(sentence, page.settings, page.names))));
+}
+
+function leftOut(grid: Grid): HTMLElement {
+    const never = neverAsked(grid.tables).map((ion) => nameOf(ion, grid.page));
+    const fold = button(texts.showNever, () => {
+        grid.isWhole = !grid.isWhole;
+        fold.textContent = grid.isWhole ? texts.hideNever : texts.showNever;
+        draw(grid);
     });
-    return made;
+    return element("p", { class: "never hint" }, texts.neverAsked(never), " ", fold);
 }
 
-function reasonOf(pair: PairInfo, page: Page): Node[] {
-    const colon = document.createTextNode(`: ${pair.verdict}. `);
-    return [compoundOf(pair, page), colon, typesetSentence(pair.reason, page.settings, page.names)];
+// The ions of whose pairs none is asked.
+function neverAsked({ ions, pairs }: Tables): IonInfo[] {
+    const asked = pairs.filter((pair) => pair.verdict !== "not asked");
+    const isIn = (some: PairInfo[], { name }: IonInfo) => some.some((pair) => pair.cation === name || pair.anion === name);
+    return ions.filter((ion) => isIn(pairs, ion) && !isIn(asked, ion));
 }
 
-// Its formula, or its name where there is no such compound.
-function compoundOf(pair: PairInfo, page: Page): Node {
-    const name = `${pair.cation} ${pair.anion}`;
-    return pair.formula === undefined ? typesetSentence(name, page.settings, page.names) : typeset([{ formula: pair.formula }], page.settings);
+function draw(grid: Grid): void {
+    const { ions, pairs } = grid.tables;
+    const never = new Set(grid.isWhole ? [] : neverAsked(grid.tables).map(({ name }) => name));
+    const inGrid = (name: string) => ions.find((ion) => ion.name === name && !never.has(name)) ?? [];
+    const cations = [...new Set(pairs.map((pair) => pair.cation))].flatMap(inGrid);
+    const anions = [...new Set(pairs.map((pair) => pair.anion))].flatMap(inGrid);
+    grid.cells.clear();
+    grid.heads.clear();
+    const columns = anions.map((anion) => headOf(grid, anion, "col"));
+    const rows = cations.map((cation) => rowOf(grid, cation, anions));
+    const head = element("thead", {}, element("tr", {}, element("td", {}), ...columns));
+    show(grid.box, element("table", { class: "solubility" }, head, element("tbody", {}, ...rows)));
+    walkWithArrows([...grid.cells.values()], anions.length);
+    mark(grid, grid.chosen !== null && grid.cells.has(grid.chosen) ? grid.chosen : null);
+}
+
+function headOf(grid: Grid, ion: IonInfo, scope: "row" | "col"): HTMLElement {
+    const head = element("th", { scope }, element("span", {}, nameOf(ion, grid.page)));
+    grid.heads.set(ion.name, head);
+    return head;
+}
+
+function rowOf(grid: Grid, cation: IonInfo, anions: IonInfo[]): HTMLElement {
+    const pairOf = (anion: IonInfo) => grid.tables.pairs.filter((pair) => pair.cation === cation.name && pair.anion === anion.name);
+    const cells = anions.map((anion) => element("td", {}, ...pairOf(anion).map((pair) => cellOf(grid, pair))));
+    return element("tr", {}, headOf(grid, cation, "row"), ...cells);
+}
+
+function cellOf(grid: Grid, pair: PairInfo): HTMLButtonElement {
+    const choose = () => {
+        mark(grid, pair);
+        uncover(cell);
+        bringIntoView(cell, grid.reason);
+    };
+    const attributes = { "aria-label": labelOf(pair, grid.page), "data-verdict": pair.verdict, "tabindex": -1 };
+    const cell = button(texts.signs[pair.verdict] ?? pair.verdict, choose, attributes);
+    grid.cells.set(pair, cell);
+    return cell;
+}
+
+// The chosen cell, the names of its row and column, and its reason.
+function mark(grid: Grid, chosen: PairInfo | null): void {
+    if (grid.chosen !== null) {
+        grid.cells.get(grid.chosen)?.removeAttribute("aria-current");
+    }
+    grid.chosen = chosen;
+    if (chosen !== null) {
+        grid.cells.get(chosen)?.setAttribute("aria-current", "true");
+    }
+    grid.heads.forEach((head, name) => head.classList.toggle("chosen", name === chosen?.cation || name === chosen?.anion));
+    show(grid.reason, ...(chosen === null ? [] : reasonOf(chosen, grid.page)));
 }
 
 const arrows: Record<string, [number, number]> = { ArrowLeft: [0, -1], ArrowRight: [0, 1], ArrowUp: [-1, 0], ArrowDown: [1, 0] };
 
+// One cell at a time is in the order of the Tab key, the last that had the focus; the arrow keys go on
+// from it.
 function walkWithArrows(cells: HTMLButtonElement[], columns: number): void {
     cells[0]?.setAttribute("tabindex", "0");
-    cells.forEach((cell, at) =>
+    cells.forEach((cell, at) => {
+        cell.addEventListener("focus", () => {
+            cells.forEach((one) => one.setAttribute("tabindex", one === cell ? "0" : "-1"));
+            uncover(cell);
+        });
         cell.addEventListener("keydown", (event) => {
             const [down, right] = arrows[event.key] ?? [0, 0];
             const column = (at % columns) + right;
@@ -62,21 +134,17 @@ function walkWithArrows(cells: HTMLButtonElement[], columns: number): void {
                 return;
             }
             event.preventDefault();
-            cell.setAttribute("tabindex", "-1");
-            next.setAttribute("tabindex", "0");
             next.focus();
-        }),
-    );
+        });
+    });
 }
 
-export function pairsNotAsked(pairs: PairInfo[], page: Page): HTMLElement {
-    const reasons = new Map<string, PairInfo[]>();
-    for (const pair of pairs.filter((candidate) => candidate.verdict === "not asked")) {
-        reasons.set(pair.reason, [...(reasons.get(pair.reason) ?? []), pair]);
-    }
-    const rows = [...reasons].flatMap(([reason, those]) => [
-        element("dt", {}, typesetSentence(reason, page.settings, page.names)),
-        element("dd", {}, ...those.flatMap((pair, at) => [at === 0 ? "" : ", ", compoundOf(pair, page)])),
-    ]);
-    return element("details", {}, element("summary", {}, texts.differShow), element("dl", {}, ...rows));
+// From under the names that stay where the rest scrolls, and from beyond the edge: Chromium leaves it
+// there where 32 pixels of its width are in the box.
+function uncover(cell: HTMLElement): void {
+    const [box, head] = [cell.closest(".grid")!, cell.closest("tr")!.firstElementChild!];
+    const { left, right } = cell.getBoundingClientRect();
+    const covered = Math.max(0, head.getBoundingClientRect().right - left);
+    const beyond = Math.max(0, right - box.getBoundingClientRect().right);
+    box.scrollBy({ left: covered > 0 ? -covered : beyond });
 }

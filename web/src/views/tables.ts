@@ -4,7 +4,8 @@ import { texts } from "../texts";
 import { elementsWithSearch } from "./elements";
 import { ionTables } from "./ions";
 import type { Page } from "./page";
-import { pairsNotAsked, solubilityGrid } from "./solubility";
+import { pairsNotAsked } from "./pairs";
+import { solubility } from "./solubility";
 
 export function showTables(main: HTMLElement, page: Page): () => void {
     const tables = page.lesson.tables();
@@ -17,7 +18,7 @@ export function showTables(main: HTMLElement, page: Page): () => void {
             heading,
             section(texts.elementsTitle, "", elementsWithSearch(tables.elements, page)),
             section(texts.ionsTitle, "", ionTables(tables.ions, page)),
-            section(texts.solubilityTitle, texts.solubilityNote, solubilityGrid(tables, page)),
+            section(texts.solubilityTitle, texts.rulesNote, solubility(tables, page)),
             section(texts.differTitle, texts.differNote, pairsNotAsked(tables.pairs, page)),
         ),
     );

@@ -244,6 +244,12 @@ test("the solubility grid is one stop; the arrow keys go from cell to cell, and 
     assert.equal(await at(), -1);
     await page.keyboard.press("Shift+Tab");
     assert.equal(await at(), 1);
+    await tabTo(page, button(page, "Show those that are never asked"));
+    await page.keyboard.press("Enter");
+    await tabTo(page, cells.first(), "Shift+Tab");
+    await page.keyboard.press("ArrowDown");
+    assert.ok((await page.locator(".solubility thead th").count()) > columns);
+    assert.equal(await at(), await page.locator(".solubility thead th").count());
     await leave(page);
 });
 

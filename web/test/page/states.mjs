@@ -72,6 +72,10 @@ export const states = [
         await page.getByLabel("Find an element").fill("CuSO4.5H2O and nacl");
         await page.locator(".results .message").waitFor();
     }],
+    ["the whole grid", "#tables", async (page) => {
+        await press(page, "Show those that are never asked");
+        await page.getByRole("button", { name: "silver fluoride: not asked" }).click();
+    }],
     ["the reason of a pair", "#tables", async (page) => {
         await page.locator(".solubility button").first().click();
         await panel(page, "Show them with the reasons").click();

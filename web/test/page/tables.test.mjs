@@ -1,5 +1,6 @@
 // The tables show the library's data, row by row.
 import assert from "node:assert/strict";
+import { execFileSync } from "node:child_process";
 import { after, before, test } from "node:test";
 import { announced, go, leave, openChromium, openLesson, openPage, panel } from "./support.mjs";
 
@@ -110,8 +111,11 @@ test("each ion has its name, formula and charge", async () => {
     await leave(page);
 });
 
+const showAll = (page) => page.getByRole("button", { name: "Show those that are never asked" }).click();
+
 test("each pair has its verdict, and its reason when it is pressed", async () => {
     const page = await openPage(browser, "#tables");
+    await showAll(page);
     const shown = await page.locator(".solubility button").evaluateAll((buttons) =>
         buttons.map((button) => {
             button.click();
@@ -126,5 +130,119 @@ test("each pair has its verdict, and its reason when it is pressed", async () =>
     ]);
     assert.ok(shown.length > 200);
     assert.deepEqual(shown.sort(), wanted.sort());
+    await leave(page);
+});
+
+// By counting the verdicts that are none.
+function askedIons(member) {
+    const counts = new Map();
+    tables.pairs.forEach((pair) => counts.set(pair[member], (counts.get(pair[member]) ?? 0) + (pair.verdict === "not asked" ? 0 : 1)));
+    const names = [...counts.keys()];
+    return { asked: names.filter((name) => counts.get(name) > 0), never: names.filter((name) => counts.get(name) === 0), all: names };
+}
+
+const headsOf = (page, part, scope) => page.locator(`.solubility ${part} th[scope=${scope}]`).allTextContents();
+
+test("rows and columns of which nothing is asked are told in words, and in the grid when they are wished", async () => {
+    const [cations, anions] = [askedIons("cation"), askedIons("anion")];
+    assert.ok(cations.never.length > 0 && anions.never.length > 0);
+    const page = await openPage(browser, "#tables");
+    const shown = async () => [await headsOf(page, "tbody", "row"), await headsOf(page, "thead", "col")];
+    assert.deepEqual(await shown(), [cations.asked, anions.asked]);
+    const told = (await page.locator(".never").innerText()).split(/[:.]\s/)[1].split(", ");
+    assert.deepEqual(told.sort(), [...cations.never, ...anions.never].sort());
+    await showAll(page);
+    assert.deepEqual(await shown(), [cations.all, anions.all]);
+    await page.getByRole("button", { name: "Hide those that are never asked" }).click();
+    assert.deepEqual(await shown(), [cations.asked, anions.asked]);
+    await leave(page);
+});
+
+const chosenCells = (page) => page.locator(".solubility [aria-current=true]").evaluateAll((cells) => cells.map((cell) => cell.getAttribute("aria-label")));
+
+test("the chosen cell stays chosen with more rows and columns, and goes with its own", async () => {
+    const page = await openPage(browser, "#tables");
+    const choose = (name) => page.getByRole("button", { name }).click();
+    await choose("silver chloride: insoluble");
+    const reason = await page.locator(".reason").innerText();
+    await showAll(page);
+    assert.deepEqual([await chosenCells(page), await page.locator(".reason").innerText()], [["silver chloride: insoluble"], reason]);
+    await choose("silver fluoride: not asked");
+    assert.deepEqual(await chosenCells(page), ["silver fluoride: not asked"]);
+    await choose("Hide those that are never asked");
+    assert.deepEqual([await chosenCells(page), await page.locator(".reason").innerText()], [[], ""]);
+    await leave(page);
+});
+
+for (const media of [{}, { colorScheme: "dark" }, { forcedColors: "active" }]) {
+    test(`the chosen cell has a frame of its own, and its row and column are marked, ${JSON.stringify(media)}`, async () => {
+        const page = await openPage(browser, "#tables", media);
+        await page.getByRole("button", { name: "zinc sulfide: insoluble" }).click();
+        await page.getByRole("button", { name: "barium sulfate: insoluble" }).click();
+        const framed = await page.locator(".solubility button").evaluateAll((cells) => {
+            const frames = cells.map((cell) => getComputedStyle(cell)).map((style) => ({ width: parseFloat(style.borderTopWidth), color: style.borderTopColor, ground: style.backgroundColor }));
+            return cells.flatMap((cell, at) => (frames[at].width >= 2 && frames[at].color !== frames[at].ground ? [cell.getAttribute("aria-label")] : []));
+        });
+        assert.deepEqual(framed, ["barium sulfate: insoluble"]);
+        const underlined = await page.locator(".solubility th span").evaluateAll((heads) => heads.filter((head) => getComputedStyle(head).textDecorationLine === "underline").map((head) => head.textContent));
+        assert.deepEqual(underlined.sort(), ["barium", "sulfate"]);
+        await leave(page);
+    });
+}
+
+const windows = [[320, 640], [360, 640], [360, 740], [640, 360], [768, 1024], [1024, 768], [1280, 800], [1366, 650], [1920, 1080]];
+const corners = ["lithium chloride", "iron(II) ethanoate", "calcium hydroxide", "iron(III) phosphate"];
+
+for (const [width, height] of windows) {
+    test(`the chosen cell and its reason are both in view, and the reason covers nothing, ${width} × ${height}`, async () => {
+        const page = await openPage(browser, "#tables", { viewport: { width, height }, reducedMotion: "reduce" });
+        for (const name of corners) {
+            const cell = page.getByRole("button", { name: `${name}: ` });
+            await cell.focus();
+            await page.keyboard.press("Enter");
+            const [one, reason, box] = await Promise.all([cell, page.locator(".reason"), page.locator(".grid")].map((part) => part.boundingBox()));
+            for (const part of [one, reason]) {
+                assert.ok(part.y >= 0 && part.y + part.height <= height + 0.5, `${name}: from ${part.y} to ${part.y + part.height}`);
+            }
+            assert.ok(reason.y >= box.y + box.height || reason.x >= box.x + box.width, `${name}: ${JSON.stringify({ reason, box })}`);
+            const isUncovered = await cell.evaluate((target) => {
+                const { left, top, width: across, height: down } = target.getBoundingClientRect();
+                return document.elementFromPoint(left + across / 2, top + down / 2) === target;
+            });
+            assert.ok(isUncovered, `${name} is covered`);
+        }
+        await leave(page);
+    });
+}
+
+test("the rules are listed, as the library words them, in the reader's names", async () => {
+    const page = await openPage(browser, "#tables");
+    const listed = () => page.locator(".rules li").allTextContents();
+    assert.ok(tables.rules.length > 5);
+    assert.deepEqual(await listed(), tables.rules.map(({ sentence }) => sentence));
+    await go(page, "#practice/4821/3/titration");
+    await panel(page, "How it is written").click();
+    await page.getByLabel("American").check();
+    await go(page, "#tables");
+    await page.locator(".rules").waitFor();
+    const american = await listed();
+    assert.ok(american.includes("Acetates are soluble."), american.join(" "));
+    assert.doesNotMatch(american.join(" "), /thanoate|ydrogencarbonate/);
+    await leave(page);
+});
+
+test("printed, the tables are whole: every element, every ion, every row and column of the grid, and no control", async () => {
+    const page = await openPage(browser, "#tables");
+    const text = execFileSync("pdftotext", ["-layout", "-", "-"], { input: await page.pdf({ format: "A4" }), encoding: "utf8" });
+    const words = new Set(text.split(/\s+/));
+    const missing = [...tables.elements.map(({ symbol }) => symbol), ...tables.ions.map(({ name }) => name)].filter((word) => !words.has(word));
+    assert.deepEqual(missing, []);
+    const signs = { "soluble": "s", "insoluble": "i", "not asked": "–" };
+    for (const cation of askedIons("cation").asked) {
+        const row = tables.pairs.filter((pair) => pair.cation === cation && askedIons("anion").asked.includes(pair.anion));
+        const line = [cation, ...row.map(({ verdict }) => signs[verdict])].join(" ");
+        assert.ok(text.split("\n").some((one) => one.trim().replace(/\s+/g, " ") === line), line);
+    }
+    assert.doesNotMatch(text, /Find an element|Choose a cell|never asked|Show them/);
     await leave(page);
 });
