@@ -132,7 +132,7 @@ function measureIn(measuring: HTMLElement, width: number): Measure {
     return (elements) => {
         const isHalf = (one: HTMLElement) => one.className === "half";
         const whole = element("ol", {}, ...elements.filter((one) => one.localName === "li" && !isHalf(one)));
-        const halves = element("ol", { class: "halves" }, ...elements.filter(isHalf));
+        const halves = element("ol", { class: "narrow" }, ...elements.filter(isHalf));
         measuring.replaceChildren(...elements.filter((one) => one.localName !== "li"), whole, halves);
         const millimetre = measuring.getBoundingClientRect().width / width;
         return elements.map((one) => ({ element: one, height: one.getBoundingClientRect().height / millimetre, isHalf: isHalf(one) }));

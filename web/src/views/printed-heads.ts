@@ -51,7 +51,7 @@ export function frameHead({ from, to, frame }: Group, { exercises }: Version, ro
     const shared = typesetLine([...frame!, { text: figures }], page.settings);
     const range = element("strong", {}, texts.exercisesFromTo(from + 1, to));
     const marks = route.marks ? [element("span", { class: "marks" }, texts.worthEach(marksOf(first)))] : [];
-    return element("p", { class: route.marks ? "frame marked" : "frame" }, range, " ", element("span", { class: "words" }, ...shared), ...marks);
+    return element("p", { class: route.marks ? "frame with-marks" : "frame" }, range, " ", element("span", { class: "words" }, ...shared), ...marks);
 }
 
 export function labelOf(version: Version, route: SheetRoute): string {
@@ -59,7 +59,7 @@ export function labelOf(version: Version, route: SheetRoute): string {
 }
 
 function blanksOf({ exercises }: Version, route: SheetRoute): HTMLElement[] {
-    const mark = route.marks ? [blank(texts.markBlank, ""), element("span", {}, texts.outOf(totalOf(exercises)))] : [];
+    const mark = route.marks ? [blank(texts.markBlank, ""), element("span", { class: "out-of" }, texts.outOf(totalOf(exercises)))] : [];
     return [blank(texts.nameBlank, "wide"), blank(texts.dateBlank, ""), ...mark];
 }
 

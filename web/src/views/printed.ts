@@ -67,7 +67,7 @@ function line(kind: string, content: Node[], marks: string): HTMLElement {
     if (marks === "") {
         return element("p", { class: kind }, ...content);
     }
-    return element("p", { class: `${kind} marked` }, ...content, element("span", { class: "marks" }, marks));
+    return element("p", { class: `${kind} with-marks` }, ...content, element("span", { class: "marks" }, marks));
 }
 
 function roomFor(ask: Ask, count: number, page: Page): HTMLElement[] {

@@ -170,6 +170,19 @@ test("marks stand behind each question and in the key, and their total above", a
     assert.deepEqual(key.flatMap((line) => /^\d+\..*\((\d)\)$/.exec(line)?.[1] ?? []).map(Number), expected);
 });
 
+test("questions with marks are in the letters of the others", async () => {
+    const facesOf = async (hash) => {
+        const page = await openSheet(hash);
+        const faces = await page.locator(".leaf :is(.asks, .frame)").evaluateAll((all) => all.map((one) => getComputedStyle(one)).map(({ fontFamily, fontSize, color }) => `${fontFamily} ${fontSize} ${color}`));
+        await leave(page);
+        return faces;
+    };
+    const hash = "#sheet/4821/4*ion-formula,titration?v=1";
+    const [plainly, marked] = [await facesOf(hash), await facesOf(hash.replace("?", "?marks=1&"))];
+    assert.equal(new Set(plainly).size, 1);
+    assert.deepEqual(marked, plainly);
+});
+
 test("marks of questions with the same words stand behind those", async () => {
     const { sheet } = await printed("#sheet/4821/5*ion-formula?marks=1&v=1");
     assert.ok(sheet.includes("Exercises1to5:Writetheformulaofthe…ion,togetherwithitscharge.(1markeach)"), sheet.join("\n"));
