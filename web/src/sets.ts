@@ -30,6 +30,13 @@ export function keptSet(route: PracticeRoute): KeptSet | null {
     return setIn(prefix + addressOfSet(route), route.set);
 }
 
+// The numbers of the exercises without a result.
+export function openIn(route: PracticeRoute): number[] {
+    const exercises = keptSet(route)?.exercises;
+    const numbers = Array.from({ length: route.set }, (_, at) => at + 1);
+    return numbers.filter((number) => (exercises?.get(number)?.result ?? null) === null);
+}
+
 // The one last worked at comes first.
 export function keptSets(): { route: PracticeRoute; kept: KeptSet }[] {
     return keysBehind("localStorage", prefix)

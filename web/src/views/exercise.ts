@@ -10,9 +10,11 @@ import type { Exercise, Mark, PracticeRoute } from "../types";
 import { workAt } from "../working";
 import { type AnswerField, answerField, markId } from "./answer";
 import { drawingOf } from "./drawing";
+import { finish, isLastOfSet } from "./finish";
 import { headerOf, nameOf } from "./head";
 import { massesBelow } from "./masses-line";
 import { showMark, spokenMark, withoutStep } from "./mark";
+import { overviewOf } from "./overview";
 import type { Page } from "./page";
 import { lastStepSpoken, showSolution } from "./solution";
 
@@ -32,6 +34,7 @@ interface Work extends Place {
 type Step = (progress: state.Progress) => state.Progress;
 
 interface Parts {
+    overview: ReturnType<typeof overviewOf> | null; // in a set
     field: AnswerField;
     check: HTMLButtonElement;
     form: HTMLElement;
@@ -65,6 +68,7 @@ export function showExercise(article: HTMLElement, place: Place): () => void {
 }
 
 // header       h1 and what exercise it is
+// nav          in a set, its exercises
 // p.prompt
 // p.masses     where it cannot be answered without
 // figure       where there is a drawing
@@ -78,6 +82,7 @@ function contentsOf({ route, exercise, page }: Place, parts: Parts): HTMLElement
     const drawing = drawingOf(exercise, page.settings);
     return [
         headerOf(route, exercise, page),
+        ...(parts.overview === null ? [] : [parts.overview.element]),
         element("p", { class: "prompt" }, ...typesetLine(exercise.prompt, page.settings)),
         ...massesBelow(exercise, page),
         ...(drawing === null ? [] : [drawing]),
@@ -103,6 +108,7 @@ function partsOf(work: Work): Parts {
     const step = button(texts.showStep, () => advance(work, parts, (before) => state.afterStep(before, steps)));
     const answer = button(texts.showAnswer, () => advance(work, parts, (before) => state.afterAnswer(before, steps)));
     const parts: Parts = {
+        overview: route.set > 0 ? overviewOf(route) : null,
         field,
         check,
         form: element("form", { autocomplete: "off" }, field.element, check),
@@ -120,7 +126,9 @@ function nextButton(route: PracticeRoute, page: Page): HTMLButtonElement {
     if (route.back !== undefined) {
         return button(texts.backTo(route.back.number), () => page.go(addressOf(mainRoad(route))));
     }
-    return button(isLast(route) ? texts.finish : texts.next, () => page.go(addressOf(atNumber(route, route.number + 1))));
+    const goOn = () => page.go(addressOf(atNumber(route, route.number + 1)));
+    const next: HTMLButtonElement = button(texts.next, () => (isLastOfSet(route) ? finish(next, route, page) : goOn()));
+    return next;
 }
 
 // Off to one of the same kind and level, from where the way back leads here. A set has no such side roads.
@@ -141,13 +149,17 @@ function keep(work: Work, step: Step): void {
 }
 
 function update(work: Work, parts: Parts): void {
-    const { exercise, page, progress } = work;
+    const { route, exercise, page, progress } = work;
     showSolution(parts.solution, exercise, progress.steps, page);
     updateMark(work, parts);
     parts.help.hidden = isShownWhole(work);
     parts.offer.hidden = !state.offersHelp(progress);
     parts.next.classList.toggle("main", progress.result !== null);
     parts.check.classList.toggle("main", progress.result === null);
+    if (parts.overview !== null) {
+        parts.overview.update();
+        show(parts.next, isLastOfSet(route) ? texts.finish : texts.next);
+    }
 }
 
 function updateMark(work: Work, parts: Parts): void {
@@ -194,8 +206,4 @@ function markToShow(work: Work): Mark | null {
 
 function isShownWhole({ progress, exercise }: Work): boolean {
     return state.isShownWhole(progress, exercise.solution.length);
-}
-
-function isLast(route: PracticeRoute): boolean {
-    return route.set > 0 && route.number >= route.set;
 }

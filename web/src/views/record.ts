@@ -4,6 +4,7 @@ import { clearRecord, record, type Tallies, type Tally } from "../record";
 import { results } from "../state";
 import { texts } from "../texts";
 import type { KindInfo } from "../types";
+import { keptSetsPanel } from "./kept-sets";
 import type { Page } from "./page";
 import { ask } from "./question";
 
@@ -11,10 +12,16 @@ import { ask } from "./question";
 //   summary
 //   p.hint
 //   div        the table, what a tick means where there is one, and what clears it
-export function recordPanel(page: Page): { element: HTMLElement; update(): void } {
+//   div        the sets
+// `setsCleared` is told once the sets are.
+export function recordPanel(page: Page, setsCleared: () => void): { element: HTMLElement; update(): void } {
     const body = element("div", {});
     const summary = element("summary", {}, texts.recordTitle);
     const clear: HTMLElement = button(texts.clearRecord, () => ask(clear, texts.askClearRecord, cleared));
+    const sets = keptSetsPanel(() => {
+        summary.focus();
+        setsCleared();
+    });
     const update = () => {
         clear.hidden = false;
         show(body, ...contents(page, clear));
@@ -25,8 +32,11 @@ export function recordPanel(page: Page): { element: HTMLElement; update(): void 
         announce(texts.cleared);
         summary.focus();
     };
+    const details = element("details", {}, summary, element("p", { class: "hint" }, texts.recordNote), body, sets.element);
+    // There may be fifty, which nobody waits for who does not ask.
+    details.addEventListener("toggle", () => details.open && sets.update());
     update();
-    return { element: element("details", {}, summary, element("p", { class: "hint" }, texts.recordNote), body), update };
+    return { element: details, update };
 }
 
 function contents(page: Page, clear: HTMLElement): Node[] {

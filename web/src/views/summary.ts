@@ -6,6 +6,7 @@ import { keptSet, type KeptSet } from "../sets";
 import { type Summary, summaryOf, textOf } from "../summary";
 import { texts } from "../texts";
 import type { PracticeRoute } from "../types";
+import { linkPanel } from "./link";
 import { type Page, randomPaper, titleOf } from "./page";
 import { ask } from "./question";
 import { factsOf, resultsTable } from "./results";
@@ -21,9 +22,10 @@ export function showSummary(main: HTMLElement, route: PracticeRoute, page: Page)
 
 // p
 // div.help     begin
+// div.link
 function nothingKept(route: PracticeRoute, page: Page): HTMLElement[] {
     const begin = button(texts.beginSet, () => page.go(addressOfSet(route)), { class: "main" });
-    return [element("p", {}, texts.nothingKept), element("div", { class: "help" }, begin)];
+    return [element("p", {}, texts.nothingKept), element("div", { class: "help" }, begin), linkPanel(route)];
 }
 
 // p.blanks     the name, on paper
@@ -31,10 +33,11 @@ function nothingKept(route: PracticeRoute, page: Page): HTMLElement[] {
 // p.hint
 // div.box      table
 // div.help     what can be done with it
+// div.link
 function keptContents(route: PracticeRoute, kept: KeptSet, page: Page, redraw: () => void): HTMLElement[] {
     const summary = summaryOf(kept, route.set, (number) => kindOf(page, route, number));
     const name = element("p", { class: "blanks on-paper" }, element("span", { class: "blank wide" }, texts.nameBlank));
-    return [name, ...factsOf(summary), resultsTable(route, summary), buttonsOf(route, summary, page, redraw)];
+    return [name, ...factsOf(summary), resultsTable(route, summary), buttonsOf(route, summary, page, redraw), linkPanel(route)];
 }
 
 function buttonsOf(route: PracticeRoute, summary: Summary, page: Page, redraw: () => void): HTMLElement {

@@ -1,0 +1,69 @@
+// The exercises of a set in a row, each with what it has come to, to jump to.
+import { addressOf, atNumber } from "../address";
+import { element, show, spoken } from "../dom";
+import { type Done, keptSet } from "../sets";
+import { texts } from "../texts";
+import type { PracticeRoute } from "../types";
+
+type State = keyof typeof texts.overviewSigns;
+
+// nav
+//   ol         scrolls sideways where there are many
+//     li
+//       a      a number and a sign; one stop for the Tab key, since the field comes behind it
+//   p.hint     while the focus is there
+export function overviewOf(route: PracticeRoute): { element: HTMLElement; update(): void } {
+    const links = Array.from({ length: route.set }, (_, at) => linkTo(route, at + 1));
+    const list = element("ol", {}, ...links.map((link) => element("li", {}, link)));
+    const hint = element("p", { class: "hint" }, texts.overviewKeys);
+    list.addEventListener("keydown", (event) => walk(event, links));
+    window.requestAnimationFrame(() => centre(list, links[route.number - 1]));
+    const update = () => {
+        const exercises = keptSet(route)?.exercises;
+        links.forEach((link, at) => showState(link, at + 1, exercises?.get(at + 1)));
+    };
+    return { element: element("nav", { class: "overview", "aria-label": texts.overview }, list, hint), update };
+}
+
+function linkTo(route: PracticeRoute, number: number): HTMLAnchorElement {
+    const isPresent = number === route.number;
+    return element("a", { href: addressOf(atNumber(route, number)), "aria-current": isPresent ? "page" : undefined, tabindex: isPresent ? undefined : -1 });
+}
+
+function showState(link: HTMLElement, number: number, done: Done | undefined): void {
+    const state = stateOf(done);
+    const words = done?.result ? texts.results[done.result] : state === "wrong" ? texts.wrongSoFar : texts.open;
+    const seen = element("span", { "aria-hidden": "true" }, String(number), element("span", { class: "sign" }, texts.overviewSigns[state]));
+    link.dataset["state"] = state;
+    link.title = words;
+    show(link, seen, spoken(`${texts.exercise(number)}: ${words}`));
+}
+
+function stateOf(done: Done | undefined): State {
+    if (done === undefined || done.result === null) {
+        return (done?.failed ?? 0) > 0 ? "wrong" : "open";
+    }
+    return done.result === "shown" ? "shown" : "done";
+}
+
+const steps: Record<string, (at: number, last: number) => number> = {
+    ArrowLeft: (at) => Math.max(0, at - 1),
+    ArrowRight: (at, last) => Math.min(last, at + 1),
+    Home: () => 0,
+    End: (_, last) => last,
+};
+
+function walk(event: KeyboardEvent, links: HTMLElement[]): void {
+    const step = steps[event.key];
+    const at = links.findIndex((link) => link === document.activeElement);
+    if (step !== undefined && at >= 0) {
+        event.preventDefault();
+        links[step(at, links.length - 1)]?.focus();
+    }
+}
+
+function centre(list: HTMLElement, link: HTMLElement | undefined): void {
+    if (link !== undefined) {
+        list.scrollLeft = link.offsetLeft - (list.clientWidth - link.offsetWidth) / 2;
+    }
+}
