@@ -12,6 +12,14 @@ export async function answerWith(page, text, verdict) {
 // c(HNO3) = 0.678 mol/L, and what turns it into each of the verdicts.
 export const verdicts = { correct: "0.678", figures: "0.68", slip: "0.250", "power-of-ten": "678", close: "0.683", wrong: "777", unreadable: "about a litre" };
 
+// Of a set of five the first is shown, and the second wrong.
+async function beginSet(page) {
+    await press(page, "Show the answer");
+    await press(page, "Next");
+    await page.getByRole("heading", { name: "Exercise 2 of 5" }).waitFor();
+    await answerWith(page, "1234567", "wrong");
+}
+
 // Each state by its name: where it is, and what leads to it from there.
 export const states = [
     ...samples.map((kind) => [`a new exercise, ${kind}`, `#practice/4821/3/${kind}`, async () => {}]),
@@ -50,7 +58,32 @@ export const states = [
         await answerWith(page, verdicts.correct, "correct");
         await panel(page, "My record").click();
     }],
-    ["a summary", "#practice/4821/6/molar-mass:1?set=5", async () => {}],
+    ["a record to be cleared", "#practice/4821/3/titration:3", async (page) => {
+        await answerWith(page, verdicts.correct, "correct");
+        await panel(page, "My record").click();
+        await press(page, "Clear my record");
+    }],
+    ["a set in progress", "#practice/4821/1/molar-mass:1?set=5", beginSet],
+    ["a set of 99", "#practice/4821/50/molar-mass:1?set=99", async () => {}],
+    ["the sets on the device", "#practice/4821/1/molar-mass:1?set=5", async (page) => {
+        await beginSet(page);
+        await panel(page, "My record").click();
+        await press(page, "Clear all sets");
+    }],
+    ["a set to be finished", "#practice/4821/5/molar-mass:1?set=5", (page) => press(page, "Finish")],
+    ["a link to be copied by hand", "#practice/4821/5/molar-mass:1?set=5", async (page) => {
+        await page.evaluate(() => Object.defineProperty(navigator, "clipboard", { value: undefined, configurable: true }));
+        await press(page, "Copy the link");
+        await page.getByRole("textbox", { name: "The link" }).waitFor();
+    }],
+    ["a summary", "#practice/4821/1/molar-mass:1?set=5", async (page) => {
+        await beginSet(page);
+        await page.getByRole("link", { name: "Exercise 5: open" }).click();
+        await press(page, "Finish");
+        await press(page, "Finish");
+        await page.getByRole("heading", { name: "Summary of paper 4821" }).waitFor();
+    }],
+    ["a summary of nothing", "#practice/4821/6/molar-mass:1?set=5", async () => {}],
     ["a bad address", "#practice/0/1/titration", async () => {}],
     ["the sheets", "#sheet", async () => {}],
     ["a sheet with drawings, room and a worked key", "#sheet/4821/titration:3,dilution:1,molar-mass:3,solubility:1,ion-formula?drawings=1&key=working&v=1", async () => {}],
