@@ -1,28 +1,34 @@
 // The exercises of a set in a row, each with what it has come to, to jump to.
 import { addressOf, atNumber } from "../address";
 import { element, show, spoken } from "../dom";
-import { type Done, keptSet } from "../sets";
+import { type Done, keptSet, openIn } from "../sets";
 import { texts } from "../texts";
 import type { PracticeRoute } from "../types";
 
 type State = keyof typeof texts.overviewSigns;
 
+// So many stand open; more are folded, or they would push the question out of the window.
+const mostOpen = 20;
+
 // nav
-//   ol         scrolls sideways where there are many
-//     li
-//       a      a number and a sign; one stop for the Tab key, since the field comes behind it
+//   details    where there are many
+//     summary
+//     ol
+//       li
+//         a    a number and a sign; one stop for the Tab key, since the field comes behind it
 //   p.hint     while the focus is there
 export function overviewOf(route: PracticeRoute): { element: HTMLElement; update(): void } {
     const links = Array.from({ length: route.set }, (_, at) => linkTo(route, at + 1));
     const list = element("ol", {}, ...links.map((link) => element("li", {}, link)));
-    const hint = element("p", { class: "hint" }, texts.overviewKeys);
+    const summary = element("summary", {});
     list.addEventListener("keydown", (event) => walk(event, links));
-    window.requestAnimationFrame(() => centre(list, links[route.number - 1]));
     const update = () => {
         const exercises = keptSet(route)?.exercises;
         links.forEach((link, at) => showState(link, at + 1, exercises?.get(at + 1)));
+        show(summary, `${texts.overview}: ${texts.doneOf(route.set - openIn(route).length, route.set)}`);
     };
-    return { element: element("nav", { class: "overview", "aria-label": texts.overview }, list, hint), update };
+    const folded = route.set > mostOpen ? element("details", {}, summary, list) : list;
+    return { element: element("nav", { class: "overview", "aria-label": texts.overview }, folded, element("p", { class: "hint" }, texts.overviewKeys)), update };
 }
 
 function linkTo(route: PracticeRoute, number: number): HTMLAnchorElement {
@@ -59,11 +65,5 @@ function walk(event: KeyboardEvent, links: HTMLElement[]): void {
     if (step !== undefined && at >= 0) {
         event.preventDefault();
         links[step(at, links.length - 1)]?.focus();
-    }
-}
-
-function centre(list: HTMLElement, link: HTMLElement | undefined): void {
-    if (link !== undefined) {
-        list.scrollLeft = link.offsetLeft - (list.clientWidth - link.offsetWidth) / 2;
     }
 }

@@ -286,11 +286,16 @@ for (const [name, hash, reach] of states.filter(([name]) => /titration:3|correct
     });
 }
 
-test("a printed summary has the paper and each exercise, and no button", async () => {
-    const page = await openPage(browser, "#practice/4821/6/molar-mass:1?set=5");
+test("a printed summary has the paper, when, how long, each exercise and the total, and no button", async () => {
+    const [, hash, reach] = states.find(([name]) => name === "a summary");
+    const page = await openPage(browser, hash);
+    await reach(page);
     const text = execFileSync("pdftotext", ["-layout", "-", "-"], { input: await page.pdf({ format: "A4" }), encoding: "utf8" });
     assert.match(text, /Summary of paper 4821/);
-    assert.equal(text.match(/Exercise \d +Molar mass, level 1 +not solved/g)?.length, 5, text);
-    assert.doesNotMatch(text, /Print|Save|New set|Skip/);
+    assert.match(text, /Begun +\d+ \w+ \d{4}, \d\d:\d\d/);
+    assert.match(text, /Time worked +less than a minute/);
+    assert.match(text, /Total +0 of 5 solved, none at the first try/);
+    assert.deepEqual(text.match(/(?<=Exercise \d +Molar mass, level 1 +)\d +.*$/gm)?.map((line) => line.replace(/ +/g, " ")), ["0 shown", "1 not solved", "0 not solved", "0 not solved", "0 not solved"], text);
+    assert.doesNotMatch(text, /Print|Save|New set|Skip|Clear|Copy|link/);
     await leave(page);
 });

@@ -55,20 +55,34 @@ test("there is no overview outside a set", async () => {
     await leave(page);
 });
 
-test("of a set of 99 the present exercise is in view in its row, at 320 px too, and the page is no wider", async () => {
-    const page = await openPage(browser, at(50, 99), { viewport: { width: 320, height: 640 } });
-    const link = overview(page).locator("[aria-current]");
-    await page.waitForFunction(() => document.querySelector(".overview ol").scrollLeft > 0);
-    const { x, width } = await link.boundingBox();
-    assert.ok(x >= 0 && x + width <= 320, `${x} and ${width} wide`);
-    assert.ok(await page.evaluate(() => document.documentElement.scrollWidth <= innerWidth));
-    assert.ok((await overview(page).boundingBox()).height < 80);
+test("of a set of 99 the exercises are folded, and it tells how many are done", async () => {
+    const page = await openPage(browser, at(50, 99));
+    await press(page, "Show the answer");
+    const fold = overview(page).getByText("Exercises of this set: 1 of 99 done");
+    assert.equal(await overview(page).getByRole("link").count(), 0);
+    await fold.click();
+    assert.equal(await overview(page).getByRole("link").count(), 99);
+    await overview(page).getByRole("link", { name: "Exercise 99: open" }).click();
+    await heading(page, "Exercise 99 of 99");
+    await leave(page);
+});
+
+test("twenty exercises stand in one row beside the question, and in three on a phone", async () => {
+    const page = await openPage(browser, at(1, 20));
+    for (const [width, rows] of [[800, 1], [360, 3]]) {
+        await page.setViewportSize({ width, height: 740 });
+        const tops = await overview(page).getByRole("link").evaluateAll((all) => all.map((link) => link.getBoundingClientRect().top));
+        assert.ok(new Set(tops).size <= rows, `${new Set(tops).size} rows in ${width} px`);
+        assert.equal(tops.length, 20);
+    }
     await leave(page);
 });
 
 test("on a touch screen each exercise of the row is 44 px wide and high at least", async () => {
     const page = await openPage(browser, at(1, 20), { viewport: { width: 360, height: 740 }, hasTouch: true, isMobile: true });
-    for (const link of await overview(page).getByRole("link").all()) {
+    const links = await overview(page).getByRole("link").all();
+    assert.equal(links.length, 20);
+    for (const link of links) {
         const { width, height } = await link.boundingBox();
         assert.ok(width >= 44 && height >= 44, `${width} × ${height}`);
     }

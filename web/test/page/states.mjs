@@ -64,7 +64,7 @@ export const states = [
         await press(page, "Clear my record");
     }],
     ["a set in progress", "#practice/4821/1/molar-mass:1?set=5", beginSet],
-    ["a set of 99", "#practice/4821/50/molar-mass:1?set=99", async () => {}],
+    ["a set of 99", "#practice/4821/50/molar-mass:1?set=99", (page) => panel(page, "Exercises of this set").click()],
     ["the sets on the device", "#practice/4821/1/molar-mass:1?set=5", async (page) => {
         await beginSet(page);
         await panel(page, "My record").click();
