@@ -12,7 +12,7 @@ const longest = 30_000; // a sheet of 1000 exercises, each picked by hand
 export function routeOf(hash: string): Route {
     const address = hash.replace(/^#/, "");
     if (address === "") {
-        return { view: "none", of: "practice" };
+        return { view: "start" };
     }
     if (address.length > longest) {
         return bad();

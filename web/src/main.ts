@@ -4,6 +4,7 @@ import { addressOf, mainRoad, routeOf } from "./address";
 import { byId, element, show } from "./dom";
 import { lessonOf } from "./engine/lesson";
 import { instantiate, unpacked } from "./engine/memory";
+import { choiceIn } from "./kinds";
 import { withLists } from "./lists";
 import { namesOf } from "./sentence";
 import * as storage from "./storage";
@@ -16,6 +17,7 @@ import { showMessage } from "./views/message";
 import { type Page, randomPaper } from "./views/page";
 import { showPractice } from "./views/practice";
 import { showSheets } from "./views/sheets";
+import { showStart } from "./views/start";
 import { showSummary } from "./views/summary";
 import { showTables } from "./views/tables";
 import * as working from "./working";
@@ -37,6 +39,7 @@ function rememberPlaces(): void {
 function keepPlaces(): void {
     if (practised !== null) {
         storage.keepPlaceLeft("practice", addressOf(practised));
+        storage.keepLastKinds(practised.kinds);
     }
     if (printed !== null) {
         storage.keepPlaceLeft("sheet", addressOf(printed));
@@ -72,8 +75,14 @@ function open(page: Page): void {
     focus();
 }
 
-function newPaper(): string {
-    return addressOf({ view: "practice", paper: randomPaper(), number: 1, kinds: practised?.kinds ?? "mixed", set: 0 });
+function newPaper(page: Page): string {
+    return addressOf({ view: "practice", paper: randomPaper(), number: 1, kinds: usualKinds(page), set: 0 });
+}
+
+// What was practised last in this tab, or else on this device.
+function usualKinds({ lesson, kinds: all }: Page): string {
+    const kinds = choiceIn(practised?.kinds ?? storage.lastKinds(), all);
+    return lesson.exercise(1, 1, kinds) === null ? "mixed" : kinds;
 }
 
 function newSheet(): string {
@@ -84,7 +93,7 @@ function newSheet(): string {
 function render(page: Page): Focus {
     const route = routeOf(location.hash);
     if (route.view === "none") {
-        history.replaceState(null, "", route.of === "sheet" ? newSheet() : newPaper());
+        history.replaceState(null, "", newSheet());
         return render(page);
     }
     working.rest();
@@ -95,6 +104,8 @@ function render(page: Page): Focus {
 
 function showView(route: Exclude<Route, { view: "none" }>, page: Page): Focus {
     switch (route.view) {
+        case "start":
+            return showStart(main, { left: practised, kinds: usualKinds(page) }, page);
         case "practice":
             return showExercise(route, page) ?? showBad("practice", texts.badAddress, page);
         case "tables":
@@ -109,7 +120,7 @@ function showView(route: Exclude<Route, { view: "none" }>, page: Page): Focus {
 function showBad(of: "practice" | "sheet", message: string, page: Page): Focus {
     return of === "sheet"
         ? showMessage(main, message, texts.startSheet, () => page.go(newSheet()))
-        : showMessage(main, message, texts.startAnew, () => page.go(newPaper()));
+        : showMessage(main, message, texts.startAnew, () => page.go(newPaper(page)));
 }
 
 // Null for kinds that the library does not know. Behind the last exercise of a set is its summary.
@@ -139,14 +150,14 @@ function showSheet(route: SheetRoute, page: Page): Focus | null {
 function showViews(route: Route): void {
     document.documentElement.dataset["view"] = route.view;
     const links = [
-        { text: texts.practice, href: practised === null ? "#" : addressOf(practised), view: "practice" },
+        { text: texts.practice, href: practised === null ? "#" : addressOf(practised), view: practised === null ? "start" : "practice" },
         { text: texts.sheets, href: printed === null ? "#sheet" : addressOf(printed), view: "sheet" },
         { text: texts.tables, href: "#tables", view: "tables" },
     ];
     const items = links.map(({ text, href, view }) => element("a", { href, "aria-current": route.view === view ? "page" : undefined }, text));
     show(byId("views"), ...items);
     keepPlaces();
-    document.title = `${titleOf(route)} – ${texts.title}`;
+    document.title = route.view === "start" ? texts.title : `${titleOf(route)} – ${texts.title}`;
 }
 
 function titleOf(route: Route): string {
@@ -176,6 +187,7 @@ async function start(): Promise<void> {
     storage.open(); // while the module is compiled
     const page = pageOf(withLists(lessonOf(await instantiated)));
     rememberPlaces();
+    show(byId("home"), texts.title);
     render(page);
     window.addEventListener("hashchange", () => open(page));
     keepClock();

@@ -6,6 +6,7 @@ import type { Settings } from "./types";
 type Store = "localStorage" | "sessionStorage";
 
 const settingsKey = "chempractice.settings";
+const kindsKey = "chempractice.kinds";
 
 export const usualSettings: Settings = {
     volume: "mL",
@@ -99,4 +100,14 @@ export function placeLeft(view: "practice" | "sheet"): string {
 
 export function keepPlaceLeft(view: "practice" | "sheet", address: string): void {
     write("sessionStorage", `chempractice.left.${view}`, address);
+}
+
+// What was practised last on this device; empty where nothing was.
+export function lastKinds(): string {
+    const kept = read("localStorage", kindsKey);
+    return typeof kept === "string" ? kept : "";
+}
+
+export function keepLastKinds(kinds: string): void {
+    write("localStorage", kindsKey, kinds);
 }

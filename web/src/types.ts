@@ -172,7 +172,8 @@ export type Route =
     | PracticeRoute
     | SheetRoute
     | { view: "tables" }
-    | { view: "none"; of: "practice" | "sheet" } // nothing is asked for: the page chooses
+    | { view: "start" } // nothing is asked for: the reader chooses
+    | { view: "none"; of: "sheet" } // no sheet is named: the page chooses
     | { view: "bad"; of: "practice" | "sheet"; message: string };
 
 // How quantities and names are written; chosen by the reader, kept on the device.

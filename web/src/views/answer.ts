@@ -97,7 +97,7 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
 // room, the last line of the question.
 export function keepFieldInView(): void {
     const focused = document.activeElement;
-    const form = focused?.closest(".exercise form");
+    const form = focused?.closest(".exercise > form");
     const prompt = form?.parentElement?.querySelector(".prompt");
     if (focused && form && prompt) {
         const first = [lastLineOf(prompt), form].find((place) => fitIntoView(place, form)) ?? focused;

@@ -1,68 +1,52 @@
-// Which exercises: kinds and levels as a set, the paper, how many.
+// Which exercises: kinds and levels as a set, the paper, how many. Opened by a button, right below it.
 import { addressOf } from "../address";
-import { button, element, show } from "../dom";
+import { bringIntoView, button, element } from "../dom";
+import { choiceIn, entriesOf, shortest } from "../kinds";
+import { isList } from "../list";
 import { texts } from "../texts";
-import type { KindInfo, PracticeRoute } from "../types";
-import { type Page, randomPaper } from "./page";
+import type { Exercise, PracticeRoute } from "../types";
+import { type KindRows, kindRows } from "./kind-rows";
+import { type Page, titleOf } from "./page";
+import { type PaperField, paperField } from "./paper-field";
+import { type Problem, problemMarks } from "./problems";
 
 const lengths = [0, 5, 10, 20];
-const usualLevel = "2";
 
-// details
-//   summary
-//   form    a row of three boxes a kind, the paper, how many, Start
-export function choicePanel(route: PracticeRoute, page: Page): HTMLElement {
-    const chosen = new Set(entriesOf(route.kinds, page.kinds));
-    const boxes = page.kinds.map((info) => kindBoxes(info, chosen));
-    const paper = element("input", { id: "paper", type: "text", inputmode: "numeric", value: route.paper, "aria-describedby": "paper-hint", autocomplete: "off" });
-    const length = lengthField(route.set);
-    const message = element("p", { class: "message", role: "alert" });
-    const form = element(
-        "form",
-        { class: "choice", autocomplete: "off" },
-        element("fieldset", {}, element("legend", {}, texts.chooseKinds), ...boxes),
-        element("label", { for: "paper" }, texts.choosePaper),
-        element("div", { class: "field" }, paper, button(texts.newPaper, () => (paper.value = String(randomPaper())))),
-        element("p", { id: "paper-hint", class: "hint" }, texts.choosePaperHint),
-        element("label", { for: "length" }, texts.chooseLength),
-        length,
-        message,
-        element("button", { type: "submit", class: "main" }, texts.start),
-    );
+export interface Fields {
+    kinds: KindRows;
+    length: HTMLSelectElement;
+    paper: PaperField;
+}
+
+export function fieldsOf({ kinds, set, paper }: Pick<PracticeRoute, "kinds" | "set" | "paper">, page: Page): Fields {
+    return { kinds: kindRows(choiceIn(kinds, page.kinds), page.kinds), length: lengthField(isList(kinds) ? 0 : set), paper: paperField(paper) };
+}
+
+// Goes to the first exercise of what is chosen, or to the first field that is wrong. What is told is taken
+// away while it is mended, and nothing new is told meanwhile: half a number is not wrong yet.
+export function beginWith(form: HTMLFormElement, fields: Fields, page: Page, whenWrong: () => void = () => {}): void {
+    const mark = problemMarks();
+    let told: Problem[] = [];
+    const tell = (problems: Problem[]) => mark((told = problems));
+    form.addEventListener("input", () => tell(problemsIn(fields).filter(({ field }) => told.some((one) => one.field === field))));
     form.addEventListener("submit", (event) => {
         event.preventDefault();
-        const kinds = [...form.querySelectorAll<HTMLInputElement>("input[type=checkbox]:checked")].map((box) => box.value);
-        const complaint = kinds.length === 0 ? texts.chooseNone : isPaper(paper.value) ? "" : texts.wrongPaper;
-        show(message, complaint);
-        if (complaint === "") {
-            page.go(addressOf({ view: "practice", paper: Number(paper.value), number: 1, kinds: shortest(kinds, page.kinds), set: Number(length.value) }));
+        tell(problemsIn(fields));
+        if (told.length === 0) {
+            page.go(addressOf(routeOf(fields)));
+        } else {
+            whenWrong();
+            told[0]!.field.focus();
         }
     });
-    return element("details", {}, element("summary", {}, texts.chooseTitle), form);
 }
 
-function isPaper(text: string): boolean {
-    return /^\s*[1-9]\d{0,5}\s*$/.test(text);
+function problemsIn({ kinds, paper }: Fields): Problem[] {
+    return [...kinds.problems(), ...paper.problems()];
 }
 
-// The set of an address, level by level: "mixed" is level 2 of each kind.
-function entriesOf(kinds: string, all: KindInfo[]): string[] {
-    const entries = kinds === "mixed" ? all.map((info) => info.kind) : kinds.split(",");
-    return entries.map((entry) => (entry.includes(":") ? entry : `${entry}:${usualLevel}`));
-}
-
-function shortest(entries: string[], all: KindInfo[]): string {
-    const isMixed = entries.length === all.length && entries.every((entry) => entry.endsWith(`:${usualLevel}`));
-    return isMixed ? "mixed" : entries.map((entry) => entry.replace(`:${usualLevel}`, "")).join(",");
-}
-
-function kindBoxes(info: KindInfo, chosen: ReadonlySet<string>): HTMLElement {
-    const levels = info.levels.map((text, at) => {
-        const value = `${info.kind}:${at + 1}`;
-        const box = element("input", { type: "checkbox", value, checked: chosen.has(value) });
-        return element("label", { class: "level" }, box, `${at + 1}. ${text}`);
-    });
-    return element("fieldset", { class: "kind" }, element("legend", {}, info.title), ...levels);
+function routeOf({ kinds, length, paper }: Fields): PracticeRoute {
+    return { view: "practice", paper: paper.read(), number: 1, kinds: kinds.read(), set: Number(length.value) };
 }
 
 function lengthField(present: number): HTMLSelectElement {
@@ -71,4 +55,79 @@ function lengthField(present: number): HTMLSelectElement {
         element("option", { value: count, selected: count === present }, count === 0 ? texts.endless : texts.setOf(count)),
     );
     return element("select", { id: "length" }, ...options);
+}
+
+// div.length
+//   label
+//   div.field    select, Start
+export function lengthAndStart(length: HTMLSelectElement, start: HTMLElement): HTMLElement {
+    return element("div", { class: "length" }, element("label", { for: "length" }, texts.chooseLength), element("div", { class: "field" }, length, start));
+}
+
+export interface Opener {
+    button: HTMLButtonElement;
+    open(isOpen: boolean): void;
+}
+
+// The button keeps the focus: what it opens follows behind it. Escape in the one or the other closes.
+export function openerOf(panel: HTMLElement, changed: (isOpen: boolean) => void = () => {}): Opener {
+    const open = (isOpen: boolean) => {
+        panel.hidden = !isOpen;
+        made.setAttribute("aria-expanded", String(isOpen));
+        changed(isOpen);
+    };
+    const press = () => {
+        open(panel.hidden !== false);
+        if (!panel.hidden) {
+            bringIntoView(made, panel);
+        }
+    };
+    const made = button(texts.chooseTitle, press, { class: "opener" });
+    const close = (event: KeyboardEvent) => {
+        if (event.key === "Escape" && !panel.hidden) {
+            open(false);
+            made.focus();
+        }
+    };
+    [made, panel].forEach((one) => one.addEventListener("keydown", close));
+    open(false);
+    return { button: made, open };
+}
+
+// div.choice      filled when it is opened first: most readers only want the exercise
+//   form
+export function choicePanel(route: PracticeRoute, exercise: Exercise, page: Page): { button: HTMLElement; panel: HTMLElement } {
+    const panel = element("div", { class: "choice" });
+    const opener = openerOf(panel, (isOpen) => {
+        if (isOpen && panel.childElementCount === 0) {
+            panel.append(choiceForm(route, exercise, page));
+        }
+    });
+    return { button: opener.button, panel };
+}
+
+// form
+//   button          only what is asked at present
+//   div.kinds
+//   div.paper
+//   div.length      how many, Start
+function choiceForm(route: PracticeRoute, exercise: Exercise, page: Page): HTMLElement {
+    const fields = fieldsOf(route, page);
+    const form = element(
+        "form",
+        { autocomplete: "off", "aria-label": texts.chooseTitle },
+        ...onlyThis(route, exercise, page),
+        fields.kinds.element,
+        fields.paper.element,
+        lengthAndStart(fields.length, element("button", { type: "submit", class: "main" }, texts.start)),
+    );
+    beginWith(form, fields, page);
+    return form;
+}
+
+// Nothing where that is the choice already.
+function onlyThis(route: PracticeRoute, { kind, level }: Exercise, page: Page): HTMLElement[] {
+    const only: PracticeRoute = { ...route, number: 1, kinds: shortest([`${kind}:${level}`], page.kinds), set: 0 };
+    const isAlready = !isList(route.kinds) && shortest(entriesOf(route.kinds, page.kinds), page.kinds) === only.kinds;
+    return isAlready ? [] : [button(texts.onlyKind(titleOf(page, kind), level), () => page.go(addressOf(only)))];
 }

@@ -4,6 +4,7 @@ import { countOf, isCount, kindOf, mostExercises } from "../list";
 import { withCounts } from "../picks";
 import { texts } from "../texts";
 import type { KindInfo, SheetEntry } from "../types";
+import { meaningsOf } from "./meanings";
 import type { Problem } from "./problems";
 
 interface CountField {
@@ -66,12 +67,7 @@ function countRows(counts: CountField[], kinds: KindInfo[]): HTMLElement {
     const rows = kinds.map((info) => {
         const fields = counts.filter(({ entry }) => entry.kind === info.kind).map(({ input }) => input);
         const row = element("div", { class: "row" }, element("span", { class: "title", "aria-hidden": "true" }, info.title), element("div", { class: "levels" }, ...fields));
-        return element("div", { class: "asked" }, row, meanings(info));
+        return element("div", { class: "asked" }, row, meaningsOf(info));
     });
     return element("fieldset", { class: "counts" }, element("legend", {}, texts.howMany), hint, head, ...rows);
-}
-
-function meanings({ levels }: KindInfo): HTMLElement {
-    const parts = levels.flatMap((text, at) => [element("strong", {}, String(at + 1)), `\u00A0${text}${at < levels.length - 1 ? "; " : ""}`]);
-    return element("p", { class: "meanings", "aria-hidden": "true" }, ...parts);
 }

@@ -22,6 +22,7 @@ export interface Place {
     route: PracticeRoute;
     exercise: Exercise;
     page: Page;
+    choice: { button: HTMLElement; panel: HTMLElement }; // of other exercises
     solved(): void; // a result was added to the record
 }
 
@@ -67,7 +68,8 @@ export function showExercise(article: HTMLElement, place: Place): () => void {
     return () => (isTouched() ? announce(nameOf(place.route)) : parts.field.focus());
 }
 
-// header       h1 and what exercise it is
+// header       h1, what exercise it is, Choose exercises
+// div.choice   once that is pressed
 // nav          in a set, its exercises
 // p.prompt
 // p.masses     where it cannot be answered without
@@ -78,10 +80,11 @@ export function showExercise(article: HTMLElement, place: Place): () => void {
 // div.help     Show a step, Show the answer
 // section.solution
 // div.help     Next or Back to exercise 4, Another like this
-function contentsOf({ route, exercise, page }: Place, parts: Parts): HTMLElement[] {
+function contentsOf({ route, exercise, page, choice }: Place, parts: Parts): HTMLElement[] {
     const drawing = drawingOf(exercise, page.settings);
     return [
-        headerOf(route, exercise, page),
+        headerOf(route, exercise, choice.button, page),
+        choice.panel,
         ...(parts.overview === null ? [] : [parts.overview.element]),
         element("p", { class: "prompt" }, ...typesetLine(exercise.prompt, page.settings)),
         ...massesBelow(exercise, page),

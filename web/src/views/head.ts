@@ -7,12 +7,14 @@ import { type Page, titleOf } from "./page";
 // header
 //   h1
 //   p.which      kind, level and paper
-export function headerOf(route: PracticeRoute, exercise: Exercise, page: Page): HTMLElement {
+//   button       to choose others
+export function headerOf(route: PracticeRoute, exercise: Exercise, choose: HTMLElement, page: Page): HTMLElement {
     return element(
         "header",
         {},
         element("h1", {}, nameOf(route)),
         element("p", { class: "which" }, `${texts.kindAndLevel(titleOf(page, exercise.kind), exercise.level)} · ${texts.paper(route.paper)}`),
+        choose,
     );
 }
 

@@ -1,7 +1,7 @@
 // Whole exercises without a mouse: from the first Tab after the page has loaded.
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
-import { announced, leave, openChromium, openLesson, openPage, panel } from "./support.mjs";
+import { announced, leave, openChromium, openLesson, opener, openPage, panel } from "./support.mjs";
 
 let browser;
 let lesson;
@@ -158,6 +158,8 @@ test("the first Tab is the link that skips to the exercise", async () => {
     await page.keyboard.press("Enter");
     assert.equal(await isFocused(page.getByRole("main")), true);
     await page.keyboard.press("Tab");
+    assert.equal(await isFocused(opener(page)), true);
+    await page.keyboard.press("Tab");
     assert.equal(await isFocused(page.locator("#answer")), true);
     assert.equal(new URL(page.url()).hash, hash);
     await leave(page);
@@ -165,11 +167,11 @@ test("the first Tab is the link that skips to the exercise", async () => {
 
 test("kinds, levels, paper and length are chosen, and the focus is in the first field", async () => {
     const page = await open("#practice/4821/3/titration");
-    await tabTo(page, panel(page, "Choose exercises"));
+    await tabTo(page, opener(page));
     await page.keyboard.press("Enter");
-    await tabTo(page, page.locator("input[value='dilution:1']"));
+    await tabTo(page, button(page, "None"));
     await page.keyboard.press("Space");
-    await tabTo(page, page.locator("input[value='titration:2']"));
+    await tabTo(page, page.getByRole("group", { name: "Dilution" }).getByRole("checkbox", { name: /^Level 1/ }));
     await page.keyboard.press("Space");
     await tabTo(page, page.getByLabel("Paper", { exact: true }));
     await page.keyboard.type("77");

@@ -1,7 +1,12 @@
 // The states of the page that are looked at one by one.
-import { check, panel, samples, type } from "./support.mjs";
+import { check, opener, panel, samples, type } from "./support.mjs";
 
 export const press = (page, name) => page.getByRole("button", { name, exact: true }).click();
+
+export async function goToStart(page) {
+    await page.evaluate(() => (location.hash = ""));
+    await page.getByRole("heading", { name: "Chemical calculations practice" }).waitFor();
+}
 
 export async function answerWith(page, text, verdict) {
     await type(page, text);
@@ -45,10 +50,18 @@ export const states = [
     }],
     ["a hint", "#practice/4821/3/titration:3", (page) => press(page, "Show a step")],
     ...samples.map((kind) => [`the solution of ${kind}`, `#practice/4821/3/${kind}`, (page) => press(page, "Show the answer")]),
-    ["the choice of exercises", "#practice/4821/3/titration", (page) => panel(page, "Choose exercises").click()],
+    ["the start", "", async () => {}],
+    ["the start after an exercise", "#practice/4821/3/titration", (page) => goToStart(page)],
+    ["the start with its choice", "", (page) => opener(page).click()],
+    ["the start with a wrong paper", "", async (page) => {
+        await page.getByLabel("Paper", { exact: true }).fill("twelve");
+        await press(page, "Start");
+    }],
+    ["the choice of exercises", "#practice/4821/3/mixed", (page) => opener(page).click()],
     ["a choice of nothing", "#practice/4821/3/titration", async (page) => {
-        await panel(page, "Choose exercises").click();
-        await page.locator("input[value='titration:2']").uncheck();
+        await opener(page).click();
+        await press(page, "None");
+        await page.getByLabel("Paper", { exact: true }).fill("0");
         await press(page, "Start");
     }],
     ["beakers that are not to scale", "#practice/4821/3/dilution:3", async () => {}],

@@ -141,6 +141,11 @@ export function panel(page, title) {
     return page.locator("summary", { hasText: title });
 }
 
+// What opens and closes the choice of exercises.
+export function opener(page) {
+    return page.getByRole("button", { name: "Choose exercises" });
+}
+
 // What the live region says, once it says something.
 export async function announced(page) {
     await page.waitForFunction(() => document.getElementById("announcement").textContent !== "");

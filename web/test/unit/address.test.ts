@@ -54,9 +54,9 @@ test("what is no list is no practice, and no side road leads out of one", () => 
     assert.equal(routeOf("#practice/1/1/titration?back=4:2*titration").view, "bad");
 });
 
-test("nothing behind the sign is no address, and the page chooses", () => {
-    assert.deepEqual(routeOf(""), { view: "none", of: "practice" });
-    assert.deepEqual(routeOf("#"), { view: "none", of: "practice" });
+test("nothing behind the sign leads to the start, and no sheet to any", () => {
+    assert.deepEqual(routeOf(""), { view: "start" });
+    assert.deepEqual(routeOf("#"), { view: "start" });
     assert.deepEqual(routeOf("#sheet"), { view: "none", of: "sheet" });
 });
 

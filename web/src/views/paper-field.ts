@@ -1,0 +1,33 @@
+// The number of a paper, with a way to another one.
+import { button, element } from "../dom";
+import { isPaper } from "../sheet";
+import { texts } from "../texts";
+import { randomPaper } from "./page";
+import type { Problem } from "./problems";
+
+export interface PaperField {
+    element: HTMLElement;
+    read(): number;
+    problems(): Problem[];
+}
+
+// div.paper
+//   label
+//   div.field    input, New paper
+//   p#paper-hint
+export function paperField(present: number): PaperField {
+    const input = element("input", { id: "paper", type: "text", inputmode: "numeric", value: present, autocomplete: "off", "aria-describedby": "paper-hint" });
+    const anew = button(texts.newPaper, () => {
+        input.value = String(randomPaper());
+        input.dispatchEvent(new Event("input", { bubbles: true }));
+    });
+    const box = element(
+        "div",
+        { class: "paper asked" },
+        element("label", { for: "paper" }, texts.choosePaper),
+        element("div", { class: "field" }, input, anew),
+        element("p", { id: "paper-hint", class: "hint" }, texts.choosePaperHint),
+    );
+    const problems = () => (isPaper(input.value.trim()) ? [] : [{ field: input, sentence: texts.wrongPaper }]);
+    return { element: box, read: () => Number(input.value), problems };
+}
