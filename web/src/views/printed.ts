@@ -26,8 +26,8 @@ const lines: Record<SheetRoute["room"], Record<Form, number>> = {
 // li, or li.half beside another
 //   p.asks       the question, its figures and its marks
 //   figure
-//   div.rule     as many as there is room for
-//   p.answer-line
+//   div.room     its height is known
+//     div.rule, p.answer-line
 export function exerciseItem(exercise: Exercise, place: Place, route: SheetRoute, page: Page): HTMLElement {
     const { ask } = exercise;
     const count = lines[route.room][ask.form];
@@ -75,7 +75,9 @@ function roomFor(ask: Ask, count: number, page: Page): HTMLElement[] {
         return [];
     }
     const rules = Array.from({ length: count - 1 }, () => element("div", { class: "rule" }));
-    return [...rules, answerLine(ask, page)];
+    const room = element("div", { class: "room" }, ...rules, answerLine(ask, page));
+    room.style.setProperty("--lines", String(count));
+    return [room];
 }
 
 // p.answer-line     "c(KOH) = ____ mol/L", "Answer: ____"
