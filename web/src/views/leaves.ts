@@ -1,39 +1,17 @@
 // The pages of a sheet as they come out of the printer. Each is filled here, so that preview and print
 // break at the same places in every browser, and each page tells its paper.
 import { element } from "../dom";
-import { agreedFigures, type Group, groupsOf } from "../asking";
-import { fill, type Part, type Row, rowsOf } from "../filling";
+import { fill, type Part } from "../filling";
 import { exercisesOf, papersOf } from "../sheet";
 import { texts } from "../texts";
-import type { ElementInfo, Exercise, SheetRoute } from "../types";
+import type { Exercise, SheetRoute } from "../types";
 import type { Page } from "./page";
-import { exerciseItem, keyItem } from "./printed";
-import { frameHead, keyHead, keyHeadAgain, labelOf, sheetHead, type Version } from "./printed-heads";
-
-// An element and how high it is on paper, in millimetres; whether another can stand beside it.
-interface Item {
-    element: HTMLElement;
-    height: number;
-    isHalf: boolean;
-}
-
-// Items under headings, and what stands above those on a further page.
-interface Run {
-    head: Item[];
-    again: Item[];
-    items: Item[];
-    rows: Row[];
-    first: number; // of its items, counted from 0
-}
-
-type Measure = (elements: HTMLElement[]) => Item[];
-
-const atOnce = 25; // exercises that are made and measured in one step
+import { labelOf, type Version } from "./printed-heads";
+import { atOnce, measureIn, type Run, runsOf } from "./runs";
 
 // In millimetres, as in sheet.css: the page without its margins and its running line, less what a line
 // that breaks otherwise in print than on the screen may need.
 const spare = 5;
-const oneLine = 11; // an item of the key that is higher has two
 const widths: Record<SheetRoute["size"], number> = { A4: 210, Letter: 215.9 };
 const capacities: Record<SheetRoute["size"], number> = { A4: 297 - 2 * 15 - 8 - spare, Letter: 279.4 - 2 * 15 - 8 - spare };
 
@@ -75,47 +53,6 @@ function blankSide(label: string): HTMLElement {
     return element("div", { class: "leaf" }, element("p", { class: "running" }, label), element("p", { class: "empty" }, texts.blankSide));
 }
 
-// What is not printed is not made.
-function* runsOf(version: Version, route: SheetRoute, elements: ElementInfo[], measure: Measure, page: Page): Generator<void, { sheet: Run[]; key: Run }> {
-    const groups = groupsOf(version.exercises, route);
-    const frames = groups.map((group) => (group.frame === null ? null : frameHead(group, version, route, page)));
-    const headings = [sheetHead(version, route, elements, page), keyHead(version, route), keyHeadAgain(version, route)];
-    const [head, keyAtFirst, keyAgain, ...framed] = measure([...headings, ...frames.flatMap((frame) => frame ?? [])]);
-    const sheet: Item[] = [];
-    const key: Item[] = [];
-    for (let from = 0; from < version.exercises.length; from += atOnce) {
-        const asked = route.parts === "key" ? [] : askedItems(version, groups, from, route, page);
-        const answered = route.parts === "sheet" ? [] : version.exercises.slice(from, from + atOnce).map((exercise) => keyItem(exercise, route, page));
-        const items = measure([...asked, ...answered]);
-        sheet.push(...items.splice(0, asked.length));
-        key.push(...items.map(alone));
-        yield;
-    }
-    const runs = route.parts === "key" ? [] : groups.map((group, at) => runOf(at === 0 ? [head!] : [], group.frame === null ? [] : [framed.shift()!], sheet.slice(group.from, group.to), group.from));
-    return { sheet: runs, key: { ...runOf([keyAtFirst!], [], key, 0), again: [keyAgain!] } };
-}
-
-function askedItems({ exercises }: Version, groups: Group[], from: number, route: SheetRoute, page: Page): HTMLElement[] {
-    const saysFigures = agreedFigures(exercises) === null;
-    return exercises.slice(from, from + atOnce).map((exercise, at) => {
-        const group = groups.find(({ to }) => to > from + at);
-        return exerciseItem(exercise, { isFramed: group?.frame != null, saysFigures }, route, page);
-    });
-}
-
-function runOf(head: Item[], frame: Item[], items: Item[], first: number): Run {
-    return { head: [...head, ...frame], again: frame, items, rows: rowsOf(items), first };
-}
-
-// Where half of the width is not enough for one line, it has the whole.
-function alone(item: Item): Item {
-    if (!item.isHalf || item.height <= oneLine) {
-        return item;
-    }
-    item.element.classList.remove("half");
-    return { ...item, isHalf: false };
-}
-
 // Kinds that the library does not know were refused before.
 function* exercisesOfPaper(paper: number, places: { kind: string; number: number }[], page: Page): Generator<void, Exercise[]> {
     const exercises: Exercise[] = [];
@@ -126,17 +63,6 @@ function* exercisesOfPaper(paper: number, places: { kind: string; number: number
         }
     }
     return exercises;
-}
-
-function measureIn(measuring: HTMLElement, width: number): Measure {
-    return (elements) => {
-        const isHalf = (one: HTMLElement) => one.className === "half";
-        const whole = element("ol", {}, ...elements.filter((one) => one.localName === "li" && !isHalf(one)));
-        const halves = element("ol", { class: "narrow" }, ...elements.filter(isHalf));
-        measuring.replaceChildren(...elements.filter((one) => one.localName !== "li"), whole, halves);
-        const millimetre = measuring.getBoundingClientRect().width / width;
-        return elements.map((one) => ({ element: one, height: one.getBoundingClientRect().height / millimetre, isHalf: isHalf(one) }));
-    };
 }
 
 function keysApart(keys: { label: string; run: Run }[], route: SheetRoute): { label: string; runs: Run[] }[] {
