@@ -1,7 +1,9 @@
 // A line of spans as elements: what is seen and what is said stand side by side. The visible form is
 // hidden from a screen reader where it would be read wrongly, and the spoken form from the eye.
 import { element, spoken } from "./dom";
+import { type Part, partsOf } from "./equation";
 import type { Settings, Span } from "./types";
+import { localNumber, localUnit, spokenUnit } from "./units";
 
 const thin = "\u202F"; // a blank that does not break
 
@@ -23,7 +25,29 @@ export function wholeSpoken(text: string): HTMLElement {
 
 // The line for the eye alone.
 export function seenOf(spans: Span[], settings: Settings): DocumentFragment {
-    return lineOf(spans, (span) => seenSpan(span, settings));
+    const line = document.createDocumentFragment();
+    line.append(...partsOf(spans).map((part) => seenPart(part, settings)));
+    return line;
+}
+
+// span.equation      on a line of its own
+//   span             its left side, with the arrow
+//   span             its right side
+function seenPart(part: Part, settings: Settings): Node {
+    const seen = (spans: Span[]) => lineOf(spans, (span) => seenSpan(span, settings));
+    if ("spans" in part) {
+        return seen(part.spans);
+    }
+    if ("whole" in part) {
+        return element("span", { class: "together" }, seen(part.whole));
+    }
+    const [left, right] = part.equation.map((side) => seen(signsBehind(side)));
+    return element("span", { class: "equation" }, element("span", {}, left!, "\u00A0→"), " ", element("span", {}, right!, part.stop));
+}
+
+// In an equation a line ends with a sign, and the next one begins with a formula.
+function signsBehind(side: Span[]): Span[] {
+    return side.map((span) => ("text" in span ? { text: "\u00A0+ " } : span));
 }
 
 function lineOf(spans: Span[], nodeOf: (span: Span) => Node): DocumentFragment {
@@ -194,48 +218,6 @@ function nameOf(span: { name: string; american?: string }, settings: Settings): 
     return settings.names === "american" && span.american !== undefined ? span.american : span.name;
 }
 
-export function localNumber(number: string, settings: Settings): string {
-    return number.replace(".", settings.decimal);
-}
-
-// "mol/L" with the reader's volume and fraction line: "mol dm-3".
-export function localUnit(unit: string, settings: Settings): string {
-    const volumes = settings.volume === "cm3" ? unit.replace("mL", "cm3").replace(/L$/, "dm3") : unit;
-    const [above = "", below] = volumes.split("/");
-    if (below === undefined || settings.per === "slash") {
-        return volumes;
-    }
-    return below.endsWith("3") ? `${above} ${below.slice(0, -1)}-3` : `${above} ${below}-1`;
-}
-
 function unitNodes(unit: string): Node[] {
     return shiftedNodes(unit.replaceAll(" ", thin), /(.*?[A-Za-z])(-?\d)|.+/gs, "sup");
-}
-
-const spokenUnits: Record<string, string> = {
-    "mL": "millilitres",
-    "cm3": "cubic centimetres",
-    "L": "litres",
-    "dm3": "cubic decimetres",
-    "g": "grams",
-    "mol": "moles",
-    "g/mol": "grams per mole",
-    "g mol-1": "grams per mole",
-    "g/L": "grams per litre",
-    "g L-1": "grams per litre",
-    "g/dm3": "grams per cubic decimetre",
-    "g dm-3": "grams per cubic decimetre",
-    "mol/L": "moles per litre",
-    "mol L-1": "moles per litre",
-    "mol/dm3": "moles per cubic decimetre",
-    "mol dm-3": "moles per cubic decimetre",
-};
-
-export function spokenUnit(unit: string): string {
-    return spokenUnits[unit] ?? unit;
-}
-
-// As plain text, for a label or a file: "mol dm⁻³".
-export function plainUnit(unit: string, settings: Settings): string {
-    return localUnit(unit, settings).replace("-3", "⁻³").replace("-1", "⁻¹").replace(/([a-z])3/, "$1³");
 }

@@ -1,9 +1,10 @@
 // The field for an answer: its label and hint, the signs to insert, and what the page makes of what
 // is being typed. Nothing here knows chemistry: digits behind letters are set low, charges high.
 import { bringIntoView, button, element, fitIntoView, isTouched, lastLineOf, show, spoken } from "../dom";
-import { bound, formulaNodes, plainUnit, spokenUnit, localUnit, typeset } from "../spans";
+import { bound, formulaNodes, typeset } from "../spans";
 import { texts } from "../texts";
 import type { Ask, Settings, Span } from "../types";
+import { localUnit, plainUnit, spokenUnit } from "../units";
 
 export const markId = "mark";
 

@@ -2,8 +2,8 @@
 // the labels beside them say, so they are for the eye alone.
 import { svg } from "../dom";
 import { burette, heightOf } from "../levels";
-import { localNumber, plainUnit } from "../spans";
 import type { Settings } from "../types";
+import { localNumber, plainUnit } from "../units";
 
 // Width of a beaker that holds the larger volume, and how high the liquid stands in it.
 const beakerWidth = 68;

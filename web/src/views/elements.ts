@@ -1,9 +1,10 @@
 // The elements: a field that finds them, above the periodic table.
 import { announce, bringIntoView, element, scrollBox, show } from "../dom";
 import { elementsMeant, type Meant } from "../elements";
-import { localNumber, spokenFormula } from "../spans";
+import { spokenFormula } from "../spans";
 import { texts } from "../texts";
 import type { ElementInfo } from "../types";
+import { localNumber } from "../units";
 import { nameOf, type Page } from "./page";
 import { periodicTable } from "./periodic";
 

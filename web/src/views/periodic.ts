@@ -1,8 +1,8 @@
 // The periodic table, in a box that scrolls where the window is narrow.
 import { element, scrollBox, spoken } from "../dom";
-import { localNumber } from "../spans";
 import { texts } from "../texts";
 import type { ElementInfo } from "../types";
+import { localNumber } from "../units";
 import { nameOf, type Page } from "./page";
 
 export interface PeriodicTable {

@@ -17,6 +17,7 @@ const windows = [
     { what: "at 400 %", viewport: { width: 320, height: 256 }, textSize: 1 },
     { what: "with text twice as large", viewport: { width: 640, height: 800 }, textSize: 2 },
     { what: "with text twice as large on a phone", viewport: { width: 360, height: 740 }, textSize: 2 },
+    { what: "with text twice as large at 320 pixels", viewport: { width: 320, height: 640 }, textSize: 2 },
 ];
 
 // What sticks out of the window, but for what scrolls in a box of its own or is for the ear alone.
@@ -40,6 +41,26 @@ function cutOff() {
         .map((element) => element.outerHTML.slice(0, 120));
 }
 
+// Words of a heading that go on in the next line.
+function brokenWords() {
+    const words = [...document.querySelectorAll("h1, h2")].filter((heading) => heading.checkVisibility()).flatMap((heading) => {
+        const walker = document.createTreeWalker(heading, NodeFilter.SHOW_TEXT);
+        const texts = [];
+        while (walker.nextNode()) {
+            texts.push(walker.currentNode);
+        }
+        return texts.flatMap((text) => [...text.data.matchAll(/[^\s]+/g)].map(({ 0: word, index }) => ({ text, word, index })));
+    });
+    return words
+        .filter(({ text, word, index }) => {
+            const range = document.createRange();
+            range.setStart(text, index);
+            range.setEnd(text, index + word.length);
+            return new Set([...range.getClientRects()].map(({ top }) => Math.round(top))).size > 1;
+        })
+        .map(({ word }) => word);
+}
+
 async function withText(page, times) {
     await page.evaluate((factor) => {
         const root = document.documentElement;
@@ -57,6 +78,7 @@ for (const [name, hash, reach] of states) {
             await withText(page, textSize);
             assert.deepEqual(await page.evaluate(sticksOut), [], what);
             assert.deepEqual(await page.evaluate(cutOff), [], what);
+            assert.deepEqual(await page.evaluate(brokenWords), [], what);
         }
         await leave(page);
     });
