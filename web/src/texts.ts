@@ -128,7 +128,7 @@ export const texts = {
     begun: "Begun",
     lastWorked: "Last worked at",
     worked: "Time worked",
-    workedNote: "It counts while an open exercise of the set is on the screen; of a pause without a key or a press, five minutes at most.",
+    workedNote: "The time counts while an open exercise of the set is on the screen; of a pause without a key or a press, five minutes at most.",
     duration: (minutes: number) => (minutes < 1 ? "less than a minute" : minutes < 60 ? `${minutes} min` : `${Math.floor(minutes / 60)} h ${minutes % 60} min`),
     total: "Total",
     totalOf: (solved: number, all: number, first: number) => `${solved} of ${all} solved, ${first === 0 ? "none" : first} at the first try`,

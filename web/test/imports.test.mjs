@@ -55,7 +55,7 @@ const allowed = {
     "views/files": ["address", "dom", "list", "sheet", "texts", "types", "views/page"],
     "views/head": ["dom", "texts", "types", "views/page"],
     "views/finish": ["address", "sets", "texts", "types", "views/page", "views/question"],
-    "views/kept-sets": ["address", "dom", "progress", "sets", "summary", "texts", "types", "views/question"],
+    "views/kept-sets": ["address", "dom", "kinds", "progress", "sets", "summary", "texts", "types", "views/page", "views/question"],
     "views/link": ["address", "dom", "texts", "types"],
     "views/overview": ["address", "dom", "sets", "texts", "types"],
     "views/kind-rows": ["dom", "kinds", "texts", "types", "views/meanings", "views/problems"],

@@ -1,23 +1,25 @@
 // The sets that are kept on this device: where each leads on, and what clears them all.
 import { addressOf, atNumber } from "../address";
 import { announce, button, element, show } from "../dom";
+import { choiceIn, inWords } from "../kinds";
 import { forgetSets } from "../progress";
 import { type KeptSet, keptSets, openIn } from "../sets";
 import { dateAndTime } from "../summary";
 import { texts } from "../texts";
 import type { PracticeRoute } from "../types";
+import type { Page } from "./page";
 import { ask } from "./question";
 
 // div
 //   h2
-//   ul       a link a set, how many are done, when it was last worked at
+//   ul       a link a set, of which kinds it is, how many are done, when it was last worked at
 //   button
 // `cleared` is told once they are.
-export function keptSetsPanel(cleared: () => void): { element: HTMLElement; update(): void } {
+export function keptSetsPanel(page: Page, cleared: () => void): { element: HTMLElement; update(): void } {
     const box = element("div", { class: "kept-sets" });
     const clear: HTMLElement = button(texts.clearSets, () => ask(clear, texts.askClearSets, clearAll));
     const update = () => {
-        const items = keptSets().map(({ route, kept }) => itemOf(route, kept));
+        const items = keptSets().map(({ route, kept }) => itemOf(route, kept, page));
         clear.hidden = false;
         show(box, ...(items.length === 0 ? [] : [element("h2", {}, texts.keptSets), element("ul", {}, ...items), clear]));
     };
@@ -31,9 +33,9 @@ export function keptSetsPanel(cleared: () => void): { element: HTMLElement; upda
 }
 
 // To the next open exercise, or the summary.
-function itemOf(route: PracticeRoute, { touched }: KeptSet): HTMLElement {
+function itemOf(route: PracticeRoute, { touched }: KeptSet, page: Page): HTMLElement {
     const open = openIn(route);
     const link = element("a", { href: addressOf(atNumber(route, open[0] ?? route.set + 1)) }, texts.keptSet(route.paper, route.set));
-    const facts = [texts.doneOf(route.set - open.length, route.set), ...(touched > 0 ? [dateAndTime(touched)] : [])];
+    const facts = [inWords(choiceIn(route.kinds, page.kinds), page.kinds), texts.doneOf(route.set - open.length, route.set), ...(touched > 0 ? [dateAndTime(touched)] : [])];
     return element("li", {}, link, element("span", { class: "hint" }, facts.join(" · ")));
 }

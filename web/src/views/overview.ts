@@ -36,9 +36,13 @@ function linkTo(route: PracticeRoute, number: number): HTMLAnchorElement {
     return element("a", { href: addressOf(atNumber(route, number)), "aria-current": isPresent ? "page" : undefined, tabindex: isPresent ? undefined : -1 });
 }
 
+// Left alone where it is as it was: a long set has many, and one changes.
 function showState(link: HTMLElement, number: number, done: Done | undefined): void {
     const state = stateOf(done);
     const words = done?.result ? texts.results[done.result] : state === "wrong" ? texts.wrongSoFar : texts.open;
+    if (link.title === words) {
+        return;
+    }
     const seen = element("span", { "aria-hidden": "true" }, String(number), element("span", { class: "sign" }, texts.overviewSigns[state]));
     link.dataset["state"] = state;
     link.title = words;

@@ -18,7 +18,7 @@ export function recordPanel(page: Page, setsCleared: () => void): { element: HTM
     const body = element("div", {});
     const summary = element("summary", {}, texts.recordTitle);
     const clear: HTMLElement = button(texts.clearRecord, () => ask(clear, texts.askClearRecord, cleared));
-    const sets = keptSetsPanel(() => {
+    const sets = keptSetsPanel(page, () => {
         summary.focus();
         setsCleared();
     });
