@@ -4,6 +4,9 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cctype>
+#include <map>
+#include <regex>
 #include <set>
 #include <string>
 #include <utility>
@@ -111,6 +114,90 @@ TEST(TablesJsonTest, VerdictsOfSomePairs)
         EXPECT_EQ(found["verdict"], one.verdict) << found;
         EXPECT_EQ(found["reason"].get<std::string>().find(one.reason), 0U) << found;
     }
+}
+
+// A rule read as a learner reads it: "Sulfates are soluble, except those of barium and lead, and in
+// part calcium and silver."
+struct Read {
+    std::string anion;
+    std::string verdict;
+    std::set<std::string> only; // empty: all cations
+    std::set<std::string> exceptions;
+    std::set<std::string> inPart; // of these nothing is asked
+};
+
+std::set<std::string> listIn(const std::string& text)
+{
+    static const std::regex word("[a-z]+");
+    std::set<std::string> names;
+    for (std::sregex_iterator one(text.begin(), text.end(), word), end; one != end; ++one) {
+        if (one->str() != "and") {
+            names.insert(one->str());
+        }
+    }
+    return names;
+}
+
+std::string lowerFirst(std::string text)
+{
+    text.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(text.front())));
+    return text;
+}
+
+Read readRule(const std::string& sentence)
+{
+    static const std::regex few("The (\\w+)s of ([a-z, ]+) are (soluble|insoluble)\\.");
+    static const std::regex most(
+        "(?:All )?(\\w+)s are (soluble|insoluble)"
+        "(?:, except those of ([a-z, ]+?))?(?:, and in part ([a-z ]+))?\\.");
+    std::smatch found;
+    if (std::regex_match(sentence, found, few)) {
+        return {lowerFirst(found[1]), found[3], listIn(found[2]), {}, {}};
+    }
+    EXPECT_TRUE(std::regex_match(sentence, found, most)) << sentence;
+    return {lowerFirst(found[1]), found[2], {}, listIn(found[3]), listIn(found[4])};
+}
+
+// "lead(II)" is "lead" in a rule.
+std::string metalOf(const Json& one)
+{
+    const std::string cation = one["cation"];
+    return cation.substr(0, cation.find('('));
+}
+
+std::string verdictBy(const Read& rule, const Json& one)
+{
+    const std::string metal = metalOf(one);
+    if (rule.inPart.count(metal) > 0 || (!rule.only.empty() && rule.only.count(metal) == 0)) {
+        return "none";
+    }
+    if (rule.exceptions.count(metal) == 0) {
+        return rule.verdict;
+    }
+    return rule.verdict == "soluble" ? "insoluble" : "soluble";
+}
+
+TEST(TablesJsonTest, TheRulesAsSentencesGiveTheVerdictOfEachPairThatIsAsked)
+{
+    std::map<std::string, Read> rules;
+    for (const Json& rule : tables()["rules"]) {
+        const Read read = readRule(rule["sentence"]);
+        EXPECT_TRUE(rules.emplace(read.anion, read).second) << rule;
+    }
+    int asked = 0;
+    for (const Json& one : tables()["pairs"]) {
+        const auto rule = rules.find(one["anion"]);
+        if (one["verdict"] != "not asked") {
+            ++asked;
+            ASSERT_NE(rule, rules.end()) << one;
+            EXPECT_EQ(verdictBy(rule->second, one), one["verdict"]) << one;
+        } else if (rule != rules.end() && rule->second.inPart.count(metalOf(one)) > 0) {
+            EXPECT_NE(one["reason"].get<std::string>().find("dissolves a little"),
+                      std::string::npos)
+                << one;
+        }
+    }
+    EXPECT_EQ(asked, 153);
 }
 
 } // namespace
