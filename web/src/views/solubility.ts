@@ -20,7 +20,7 @@ interface Grid {
 // div
 //   ul.rules
 //   p.hint.how
-//   div.beside
+//   div.grid-and-reason
 //     p.hint.signs
 //     div.scrolling.grid    table.solubility
 //     p.reason
@@ -37,7 +37,7 @@ export function solubility(tables: Tables, page: Page): HTMLElement {
         chosen: null,
     };
     draw(grid);
-    const beside = element("div", { class: "beside" }, element("p", { class: "hint signs" }, texts.signNotes), grid.box, grid.reason);
+    const beside = element("div", { class: "grid-and-reason" }, element("p", { class: "hint signs" }, texts.signNotes), grid.box, grid.reason);
     return element("div", {}, ruleList(tables, page), element("p", { class: "hint how" }, texts.gridNote), beside, leftOut(grid));
 }
 
