@@ -185,6 +185,42 @@ test("kinds, levels, paper and length are chosen, and the focus is in the first 
     await leave(page);
 });
 
+test("the present kind alone is two presses of Enter and a Tab away, and Escape leaves the choice", async () => {
+    const page = await open("#practice/4821/3/mixed");
+    await tabTo(page, opener(page));
+    await page.keyboard.press("Enter");
+    await tabTo(page, button(page, "Start"));
+    await page.keyboard.press("Escape");
+    assert.equal(await isFocused(opener(page)), true);
+    assert.equal((await page.evaluate(focusShown)).problem, "");
+    await page.keyboard.press("Enter");
+    await page.keyboard.press("Tab");
+    const { kind, level } = lesson.exercise(4821, 3, "mixed");
+    await page.keyboard.press("Enter");
+    await page.getByRole("heading", { name: "Exercise 1", exact: true }).waitFor();
+    assert.equal(new URL(page.url()).hash, `#practice/4821/1/${level === 2 ? kind : `${kind}:${level}`}?v=1`);
+    await leave(page);
+});
+
+test("from the start: a paper, a choice, and into the first field", async () => {
+    const page = await open("");
+    await tabTo(page, page.getByLabel("Paper", { exact: true }));
+    await page.keyboard.press("Control+A");
+    await page.keyboard.type("77");
+    await tabTo(page, opener(page));
+    await page.keyboard.press("Space");
+    await tabTo(page, button(page, "None"));
+    await page.keyboard.press("Space");
+    await tabTo(page, page.getByRole("group", { name: "Dilution" }).getByRole("checkbox", { name: /^Level 1/ }));
+    await page.keyboard.press("Space");
+    await tabTo(page, button(page, "Start"));
+    await page.keyboard.press("Enter");
+    await page.getByRole("heading", { name: "Exercise 1", exact: true }).waitFor();
+    assert.equal(new URL(page.url()).hash, "#practice/77/1/dilution:1?v=1");
+    assert.equal(await isFocused(page.locator("#answer")), true);
+    await leave(page);
+});
+
 test("how it is written is chosen with the arrow keys", async () => {
     const page = await open("#practice/4821/3/titration");
     await tabTo(page, panel(page, "How it is written"));
