@@ -58,6 +58,7 @@ function lineOf(spans: Span[], nodeOf: (span: Span) => Node): DocumentFragment {
         const isGap = "text" in span && span.text === " " && before !== undefined && ("number" in before || "fraction" in before);
         line.append(...(isUnit ? [thin] : []), isGap ? thin : nodeOf(span));
     });
+    line.normalize(); // Text in one piece is laid out sooner.
     return line;
 }
 
