@@ -117,6 +117,62 @@ for (const [what, viewport] of [["a tablet, upright", { width: 768, height: 1024
     });
 }
 
+// The first character of each line of an equation, and whether it shares its first and last line with other text.
+function equationLines() {
+    const equation = document.querySelector(".prompt .equation");
+    const characters = [];
+    const walker = document.createTreeWalker(document.querySelector(".prompt > [aria-hidden]"), NodeFilter.SHOW_TEXT);
+    while (walker.nextNode()) {
+        const text = walker.currentNode;
+        const isLow = text.parentElement.matches("sub, sup");
+        for (let at = 0; at < text.data.length && !isLow; ++at) {
+            const range = document.createRange();
+            range.setStart(text, at);
+            range.setEnd(text, at + 1);
+            const { top, width } = range.getBoundingClientRect();
+            if (text.data[at].trim() !== "" && width > 0) {
+                characters.push({ sign: text.data[at], top: Math.round(top), isOf: equation.contains(text) });
+            }
+        }
+    }
+    const tops = [...new Set(characters.filter(({ isOf }) => isOf).map(({ top }) => top))];
+    return {
+        lines: tops.length,
+        firsts: tops.map((top) => characters.find((one) => one.top === top).sign),
+        shared: characters.filter(({ top, isOf }) => tops.includes(top) && !isOf).length,
+    };
+}
+
+for (const [width, textSize, most] of [[1280, 1, 1], [768, 1, 1], [360, 1, 2], [320, 1, 2], [320, 2, 6]]) {
+    test(`an equation in a question has its own lines, which begin with no sign, ${width} pixels wide, text ${textSize} times as large`, async () => {
+        for (const kind of ["titration:1", "titration:2"]) {
+            for (const number of [1, 2, 3, 4, 5, 6]) {
+                const page = await openPage(browser, `#practice/4821/${number}/${kind}`, { viewport: { width, height: 740 } });
+                await withText(page, textSize);
+                const { lines, firsts, shared } = await page.evaluate(equationLines);
+                const where = `${kind}, exercise ${number}: ${firsts}`;
+                assert.ok(lines >= 1 && lines <= most, where);
+                assert.equal(shared, 0, where);
+                assert.ok(firsts.every((sign) => /[A-Z0-9(]/.test(sign)), where);
+                await leave(page);
+            }
+        }
+    });
+}
+
+test("a molar mass in brackets is not broken on a phone", async () => {
+    for (const width of [320, 340, 360, 400]) {
+        for (const number of [1, 2, 3, 4]) {
+            const page = await openPage(browser, `#practice/4821/${number}/concentration:1`, { viewport: { width, height: 740 } });
+            const mass = page.locator(".together");
+            assert.match(await mass.innerText(), /^\(M\s=\s[\d.]+\sg\/mol\)/);
+            const { height, line } = await mass.evaluate((one) => ({ height: one.getBoundingClientRect().height, line: parseFloat(getComputedStyle(one).lineHeight) }));
+            assert.ok(height < 1.5 * line, `${width} pixels, exercise ${number}: ${height} high`);
+            await leave(page);
+        }
+    }
+});
+
 const phone = { viewport: { width: 360, height: 740 }, hasTouch: true, isMobile: true, reducedMotion: "reduce" };
 const keyboard = 300; // pixels, of a usual one on a phone
 const openOnPhone = (hash) => openPage(browser, hash, phone);
