@@ -210,6 +210,7 @@ export const texts = {
     anki: "Anki cards",
     fileOf: "Version to save or practise",
     practiseSheet: "Practise this sheet",
+    copyPractice: "Copy the practice link",
     pages: "Pages",
     stalePages: "Something in the form is wrong. These are the pages of the last sheet without a mistake, and they are what is printed.",
     noCounts: "Fill in how many, at least one exercise of one kind.",

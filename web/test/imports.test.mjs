@@ -52,7 +52,7 @@ const allowed = {
         "address", "dom", "spans", "progress", "record", "state", "texts", "types", "working",
         "views/answer", "views/drawing", "views/finish", "views/head", "views/mark", "views/masses-line", "views/overview", "views/page", "views/solution",
     ],
-    "views/files": ["address", "dom", "list", "sheet", "texts", "types", "views/page"],
+    "views/files": ["address", "dom", "list", "sheet", "texts", "types", "views/link", "views/page"],
     "views/head": ["dom", "texts", "types", "views/page"],
     "views/finish": ["address", "sets", "texts", "types", "views/page", "views/question"],
     "views/kept-sets": ["address", "dom", "kinds", "progress", "sets", "summary", "texts", "types", "views/page", "views/question"],

@@ -5,6 +5,7 @@ import { listOf } from "../list";
 import { papersOf, practiceOf } from "../sheet";
 import { texts } from "../texts";
 import type { ExportFormat, SheetRoute } from "../types";
+import { linkPanel } from "./link";
 import type { Page } from "./page";
 
 const endings: Record<ExportFormat, string> = { moodle: "xml", anki: "txt" };
@@ -12,14 +13,13 @@ const endings: Record<ExportFormat, string> = { moodle: "xml", anki: "txt" };
 // div.files
 //   label, select    which version, where there are several
 //   button, button
-//   a                the set
+//   div.practise     a to the set, and the link to it
 // Says by `complain` why there is no file, and nothing where there is one.
 export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: string) => void): { element: HTMLElement; update(route: SheetRoute): void } {
     let present = opened;
     const version = element("select", { id: "version" });
     const which = element("div", { class: "which-version" }, element("label", { for: "version" }, texts.fileOf), version);
-
-    const practise = element("a", { class: "practise" }, texts.practiseSheet);
+    const practise = element("div", { class: "practise" });
 
     function download(format: ExportFormat): void {
         const paper = Number(version.value);
@@ -31,7 +31,9 @@ export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: 
     }
 
     function link(): void {
-        practise.href = addressOf(practiceOf(present, Number(version.value)));
+        const set = practiceOf(present, Number(version.value));
+        const panel = linkPanel(set, texts.copyPractice, "");
+        show(practise, element("a", { href: addressOf(set) }, texts.practiseSheet), panel);
     }
 
     function update(route: SheetRoute): void {

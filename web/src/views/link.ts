@@ -9,7 +9,7 @@ import type { PracticeRoute } from "../types";
 //   p.hint     what the link is
 //   input      the address, where it was not copied
 //   p          what came of it
-export function linkPanel(route: PracticeRoute): HTMLElement {
+export function linkPanel(route: PracticeRoute, copyIt: string = texts.copyLink, whatItIs: string = texts.linkIsSet): HTMLElement {
     const field = element("input", { type: "text", readonly: true, "aria-label": texts.linkField, hidden: true });
     const outcome = element("p", { hidden: true });
     const press = () => void copied(linkTo(route)).then((isCopied) => tell(isCopied));
@@ -25,8 +25,8 @@ export function linkPanel(route: PracticeRoute): HTMLElement {
             field.select();
         }
     };
-    const hint = element("p", { class: "hint" }, [texts.linkIsSet, ...(isFile() ? [texts.linkOfFile] : [])].join(" "));
-    return element("div", { class: "link" }, button(texts.copyLink, press), hint, field, outcome);
+    const hint = element("p", { class: "hint" }, [whatItIs, ...(isFile() ? [texts.linkOfFile] : [])].join(" ").trim());
+    return element("div", { class: "link" }, button(copyIt, press), hint, field, outcome);
 }
 
 // Missing where the page came without encryption; refused by some browsers to files.

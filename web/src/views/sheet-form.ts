@@ -44,7 +44,7 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
     });
     const form = element(
         "form",
-        { class: "choice sheet-form", autocomplete: "off" },
+        { class: "sheet-form", autocomplete: "off" },
         counts.element,
         element(
             "div",

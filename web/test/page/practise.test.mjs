@@ -43,7 +43,16 @@ test("the link is of the chosen version, and follows what changes on the sheet",
     await page.getByLabel("Version to save or practise").selectOption("1");
     assert.equal(await link.getAttribute("href"), "#practice/1/1/2*ion-formula?set=2&v=1");
     await page.getByRole("button", { name: "Down with exercise 1" }).press("Enter");
-    await page.waitForFunction(() => document.querySelector(".practise").hash === "#practice/1/1/1*ion-formula@2,1*ion-formula?set=2&v=1");
+    await page.waitForFunction(() => document.querySelector(".practise a").hash === "#practice/1/1/1*ion-formula@2,1*ion-formula?set=2&v=1");
+    await leave(page);
+});
+
+test("the practice link is copied, from a file without the file's own place", async () => {
+    const context = await browser.newContext({ permissions: ["clipboard-read", "clipboard-write"] });
+    const page = await openPage(browser, "#sheet/4821/ion-formula@7,dilution:1?v=1", { context });
+    await page.getByRole("button", { name: "Copy the practice link" }).click();
+    await page.getByText("The link is copied.").first().waitFor();
+    assert.equal(await page.evaluate(() => navigator.clipboard.readText()), "#practice/4821/1/1*ion-formula@7,1*dilution:1?set=2&v=1");
     await leave(page);
 });
 
