@@ -53,7 +53,7 @@ for (const { kind, title } of lesson.kinds()) {
 
 const sheets = {
     A4: "#sheet/4821/3*titration:3,2*dilution:3,3*molar-mass:3,2*ion-formula?versions=2&drawings=1&v=1",
-    "A4, with sides left blank": "#sheet/4821/2*titration,2*dilution?versions=2&keys=apart&v=1",
+    "A4, with sides left blank, two columns and marks": "#sheet/4821/6*ion-formula,4*molar-mass:3,titration,dilution?versions=2&keys=apart&marks=1&v=1",
     Letter: "#sheet/4821/6*titration:3,6*concentration:3,6*neutralisation?versions=2&key=working&size=Letter&v=1",
 };
 
