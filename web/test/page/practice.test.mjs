@@ -304,12 +304,12 @@ test("the choice of kinds, levels and paper becomes the address", async () => {
     await opener(page).click();
     await page.locator("input[value='titration:2']").uncheck();
     await page.getByRole("button", { name: "Start" }).click();
-    await page.getByText("Choose at least one level of one kind.").waitFor();
+    await page.locator(".problem").getByText("Choose at least one level of one kind.").waitFor();
     await page.locator("input[value='dilution:3']").check();
     await page.locator("input[value='solubility:2']").check();
     await page.getByLabel("Paper", { exact: true }).fill("0");
     await page.getByRole("button", { name: "Start" }).click();
-    await page.getByText("A paper is a number from 1 to 999999.", { exact: true }).waitFor();
+    await page.locator(".problem").getByText("A paper is a number from 1 to 999999.").waitFor();
     await page.getByLabel("Paper", { exact: true }).fill("12");
     await page.getByLabel("How many").selectOption("10");
     await page.getByRole("button", { name: "Start" }).click();
