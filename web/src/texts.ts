@@ -106,7 +106,7 @@ export const texts = {
 
     recordTitle: "My record",
     recordNote: "Kept on this device and nowhere else.",
-    recordEmpty: "Nothing solved yet on this device.",
+    recordEmpty: "Nothing is in your record yet.",
     clearRecord: "Clear my record",
     askClearRecord: { text: "Clear your record?", yes: "Clear", no: "Keep" },
     cleared: "Your record is cleared.",

@@ -72,11 +72,11 @@ test("clearing the record clears it alone: the exercise stays as it is", async (
     assert.equal(await row(page).count(), 1);
     await press(page, "Clear my record");
     await press(page, "Clear");
-    await page.getByText("Nothing solved yet on this device.").waitFor();
+    await page.getByText("Nothing is in your record yet.").waitFor();
     await page.reload();
     await page.locator(".mark[data-verdict=correct]").waitFor();
     assert.equal(await page.locator("#answer").inputValue(), lesson.exercise(4821, 1, kind).key.text);
-    assert.equal(await panel(page, "My record").locator("xpath=..").getByText("Nothing solved yet").count(), 1);
+    assert.equal(await panel(page, "My record").locator("xpath=..").getByText("Nothing is in your record yet").count(), 1);
     await leave(page);
 });
 
