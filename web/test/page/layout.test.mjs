@@ -3,7 +3,7 @@ import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { after, before, test } from "node:test";
 import { press, states } from "./states.mjs";
-import { announced, leave, openChromium, openPage, panel } from "./support.mjs";
+import { announced, leave, openChromium, opener, openPage } from "./support.mjs";
 
 let browser;
 before(async () => {
@@ -194,7 +194,7 @@ test("on a phone nothing has the focus on arrival, by any way, and the question 
         await isInView(page, ["h1"]);
         assert.equal(await announced(page), heading);
     }
-    await panel(page, "Choose exercises").tap();
+    await opener(page).tap();
     await page.getByRole("button", { name: "Start", exact: true }).tap();
     await page.getByRole("heading", { level: 1, name: "Exercise 1", exact: true }).waitFor();
     assert.equal(await nothingFocused(page), true, "Start");
