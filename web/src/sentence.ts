@@ -1,7 +1,7 @@
 // The library's sentences are plain text with plain formulas, in the usual units and names: here they
 // become spans, and so get the reader's units and names, subscripts and a spoken form.
 import { seenOf, speech, typeset } from "./spans";
-import type { Settings, Span, Tables } from "./types";
+import type { Exercise, Settings, Span, Tables } from "./types";
 
 // Names that differ, British to American. Asked for only where they are wanted: the tables that tell
 // them take longer to make than an exercise.
@@ -43,6 +43,11 @@ export function spansOfFormulas(text: string): Span[] {
         const span: Span = !/^[A-Z([]/.test(formula) ? { text: part } : charge === undefined ? { formula } : { ion: formula, charge };
         return count === "" ? [span] : [{ number: count }, span];
     });
+}
+
+// The right answer, "0.290 mol/L", "Ca(OH)2", "yes".
+export function spansOfKey({ ask, key }: Exercise): Span[] {
+    return ask.form === "number" ? spansOf(key.text) : spansOfFormulas(key.text);
 }
 
 // A number, perhaps with its unit; a unit; a formula or an ion; any other word. Whole words are taken,

@@ -3,7 +3,7 @@
 import { ownPartOf } from "../asking";
 import { element } from "../dom";
 import { marksOf } from "../marks";
-import { spansOfSentence } from "../sentence";
+import { spansOfKey } from "../sentence";
 import { seenOf, typesetLine } from "../spans";
 import { texts } from "../texts";
 import type { Ask, Exercise, Form, SheetRoute, Span } from "../types";
@@ -93,10 +93,10 @@ function gap(): HTMLElement {
 }
 
 // "c(KOH) = 0.290 mol/L", "Ca(OH)2", "yes".
-function answerOf({ ask, key }: Exercise, page: Page): Node[] {
+function answerOf(exercise: Exercise, page: Page): Node[] {
+    const { ask } = exercise;
     const asked: Span[] = ask.quantity === undefined ? [] : [quantityOf(ask.quantity, ask.of), { text: " = " }];
-    const answer = spansOfSentence(key.text.replace("->", "→"), page.settings, page.names);
-    return typesetLine([...asked, ...answer], page.settings);
+    return typesetLine([...asked, ...spansOfKey(exercise)], page.settings);
 }
 
 // "c2" is c with the index 2.

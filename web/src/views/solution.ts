@@ -1,6 +1,6 @@
 // The solution of an exercise, step by step, as it is shown and as it is announced.
 import { element, show } from "../dom";
-import { spansOf, spansOfFormulas } from "../sentence";
+import { spansOfKey } from "../sentence";
 import { speech, typesetLine } from "../spans";
 import { texts } from "../texts";
 import type { Exercise, Span, Step } from "../types";
@@ -32,10 +32,6 @@ function rowOf(step: Step, page: Page): HTMLElement {
 
 function labelled(kind: string, label: string, line: Span[], page: Page): HTMLElement {
     return element("p", { class: kind }, element("strong", {}, `${label}: `), element("span", { class: "line" }, ...typesetLine(line, page.settings)));
-}
-
-function spansOfKey({ ask, key }: Exercise): Span[] {
-    return ask.form === "number" ? spansOf(key.text) : spansOfFormulas(key.text);
 }
 
 // The step that was shown last, and the hint to the next one.
