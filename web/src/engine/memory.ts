@@ -1,5 +1,4 @@
 // The one file that touches the memory of the WebAssembly module.
-import { unzlibSync } from "fflate";
 
 export interface Exports {
     memory: WebAssembly.Memory;
@@ -39,6 +38,7 @@ function bytesOf(base64: string): Uint8Array<ArrayBuffer> {
 
 async function inflated(compressed: Uint8Array<ArrayBuffer>): Promise<BufferSource> {
     if (typeof DecompressionStream === "undefined") {
+        const { unzlibSync } = await import("./inflate");
         return unzlibSync(compressed);
     }
     const { readable, writable } = new DecompressionStream("deflate");
