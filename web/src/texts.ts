@@ -234,7 +234,7 @@ export const texts = {
     dateBlank: "Date",
     massesLine: "Relative atomic masses",
     useTheTable: "Relative atomic masses: use the periodic table.",
-    figures: (figures: number) => `(${figures}\u00A0significant figures)`,
+    figures: (figures: number) => `(${figures}\u00A0significant\u00A0figures)`,
     figuresOfAll: (figures: number) => `Give each numerical answer to ${figures} significant figures.`,
     exercisesFromTo: (first: number, last: number) => `Exercises ${first} to ${last}:`,
     worth: (count: number) => (count === 1 ? "(1\u00A0mark)" : `(${count}\u00A0marks)`),

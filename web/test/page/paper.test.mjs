@@ -82,6 +82,14 @@ test("where all numbers want the same figures, one line above says so", async ()
     assert.doesNotMatch(none.join(), /significant/);
 });
 
+test("how many figures are wanted is on one line", async () => {
+    for (const hash of ["#sheet/4821/molar-mass:1,9*titration:1?v=1", "#sheet/77/molar-mass:1,9*titration:1?size=Letter&v=1"]) {
+        const { sheet } = await printed(hash);
+        assert.deepEqual(sheet.filter((line) => /significant/.test(line) && !/\(\dsignificantfigures\)$/.test(line)), [], hash);
+        assert.equal(sheet.filter((line) => line.endsWith("significantfigures)")).length, 10, hash);
+    }
+});
+
 test("the room to write ends with a line for the answer, with its symbol and unit", async () => {
     const answers = async (hash, options) => (await questionsOf(hash, options)).map(({ answer }) => answer);
     assert.deepEqual(await answers("#sheet/4821/titration,dilution:1,concentration,molar-mass:1,ion-formula,neutralisation?v=1"), [
