@@ -218,11 +218,12 @@ export const texts = {
     wrongCount: (most: number) => `Each count is a whole number up to ${most}.`,
     wrongVersions: (most: number) => `Versions are a number from 1 to ${most}.`,
     tooMany: (most: number) => `That is more than ${most} exercises in all versions together.`,
-    sheetSize: (exercises: number, versions: number, pages: number) =>
+    sheetSize: (exercises: number, versions: number, pages: number, blank: number) =>
         [
             `${exercises} ${exercises === 1 ? "exercise" : "exercises"}`,
             ...(versions === 1 ? [] : [`${versions} versions`]),
             `${pages} ${pages === 1 ? "page" : "pages"}`,
+            ...(blank === 0 ? [] : [`${blank} of them blank`]),
         ].join(", "),
 
     paperAndVersion: (paper: number, version: number) => `Paper ${paper}, version ${version}`,

@@ -8,7 +8,7 @@ import { leaves } from "./leaves";
 import type { Page } from "./page";
 
 export interface Preview {
-    size: HTMLElement; // how many pages, in words
+    size: HTMLElement; // how many pages, and how many of them blank, in words
     stale: HTMLElement; // what is told while the pages are not of what stands in the form
     box: HTMLElement; // the pages
     show(route: SheetRoute, shown: (size: string) => void): void;
@@ -49,7 +49,8 @@ export function previewOf(page: Page): Preview {
             box.classList.add(route.size.toLowerCase());
             const done = () => {
                 box.style.removeProperty("min-block-size");
-                show(size, texts.sheetSize(countOf(route.entries), route.versions, box.childElementCount));
+                const blank = box.querySelectorAll(".empty").length;
+                show(size, texts.sheetSize(countOf(route.entries), route.versions, box.childElementCount, blank));
                 shown(size.textContent ?? "");
             };
             // Who goes to another view takes the box away.

@@ -116,7 +116,9 @@ for (const [name, hash] of Object.entries(sheets)) {
     test(`${name}: what is printed is the preview, page by page`, async () => {
         const { preview, size, pages } = await sheet(hash);
         assert.deepEqual(pages.map((lines) => letters(textOf(lines))), preview.map(letters));
-        assert.equal(Number(/(\d+) pages?$/.exec(size)[1]), pages.length);
+        const blank = pages.filter((lines) => sideOf(lines) === "blank").length;
+        const [, all, ofThem] = /, (\d+) pages?(?:, (\d+) of them blank)?$/.exec(size) ?? assert.fail(size);
+        assert.deepEqual([Number(all), ofThem], [pages.length, blank === 0 ? undefined : String(blank)], size);
     });
 
     test(`${name}: nothing is outside the margins, and no exercise is cut by the end of a page`, async () => {
@@ -374,11 +376,13 @@ test("a sheet that is printed before it is made is whole", async () => {
         return new Promise((done) => window.addEventListener("hashchange", () => {
             const atFirst = document.querySelectorAll(".leaf:not(.measuring)").length;
             window.dispatchEvent(new Event("beforeprint"));
-            done([atFirst, document.querySelectorAll(".leaf").length, document.querySelector(".size").textContent]);
+            const all = [...document.querySelectorAll(".leaf")];
+            const blank = all.filter((leaf) => leaf.textContent.endsWith("This side is blank."));
+            done([atFirst, all.length, document.querySelector(".size").textContent, blank.length]);
         }));
     });
     assert.ok(pages[0] < pages[1], "made at once, so this tests nothing");
-    assert.match(pages[2], new RegExp(`^20 exercises, 30 versions, ${pages[1]} pages$`));
+    assert.equal(pages[2], `20 exercises, 30 versions, ${pages[1]} pages${pages[3] === 0 ? "" : `, ${pages[3]} of them blank`}`);
     await leave(page);
 });
 
