@@ -571,3 +571,18 @@ test("Print prints", async () => {
     assert.equal(await page.evaluate(() => window.printed), 3);
     await leave(page);
 });
+
+test("the last of the form is reached by turning the wheel over it", async () => {
+    for (const [width, height] of [[1366, 768], [1920, 1080]]) {
+        const page = await openSheet("#sheet/4821/20*titration?v=1", { viewport: { width, height }, reducedMotion: "reduce" });
+        const last = page.locator("summary", { hasText: "How it is written" });
+        await page.mouse.move(width / 4, height / 2);
+        for (let turn = 0; turn < 20; turn++) {
+            await page.mouse.wheel(0, 300);
+            await page.waitForTimeout(30);
+        }
+        const { y, height: high } = await last.boundingBox();
+        assert.ok(y >= 0 && y + high <= height, `${y} to ${y + high} of ${height} px`);
+        await leave(page);
+    }
+});
