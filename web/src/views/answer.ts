@@ -95,14 +95,18 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
 }
 
 // While the reader is typing: the field with its preview, the button that checks it, and, where there is
-// room, the last line of the question.
+// room, the last line of the question. Where what stands in the field is marked, the mark as well: a keyboard
+// that comes up again behind Check would cover it.
 export function keepFieldInView(): void {
     const focused = document.activeElement;
     const form = focused?.closest(".exercise > form");
-    const prompt = form?.parentElement?.querySelector(".prompt");
+    const article = form?.parentElement;
+    const prompt = article?.querySelector(".prompt");
     if (focused && form && prompt) {
-        const first = [lastLineOf(prompt), form].find((place) => fitIntoView(place, form)) ?? focused;
-        bringIntoView(first, form);
+        const mark = article?.querySelector(".mark:not([hidden]):not(.stale)");
+        const last = mark && fitIntoView(focused, mark) ? mark : form;
+        const first = [lastLineOf(prompt), form].find((place) => fitIntoView(place, last)) ?? focused;
+        bringIntoView(first, last);
     }
 }
 

@@ -237,6 +237,21 @@ for (const kind of ["titration:3", "titration:1", "dilution:2", "concentration:3
     });
 }
 
+for (const kind of ["titration:3", "dilution:2", "neutralisation:3", "ion-formula:3", "titration:3?set=5"]) {
+    test(`${kind}, on a phone: the mark stays in view where the keyboard comes up again behind Check`, async () => {
+        const page = await openOnPhone(`#practice/4821/3/${kind}`);
+        await page.locator("#answer").tap();
+        await withKeyboard(page);
+        await page.keyboard.type("777");
+        await page.setViewportSize(phone.viewport);
+        await press(page, "Check");
+        await page.locator(".mark").waitFor();
+        await withKeyboard(page);
+        await isInView(page, ["#answer", ".mark"]);
+        await leave(page);
+    });
+}
+
 async function isInView(page, selectors) {
     for (const selector of selectors) {
         const seen = page.locator(selector);
