@@ -37,5 +37,10 @@ function itemOf(route: PracticeRoute, { touched }: KeptSet, page: Page): HTMLEle
     const open = openIn(route);
     const link = element("a", { href: addressOf(atNumber(route, open[0] ?? route.set + 1)) }, texts.keptSet(route.paper, route.set));
     const facts = [inWords(choiceIn(route.kinds, page.kinds), page.kinds), texts.doneOf(route.set - open.length, route.set), ...(touched > 0 ? [dateAndTime(touched)] : [])];
-    return element("li", {}, link, element("span", { class: "hint" }, facts.join(" · ")));
+    return element("li", {}, link, element("span", { class: "hint" }, ...facts.flatMap(apart)));
+}
+
+// Each whole, so that no date is broken.
+function apart(fact: string, index: number): (Node | string)[] {
+    return [...(index === 0 ? [] : [" · "]), element("span", { class: "together" }, fact)];
 }

@@ -1,0 +1,96 @@
+// What stands beside and below each other: nothing touches, and rows begin at one edge.
+import assert from "node:assert/strict";
+import { after, before, test } from "node:test";
+import { states } from "./states.mjs";
+import { leave, openChromium, openPage } from "./support.mjs";
+
+let browser;
+before(async () => {
+    browser = await openChromium();
+});
+after(() => browser.close());
+
+// Controls with less than 4 pixels between them and what stands above them.
+function touching() {
+    const isSeen = (one) => one.checkVisibility() && one.closest(".spoken, .leaf, .solubility, .overview") === null && one.getClientRects().length > 0;
+    const seen = (selector) => [...document.querySelectorAll(`main ${selector}`)].filter(isSeen);
+    const others = ["p", "table", "ul", "ol", "dl", "button", "input", "select", "summary", "h1", "h2"].flatMap(seen);
+    const gap = (one, other) => {
+        const [below, above] = [one.getBoundingClientRect(), other.getBoundingClientRect()];
+        const isAbove = above.bottom < below.top + below.height / 2 && above.left < below.right && above.right > below.left;
+        return isAbove ? below.top - above.bottom : Infinity;
+    };
+    return ["button", "input[type=text]", "select"].flatMap(seen).flatMap((one) =>
+        others.filter((other) => other !== one && !one.contains(other) && gap(one, other) < 4)
+            .map((other) => `${one.outerHTML.slice(0, 60)} below ${other.outerHTML.slice(0, 60)}: ${gap(one, other)}`));
+}
+
+for (const [name, hash, reach] of states.filter(([name]) => /record|sets|link|summary|side road|choice|verdict/.test(name))) {
+    test(`${name}: nothing that is pressed touches what stands above it`, async () => {
+        for (const width of [360, 768]) {
+            const page = await openPage(browser, hash, { viewport: { width, height: 800 } });
+            await reach(page);
+            assert.deepEqual(await page.evaluate(touching), [], `${width} pixels wide`);
+            await leave(page);
+        }
+    });
+}
+
+const box = (page, name) => page.getByRole("button", { name, exact: true }).boundingBox();
+
+for (const kind of ["titration:3", "dilution:1", "molar-mass:3"]) {
+    test(`${kind}: beside a drawing too, the two buttons that help are in one row`, async () => {
+        for (const width of [768, 1280]) {
+            const page = await openPage(browser, `#practice/4821/3/${kind}`, { viewport: { width, height: 800 } });
+            const [step, answer] = [await box(page, "Show a step"), await box(page, "Show the answer")];
+            assert.equal(step.y, answer.y, `${width} pixels wide`);
+            await leave(page);
+        }
+    });
+}
+
+test("what leads aside begins where the lines begin, in a row of its own", async () => {
+    const page = await openPage(browser, "#practice/4821/500004/titration:2?back=4:mixed", { viewport: { width: 360, height: 800 } });
+    const [back, aside] = [await box(page, "Back to exercise 4"), await box(page, "Another like this")];
+    const begins = await page.getByRole("button", { name: "Another like this" }).evaluate((one) => {
+        const range = document.createRange();
+        range.selectNodeContents(one);
+        return range.getBoundingClientRect().left;
+    });
+    assert.ok(aside.y > back.y + back.height, "it is in a row of its own");
+    assert.ok(Math.abs(begins - back.x) <= 2, `${begins} and ${back.x}`);
+    await leave(page);
+});
+
+test("the signs of charges stand in the middle of their keys", async () => {
+    const page = await openPage(browser, "#practice/4821/3/ion-formula:3");
+    const off = await page.locator(".keys button").evaluateAll((keys) => keys.map((key) => {
+        const range = document.createRange();
+        range.selectNodeContents(key.querySelector("sup") ?? key);
+        const [text, whole] = [range.getBoundingClientRect(), key.getBoundingClientRect()];
+        return Math.abs((text.top + text.bottom - whole.top - whole.bottom) / 2);
+    }));
+    assert.ok(off.length === 6 && off.every((distance) => distance <= 2), off.join(", "));
+    await leave(page);
+});
+
+test("no date of a set that is kept is broken", async () => {
+    const [, hash, reach] = states.find(([name]) => name === "the sets on the device");
+    const page = await openPage(browser, hash, { viewport: { width: 360, height: 800 } });
+    await reach(page);
+    const lines = await page.locator(".kept-sets .hint").first().evaluate((hint) => {
+        const walker = document.createTreeWalker(hint, NodeFilter.SHOW_TEXT);
+        while (walker.nextNode()) {
+            const found = /\d+ \w+ \d{4}, \d\d:\d\d/.exec(walker.currentNode.data);
+            if (found !== null) {
+                const range = document.createRange();
+                range.setStart(walker.currentNode, found.index);
+                range.setEnd(walker.currentNode, found.index + found[0].length);
+                return range.getClientRects().length;
+            }
+        }
+        return 0;
+    });
+    assert.equal(lines, 1);
+    await leave(page);
+});
