@@ -19,7 +19,7 @@ await tab.locator("body").screenshot({ path: practice });
 
 await tab.setViewportSize({ width: 1300, height: 900 });
 await tab.goto("about:blank");
-await tab.goto(`${pathToFileURL(page).href}#sheet/4821/molar-mass:3,concentration:1,dilution:1,2*titration?key=working&drawings=1&room=none`);
+await tab.goto(`${pathToFileURL(page).href}#sheet/4821/molar-mass:3,concentration:1,dilution:1,neutralisation:3,titration?key=working&drawings=1&room=none&leaf=0`);
 await tab.locator(".size:not(:empty)").waitFor();
 // The two pages alone, side by side.
 await tab.evaluate(() => {
