@@ -68,7 +68,13 @@ export function speech(spans: Span[], settings: Settings): string {
     const said = told.map((span, at) => {
         return `${isFactor(span, told[at - 1]) ? "times " : ""}${speechOf(span, settings)}`;
     });
-    return said.join(" ").replace(/\s+/g, " ").replace(/ ([.,;:?)])/g, "$1").replaceAll("( ", "(").trim();
+    const line = said.reduce((before, next, at) => `${before}${isWritten(told[at - 1], told[at]!) ? "" : " "}${next}`, "");
+    return line.replace(/\s+/g, " ").replace(/ ([.,;:?)])/g, "$1").replaceAll("( ", "(").trim();
+}
+
+// A name and a text have the blanks between them that they need: "Sulfate" and "s are soluble" none.
+function isWritten(before: Span | undefined, span: Span): boolean {
+    return before !== undefined && (("name" in before && "text" in span) || ("text" in before && "name" in span));
 }
 
 // Where the eye needs no sign: "2(16.00)", a fraction of a quantity.

@@ -36,6 +36,16 @@ test("a sentence is said in the reader's units and names", () => {
     );
 });
 
+const written: [Span[], string][] = [
+    [[{ name: "Sulfate" }, { text: "s are soluble." }], "Sulfates are soluble."],
+    [[{ text: "Some " }, { name: "aluminium", american: "aluminum" }, { text: " is left (" }, { name: "aluminium" }, { text: ")." }], "Some aluminium is left (aluminium)."],
+    [[{ name: "silver" }, { text: " " }, { name: "chloride" }, { text: ", " }, { formula: "AgCl" }], "silver chloride, A g C l"],
+];
+
+for (const [spans, said] of written) {
+    test(`"${said}" has its blanks where they are written`, () => assert.equal(speech(spans, usual), said));
+}
+
 const formulas: [string, Span[]][] = [
     ["none", [{ text: "none" }]],
     ["BaSO4", [{ formula: "BaSO4" }]],
