@@ -1,7 +1,7 @@
 // Wires the page together; imported by none.
 import packed from "lesson.bin";
 import { addressOf, mainRoad, routeOf } from "./address";
-import { byId, element, show } from "./dom";
+import { announce, byId, element, show } from "./dom";
 import { lessonOf } from "./engine/lesson";
 import { instantiate, unpacked } from "./engine/memory";
 import { choiceIn } from "./kinds";
@@ -70,6 +70,7 @@ function pageOf(lesson: Lesson): Page {
 
 // Shows the present address from its beginning, for a reader who has asked for it.
 function open(page: Page): void {
+    announce(""); // What was told of another address is not read at the end of this one.
     const focus = render(page);
     window.scrollTo({ top: 0, behavior: "instant" });
     focus();

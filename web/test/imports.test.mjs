@@ -51,7 +51,7 @@ const allowed = {
     "views/drawing": ["dom", "levels", "spans", "texts", "types", "views/apparatus"],
     "views/exercise": [
         "address", "dom", "spans", "progress", "record", "state", "texts", "types", "working",
-        "views/answer", "views/drawing", "views/finish", "views/head", "views/mark", "views/masses-line", "views/overview", "views/page", "views/solution",
+        "views/answer", "views/drawing", "views/finish", "views/head", "views/mark", "views/masses-line", "views/overview", "views/page", "views/question", "views/solution",
     ],
     "views/files": ["address", "dom", "list", "sheet", "texts", "types", "views/link", "views/page"],
     "views/head": ["dom", "texts", "types", "views/page"],

@@ -27,16 +27,19 @@ export function fieldsOf({ kinds, set, paper }: Pick<PracticeRoute, "kinds" | "s
 export function beginWith(form: HTMLFormElement, fields: Fields, page: Page, whenWrong: () => void = () => {}): void {
     const mark = problemMarks();
     let told: Problem[] = [];
-    const tell = (problems: Problem[]) => mark((told = problems));
+    const tell = (problems: Problem[], aloud?: Problem[]) => mark((told = problems), aloud);
     form.addEventListener("input", () => tell(problemsIn(fields).filter(({ field }) => told.some((one) => one.field === field))));
     form.addEventListener("submit", (event) => {
         event.preventDefault();
-        tell(problemsIn(fields));
-        if (told.length === 0) {
+        const problems = problemsIn(fields);
+        const first = problems[0]?.field;
+        // A field tells its problem when the focus comes to it.
+        tell(problems, problems.filter(({ field }) => field !== first || field === document.activeElement));
+        if (first === undefined) {
             page.go(addressOf(routeOf(fields)));
         } else {
             whenWrong();
-            told[0]!.field.focus();
+            first.focus();
         }
     });
 }

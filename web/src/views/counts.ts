@@ -9,6 +9,7 @@ import type { Problem } from "./problems";
 
 interface CountField {
     entry: Omit<SheetEntry, "count">;
+    place: string; // as it is called where it is not seen
     input: HTMLInputElement;
 }
 
@@ -32,7 +33,7 @@ export function countFields(opened: SheetEntry[], kinds: KindInfo[]): Counts {
         const filled = counts.filter(({ input }) => input.validity.badInput || !/^0*$/.test(input.value));
         const wrong = filled.filter(({ input }) => !isCount(input.value, mostExercises));
         if (wrong.length > 0) {
-            return { entries: [], problems: wrong.map(({ input }) => ({ field: input, sentence: texts.wrongCount(mostExercises) })) };
+            return { entries: [], problems: wrong.map(({ input, place }) => ({ field: input, sentence: texts.wrongCount(mostExercises), where: place })) };
         }
         const wanted = counts.map(({ entry, input }) => ({ ...entry, count: Number(input.value) }));
         const entries = countOf(wanted) > mostExercises ? wanted : withCounts(picked, wanted);
@@ -51,7 +52,7 @@ function countField(opened: SheetEntry[], info: KindInfo, level: number): CountF
     const count = countOf(opened.filter((one) => kindOf(one) === kindOf(entry)));
     const label = texts.fieldOf(info.title, level, info.levels[level - 1]!);
     const id = `count-${info.kind}-${level}`;
-    return { entry, input: element("input", { id, type: "number", min: 0, max: mostExercises, value: count === 0 ? "" : count, class: "count", "aria-label": label }) };
+    return { entry, place: texts.placeOf(info.title, level), input: element("input", { id, type: "number", min: 0, max: mostExercises, value: count === 0 ? "" : count, class: "count", "aria-label": label }) };
 }
 
 // fieldset

@@ -32,10 +32,11 @@ export function elementsWithSearch(elements: ElementInfo[], page: Page): HTMLEle
         show(results, ...resultsOf(meant, page));
         const cell = table.mark(meant.elements);
         bringIntoView(form, wholeTableFits() && cell !== null ? cell : results);
-        tell();
+        tell.later();
     });
     form.addEventListener("submit", (event) => {
         event.preventDefault();
+        tell.now();
         closeKeyboard(input);
     });
     return element("div", {}, form, table.element, element("p", { class: "hint" }, texts.elementsNote));
@@ -56,12 +57,17 @@ function findField(): HTMLInputElement {
 }
 
 // So that not every letter of a formula is told.
-function afterAPause(field: HTMLElement, act: () => void): () => void {
+function afterAPause(field: HTMLElement, act: () => void): { later(): void; now(): void } {
     let timer = 0;
-    return () => {
+    const now = () => {
+        window.clearTimeout(timer);
+        act();
+    };
+    const later = () => {
         window.clearTimeout(timer);
         timer = window.setTimeout(() => field.isConnected && act(), 400);
     };
+    return { later, now };
 }
 
 // Where the whole table is seen, so is the cell; on a phone the results are enough.

@@ -3,7 +3,7 @@ import { addressOf, atNumber, mainRoad, sideRoad } from "../address";
 import { announce, bringIntoView, button, element, fitIntoView, isTouched, show } from "../dom";
 import { keepProgress, keepTyped, progressOf } from "../progress";
 import { addToRecord } from "../record";
-import { typesetLine } from "../spans";
+import { speech, typesetLine } from "../spans";
 import * as state from "../state";
 import { texts } from "../texts";
 import type { Exercise, Mark, PracticeRoute } from "../types";
@@ -16,7 +16,8 @@ import { massesBelow } from "./masses-line";
 import { showMark, spokenMark, withoutStep } from "./mark";
 import { overviewOf } from "./overview";
 import type { Page } from "./page";
-import { lastStepSpoken, showSolution } from "./solution";
+import { withdraw } from "./question";
+import { newlySpoken, showSolution } from "./solution";
 
 export interface Place {
     route: PracticeRoute;
@@ -47,8 +48,9 @@ interface Parts {
     goOn: HTMLElement;
 }
 
-// Gives what puts the focus into the field, or, where that would bring up a keyboard over the question, says
-// where the reader has come to.
+// Gives what tells where the reader has come to, and puts the focus into the field. A screen reader would else
+// tell the field and not the question. A keyboard on the screen would cover the question: there the focus
+// stays away, and the question is read where it stands.
 export function showExercise(article: HTMLElement, place: Place): () => void {
     const work: Work = { ...place, progress: progressOf(place.route), mark: null };
     const parts = partsOf(work);
@@ -65,7 +67,12 @@ export function showExercise(article: HTMLElement, place: Place): () => void {
     if (place.route.set > 0) {
         workAt(place.route, work.progress.result === null);
     }
-    return () => (isTouched() ? announce(nameOf(place.route)) : parts.field.focus());
+    return () => (isTouched() ? announce(nameOf(place.route)) : arrive(place, parts));
+}
+
+function arrive({ route, exercise, page }: Place, { field }: Parts): void {
+    field.focus();
+    announce(`${nameOf(route)}. ${speech(exercise.prompt, page.settings)}`);
 }
 
 // header       h1, what exercise it is, Choose exercises
@@ -153,6 +160,7 @@ function keep(work: Work, step: Step): void {
 
 function update(work: Work, parts: Parts): void {
     const { route, exercise, page, progress } = work;
+    withdraw(parts.next); // Of how many are open; that may be another number now.
     showSolution(parts.solution, exercise, progress.steps, page);
     updateMark(work, parts);
     parts.help.hidden = isShownWhole(work);
@@ -190,9 +198,10 @@ function check(work: Work, parts: Parts): void {
 }
 
 function advance(work: Work, parts: Parts, step: Step): void {
+    const before = work.progress.steps;
     keep(work, step);
     update(work, parts);
-    announce(lastStepSpoken(work.exercise, work.progress.steps, work.page));
+    announce(newlySpoken(work.exercise, before, work.progress.steps, work.page));
     if (isShownWhole(work)) {
         parts.solution.querySelector("h2")?.focus({ preventScroll: true });
     }

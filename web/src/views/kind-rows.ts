@@ -1,5 +1,5 @@
 // Kinds as rows with a box for each level.
-import { button, element, spoken } from "../dom";
+import { announce, button, element, spoken } from "../dom";
 import { changedTo, entriesOf } from "../kinds";
 import { texts } from "../texts";
 import type { KindInfo } from "../types";
@@ -27,6 +27,7 @@ export function kindRows(kinds: string, all: KindInfo[]): KindRows {
     const setAll = (checked: boolean) => {
         boxes.forEach((one) => (one.checked = checked));
         box.dispatchEvent(new Event("input", { bubbles: true }));
+        announce(checked ? texts.allChosen : texts.noneChosen);
     };
     const whole = element("div", { class: "whole" }, title, button(texts.all, () => setAll(true)), button(texts.none, () => setAll(false)));
     box.append(whole, element("div", { class: "rows" }, ...rows));

@@ -40,12 +40,13 @@ function linkTo(route: PracticeRoute, number: number): HTMLAnchorElement {
 function showState(link: HTMLElement, number: number, done: Done | undefined): void {
     const state = stateOf(done);
     const words = done?.result ? texts.results[done.result] : state === "wrong" ? texts.wrongSoFar : texts.open;
-    if (link.title === words) {
+    if (link.dataset["words"] === words) {
         return;
     }
-    const seen = element("span", { "aria-hidden": "true" }, String(number), element("span", { class: "sign" }, texts.overviewSigns[state]));
+    // Its title is for the eye alone: a link's own would be read behind its name, which ends with the same words.
+    const seen = element("span", { "aria-hidden": "true", title: words }, String(number), element("span", { class: "sign" }, texts.overviewSigns[state]));
     link.dataset["state"] = state;
-    link.title = words;
+    link.dataset["words"] = words;
     show(link, seen, spoken(`${texts.exercise(number)}: ${words}`));
 }
 

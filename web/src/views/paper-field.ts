@@ -1,5 +1,5 @@
 // The number of a paper, with a way to another one.
-import { button, element } from "../dom";
+import { announce, button, element } from "../dom";
 import { isPaper } from "../sheet";
 import { texts } from "../texts";
 import { randomPaper } from "./page";
@@ -20,6 +20,7 @@ export function paperField(present: number): PaperField {
     const anew = button(texts.newPaper, () => {
         input.value = String(randomPaper());
         input.dispatchEvent(new Event("input", { bubbles: true }));
+        announce(texts.paper(Number(input.value)));
     });
     const box = element(
         "div",

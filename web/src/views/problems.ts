@@ -4,22 +4,28 @@ import { announce, element } from "../dom";
 export interface Problem {
     field: HTMLInputElement; // with an id, in a box of the class `asked`, below which the sentence goes
     sentence: string;
+    where?: string; // said in front of the sentence, which does not tell of which field it is
 }
 
-// Gives what shows the problems of now in place of those before; only what is new is announced.
-export function problemMarks(): (problems: Problem[]) => void {
+// Gives what shows the problems of now in place of those before, and announces some: what is new, if it is
+// not told which.
+export function problemMarks(): (problems: Problem[], told?: Problem[]) => void {
     let present: Problem[] = [];
     let lines: HTMLElement[] = [];
-    return (problems) => {
+    return (problems, told) => {
         present.forEach(({ field }) => unmark(field));
         lines.forEach((line) => line.remove());
         lines = linesOf(problems);
-        const news = problems.filter(({ field, sentence }) => !present.some((old) => old.field === field && old.sentence === sentence));
+        const news = told ?? problems.filter(({ field, sentence }) => !present.some((old) => old.field === field && old.sentence === sentence));
         present = problems;
         if (news.length > 0) {
-            announce([...new Set(news.map(({ sentence }) => sentence))].join(" "));
+            announce([...new Set(news.map(spoken))].join(" "));
         }
     };
+}
+
+function spoken({ field, sentence, where }: Problem): string {
+    return where === undefined || field === document.activeElement ? sentence : `${where}: ${sentence}`;
 }
 
 // One for all fields of a box that have the same thing wrong.

@@ -1,6 +1,6 @@
 // A question that comes in the place of the button that was pressed, before something is done that cannot
 // be undone. No dialog element: Safari has it from 15.4 on.
-import { announce, button, element } from "../dom";
+import { announce, button, element, isTouched } from "../dom";
 
 export interface Question {
     text: string;
@@ -26,5 +26,16 @@ export function ask(pressed: HTMLElement, { text, yes, no }: Question, whenYes: 
     pressed.after(group);
     pressed.hidden = true;
     harmless.focus();
-    announce(text);
+    // The group's name is told as the focus comes into it; only readers of touch screens may leave it out.
+    if (isTouched()) {
+        announce(text);
+    }
+}
+
+// Takes away the question that came in the place of this button, if there is one.
+export function withdraw(pressed: HTMLElement): void {
+    if (pressed.nextElementSibling?.matches(".question")) {
+        pressed.nextElementSibling.remove();
+        pressed.hidden = false;
+    }
 }

@@ -1,5 +1,5 @@
 // What a sheet is to be: so many of each kind and level, the paper, the layout.
-import { button, element } from "../dom";
+import { announce, button, element } from "../dom";
 import { isCount, mostExercises } from "../list";
 import { isFew, isPaper, longestTitle, mostVersions } from "../sheet";
 import { texts } from "../texts";
@@ -40,6 +40,7 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
     let lastNumber = versions; // of how many; where there are too many in all, it is told there
     const anew = button(texts.newPaper, () => {
         paper.value = String(randomPaper());
+        announce(texts.paper(Number(paper.value)));
         changed();
     });
     const form = element(

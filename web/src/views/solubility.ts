@@ -76,6 +76,9 @@ function draw(grid: Grid): void {
     show(grid.box, element("table", { class: "solubility" }, head, element("tbody", {}, ...rows)));
     walkWithArrows([...grid.cells.values()], anions.length);
     mark(grid, grid.chosen !== null && grid.cells.has(grid.chosen) ? grid.chosen : null);
+    if (grid.chosen === null) {
+        show(grid.reason); // One that stays is left as it is, or it would be announced again.
+    }
 }
 
 function headOf(grid: Grid, ion: IonInfo, scope: "row" | "col"): HTMLElement {
@@ -93,6 +96,7 @@ function rowOf(grid: Grid, cation: IonInfo, anions: IonInfo[]): HTMLElement {
 function cellOf(grid: Grid, pair: PairInfo): HTMLButtonElement {
     const choose = () => {
         mark(grid, pair);
+        show(grid.reason, ...reasonOf(pair, grid.page));
         uncover(cell);
         bringIntoView(cell, grid.reason);
     };
@@ -102,7 +106,7 @@ function cellOf(grid: Grid, pair: PairInfo): HTMLButtonElement {
     return cell;
 }
 
-// The chosen cell, the names of its row and column, and its reason.
+// The chosen cell, and the names of its row and column.
 function mark(grid: Grid, chosen: PairInfo | null): void {
     if (grid.chosen !== null) {
         grid.cells.get(grid.chosen)?.removeAttribute("aria-current");
@@ -112,7 +116,6 @@ function mark(grid: Grid, chosen: PairInfo | null): void {
         grid.cells.get(chosen)?.setAttribute("aria-current", "true");
     }
     grid.heads.forEach((head, name) => head.classList.toggle("chosen", name === chosen?.cation || name === chosen?.anion));
-    show(grid.reason, ...(chosen === null ? [] : reasonOf(chosen, grid.page)));
 }
 
 const arrows: Record<string, [number, number]> = { ArrowLeft: [0, -1], ArrowRight: [0, 1], ArrowUp: [-1, 0], ArrowDown: [1, 0] };

@@ -34,14 +34,18 @@ function labelled(kind: string, label: string, line: Span[], page: Page): HTMLEl
     return element("p", { class: kind }, element("strong", {}, `${label}: `), element("span", { class: "line" }, ...typesetLine(line, page.settings)));
 }
 
-// The step that was shown last, and the hint to the next one.
-export function lastStepSpoken(exercise: Exercise, steps: number, page: Page): string {
-    const step = exercise.solution[Math.min(steps - 1, exercise.solution.length) - 1];
-    const next = exercise.solution[steps - 1];
-    return [
-        ...(step === undefined ? [] : [speech(step.say, page.settings), speech(step.math ?? [], page.settings)]),
-        ...(next === undefined ? [] : [`${texts.hint}: ${speech(next.hint, page.settings)}`]),
-    ]
-        .filter((line) => line !== "")
-        .join(" ");
+// What is shown now and was not before, to be announced: a step with the hint to the next one, or the answer.
+// Of several steps at once the answer alone, since the focus goes to where they begin.
+export function newlySpoken(exercise: Exercise, before: number, after: number, page: Page): string {
+    const said = (line: Span[]) => speech(line, page.settings);
+    const step = after - before > 1 ? undefined : exercise.solution[after - 2];
+    const next = exercise.solution[after - 1];
+    const end = next === undefined ? `${texts.key}: ${said(spansOfKey(exercise))}` : `${texts.hint}: ${said(next.hint)}`;
+    const lines = step === undefined ? [end] : [said(step.say), said(step.math ?? []), end];
+    return lines.filter((line) => line !== "").map(stopped).join(" ");
+}
+
+// A formula has no full stop, and would be read on into what comes behind it.
+function stopped(line: string): string {
+    return /[.?!:]$/.test(line) ? line : `${line}.`;
 }

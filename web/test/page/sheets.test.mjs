@@ -469,7 +469,7 @@ test("each thing that is wrong is told at its own field, and announced once", as
     await page.waitForTimeout(100);
     const [count, ofVersions] = ["Each count is a whole number up to 1000.", "Versions are a number from 1 to 30."];
     assert.deepEqual([await told(titration), await told(dilution), await told(versions)], [count, count, ofVersions]);
-    assert.deepEqual(await page.evaluate(() => window.said.filter((text) => text !== "")), [count, `${count} ${ofVersions}`]);
+    assert.deepEqual(await page.evaluate(() => window.said.filter((text) => text !== "")), [count, `Dilution, level 1: ${count} ${ofVersions}`]);
     await leave(page);
 });
 
