@@ -61,11 +61,21 @@ function pageOf(lesson: Lesson): Page {
         },
         stay(route) {
             history.replaceState(null, "", addressOf(route));
-            printed = route;
-            showViews(route);
+            keepSheet(route);
+        },
+        step(route) {
+            if (location.hash !== addressOf(route)) {
+                history.pushState(null, "", addressOf(route));
+            }
+            keepSheet(route);
         },
     };
     return page;
+}
+
+function keepSheet(route: SheetRoute): void {
+    printed = route;
+    showViews(route);
 }
 
 // Shows the present address from its beginning, for a reader who has asked for it.

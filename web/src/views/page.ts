@@ -11,6 +11,8 @@ export interface Page {
     go(address: string): void;
     // Gives the present address another sheet, which is shown already.
     stay(route: SheetRoute): void;
+    // The same, and Back brings the sheet before it.
+    step(route: SheetRoute): void;
 }
 
 export function titleOf(page: Page, kind: string): string {

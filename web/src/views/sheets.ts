@@ -32,6 +32,7 @@ export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (
     }
     let timer = 0;
     let present = opened;
+    let isPicked = false; // by the last change
     const heading = element("h1", { tabindex: -1 }, texts.sheetsTitle);
     const message = element("p", { class: "message", role: "alert" });
     const preview = previewOf(page);
@@ -65,10 +66,16 @@ export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (
         preview.setStale("problems" in reading);
         if ("route" in reading) {
             present = reading.route;
-            page.stay(present);
+            keep(false);
             files.update(present);
             preview.show(present, isMade);
         }
+    }
+
+    // What was in a field can be put there again. Another exercise is called back by Back alone.
+    function keep(byPick: boolean): void {
+        (byPick || isPicked ? page.step : page.stay)(present);
+        isPicked = byPick;
     }
 
     function restyle(): void {
@@ -95,7 +102,7 @@ export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (
         }
         present = { ...present, entries };
         form.pick(entries);
-        page.stay(present);
+        keep(true);
         files.update(present);
         preview.show(present, () => {
             putTools();

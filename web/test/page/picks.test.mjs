@@ -82,6 +82,31 @@ test("Up and Down move an exercise, the focus goes with it, and at either end it
     await leave(page);
 });
 
+test("Back takes back one pick after another, and before them what was changed in the form since", async () => {
+    const page = await openSheet("#sheet/4821/2*ion-formula,dilution:1?v=1");
+    const lists = ["2*ion-formula,dilution:1", "ion-formula@3,ion-formula@2,dilution:1", "ion-formula@3,dilution:1,ion-formula@2", "ion-formula@3,dilution:1,ion-formula@2,ion-formula@4"];
+    await tool(page, "Another instead of exercise 1").press("Enter");
+    await waitForList(page, lists[1]);
+    await tool(page, "Up with exercise 3").press("Enter");
+    await waitForList(page, lists[2]);
+    const ions = page.getByRole("spinbutton", { name: /^Formula of an ion, level 2/ });
+    await ions.fill("3");
+    await waitForList(page, lists[3]);
+    await page.getByLabel("Title").fill("Test");
+    await page.waitForFunction(() => location.hash.includes("title=Test"));
+    for (const list of lists.slice(0, 3).reverse()) {
+        await page.goBack();
+        await waitForList(page, list);
+        assert.equal(await ions.inputValue(), "2");
+        assert.equal(await page.getByLabel("Title").inputValue(), "Chemical calculations");
+    }
+    await isOnThePage(page, 4821, ["ion-formula@1", "ion-formula@2", "dilution:1@1"]);
+    await page.goForward();
+    await waitForList(page, lists[1]);
+    await isOnThePage(page, 4821, ["ion-formula@3", "ion-formula@2", "dilution:1@1"]);
+    await leave(page);
+});
+
 test("the counts are of what is on the sheet, and another count loses no pick", async () => {
     const page = await openSheet("#sheet/4821/ion-formula@7,dilution:1,ion-formula@3?v=1");
     const ions = page.getByRole("spinbutton", { name: /^Formula of an ion, level 2/ });
