@@ -7,6 +7,9 @@ import { localNumber, localUnit, spokenUnit } from "./units";
 
 const thin = "\u202F"; // a blank that does not break
 
+// A string is text beside other text: what stands together becomes one node, which is laid out sooner.
+export type Piece = Node | string;
+
 export function typeset(spans: Span[], settings: Settings): DocumentFragment {
     return lineOf(spans, (span) => typesetSpan(span, settings));
 }
@@ -50,16 +53,29 @@ function signsBehind(side: Span[]): Span[] {
     return side.map((span) => ("text" in span ? { text: "\u00A0+ " } : span));
 }
 
-function lineOf(spans: Span[], nodeOf: (span: Span) => Node): DocumentFragment {
-    const line = document.createDocumentFragment();
-    spans.forEach((span, at) => {
+function lineOf(spans: Span[], pieceOf: (span: Span) => Piece): DocumentFragment {
+    const pieces = spans.flatMap((span, at) => {
         const before = spans[at - 1];
         const isUnit = "unit" in span && before !== undefined && "number" in before;
         const isGap = "text" in span && span.text === " " && before !== undefined && ("number" in before || "fraction" in before);
-        line.append(...(isUnit ? [thin] : []), isGap ? thin : nodeOf(span));
+        return [...(isUnit ? [thin] : []), isGap ? thin : pieceOf(span)];
     });
-    line.normalize(); // Text in one piece is laid out sooner.
+    const line = document.createDocumentFragment();
+    line.append(...joined(pieces));
     return line;
+}
+
+function joined(pieces: Piece[]): Piece[] {
+    const all: Piece[] = [];
+    for (const piece of pieces) {
+        const last = all[all.length - 1];
+        if (typeof piece === "string" && typeof last === "string") {
+            all[all.length - 1] = last + piece;
+        } else {
+            all.push(piece);
+        }
+    }
+    return all;
 }
 
 // The same as a screen reader says it; for labels and announcements.
@@ -85,11 +101,11 @@ function isFactor(span: Span, before: Span | undefined): boolean {
     return "text" in span ? "number" in before && span.text.startsWith("(") : "quantity" in span && "fraction" in before;
 }
 
-function typesetSpan(span: Span, settings: Settings): Node {
+function typesetSpan(span: Span, settings: Settings): Piece {
     if (isSaidAsSeen(span, settings)) {
         return seenSpan(span, settings);
     }
-    const visible = element("span", { "aria-hidden": "true" }, ...seenNodes(span, settings));
+    const visible = element("span", { "aria-hidden": "true" }, ...seenPieces(span, settings));
     // The blank in front keeps it off what stands before, and no full stop off what it ends.
     return element("span", { class: classOf(span) }, visible, spoken(` ${speechOf(span, settings)}`));
 }
@@ -98,11 +114,12 @@ function isSaidAsSeen(span: Span, settings: Settings): boolean {
     return "name" in span || ("text" in span && speechOf(span, settings) === span.text) || ("number" in span && !span.number.includes("e"));
 }
 
-// One node a span. Text alone needs no element where a line breaks in it at its blanks only.
-function seenSpan(span: Span, settings: Settings): Node {
-    const nodes = seenNodes(span, settings);
-    const isText = nodes.length === 1 && nodes[0] instanceof Text && !/[/·]/.test(nodes[0].data);
-    return isText || "text" in span ? nodes[0]! : element("span", { class: classOf(span) }, ...nodes);
+// One piece a span. Text alone needs no element where a line breaks in it at its blanks only.
+function seenSpan(span: Span, settings: Settings): Piece {
+    const pieces = seenPieces(span, settings);
+    const [first] = pieces;
+    const isText = "text" in span || (pieces.length === 1 && typeof first === "string" && !/[/·]/.test(first));
+    return isText && first !== undefined ? first : element("span", { class: classOf(span) }, ...joined(pieces));
 }
 
 // A sign begins a line rather than ends one.
@@ -110,39 +127,35 @@ export function bound(text: string): string {
     return text.replace(/ ([=+→×−]) /g, " $1\u00A0");
 }
 
-function seenNodes(span: Span, settings: Settings): Node[] {
+function seenPieces(span: Span, settings: Settings): Piece[] {
     if ("text" in span) {
-        return [textNode(bound(span.text))];
+        return [bound(span.text)];
     }
     if ("name" in span) {
-        return [textNode(nameOf(span, settings))];
+        return [nameOf(span, settings)];
     }
     if ("formula" in span) {
-        return formulaNodes(span.formula);
+        return formulaPieces(span.formula);
     }
     if ("ion" in span) {
-        return [...formulaNodes(span.ion), element("sup", {}, signed(span.charge))];
+        return [...formulaPieces(span.ion), element("sup", {}, signed(span.charge))];
     }
     if ("quantity" in span) {
         const index = span.index === undefined ? [] : [element("sub", {}, span.index)];
-        const of = span.of === undefined ? [] : [textNode("("), ...formulaNodes(span.of), textNode(")")];
+        const of = span.of === undefined ? [] : ["(", ...formulaPieces(span.of), ")"];
         return [element("var", {}, span.quantity), ...index, ...of];
     }
     if ("number" in span) {
         const [digits = "", exponent] = localNumber(span.number, settings).split("e");
-        return exponent === undefined ? [textNode(digits)] : [textNode(`${digits}${thin}×${thin}10`), element("sup", {}, signed(exponent))];
+        return exponent === undefined ? [digits] : [`${digits}${thin}×${thin}10`, element("sup", {}, signed(exponent))];
     }
     if ("unit" in span) {
-        return unitNodes(localUnit(span.unit, settings));
+        return unitPieces(localUnit(span.unit, settings));
     }
     const [over, under] = span.fraction;
     return [
         element("span", { class: "stacked" }, element("span", { class: "over" }, seenOf(over, settings)), element("span", { class: "under" }, seenOf(under, settings))),
     ];
-}
-
-function textNode(text: string): Text {
-    return document.createTextNode(text);
 }
 
 function classOf(span: Span): string {
@@ -191,14 +204,14 @@ function saidOf(text: string): string {
 }
 
 // Digits behind a letter or a bracket are subscripts; those at the front of a part count it.
-export function formulaNodes(formula: string): Node[] {
-    return shiftedNodes(formula.replaceAll(".", "·"), /(.*?[A-Za-z)\]])(\d+)|.+/gs, "sub");
+export function formulaPieces(formula: string): Piece[] {
+    return shifted(formula.replaceAll(".", "·"), /(.*?[A-Za-z)\]])(\d+)|.+/gs, "sub");
 }
 
 // The text in front of each match's second group as it stands, that group as a subscript or superscript.
-function shiftedNodes(text: string, pattern: RegExp, tag: "sub" | "sup"): Node[] {
-    return [...text.matchAll(pattern)].flatMap(([whole, level, shifted]) =>
-        level === undefined || shifted === undefined ? [textNode(whole)] : [textNode(level), element(tag, {}, signed(shifted))],
+function shifted(text: string, pattern: RegExp, tag: "sub" | "sup"): Piece[] {
+    return [...text.matchAll(pattern)].flatMap(([whole, level, behind]) =>
+        level === undefined || behind === undefined ? [whole] : [level, element(tag, {}, signed(behind))],
     );
 }
 
@@ -225,6 +238,6 @@ function nameOf(span: { name: string; american?: string }, settings: Settings): 
     return settings.names === "american" && span.american !== undefined ? span.american : span.name;
 }
 
-function unitNodes(unit: string): Node[] {
-    return shiftedNodes(unit.replaceAll(" ", thin), /(.*?[A-Za-z])(-?\d)|.+/gs, "sup");
+function unitPieces(unit: string): Piece[] {
+    return shifted(unit.replaceAll(" ", thin), /(.*?[A-Za-z])(-?\d)|.+/gs, "sup");
 }

@@ -1,7 +1,7 @@
 // The field for an answer: its label and hint, the signs to insert, and what the page makes of what
 // is being typed. Nothing here knows chemistry: digits behind letters are set low, charges high.
 import { bringIntoView, button, element, fitIntoView, isTouched, lastLineOf, show, spoken } from "../dom";
-import { bound, formulaNodes, typeset } from "../spans";
+import { bound, formulaPieces, type Piece, typeset } from "../spans";
 import { texts } from "../texts";
 import type { Ask, Settings, Span } from "../types";
 import { localUnit, plainUnit, spokenUnit } from "../units";
@@ -183,7 +183,7 @@ function keysOf(ask: Ask, input: HTMLInputElement, update: () => void): HTMLElem
             update();
         };
         const made = button("", press);
-        const seen = element("span", { "aria-hidden": "true" }, ...previewNodes(key));
+        const seen = element("span", { "aria-hidden": "true" }, ...previewOf(key));
         show(made, seen, spoken(texts.keyNames[key] ?? key));
         // The field keeps the focus, and a tablet its keyboard.
         made.addEventListener("pointerdown", (event) => event.preventDefault());
@@ -194,22 +194,20 @@ function keysOf(ask: Ask, input: HTMLInputElement, update: () => void): HTMLElem
 }
 
 function showPreview(preview: HTMLElement, ask: Ask, text: string, settings: Settings): void {
-    const nodes = ask.form === "number" ? numberNodes(text.trim(), settings) : previewNodes(ask.form === "ion" ? withCharge(text.trim()) : text.trim());
-    const plain = nodes.every((node) => node.nodeType === Node.TEXT_NODE);
+    const pieces = ask.form === "number" ? numberOf(text.trim(), settings) : previewOf(ask.form === "ion" ? withCharge(text.trim()) : text.trim());
+    const plain = pieces.every((piece) => typeof piece === "string");
     preview.hidden = text.trim() === "" || (plain && text.search(typedArrow) === -1);
-    show(preview, `${texts.preview} `, ...nodes);
+    show(preview, `${texts.preview} `, ...pieces);
 }
 
 // "3.42e-2 mol/L" with its power of ten.
-function numberNodes(text: string, settings: Settings): Node[] {
+function numberOf(text: string, settings: Settings): Piece[] {
     const parts = /^\s*([-+]?[\d.,]+)\s*(?:e|(?:x|×|\*|·)\s*10\s*(?:\^|\*\*))\s*\+?([-−]?\d+)(.*)$/i.exec(text);
     if (parts === null) {
-        return [document.createTextNode(text)];
+        return [text];
     }
     const [, digits = "", exponent = "", rest = ""] = parts;
-    return [typeset([{ number: `${digits}e${exponent}` }], settings), document.createTextNode(rest)].flatMap((node) =>
-        node instanceof DocumentFragment ? [...node.childNodes] : [node],
-    );
+    return [typeset([{ number: `${digits}e${exponent}` }], settings), rest];
 }
 
 // "SO42-" as "SO4^2-", "Ca2+" as "Ca^2+", "NH4+" as "NH4^+": of two digits in front of the sign, or one
@@ -227,11 +225,11 @@ function withCharge(text: string): string {
 const typedArrow = / *(?:[-–—_=]*>|\\(?:long)?rightarrow|\\to(?![a-z])|\brarr\b) */g;
 
 // A formula, an ion or an equation as it is being typed.
-export function previewNodes(text: string): Node[] {
+function previewOf(text: string): Piece[] {
     const arrows = bound(text.replace(typedArrow, " → ").slice(0, 300));
-    return arrows.split(/(\^\{?[\d+−-]*\}?)/).flatMap((part): Node[] =>
+    return arrows.split(/(\^\{?[\d+−-]*\}?)/).flatMap((part): Piece[] =>
         part.startsWith("^")
             ? [element("sup", {}, part.replace(/[\^{}]/g, "").replaceAll("-", "−"))]
-            : formulaNodes(part.replace(/_\{?(\d+)\}?/g, "$1")),
+            : formulaPieces(part.replace(/_\{?(\d+)\}?/g, "$1")),
     );
 }
