@@ -10,12 +10,17 @@ import type { Page } from "./page";
 
 const endings: Record<ExportFormat, string> = { moodle: "xml", anki: "txt" };
 
+export interface FilesPanel {
+    element: HTMLElement;
+    update(route: SheetRoute): void;
+}
+
 // div.files
 //   label, select    which version, where there are several
 //   button, button
 //   div.practise     a to the set, and the link to it
 // Says by `complain` why there is no file, and nothing where there is one.
-export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: string) => void): { element: HTMLElement; update(route: SheetRoute): void } {
+export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: string) => void): FilesPanel {
     let present = opened;
     const version = element("select", { id: "version" });
     const which = element("div", { class: "which-version" }, element("label", { for: "version" }, texts.fileOf), version);

@@ -4,7 +4,7 @@ import { isCount, mostExercises } from "../list";
 import { isFew, isPaper, longestTitle, mostVersions } from "../sheet";
 import { texts } from "../texts";
 import type { KindInfo, SheetEntry, SheetRoute } from "../types";
-import { countFields } from "./counts";
+import { type Counts, countFields } from "./counts";
 import { randomPaper } from "./page";
 import type { Problem } from "./problems";
 
@@ -17,6 +17,26 @@ export interface SheetForm {
     pick(entries: SheetEntry[]): void; // others in their place, as many of each
 }
 
+type Controls = ReturnType<typeof controlsOf>;
+
+function controlsOf(opened: SheetRoute) {
+    return {
+        paper: element("input", { type: "text", inputmode: "numeric", value: opened.paper, autocomplete: "off" }),
+        versions: element("input", { type: "number", min: 1, max: mostVersions, value: opened.versions }),
+        title: element("input", { type: "text", maxlength: longestTitle, value: opened.title, autocomplete: "off" }),
+        drawings: element("input", { type: "checkbox", checked: opened.drawings }),
+        marks: element("input", { type: "checkbox", checked: opened.marks }),
+        leaf: element("input", { type: "checkbox", id: "new-leaf", checked: opened.leaf }),
+        room: choice(texts.rooms, opened.room),
+        masses: choice(texts.massesOf, opened.masses),
+        columns: choice(texts.shortQuestionsOf, opened.columns),
+        parts: choice(texts.partsOf, opened.parts),
+        key: choice(texts.keyForms, opened.key),
+        keys: choice(texts.keysOf, opened.keys),
+        size: choice(texts.pageSizes, opened.size),
+    };
+}
+
 // form
 //   fieldset      how many of each kind and level
 //   div.fields    the paper, versions, title and layout
@@ -24,93 +44,89 @@ export interface SheetForm {
 //   div           a new leaf
 export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => void): SheetForm {
     const counts = countFields(opened.entries, kinds);
-    const paper = element("input", { type: "text", inputmode: "numeric", value: opened.paper, autocomplete: "off" });
-    const versions = element("input", { type: "number", min: 1, max: mostVersions, value: opened.versions });
-    const title = element("input", { type: "text", maxlength: longestTitle, value: opened.title, autocomplete: "off" });
-    const drawings = element("input", { type: "checkbox", checked: opened.drawings });
-    const marks = element("input", { type: "checkbox", checked: opened.marks });
-    const leaf = element("input", { type: "checkbox", id: "new-leaf", checked: opened.leaf });
-    const room = choice(texts.rooms, opened.room);
-    const masses = choice(texts.massesOf, opened.masses);
-    const columns = choice(texts.shortQuestionsOf, opened.columns);
-    const parts = choice(texts.partsOf, opened.parts);
-    const key = choice(texts.keyForms, opened.key);
-    const keys = choice(texts.keysOf, opened.keys);
-    const size = choice(texts.pageSizes, opened.size);
+    const controls = controlsOf(opened);
+    const { versions } = controls;
+    const form = element("form", { class: "sheet-form", autocomplete: "off" }, counts.element, fieldsOf(controls, changed), ...flagsOf(controls));
     let lastNumber = versions; // of how many; where there are too many in all, it is told there
-    const anew = button(texts.newPaper, () => {
-        paper.value = String(randomPaper());
-        announce(texts.paper(Number(paper.value)));
-        changed();
-    });
-    const form = element(
-        "form",
-        { class: "sheet-form", autocomplete: "off" },
-        counts.element,
-        element(
-            "div",
-            { class: "fields" },
-            hinted(labelled("sheet-paper", texts.choosePaper, paper, anew), paper, texts.sheetPaperHint),
-            hinted(labelled("versions", texts.versions, versions), versions, texts.versionsHint(mostVersions)),
-            hinted(labelled("sheet-title", texts.sheetTitle, title), title, texts.titleHint),
-            labelled("room", texts.room, room),
-            labelled("masses", texts.massesLine, masses),
-            labelled("columns", texts.shortQuestions, columns),
-            labelled("parts", texts.parts, parts),
-            labelled("key", texts.keyForm, key),
-            labelled("keys", texts.keys, keys),
-            labelled("size", texts.pageSize, size),
-        ),
-        element("label", { class: "word" }, drawings, texts.withDrawings),
-        element("label", { class: "word" }, marks, texts.withMarks),
-        hinted(element("div", {}, element("label", { class: "word" }, leaf, texts.newLeaf)), leaf, texts.newLeafHint),
-    );
-
     // Enter in a field is a change like any other, and sends nothing anywhere.
     form.addEventListener("submit", (event) => event.preventDefault());
     form.addEventListener("input", (event) => {
         const target = event.target as HTMLInputElement;
         lastNumber = target === versions || target.matches(".count") ? target : lastNumber;
-        relate();
+        relate(controls);
         changed();
     });
-    relate();
-
-    // What only concerns several versions.
-    function relate(): void {
-        keys.disabled = versions.value === "1";
-    }
-
-    function read(): Reading {
-        const { entries, problems } = counts.read();
-        const all = [...problems, ...problemsIn(paper, versions, title)];
-        if (all.length > 0) {
-            return { problems: all };
-        }
-        const route: SheetRoute = {
-            view: "sheet",
-            paper: Number(paper.value),
-            entries,
-            versions: Number(versions.value),
-            title: title.value,
-            room: room.value as SheetRoute["room"],
-            masses: masses.value as SheetRoute["masses"],
-            drawings: drawings.checked,
-            columns: columns.value as SheetRoute["columns"],
-            marks: marks.checked,
-            leaf: leaf.checked,
-            parts: parts.value as SheetRoute["parts"],
-            key: key.value as SheetRoute["key"],
-            keys: keys.value as SheetRoute["keys"],
-            size: size.value as SheetRoute["size"],
-        };
-        return isFew(route) ? { route } : { problems: [{ field: lastNumber, sentence: texts.tooMany(mostExercises) }] };
-    }
-
-    return { element: form, read, pick: counts.pick };
+    relate(controls);
+    return { element: form, read: () => readingOf(counts.read(), controls, lastNumber), pick: counts.pick };
 }
 
-function problemsIn(paper: HTMLInputElement, versions: HTMLInputElement, title: HTMLInputElement): Problem[] {
+function fieldsOf(controls: Controls, changed: () => void): HTMLElement {
+    const { paper, versions, title, room, masses, columns, parts, key, keys, size } = controls;
+    const anew = button(texts.newPaper, () => {
+        paper.value = String(randomPaper());
+        announce(texts.paper(Number(paper.value)));
+        changed();
+    });
+    return element(
+        "div",
+        { class: "fields" },
+        hinted(labelled("sheet-paper", texts.choosePaper, paper, anew), paper, texts.sheetPaperHint),
+        hinted(labelled("versions", texts.versions, versions), versions, texts.versionsHint(mostVersions)),
+        hinted(labelled("sheet-title", texts.sheetTitle, title), title, texts.titleHint),
+        labelled("room", texts.room, room),
+        labelled("masses", texts.massesLine, masses),
+        labelled("columns", texts.shortQuestions, columns),
+        labelled("parts", texts.parts, parts),
+        labelled("key", texts.keyForm, key),
+        labelled("keys", texts.keys, keys),
+        labelled("size", texts.pageSize, size),
+    );
+}
+
+function flagsOf({ drawings, marks, leaf }: Controls): HTMLElement[] {
+    return [
+        element("label", { class: "word" }, drawings, texts.withDrawings),
+        element("label", { class: "word" }, marks, texts.withMarks),
+        hinted(element("div", {}, element("label", { class: "word" }, leaf, texts.newLeaf)), leaf, texts.newLeafHint),
+    ];
+}
+
+// What only concerns several versions.
+function relate({ keys, versions }: Controls): void {
+    keys.disabled = versions.value === "1";
+}
+
+function readingOf({ entries, problems }: ReturnType<Counts["read"]>, controls: Controls, lastNumber: HTMLInputElement): Reading {
+    const all = [...problems, ...problemsIn(controls)];
+    if (all.length > 0) {
+        return { problems: all };
+    }
+    const route = routeOf(entries, controls);
+    return isFew(route) ? { route } : { problems: [{ field: lastNumber, sentence: texts.tooMany(mostExercises) }] };
+}
+
+function routeOf(entries: SheetEntry[], controls: Controls): SheetRoute {
+    const { paper, versions, title, drawings, marks, leaf, room, masses, columns, parts, key, keys, size } = controls;
+    return {
+        view: "sheet",
+        paper: Number(paper.value),
+        entries,
+        versions: Number(versions.value),
+        title: title.value,
+        room: room.value as SheetRoute["room"],
+        masses: masses.value as SheetRoute["masses"],
+        drawings: drawings.checked,
+        columns: columns.value as SheetRoute["columns"],
+        marks: marks.checked,
+        leaf: leaf.checked,
+        parts: parts.value as SheetRoute["parts"],
+        key: key.value as SheetRoute["key"],
+        keys: keys.value as SheetRoute["keys"],
+        size: size.value as SheetRoute["size"],
+    };
+}
+
+function problemsIn({ paper, versions, title }: Controls): Problem[] {
     return [
         ...(isPaper(paper.value.trim()) ? [] : [{ field: paper, sentence: texts.wrongPaper }]),
         ...(isCount(versions.value, mostVersions) ? [] : [{ field: versions, sentence: texts.wrongVersions(mostVersions) }]),

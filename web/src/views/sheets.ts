@@ -4,15 +4,27 @@ import { type Pick, picked } from "../picks";
 import { texts } from "../texts";
 import type { SheetRoute } from "../types";
 import { displayPanel } from "./display";
-import { filesPanel } from "./files";
+import { type FilesPanel, filesPanel } from "./files";
 import type { Page } from "./page";
 import { focusTool, pickTools } from "./pick-tools";
-import { previewOf } from "./preview";
-import { problemMarks } from "./problems";
-import { sheetForm } from "./sheet-form";
+import { type Preview, previewOf } from "./preview";
+import { type Problem, problemMarks } from "./problems";
+import { type SheetForm, sheetForm } from "./sheet-form";
 
 const pause = 150; // milliseconds behind the last key press, so that nothing is made for half a number
 const patience = 600; // more, so that nothing is called wrong that is still being typed
+
+interface Work {
+    page: Page;
+    present: SheetRoute; // the last one without a mistake, which is shown and printed
+    isPicked: boolean; // by the last change
+    timer: number; // 0 where nothing waits
+    form: SheetForm;
+    preview: Preview;
+    files: FilesPanel;
+    message: HTMLElement;
+    markProblems(problems: Problem[]): void;
+}
 
 // article.sheets
 //   div.title        h1, Pages, which leads there in a narrow window
@@ -30,106 +42,118 @@ export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (
     if (!opened.entries.every((entry) => page.kinds.some((info) => info.kind === entry.kind))) {
         return null;
     }
-    let timer = 0;
-    let present = opened;
-    let isPicked = false; // by the last change
+    const work = workOf(opened, page);
     const heading = element("h1", { tabindex: -1 }, texts.sheetsTitle);
-    const message = element("p", { class: "message", role: "alert" });
-    const preview = previewOf(page);
-    const files = filesPanel(page, opened, (sentence) => show(message, sentence));
-    const form = sheetForm(opened, page.kinds, () => later(pause, changed));
-    const markProblems = problemMarks();
-
-    function later(milliseconds: number, work: () => void): void {
-        window.clearTimeout(timer);
-        timer = window.setTimeout(work, milliseconds);
-    }
-
-    // What is wrong stays untold while it may still become right.
-    function changed(): void {
-        if ("problems" in form.read()) {
-            later(patience, settle);
-        } else {
-            settle();
-        }
-    }
-
-    // What is printed stays what is shown, the last sheet without a mistake.
-    function settle(): void {
-        timer = 0;
-        if (!form.element.isConnected) {
-            return; // The reader has gone to another view meanwhile.
-        }
-        const reading = form.read();
-        show(message);
-        markProblems("problems" in reading ? reading.problems : []);
-        preview.setStale("problems" in reading);
-        if ("route" in reading) {
-            present = reading.route;
-            keep(false);
-            files.update(present);
-            preview.show(present, isMade);
-        }
-    }
-
-    // What was in a field can be put there again. Another exercise is called back by Back alone.
-    function keep(byPick: boolean): void {
-        (byPick || isPicked ? page.step : page.stay)(present);
-        isPicked = byPick;
-    }
-
-    function restyle(): void {
-        settle();
-        if ("problems" in form.read()) {
-            preview.show(present, isMade);
-        }
-    }
-
-    function isMade(size: string): void {
-        putTools();
-        announce(size);
-    }
-
-    function putTools(): void {
-        pickTools(preview.box, present, change);
-    }
-
-    // What is wrong in the form meanwhile stays so.
-    function change(at: number, pick: Pick): void {
-        const entries = picked(present.entries, at, pick);
-        if (entries === null) {
-            return;
-        }
-        present = { ...present, entries };
-        form.pick(entries);
-        keep(true);
-        files.update(present);
-        preview.show(present, () => {
-            putTools();
-            announce(texts.pickedNow[pick](at + 1));
-            focusTool(preview.box, pick === "another" ? at : pick === "up" ? at - 1 : at + 1, pick);
-        });
-    }
-
-    // However printing was asked for: what is still being typed or made belongs to what is printed.
     // Set, not added, so that no listener outlives its view by more than one.
-    window.onbeforeprint = () => {
-        if (timer !== 0) {
-            window.clearTimeout(timer);
-            settle();
-        }
-        preview.finish();
-    };
+    window.onbeforeprint = () => finish(work);
+    show(main, chosenOf(work, heading), outcomeOf(work));
+    work.preview.show(opened, () => putTools(work));
+    return () => heading.focus();
+}
 
-    const title = element("div", { class: "title-line" }, heading, button(texts.pages, preview.reach, { class: "to-pages" }));
-    const display = element("aside", { "aria-label": texts.display }, displayPanel(page, restyle));
+function workOf(opened: SheetRoute, page: Page): Work {
+    const message = element("p", { class: "message", role: "alert" });
+    const work: Work = {
+        page,
+        present: opened,
+        isPicked: false,
+        timer: 0,
+        form: sheetForm(opened, page.kinds, () => later(work, pause, changed)),
+        preview: previewOf(page),
+        files: filesPanel(page, opened, (sentence) => show(message, sentence)),
+        message,
+        markProblems: problemMarks(),
+    };
+    return work;
+}
+
+function chosenOf(work: Work, heading: HTMLElement): HTMLElement {
+    const title = element("div", { class: "title-line" }, heading, button(texts.pages, work.preview.reach, { class: "to-pages" }));
+    const display = element("aside", { "aria-label": texts.display }, displayPanel(work.page, () => restyle(work)));
+    return element("article", { class: "sheets" }, title, work.form.element, display);
+}
+
+function outcomeOf({ preview, files, message }: Work): HTMLElement {
     const actions = element("div", { class: "help" }, button(texts.printIt, () => window.print(), { class: "main" }), files.element);
     const pickHint = element("p", { class: "hint pick-hint" }, texts.pickHint);
-    show(
-        main,
-        element("article", { class: "sheets" }, title, form.element, display),
-        element("div", { class: "outcome" }, actions, message, preview.size, preview.stale, pickHint, preview.box),
-    );
-    preview.show(opened, () => putTools());
-    return () => heading.focus();
+    return element("div", { class: "outcome" }, actions, message, preview.size, preview.stale, pickHint, preview.box);
+}
+
+function later(work: Work, milliseconds: number, then: (work: Work) => void): void {
+    window.clearTimeout(work.timer);
+    work.timer = window.setTimeout(() => then(work), milliseconds);
+}
+
+// What is wrong stays untold while it may still become right.
+function changed(work: Work): void {
+    if ("problems" in work.form.read()) {
+        later(work, patience, settle);
+    } else {
+        settle(work);
+    }
+}
+
+// What is printed stays what is shown, the last sheet without a mistake.
+function settle(work: Work): void {
+    work.timer = 0;
+    if (!work.form.element.isConnected) {
+        return; // The reader has gone to another view meanwhile.
+    }
+    const reading = work.form.read();
+    show(work.message);
+    work.markProblems("problems" in reading ? reading.problems : []);
+    work.preview.setStale("problems" in reading);
+    if ("route" in reading) {
+        turnTo(work, reading.route, false);
+        work.preview.show(work.present, (size) => isMade(work, size));
+    }
+}
+
+// What was in a field can be put there again. Another exercise is called back by Back alone.
+function turnTo(work: Work, route: SheetRoute, byPick: boolean): void {
+    const { page, isPicked } = work;
+    work.present = route;
+    (byPick || isPicked ? page.step : page.stay)(route);
+    work.isPicked = byPick;
+    work.files.update(route);
+}
+
+function restyle(work: Work): void {
+    settle(work);
+    if ("problems" in work.form.read()) {
+        work.preview.show(work.present, (size) => isMade(work, size));
+    }
+}
+
+function isMade(work: Work, size: string): void {
+    putTools(work);
+    announce(size);
+}
+
+function putTools(work: Work): void {
+    pickTools(work.preview.box, work.present, (at, pick) => change(work, at, pick));
+}
+
+// What is wrong in the form meanwhile stays so.
+function change(work: Work, at: number, pick: Pick): void {
+    const entries = picked(work.present.entries, at, pick);
+    if (entries === null) {
+        return;
+    }
+    work.form.pick(entries);
+    turnTo(work, { ...work.present, entries }, true);
+    work.preview.show(work.present, () => {
+        putTools(work);
+        announce(texts.pickedNow[pick](at + 1));
+        focusTool(work.preview.box, pick === "another" ? at : pick === "up" ? at - 1 : at + 1, pick);
+    });
+}
+
+// However printing was asked for: what is still being typed or made belongs to what is printed.
+function finish(work: Work): void {
+    if (work.timer !== 0) {
+        window.clearTimeout(work.timer);
+        settle(work);
+    }
+    work.preview.finish();
 }
