@@ -20,10 +20,16 @@ function withEquation(spans: Span[], arrow: number): Part[] {
     const to = length < 0 ? spans.length : from + length;
     const [stop, behind] = cut(spans.slice(to), /^[.,;]? ?/);
     return [
-        ...partsOf(spans.slice(0, from)),
+        ...partsOf(lastWordsTogether(spans.slice(0, from))),
         { equation: [spans.slice(from, arrow), spans.slice(arrow + 1, to)], stop: stop.trim() },
         ...partsOf(behind),
     ];
+}
+
+// The line above an equation is not its last word alone.
+function lastWordsTogether(spans: Span[]): Span[] {
+    const last = spans[spans.length - 1];
+    return last !== undefined && "text" in last ? [...spans.slice(0, -1), { text: last.text.replace(/ (\S+) $/, "\u00A0$1 ") }] : spans;
 }
 
 function isOfEquation(span: Span): boolean {

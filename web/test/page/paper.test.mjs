@@ -90,6 +90,12 @@ test("how many figures are wanted is on one line", async () => {
     }
 });
 
+test("the line above an equation is not a word alone", async () => {
+    const { sheet } = await printed("#sheet/77/titration,titration:3,dilution,3*molar-mass:1?size=Letter&v=1");
+    const above = sheet.filter((_, at) => /^\d*[A-Z].*→/.test(sheet[at + 1] ?? ""));
+    assert.ok(above.length > 0 && above.every((line) => line.endsWith("equationis")), above.join("\n"));
+});
+
 test("the room to write ends with a line for the answer, with its symbol and unit", async () => {
     const answers = async (hash, options) => (await questionsOf(hash, options)).map(({ answer }) => answer);
     assert.deepEqual(await answers("#sheet/4821/titration,dilution:1,concentration,molar-mass:1,ion-formula,neutralisation?v=1"), [

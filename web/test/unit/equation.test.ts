@@ -24,10 +24,10 @@ const cases: [string, Span[], string][] = [
     ["text alone", [{ text: "Divide by " }, { number: "2" }, { text: "." }], "Divide by 2."],
     ["nothing", [], ""],
     ["an equation alone", equation, "{2HCl + MgO | MgCl2 + H2O}"],
-    ["an equation in a sentence", [{ text: "The equation is " }, ...equation, { text: ". Calculate it." }], "The equation is {2HCl + MgO | MgCl2 + H2O.}Calculate it."],
-    ["an equation at its end", [{ text: "It is " }, ...equation, { text: "." }], "It is {2HCl + MgO | MgCl2 + H2O.}"],
+    ["an equation in a sentence", [{ text: "The equation is " }, ...equation, { text: ". Calculate it." }], "The equation\u00A0is {2HCl + MgO | MgCl2 + H2O.}Calculate it."],
+    ["an equation at its end", [{ text: "It is " }, ...equation, { text: "." }], "It\u00A0is {2HCl + MgO | MgCl2 + H2O.}"],
     ["a value in brackets", [{ formula: "CuSO4" }, { text: " (" }, ...molarMass, { text: "), is dissolved" }], "CuSO4 {(M = 159.61 g/mol),} is dissolved"],
-    ["both", [{ text: "(" }, ...molarMass, { text: ") in " }, ...equation, { text: "." }], "{(M = 159.61 g/mol)} in {2HCl + MgO | MgCl2 + H2O.}"],
+    ["both", [{ text: "(" }, ...molarMass, { text: ") in " }, ...equation, { text: "." }], "{(M = 159.61 g/mol)}\u00A0in {2HCl + MgO | MgCl2 + H2O.}"],
     ["a value without brackets", molarMass, "M = 159.61 g/mol"],
     ["words in brackets", [{ text: "an acid (" }, { formula: "HCl" }, { text: ")" }], "an acid (HCl)"],
 ];
