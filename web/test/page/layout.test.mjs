@@ -41,9 +41,9 @@ function cutOff() {
         .map((element) => element.outerHTML.slice(0, 120));
 }
 
-// Words of a heading that go on in the next line.
+// Words of a heading or a fact that go on in the next line.
 function brokenWords() {
-    const words = [...document.querySelectorAll("h1, h2")].filter((heading) => heading.checkVisibility()).flatMap((heading) => {
+    const words = [...document.querySelectorAll("h1, h2, dt, dd")].filter((heading) => heading.checkVisibility()).flatMap((heading) => {
         const walker = document.createTreeWalker(heading, NodeFilter.SHOW_TEXT);
         const texts = [];
         while (walker.nextNode()) {

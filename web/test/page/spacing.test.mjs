@@ -94,3 +94,39 @@ test("no date of a set that is kept is broken", async () => {
     assert.equal(lines, 1);
     await leave(page);
 });
+
+test("the name of each fact of a summary is one line, and the fact begins beside it", async () => {
+    const [, hash, reach] = states.find(([name]) => name === "a summary");
+    for (const width of [360, 768]) {
+        const page = await openPage(browser, hash, { viewport: { width, height: 800 } });
+        await reach(page);
+        const places = await page.locator(".facts :is(dt, dd)").evaluateAll((all) => all.map((one) => {
+            const range = document.createRange();
+            range.selectNodeContents(one);
+            return { lines: range.getClientRects().length, top: one.getBoundingClientRect().top };
+        }));
+        for (let at = 0; at < places.length; at += 2) {
+            assert.equal(places[at].lines, 1, `name ${at / 2}, ${width} pixels wide`);
+            assert.ok(Math.abs(places[at].top - places[at + 1].top) < 4, `fact ${at / 2}, ${width} pixels wide`);
+        }
+        await leave(page);
+    }
+});
+
+for (const colorScheme of ["light", "dark"]) {
+    test(`the periodic table is shaded where it goes on behind the edge, ${colorScheme}`, async () => {
+        const page = await openPage(browser, "#tables", { viewport: { width: 360, height: 800 }, colorScheme });
+        const box = page.locator(".scrolling").first();
+        await box.waitFor();
+        const { x, y, width } = await box.boundingBox();
+        // Between the numbers of the groups and hydrogen nothing else is drawn.
+        const clip = { x: x + width - 3, y: y + 35, width: 2, height: 4 };
+        const edge = () => page.screenshot({ clip });
+        const atBeginning = await edge();
+        const plain = await page.screenshot({ clip: { ...clip, x: x + width / 2 } });
+        assert.notDeepEqual(atBeginning, plain, "no shade at the beginning");
+        await box.evaluate((one) => (one.scrollLeft = 40));
+        assert.notDeepEqual(await edge(), plain, "no shade on the way");
+        await leave(page);
+    });
+}
