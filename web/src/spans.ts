@@ -186,7 +186,13 @@ function speechOf(span: Span, settings: Settings): string {
     if ("unit" in span) {
         return spokenUnit(localUnit(span.unit, settings));
     }
-    return `${speech(span.fraction[0], settings)} over ${speech(span.fraction[1], settings)}`;
+    const [over, under] = span.fraction.map((part) => speech(part, settings));
+    return `${over}${isSum(span.fraction[0]) ? ", all" : ""} over ${under}`;
+}
+
+// Of which the last number alone would be heard as what is divided.
+function isSum(spans: Span[]): boolean {
+    return spans.some((span) => "text" in span && /[+−]/.test(span.text));
 }
 
 const saidSigns: [string, string][] = [

@@ -42,6 +42,16 @@ const written: [Span[], string][] = [
     [[{ name: "silver" }, { text: " " }, { name: "chloride" }, { text: ", " }, { formula: "AgCl" }], "silver chloride, A g C l"],
 ];
 
+const divided: [Span[], Span[], string][] = [
+    [[{ number: "10.90" }, { text: " + " }, { number: "10.85" }], [{ number: "2" }], "10.90 plus 10.85, all over 2"],
+    [[{ quantity: "c" }, { text: " " }, { quantity: "V" }], [{ quantity: "n" }], "c V over n"],
+    [[{ number: "1.5e-3" }], [{ number: "0.025" }], "1.5 times 10 to the minus 3 over 0.025"],
+];
+
+for (const [over, under, said] of divided) {
+    test(`a fraction is said as "${said}"`, () => assert.equal(speech([{ fraction: [over, under] }], usual), said));
+}
+
 for (const [spans, said] of written) {
     test(`"${said}" has its blanks where they are written`, () => assert.equal(speech(spans, usual), said));
 }
