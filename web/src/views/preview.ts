@@ -25,6 +25,9 @@ export function previewOf(page: Page): Preview {
 
     function clear(): void {
         work?.stop();
+        if (box.contains(document.activeElement)) {
+            box.focus({ preventScroll: true }); // Not lost with what goes now.
+        }
         show(box);
         show(size);
     }

@@ -145,8 +145,15 @@ function change(work: Work, at: number, pick: Pick): void {
     work.preview.show(work.present, () => {
         putTools(work);
         announce(texts.pickedNow[pick](at + 1));
-        focusTool(work.preview.box, pick === "another" ? at : pick === "up" ? at - 1 : at + 1, pick);
+        if (isWaiting(work)) {
+            focusTool(work.preview.box, pick === "another" ? at : pick === "up" ? at - 1 : at + 1, pick);
+        }
     });
+}
+
+// The reader has not gone on with the keyboard while the pages were made.
+function isWaiting({ preview }: Work): boolean {
+    return document.activeElement === preview.box || document.activeElement === document.body;
 }
 
 // However printing was asked for: what is still being typed or made belongs to what is printed.

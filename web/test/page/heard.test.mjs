@@ -206,6 +206,51 @@ test("Enter in the search tells at once what is found, and each further one tell
     await leave(page);
 });
 
+// What has the focus, frame by frame.
+async function watchFocus(page) {
+    await page.evaluate(() => {
+        window.stops = [];
+        const look = () => {
+            const stop = document.activeElement.getAttribute("aria-label") ?? document.activeElement.localName;
+            if (window.stops[window.stops.length - 1] !== stop) {
+                window.stops.push(stop);
+            }
+            requestAnimationFrame(look);
+        };
+        look();
+    });
+}
+
+async function openClassSet() {
+    const page = await openPage(browser, "#sheet/4821/20*titration?versions=30&v=1");
+    await page.locator(".size:not(:empty)").waitFor({ timeout: 60_000 });
+    await page.getByRole("button", { name: "Down with exercise 1", exact: true }).focus();
+    await watchFocus(page);
+    await page.keyboard.press("Enter");
+    return page;
+}
+
+const isMade = (page) => page.getByRole("button", { name: "Down with exercise 1", exact: true }).waitFor({ timeout: 60_000 });
+
+test("while the pages of a class set are made anew the focus is not lost", async () => {
+    const page = await openClassSet();
+    await isMade(page);
+    await page.waitForFunction(() => window.stops.length > 1 && document.activeElement.localName === "button");
+    assert.deepEqual(await page.evaluate(() => window.stops), ["Down with exercise 1", "Pages", "Down with exercise 2"]);
+    await leave(page);
+});
+
+test("who goes on while the pages are made keeps the focus", async () => {
+    const page = await openClassSet();
+    await page.keyboard.press("Shift+Tab");
+    const copy = button(page, "Copy the practice link");
+    assert.equal(await isFocused(copy), true, "meanwhile");
+    await isMade(page);
+    await page.waitForTimeout(100);
+    assert.equal(await isFocused(copy), true, "at the end");
+    await leave(page);
+});
+
 test("a display that changes is not announced, and leaves the focus where it is", async () => {
     const page = await openPage(browser, "#practice/4821/3/titration:3");
     await panel(page, "How it is written").click();
