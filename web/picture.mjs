@@ -14,6 +14,7 @@ await tab.locator(".mark").waitFor();
 for (let press = 0; press < 3; ++press) {
     await tab.getByRole("button", { name: "Show a step" }).click();
 }
+await tab.mouse.move(0, 0);
 await tab.locator("body").evaluate((body) => body.querySelector("aside").remove());
 await tab.locator("body").screenshot({ path: practice });
 
@@ -30,5 +31,5 @@ await tab.evaluate(() => {
 });
 await tab.waitForTimeout(200);
 const { width } = await tab.locator(".leaves").boundingBox();
-await tab.screenshot({ path: sheet, clip: { x: 0, y: 0, width, height: 700 } });
+await tab.screenshot({ path: sheet, clip: { x: 0, y: 0, width, height: 674 } });
 await browser.close();

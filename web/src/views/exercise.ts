@@ -127,7 +127,7 @@ function partsOf(work: Work): Parts {
         help: element("div", { class: "help" }, step, answer),
         solution: element("section", { class: "solution", "aria-label": texts.solution, hidden: true }),
         next,
-        goOn: element("div", { class: "help" }, next, ...(route.set > 0 ? [] : [anotherButton(work)])),
+        goOn: element("div", { class: "help go-on" }, next, ...(route.set > 0 ? [] : [anotherButton(work)])),
     };
     return parts;
 }

@@ -130,3 +130,16 @@ for (const colorScheme of ["light", "dark"]) {
         await leave(page);
     });
 }
+
+for (const name of ["the verdict correct", "the solution of dilution:1"]) {
+    test(`${name}: what leads aside keeps its distance from Next`, async () => {
+        const [, hash, reach] = states.find(([one]) => one === name);
+        const page = await openPage(browser, hash, { viewport: { width: 360, height: 800 } });
+        await reach(page);
+        // Both at once, since the solution may still be scrolled into view.
+        const [next, aside] = await page.locator(".go-on button").evaluateAll((all) => all.map((one) => one.getBoundingClientRect().toJSON()));
+        assert.equal(next.top, aside.top);
+        assert.ok(aside.left - next.right >= 12, `${aside.left} and ${next.right}`);
+        await leave(page);
+    });
+}
