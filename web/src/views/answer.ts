@@ -53,22 +53,12 @@ function choiceField(words: string[], changed: () => void): AnswerField {
 //   div.keys
 //   p.preview
 function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerField {
-    const input = element("input", {
-        id: "answer",
-        type: "text",
-        inputmode: ask.form === "number" ? "decimal" : "text",
-        autocapitalize: "off",
-        autocorrect: "off",
-        autocomplete: "off",
-        spellcheck: "false",
-        enterkeyhint: "go",
-        "aria-describedby": hintId,
-    });
+    const input = inputOf(ask);
     const preview = element("p", { class: "preview", hidden: true });
     const update = () => {
         showPreview(preview, ask, input.value, settings);
-        keepFieldInView(); // Each further line of the preview pushes Check down.
         changed();
+        keepFieldInView(); // Each further line of the preview pushes Check down.
     };
     input.addEventListener("input", update);
     input.addEventListener("focus", () => isTouched() && keepFieldInView());
@@ -92,6 +82,20 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
         setWrong: wrongness(input, hintId),
         focus: () => input.focus({ preventScroll: true }),
     };
+}
+
+function inputOf(ask: Ask): HTMLInputElement {
+    return element("input", {
+        id: "answer",
+        type: "text",
+        inputmode: ask.form === "number" ? "decimal" : "text",
+        autocapitalize: "off",
+        autocorrect: "off",
+        autocomplete: "off",
+        spellcheck: "false",
+        enterkeyhint: "go",
+        "aria-describedby": hintId,
+    });
 }
 
 // While the reader is typing: the field with its preview, the button that checks it, and, where there is

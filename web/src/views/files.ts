@@ -26,15 +26,6 @@ export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: 
     const which = element("div", { class: "which-version" }, element("label", { for: "version" }, texts.fileOf), version);
     const practise = element("div", { class: "practise" });
 
-    function download(format: ExportFormat): void {
-        const paper = Number(version.value);
-        const result = page.lesson.exported(paper, listOf(present.entries), format);
-        complain("error" in result ? result.error : "");
-        if ("file" in result) {
-            save(`paper-${paper}-${format}.${endings[format]}`, result.file);
-        }
-    }
-
     function link(): void {
         const set = practiceOf(present, Number(version.value));
         const panel = linkPanel(set, texts.copyPractice, "");
@@ -53,6 +44,15 @@ export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: 
 
     version.addEventListener("change", link);
     update(opened);
-    const buttons = [button(texts.moodle, () => download("moodle")), button(texts.anki, () => download("anki"))];
+    const saveAs = (format: ExportFormat) => download(page, Number(version.value), present, format, complain);
+    const buttons = [button(texts.moodle, () => saveAs("moodle")), button(texts.anki, () => saveAs("anki"))];
     return { element: element("div", { class: "files" }, which, ...buttons, practise), update };
+}
+
+function download(page: Page, paper: number, { entries }: SheetRoute, format: ExportFormat, complain: (sentence: string) => void): void {
+    const result = page.lesson.exported(paper, listOf(entries), format);
+    complain("error" in result ? result.error : "");
+    if ("file" in result) {
+        save(`paper-${paper}-${format}.${endings[format]}`, result.file);
+    }
 }

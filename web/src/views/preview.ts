@@ -23,15 +23,6 @@ export function previewOf(page: Page): Preview {
     const stale = element("p", { class: "stale", hidden: true }, texts.stalePages);
     let work: Work | null = null;
 
-    function clear(): void {
-        work?.stop();
-        if (box.contains(document.activeElement)) {
-            box.focus({ preventScroll: true }); // Not lost with what goes now.
-        }
-        show(box);
-        show(size);
-    }
-
     return {
         size,
         stale,
@@ -47,13 +38,13 @@ export function previewOf(page: Page): Preview {
         show(route, shown) {
             // As high as before until it is filled again, so that nothing on the screen moves.
             box.style.setProperty("min-block-size", `${box.offsetHeight}px`);
-            clear();
+            work?.stop();
+            empty(box, size);
             box.classList.remove("a4", "letter");
             box.classList.add(route.size.toLowerCase());
             const done = () => {
                 box.style.removeProperty("min-block-size");
-                const blank = box.querySelectorAll(".empty").length;
-                show(size, texts.sheetSize(countOf(route.entries), route.versions, box.childElementCount, blank));
+                show(size, sizeOf(route, box));
                 shown(size.textContent ?? "");
             };
             // Who goes to another view takes the box away.
@@ -61,4 +52,16 @@ export function previewOf(page: Page): Preview {
         },
         finish: () => work?.finish(),
     };
+}
+
+function empty(box: HTMLElement, size: HTMLElement): void {
+    if (box.contains(document.activeElement)) {
+        box.focus({ preventScroll: true }); // Not lost with what goes now.
+    }
+    show(box);
+    show(size);
+}
+
+function sizeOf({ entries, versions }: SheetRoute, box: HTMLElement): string {
+    return texts.sheetSize(countOf(entries), versions, box.childElementCount, box.querySelectorAll(".empty").length);
 }
