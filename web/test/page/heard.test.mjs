@@ -111,6 +111,7 @@ test("of what is wrong in a choice, the field that gets the focus tells its own 
     const page = await openPage(browser);
     await opener(page).click();
     await button(page, "None").click();
+    assert.equal(await announced(page), "No level is chosen.");
     const paper = page.getByLabel("Paper", { exact: true });
     await paper.fill("abc");
     await listen(page);
