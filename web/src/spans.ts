@@ -58,11 +58,23 @@ function lineOf(spans: Span[], pieceOf: (span: Span) => Piece): DocumentFragment
         const before = spans[at - 1];
         const isUnit = "unit" in span && before !== undefined && "number" in before;
         const isGap = "text" in span && span.text === " " && before !== undefined && ("number" in before || "fraction" in before);
-        return [...(isUnit ? [thin] : []), isGap ? thin : pieceOf(span)];
+        const sign = signOf(before, span);
+        const piece = isGap ? thin : pieceOf(signOf(span, spans[at + 1]) === "" ? span : withoutSign(span));
+        return [...(isUnit ? [thin] : []), sign === "" ? piece : element("span", { class: "signed" }, `${sign}\u00A0`, piece)];
     });
     const line = document.createDocumentFragment();
     line.append(...joined(pieces));
     return line;
+}
+
+// The sign in front of a fraction goes to its line with it: a line may end between a blank and what is stacked.
+function signOf(before: Span | undefined, span: Span | undefined): string {
+    const isFraction = before !== undefined && "text" in before && span !== undefined && "fraction" in span;
+    return isFraction ? (/ ([=+×−]) $/.exec(before.text)?.[1] ?? "") : "";
+}
+
+function withoutSign(span: Span): Span {
+    return "text" in span ? { text: span.text.replace(/. $/, "") } : span;
 }
 
 function joined(pieces: Piece[]): Piece[] {

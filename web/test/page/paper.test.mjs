@@ -96,6 +96,29 @@ test("the line above an equation is not a word alone", async () => {
     assert.ok(above.length > 0 && above.every((line) => line.endsWith("equationis")), above.join("\n"));
 });
 
+// The steps in which the sign in front of a fraction is not on its line.
+function partedSigns() {
+    const texts = document.createTreeWalker(document.querySelector(".leaves"), NodeFilter.SHOW_TEXT);
+    return [...document.querySelectorAll(".leaf .stacked")].flatMap((fraction) => {
+        texts.currentNode = fraction;
+        while (texts.previousNode().data.trim() === "");
+        const text = texts.currentNode;
+        const end = text.data.trimEnd().length;
+        const range = document.createRange();
+        range.setStart(text, end - 1);
+        range.setEnd(text, end);
+        const isApart = range.getBoundingClientRect().right > fraction.getBoundingClientRect().left;
+        return isApart && "=+×−".includes(text.data[end - 1]) ? [text.parentElement.closest(".step").textContent] : [];
+    });
+}
+
+test("a sign in front of a fraction is on its line", async () => {
+    const page = await openSheet("#sheet/31/20*titration:3,20*titration:2,20*dilution:3,20*concentration:3?parts=key&key=working&v=1");
+    assert.ok((await page.locator(".leaf .stacked").count()) > 100);
+    assert.deepEqual(await page.evaluate(partedSigns), []);
+    await leave(page);
+});
+
 test("the room to write ends with a line for the answer, with its symbol and unit", async () => {
     const answers = async (hash, options) => (await questionsOf(hash, options)).map(({ answer }) => answer);
     assert.deepEqual(await answers("#sheet/4821/titration,dilution:1,concentration,molar-mass:1,ion-formula,neutralisation?v=1"), [
