@@ -294,7 +294,7 @@ test("the heads of the tables stay where the rest is scrolled", async () => {
 test("what is pressed on a phone is as large as a fingertip", async () => {
     for (const kind of ["compound-formula:3", "ion-formula:3", "neutralisation:3", "solubility:3", "titration:3"]) {
         const page = await openPage(browser, `#practice/4821/3/${kind}`, { viewport: { width: 360, height: 740 }, hasTouch: true, isMobile: true });
-        const small = await page.locator("main button:visible, main input:visible").evaluateAll((all) =>
+        const small = await page.locator(".top a:visible, main button:visible, main input:visible").evaluateAll((all) =>
             all.filter((one) => one.offsetWidth < 44 || one.offsetHeight < 44).map((one) => `${one.outerHTML.slice(0, 80)} ${one.offsetWidth} × ${one.offsetHeight}`),
         );
         assert.deepEqual(small, [], kind);
