@@ -43,7 +43,7 @@ function cutOff() {
 
 // Words of a heading or a fact that go on in the next line.
 function brokenWords() {
-    const words = [...document.querySelectorAll("h1, h2, dt, dd")].filter((heading) => heading.checkVisibility()).flatMap((heading) => {
+    const words = [...document.querySelectorAll("h1, h2, .facts :is(dt, dd)")].filter((heading) => heading.checkVisibility()).flatMap((heading) => {
         const walker = document.createTreeWalker(heading, NodeFilter.SHOW_TEXT);
         const texts = [];
         while (walker.nextNode()) {
