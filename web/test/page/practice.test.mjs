@@ -468,6 +468,7 @@ for (const kind of weighed) {
         await panel(page, "How it is written").click();
         await page.getByRole("group", { name: "Atomic masses" }).getByLabel("Use the table").check();
         assert.equal(await line.innerText(), "Use the periodic table.");
+        await page.waitForTimeout(200); // A busy browser takes a while to keep what was chosen.
         await page.reload();
         await line.getByRole("link", { name: "periodic table" }).click();
         await page.getByRole("heading", { name: "Relative atomic masses" }).waitFor();
