@@ -91,6 +91,7 @@ for (const [what, kept, cells] of found) {
     test(`a record ${what} is read field by field`, async () => {
         const page = await openPage(browser, `#practice/4821/1/${kind}`);
         await page.evaluate((text) => localStorage.setItem("chempractice.record", text), JSON.stringify(kept));
+        await page.waitForTimeout(200); // A busy browser takes a while to keep it.
         await page.reload();
         await panel(page, "My record").click();
         const seen = (await row(page).count()) === 0 ? null : await row(page).locator("td").allInnerTexts();
