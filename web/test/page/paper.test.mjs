@@ -3,7 +3,7 @@
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
 import { pagesOf, plain } from "./pdf.mjs";
-import { leave, openChromium, openLesson, openPage } from "./support.mjs";
+import { isMade, leave, openChromium, openLesson, openMadeSheet } from "./support.mjs";
 
 const lesson = await openLesson();
 let browser;
@@ -12,13 +12,7 @@ before(async () => {
 });
 after(() => browser.close());
 
-const isMade = (page) => page.locator(".size:not(:empty)").waitFor();
-
-async function openSheet(hash, options = {}) {
-    const page = await openPage(browser, hash, options);
-    await isMade(page);
-    return page;
-}
+const openSheet = (hash, options = {}) => openMadeSheet(browser, hash, options);
 
 // The lines on paper of the sheet, and those of its key.
 async function printed(hash, options) {

@@ -3,7 +3,7 @@ import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
 import { after, before, test } from "node:test";
 import { leafTexts, letters, pagesOf, plain } from "./pdf.mjs";
-import { announced, leave, openChromium, openLesson, openPage } from "./support.mjs";
+import { announced, isMade, leave, openChromium, openLesson, openMadeSheet } from "./support.mjs";
 
 const lesson = await openLesson();
 let browser;
@@ -12,13 +12,7 @@ before(async () => {
 });
 after(() => browser.close());
 
-const isMade = (page) => page.locator(".size:not(:empty)").waitFor();
-
-async function openSheet(hash, options = {}) {
-    const page = await openPage(browser, hash, options);
-    await isMade(page);
-    return page;
-}
+const openSheet = (hash, options = {}) => openMadeSheet(browser, hash, options);
 
 const listIn = (page) => new URL(page.url()).hash.split("/")[2].split("?")[0];
 

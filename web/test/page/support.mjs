@@ -83,6 +83,16 @@ export async function go(page, hash) {
     await page.evaluate(() => new Promise((done) => setTimeout(done, 0)));
 }
 
+// Until the line above the pages tells how many there are.
+export const isMade = (page) => page.locator(".size:not(:empty)").waitFor();
+
+// A sheet, once all its pages are there.
+export async function openMadeSheet(browser, hash, options = {}) {
+    const page = await openPage(browser, hash, options);
+    await isMade(page);
+    return page;
+}
+
 // The library in Node, for what a right answer is.
 export async function openLesson() {
     const { instance } = await WebAssembly.instantiate(await readFile(process.env.LESSON), {});
