@@ -105,15 +105,27 @@ async function allMarks() {
 // A class set, 30 papers of 20 exercises with their keys, each time another one.
 const classSet = (turn) => `#sheet/${1 + 30 * turn}/7*concentration,7*dilution,6*titration?versions=30`;
 
-// From the press of a link to the sheet until its last page is there and a frame with it has been made.
-function pressToFrame(hash) {
+// From the press of a link to the sheet until a frame with its first pages has been made, and until one
+// with its last. Between the two the page is busy; so what tells of the first comes before its timers.
+function pressToFrames(hash) {
     return new Promise((done) => {
         const from = performance.now();
-        const shown = () => requestAnimationFrame(() => setTimeout(() => done(performance.now() - from)));
         const main = document.querySelector("main");
+        const times = {};
+        const keep = (which) => requestAnimationFrame(() => scheduler.postTask(() => (times[which] = performance.now() - from), { priority: "user-blocking" }));
         const opened = new MutationObserver(() => {
+            const pages = new MutationObserver(() => {
+                if (main.querySelector(".leaf:not(.measuring)") !== null) {
+                    pages.disconnect();
+                    keep("first");
+                }
+            });
             opened.disconnect();
-            new MutationObserver(shown).observe(main.querySelector(".size"), { childList: true });
+            pages.observe(main.querySelector(".leaves"), { childList: true });
+            new MutationObserver(() => {
+                keep("last");
+                requestAnimationFrame(() => setTimeout(() => done(times)));
+            }).observe(main.querySelector(".size"), { childList: true });
         });
         opened.observe(main, { childList: true });
         location.hash = hash;
@@ -146,10 +158,10 @@ async function madeSet(tab, turn) {
     await tab.goto(`${address}#tables`);
     await tab.locator("h1").waitFor();
     await tab.waitForTimeout(settling);
-    const time = await tab.evaluate(pressToFrame, classSet(turn));
+    const times = await tab.evaluate(pressToFrames, classSet(turn));
     writeFileSync(saved, await tab.evaluate(finishedPages, ""));
     writeFileSync(savedLaidOut, await tab.evaluate(finishedPages, ".leaf { content-visibility: visible; }"));
-    return time;
+    return times;
 }
 
 async function savedSet(tab, file) {
@@ -159,8 +171,8 @@ async function savedSet(tab, file) {
     return Number(message.text());
 }
 
-// The pages are laid out as they come into the window. So the browser has less to do for the saved ones
-// than the page, which has to know how high each exercise is; with all of them laid out it is the same.
+// Pages are laid out as they come into the window, the saved ones too: those are compared with what the
+// page shows first. To break its pages it lays out all: that is compared with the saved ones all laid out.
 async function classSets() {
     const browser = await openChromium();
     const times = await inTurn(
@@ -206,9 +218,12 @@ for (const [kind, times] of await allMarks()) {
 }
 
 const [made, loaded, laidOut] = await classSets();
+const [first, last] = ["first", "last"].map((which) => made.map((times) => times[which]));
 console.log(`\nA class set, 30 papers of 20 exercises with keys: medians of ${turns}`);
-timeLine("all its pages made", made);
-timeLine("the same pages saved and loaded", loaded);
-ratioLine("ratio", made, loaded, "(goal 2.0)");
-timeLine("saved, loaded and all laid out", laidOut);
-ratioLine("ratio", made, laidOut);
+timeLine("its first pages on the screen", first);
+timeLine("its pages saved, the first on the screen", loaded);
+ratioLine("ratio", first, loaded, "(goal 2.0)");
+timeLine("all its pages made, each laid out once", last);
+timeLine("its pages saved, all laid out", laidOut);
+ratioLine("ratio", last, laidOut, "(goal 2.0)");
+ratioLine("all made to the first saved ones shown", last, loaded);

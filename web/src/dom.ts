@@ -27,6 +27,13 @@ export function button(label: string, press: () => void, attributes: Attributes 
     return made;
 }
 
+// Closed at first, and filled when it is opened: few readers do, and the others do not wait for it.
+export function disclosure(title: string, contents: () => Child[]): HTMLDetailsElement {
+    const made = element("details", {}, element("summary", {}, title));
+    made.addEventListener("toggle", () => made.append(...contents()), { once: true });
+    return made;
+}
+
 // What is too wide for a narrow window or large text scrolls in a box of its own, which the keyboard
 // reaches.
 export function scrollBox(kind: string, label: string, ...children: Child[]): HTMLElement {

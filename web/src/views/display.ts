@@ -1,5 +1,5 @@
 // How quantities and names are written.
-import { element } from "../dom";
+import { disclosure, element } from "../dom";
 import * as storage from "../storage";
 import { texts } from "../texts";
 import type { Settings } from "../types";
@@ -7,11 +7,9 @@ import type { Page } from "./page";
 
 type Choices<Key extends keyof Settings> = { value: Settings[Key]; label: string }[];
 
-export function displayPanel(page: Page, changed: () => void, ...more: HTMLElement[]): HTMLElement {
-    return element(
-        "details",
-        {},
-        element("summary", {}, texts.display),
+// `more` is asked for once the panel is opened.
+export function displayPanel(page: Page, changed: () => void, more: () => HTMLElement[] = () => []): HTMLElement {
+    return disclosure(texts.display, () => [
         group(page, changed, "volume", texts.volume, [
             { value: "mL", label: "mL, L" },
             { value: "cm3", label: "cm³, dm³" },
@@ -28,8 +26,8 @@ export function displayPanel(page: Page, changed: () => void, ...more: HTMLEleme
             { value: "british", label: `${texts.british}: aluminium, ethanoate` },
             { value: "american", label: `${texts.american}: aluminum, acetate` },
         ]),
-        ...more,
-    );
+        ...more(),
+    ]);
 }
 
 // Of an exercise alone; a sheet has its own.

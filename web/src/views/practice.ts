@@ -20,7 +20,7 @@ export function showPractice(main: HTMLElement, route: PracticeRoute, exercise: 
     const choice = choicePanel(mainRoad(route), exercise, page);
     const draw = (): (() => void) => showExercise(article, { route, exercise, page, choice, solved: record.update });
     const focus = draw();
-    const display = displayPanel(page, draw, massesChoice(page, draw));
+    const display = displayPanel(page, draw, () => [massesChoice(page, draw)]);
     show(main, article, element("aside", { "aria-label": texts.around }, ...(route.set > 0 ? [linkPanel(route)] : []), display, record.element));
     return focus;
 }

@@ -22,9 +22,12 @@ export function recordPanel(page: Page, setsCleared: () => void): { element: HTM
         summary.focus();
         setsCleared();
     });
+    // Filled only while it is open, which few readers ask for; there may be fifty sets.
     const update = () => {
-        clear.hidden = false;
-        show(body, ...contents(page, clear));
+        if (details.open) {
+            clear.hidden = false;
+            show(body, ...contents(page, clear));
+        }
     };
     const cleared = () => {
         clearRecord();
@@ -33,9 +36,10 @@ export function recordPanel(page: Page, setsCleared: () => void): { element: HTM
         summary.focus();
     };
     const details = element("details", {}, summary, element("p", { class: "hint" }, texts.recordNote), body, sets.element);
-    // There may be fifty, which nobody waits for who does not ask.
-    details.addEventListener("toggle", () => details.open && sets.update());
-    update();
+    details.addEventListener("toggle", () => {
+        update();
+        sets.update();
+    });
     return { element: details, update };
 }
 
