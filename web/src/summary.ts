@@ -20,7 +20,8 @@ export function summaryOf(kept: KeptSet, length: number, kindOf: (number: number
     const times: [string, number][] = [[texts.begun, kept.begun], [texts.lastWorked, kept.touched]];
     // A time that could not be read is none.
     const dates = times.filter(([, time]) => time > 0).map(([name, time]): [string, string] => [name, dateAndTime(time)]);
-    return { facts: [...dates, [texts.worked, texts.duration(Math.round(kept.worked / 60_000))], [texts.total, totalOf(kept, length)]], rows };
+    const worked = texts.duration(Math.round(kept.worked / 60_000));
+    return { facts: [...dates, [texts.total, totalOf(kept, length)], [texts.worked, worked]], rows };
 }
 
 function rowOf(number: number, kind: string, done: Done | undefined): Row {

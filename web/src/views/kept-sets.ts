@@ -40,7 +40,8 @@ function itemOf(route: PracticeRoute, { touched }: KeptSet, page: Page): HTMLEle
     return element("li", {}, link, element("span", { class: "hint" }, ...facts.flatMap(apart)));
 }
 
-// Each whole, so that no date is broken.
-function apart(fact: string, index: number): (Node | string)[] {
-    return [...(index === 0 ? [] : [" · "]), element("span", { class: "together" }, fact)];
+// Each whole, so that no date is broken, and with the dot behind it, so that none begins a line.
+function apart(fact: string, index: number, { length }: string[]): (Node | string)[] {
+    const isLast = index === length - 1;
+    return [element("span", { class: "together" }, isLast ? fact : `${fact} ·`), isLast ? "" : " "];
 }
