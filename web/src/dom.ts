@@ -85,6 +85,11 @@ export function isTouched(): boolean {
     return window.matchMedia("(pointer: coarse)").matches;
 }
 
+// So that nothing stands beside the column of text; as in drawing.css.
+export function isNarrow(): boolean {
+    return !window.matchMedia("(min-width: 46em)").matches;
+}
+
 // Scrolls as little as shows everything from the first element to the last; where that is too much,
 // the beginning of it.
 export function bringIntoView(first: Place, last: Place): void {

@@ -1,6 +1,6 @@
 // One exercise: the question, a field, the mark, the solution step by step; and what each press leads to.
 import { addressOf, atNumber, mainRoad, sideRoad } from "../address";
-import { announce, bringIntoView, button, element, fitIntoView, isTouched, show } from "../dom";
+import { announce, bringIntoView, button, element, fitIntoView, isNarrow, isTouched, show } from "../dom";
 import { keepProgress, keepTyped, progressOf } from "../progress";
 import { addToRecord } from "../record";
 import { speech, typesetLine } from "../spans";
@@ -85,21 +85,25 @@ function arrive({ route, exercise, page }: Place, { field }: Parts): void {
 // p.mark
 // p.offer
 // div.help     Show a step, Show the answer
+// figure       here where a keyboard on the screen leaves room for little more than the question and the field
 // section.solution
 // div.help     Next or Back to exercise 4, Another like this
 function contentsOf({ route, exercise, page, choice }: Place, parts: Parts): HTMLElement[] {
     const drawing = drawingOf(exercise, page.settings);
+    const drawn = drawing === null ? [] : [drawing];
+    const isBelow = isTouched() && isNarrow();
     return [
         headerOf(route, exercise, choice.button, page),
         choice.panel,
         ...(parts.overview === null ? [] : [parts.overview.element]),
         element("p", { class: "prompt" }, ...typesetLine(exercise.prompt, page.settings)),
         ...massesBelow(exercise, page),
-        ...(drawing === null ? [] : [drawing]),
+        ...(isBelow ? [] : drawn),
         parts.form,
         parts.mark,
         parts.offer,
         parts.help,
+        ...(isBelow ? drawn : []),
         parts.solution,
         parts.goOn,
     ];

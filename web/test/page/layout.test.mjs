@@ -234,7 +234,7 @@ function placesInView() {
 }
 
 for (const kind of ["titration:3", "titration:1", "dilution:2", "concentration:3", "molar-mass:3", "compound-formula:3", "ion-formula:3", "solubility:3", "neutralisation:3"]) {
-    test(`${kind}, on a phone: where the field is tapped, it and Check are in view above the keyboard, and the question's last line if it fits`, async () => {
+    test(`${kind}, on a phone: where the field is tapped, it and Check are in view above the keyboard, and the question's last line`, async () => {
         for (const order of ["focus, then keyboard", "keyboard, then focus"]) {
             const page = await openOnPhone(`#practice/4821/3/${kind}`);
             const [first, second] = order.startsWith("focus") ? [() => page.locator("#answer").tap(), () => withKeyboard(page)] : [() => withKeyboard(page), () => page.locator("#answer").focus()];
@@ -246,10 +246,22 @@ for (const kind of ["titration:3", "titration:1", "dilution:2", "concentration:3
                 const where = `${step}: ${JSON.stringify({ line, field, check, from, to })}`;
                 assert.ok(field.top >= from && check.bottom <= to, where);
                 assert.ok(step !== "typed" || (preview.top >= field.bottom && preview.bottom <= check.top), where);
-                assert.ok(line.top >= from || check.bottom - line.top > to - from - 20, `the question, ${where}`);
+                assert.ok(line.top >= from, `the question, ${where}`);
                 await page.locator("#answer").fill("2e-2 CaSO4 -> H2O");
                 await page.waitForTimeout(100);
             }
+            await leave(page);
+        }
+    });
+}
+
+for (const [device, viewport] of [["a phone", { width: 360, height: 740 }], ["a tablet", { width: 1024, height: 700 }]]) {
+    test(`on ${device} the drawing is ${device === "a phone" ? "below" : "beside"} the field`, async () => {
+        for (const kind of ["titration:3", "dilution:2"]) {
+            const page = await openPage(browser, `#practice/4821/3/${kind}`, { viewport, hasTouch: true, isMobile: true });
+            const [form, drawing] = await Promise.all([".exercise form", ".drawing"].map((one) => page.locator(one).boundingBox()));
+            const [isBelow, isBeside] = [drawing.y >= form.y + form.height, drawing.x >= form.x + form.width && drawing.y < form.y + form.height];
+            assert.deepEqual([isBelow, isBeside], device === "a phone" ? [true, false] : [false, true], JSON.stringify({ form, drawing }));
             await leave(page);
         }
     });
