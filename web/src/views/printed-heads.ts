@@ -33,10 +33,20 @@ export function sheetHead(version: Version, route: SheetRoute, elements: Element
 // div.head.of-key
 //   p.title  the sheet's title; once where keys follow each other
 //   h2
-export function keyHead(version: Version, route: SheetRoute): HTMLElement {
+//   p.notes  how lines that are worked out are rounded; once too
+//   p.masses
+export function keyHead(version: Version, route: SheetRoute, elements: ElementInfo[], page: Page): HTMLElement {
     const isFirst = version.number === 1 || route.keys === "apart";
     const title = isFirst && route.title.trim() !== "" ? [element("p", { class: "title" }, route.title)] : [];
-    return element("div", { class: "head of-key" }, ...title, element("h2", {}, texts.keyTo(labelOf(version, route))));
+    const isRounded = isFirst && route.key === "working" && version.exercises.some(({ ask }) => ask.form === "number");
+    const notes = isRounded ? [element("p", { class: "notes" }, texts.howRounded)] : [];
+    return element("div", { class: "head of-key" }, ...title, element("h2", {}, texts.keyTo(labelOf(version, route))), ...notes, ...massesOfKey(version, route, elements, page));
+}
+
+// Where the learners take them from a table, which may have others, the key tells its own.
+function massesOfKey({ exercises }: Version, route: SheetRoute, elements: ElementInfo[], page: Page): HTMLElement[] {
+    const masses = route.masses === "table" ? massesNeeded(exercises, elements) : [];
+    return masses.length === 0 ? [] : [massesLine(masses, page)];
 }
 
 // Above what did not fit on the page before.

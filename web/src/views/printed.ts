@@ -16,7 +16,8 @@ export interface Place {
     saysFigures: boolean; // how many are wanted is not said above
 }
 
-// Lines to write on, by the form of the answer; the last of them is for the answer.
+// Lines to write on, by the form of the answer; the last of them is for the answer. A calculation has one
+// more for each mark but the first.
 const lines: Record<SheetRoute["room"], Record<Form, number>> = {
     none: { number: 0, equation: 0, formula: 0, ion: 0, solubility: 0 },
     some: { number: 4, equation: 2, formula: 1, ion: 1, solubility: 1 },
@@ -30,7 +31,7 @@ const lines: Record<SheetRoute["room"], Record<Form, number>> = {
 //     div.rule, p.answer-line
 export function exerciseItem(exercise: Exercise, place: Place, route: SheetRoute, page: Page): HTMLElement {
     const { ask } = exercise;
-    const count = lines[route.room][ask.form];
+    const count = linesFor(exercise, route);
     const drawing = route.drawings ? drawingOf(exercise, page.settings) : null;
     if (place.isFramed) {
         return framedItem(exercise, count, page);
@@ -39,6 +40,11 @@ export function exerciseItem(exercise: Exercise, place: Place, route: SheetRoute
     const question = typesetLine([...exercise.prompt, ...figures], page.settings);
     const marks = route.marks ? texts.worth(marksOf(exercise)) : "";
     return element("li", {}, line("asks", question, marks), ...(drawing === null ? [] : [drawing]), ...roomFor(ask, count, page));
+}
+
+function linesFor(exercise: Exercise, { room }: SheetRoute): number {
+    const least = lines[room][exercise.ask.form];
+    return least > 0 && exercise.ask.form === "number" ? least + marksOf(exercise) - 1 : least;
 }
 
 // Where one line is enough, the answer stands beside what it is of.

@@ -52,7 +52,7 @@ export function* runsOf(version: Version, route: SheetRoute, elements: ElementIn
 // Those of the key, that of the sheet, and the words of each group that shares some.
 function headingsOf(version: Version, groups: Group[], route: SheetRoute, elements: ElementInfo[], page: Page): HTMLElement[] {
     const framed = groups.filter(({ frame }) => frame !== null);
-    return [keyHead(version, route), keyHeadAgain(version, route), sheetHead(version, route, elements, page), ...framed.map((group) => frameHead(group, version, route, page))];
+    return [keyHead(version, route, elements, page), keyHeadAgain(version, route), sheetHead(version, route, elements, page), ...framed.map((group) => frameHead(group, version, route, page))];
 }
 
 function askedItems({ exercises }: Version, groups: Group[], from: number, route: SheetRoute, page: Page): HTMLElement[] {

@@ -189,6 +189,56 @@ const worth = {
     "molar-mass": 1, "neutralisation:3": 2, "compound-formula": 1, "ion-formula": 1, "solubility:1": 1, "solubility:3": 1,
 };
 
+test("a calculation has a line to write on for each further mark", async () => {
+    const page = await openSheet("#sheet/4821/molar-mass:1,concentration:1,concentration:3,dilution:2,titration:1,titration:3?parts=sheet&marks=1&v=1");
+    const found = await page.locator(".leaf li").evaluateAll((items) => items.map((item) => [parseInt(item.querySelector(".marks").textContent.replace("(", ""), 10), item.querySelectorAll(".rule").length]));
+    await leave(page);
+    assert.ok(new Set(found.map(([marks]) => marks)).size >= 4, `${found}`);
+    for (const [marks, rules] of found) {
+        assert.equal(rules, marks + 2, `${marks} marks`);
+    }
+});
+
+test("a key of worked answers tells once how its lines are rounded, another key does not", async () => {
+    const told = "Eachlinegoesonwithunroundedvalues.";
+    const times = async (kinds, options) => (await printed(`#sheet/4821/${kinds}?versions=2&${options}v=1`)).key.filter((line) => line === told).length;
+    assert.equal(await times("2*titration:3", "key=working&"), 1);
+    assert.equal(await times("2*titration:3", "key=working&keys=apart&"), 2, "of keys that are handed out apart, each");
+    assert.equal(await times("2*titration:3", ""), 0);
+    assert.equal(await times("2*ion-formula", "key=working&"), 0, "nothing is rounded");
+});
+
+test("where the masses come from a table, the key tells those that it has used", async () => {
+    const told = async (options) => {
+        const { sheet, key } = await printed(`#sheet/4821/2*molar-mass,ion-formula?${options}v=1`);
+        return [sheet, key].map((lines) => lines.filter((line) => /^Relativeatomicmasses:[A-Z][a-z]?\d/.test(line)));
+    };
+    const [onSheet, inKey] = await told("masses=table&");
+    assert.equal(onSheet.length, 0);
+    assert.equal(inKey.length, 1);
+    assert.deepEqual(await told(""), [inKey, []], "else they stand on the sheet alone");
+});
+
+test("what of a worked line does not fit goes on further in", async () => {
+    const page = await openSheet("#sheet/20417/2*concentration:3,2*titration:3?parts=key&key=working&v=1");
+    const edges = await page.locator(".leaf .step > [aria-hidden]").evaluateAll((steps) => steps.map((step) => {
+        const text = [...step.childNodes].filter((node) => node.nodeType === Node.TEXT_NODE);
+        const boxes = text.flatMap((node) => {
+            const range = document.createRange();
+            range.selectNodeContents(node);
+            return [...range.getClientRects()];
+        });
+        const { left } = step.closest("li").getBoundingClientRect();
+        const first = Math.min(...boxes.map((box) => box.top));
+        return { begins: boxes[0].left - left, further: boxes.filter((box) => box.top > first + 15).map((box) => box.left - left) };
+    }));
+    await leave(page);
+    const further = edges.flatMap((edge) => edge.further);
+    assert.ok(further.length > 0, "no line goes on");
+    assert.ok(edges.every(({ begins }) => begins < 5), `the lines begin at ${edges.map(({ begins }) => begins)}`);
+    assert.ok(further.every((left) => left > 20), `they go on at ${further}`);
+});
+
 test("marks stand behind each question and in the key, and their total above", async () => {
     const kinds = Object.keys(worth);
     const hash = `#sheet/4821/${kinds.join(",")}?marks=1&v=1`;
