@@ -85,9 +85,9 @@ function arrive({ route, exercise, page }: Place, { field }: Parts): void {
 // p.mark
 // p.offer
 // div.help     Show a step, Show the answer
-// figure       here where a keyboard on the screen leaves room for little more than the question and the field
 // section.solution
 // div.help     Next or Back to exercise 4, Another like this
+// figure       here where a keyboard on the screen leaves room for little more than the question and the field
 function contentsOf({ route, exercise, page, choice }: Place, parts: Parts): HTMLElement[] {
     const drawing = drawingOf(exercise, page.settings);
     const drawn = drawing === null ? [] : [drawing];
@@ -103,9 +103,9 @@ function contentsOf({ route, exercise, page, choice }: Place, parts: Parts): HTM
         parts.mark,
         parts.offer,
         parts.help,
-        ...(isBelow ? drawn : []),
         parts.solution,
         parts.goOn,
+        ...(isBelow ? drawn : []),
     ];
 }
 
@@ -192,7 +192,7 @@ function check(work: Work, parts: Parts): void {
     update(work, parts);
     announce([spokenMark(markToShow(work)!, work.page), ...(parts.offer.hidden ? [] : [texts.wouldHelp])].join(" "));
     if (mark.verdict === "correct") {
-        parts.next.focus();
+        parts.next.focus({ preventScroll: true });
         bringIntoView(parts.mark, parts.goOn);
     } else {
         parts.field.focus();

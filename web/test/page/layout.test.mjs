@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { after, before, test } from "node:test";
-import { press, states } from "./states.mjs";
+import { press, states, verdicts } from "./states.mjs";
 import { announced, leave, openChromium, opener, openPage } from "./support.mjs";
 
 let browser;
@@ -281,6 +281,16 @@ for (const kind of ["titration:3", "dilution:2", "neutralisation:3", "ion-formul
         await leave(page);
     });
 }
+
+test("on a phone, behind a right answer the field, the mark and Next are in view together, above the keyboard too", async () => {
+    const page = await openOnPhone("#practice/4821/3/titration:3");
+    await withKeyboard(page);
+    await page.locator("#answer").fill(verdicts.correct);
+    await press(page, "Check");
+    await page.locator(".mark").waitFor();
+    await isInView(page, ["#answer", ".mark", ".go-on"]);
+    await leave(page);
+});
 
 async function isInView(page, selectors) {
     for (const selector of selectors) {
