@@ -29,8 +29,9 @@ export function button(label: string, press: () => void, attributes: Attributes 
 
 // Closed at first, and filled when it is opened: few readers do, and the others do not wait for it.
 export function disclosure(title: string, contents: () => Child[]): HTMLDetailsElement {
-    const made = element("details", {}, element("summary", {}, title));
-    made.addEventListener("toggle", () => made.append(...contents()), { once: true });
+    const summary = element("summary", {}, title);
+    const made = element("details", {}, summary);
+    summary.addEventListener("click", () => made.append(...contents()), { once: true });
     return made;
 }
 

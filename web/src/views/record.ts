@@ -22,25 +22,23 @@ export function recordPanel(page: Page, setsCleared: () => void): { element: HTM
         summary.focus();
         setsCleared();
     });
-    // Filled only while it is open, which few readers ask for; there may be fifty sets.
-    const update = () => {
-        if (details.open) {
-            clear.hidden = false;
-            show(body, ...contents(page, clear));
-        }
+    const fill = () => {
+        clear.hidden = false;
+        show(body, ...contents(page, clear));
     };
     const cleared = () => {
         clearRecord();
-        update();
+        fill();
         announce(texts.cleared);
         summary.focus();
     };
     const details = element("details", {}, summary, element("p", { class: "hint" }, texts.recordNote), body, sets.element);
-    details.addEventListener("toggle", () => {
-        update();
+    // As it is opened, which few readers do; there may be fifty sets.
+    summary.addEventListener("click", () => {
+        fill();
         sets.update();
     });
-    return { element: details, update };
+    return { element: details, update: () => details.open && fill() };
 }
 
 function contents(page: Page, clear: HTMLElement): Node[] {

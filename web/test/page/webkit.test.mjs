@@ -114,7 +114,7 @@ for (const { kind, title } of lesson.kinds()) {
 
 // The driver knows no command to print; what would be printed are these pages.
 test("a sheet: its pages with their paper, nothing cut", { skip }, async () => {
-    await open("#sheet/4821/3*titration:3,2*dilution:3,3*molar-mass:3,2*ion-formula?versions=2&drawings=1&v=1", "Sheets to print", "");
+    await open("#sheet/4821/3*titration:3,2*dilution:3,3*molar-mass:3,2*ion-formula?versions=2&drawings=1&leaf=0&v=1", "Sheets to print", "");
     await isThere(".size:not(:empty)");
     const pages = await run("return [...document.querySelectorAll('.leaf')].map((leaf) => [leaf.querySelector('.running').textContent, leaf.scrollHeight <= leaf.clientHeight])");
     assert.equal(await textOf(".size"), `10 exercises, 2 versions, ${pages.length} pages`);
