@@ -27,11 +27,12 @@ export function button(label: string, press: () => void, attributes: Attributes 
     return made;
 }
 
-// Closed at first, and filled when it is opened: few readers do, and the others do not wait for it.
-export function disclosure(title: string, contents: () => Child[]): HTMLDetailsElement {
-    const summary = element("summary", {}, title);
-    const made = element("details", {}, summary);
-    summary.addEventListener("click", () => made.append(...contents()), { once: true });
+// Closed at first, and filled as it opens: few readers open it, and the others do not wait for it. At each
+// press of its head, so that what it tells is of now; and where a search in the page opens it.
+export function disclosure(summary: HTMLElement, body: HTMLElement, fill: () => void): HTMLDetailsElement {
+    const made = element("details", {}, summary, body);
+    summary.addEventListener("click", fill);
+    made.addEventListener("toggle", () => body.hasChildNodes() || fill());
     return made;
 }
 

@@ -181,7 +181,7 @@ export const texts = {
         up: (number: number) => `Exercise ${number} is exercise ${number - 1} now.`,
         down: (number: number) => `Exercise ${number} is exercise ${number + 1} now.`,
     },
-    pickHint: "Point at an exercise, or go to it with the Tab key, to replace it by another one, in every version, or to move it. Back takes that back.",
+    pickHint: "Point at an exercise, or go to it with the Tab key, to replace it by another one or to move it; with several versions, in all of them. Back takes that back.",
     howMany: "How many of each",
     howManyHint: "A field for each level; empty is none.",
     level: (level: number) => `Level ${level}`,

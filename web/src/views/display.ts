@@ -1,5 +1,5 @@
 // How quantities and names are written.
-import { disclosure, element } from "../dom";
+import { disclosure, element, show } from "../dom";
 import * as storage from "../storage";
 import { texts } from "../texts";
 import type { Settings } from "../types";
@@ -7,9 +7,17 @@ import type { Page } from "./page";
 
 type Choices<Key extends keyof Settings> = { value: Settings[Key]; label: string }[];
 
+// details
+//   summary
+//   div         a fieldset a choice
 // `more` is asked for once the panel is opened.
 export function displayPanel(page: Page, changed: () => void, more: () => HTMLElement[] = () => []): HTMLElement {
-    return disclosure(texts.display, () => [
+    const body = element("div");
+    return disclosure(element("summary", {}, texts.display), body, () => show(body, ...groupsOf(page, changed), ...more()));
+}
+
+function groupsOf(page: Page, changed: () => void): HTMLElement[] {
+    return [
         group(page, changed, "volume", texts.volume, [
             { value: "mL", label: "mL, L" },
             { value: "cm3", label: "cm³, dm³" },
@@ -26,8 +34,7 @@ export function displayPanel(page: Page, changed: () => void, more: () => HTMLEl
             { value: "british", label: `${texts.british}: aluminium, ethanoate` },
             { value: "american", label: `${texts.american}: aluminum, acetate` },
         ]),
-        ...more(),
-    ]);
+    ];
 }
 
 // Of an exercise alone; a sheet has its own.

@@ -1,5 +1,5 @@
 // What the reader has solved on this device, by kind.
-import { announce, button, element, scrollBox, show } from "../dom";
+import { announce, button, disclosure, element, scrollBox, show } from "../dom";
 import { clearRecord, record, type Tallies, type Tally } from "../record";
 import { results } from "../state";
 import { texts } from "../texts";
@@ -10,35 +10,35 @@ import { ask } from "./question";
 
 // details
 //   summary
-//   p.hint
-//   div        the table, what a tick means where there is one, and what clears it
-//   div        the sets
+//   div          once it is opened
+//     p.hint
+//     div        the table, what a tick means where there is one, and what clears it
+//     div        the sets
 // `setsCleared` is told once the sets are.
 export function recordPanel(page: Page, setsCleared: () => void): { element: HTMLElement; update(): void } {
-    const body = element("div", {});
+    const [body, tallies] = [element("div"), element("div")];
     const summary = element("summary", {}, texts.recordTitle);
     const clear: HTMLElement = button(texts.clearRecord, () => ask(clear, texts.askClearRecord, cleared));
     const sets = keptSetsPanel(page, () => {
         summary.focus();
         setsCleared();
     });
-    const fill = () => {
+    const update = () => {
         clear.hidden = false;
-        show(body, ...contents(page, clear));
+        show(tallies, ...contents(page, clear));
     };
     const cleared = () => {
         clearRecord();
-        fill();
+        update();
         announce(texts.cleared);
         summary.focus();
     };
-    const details = element("details", {}, summary, element("p", { class: "hint" }, texts.recordNote), body, sets.element);
-    // As it is opened, which few readers do; there may be fifty sets.
-    summary.addEventListener("click", () => {
-        fill();
+    const fill = () => {
+        update();
         sets.update();
-    });
-    return { element: details, update: () => details.open && fill() };
+        show(body, element("p", { class: "hint" }, texts.recordNote), tallies, sets.element);
+    };
+    return { element: disclosure(summary, body, fill), update: () => body.hasChildNodes() && update() };
 }
 
 function contents(page: Page, clear: HTMLElement): Node[] {

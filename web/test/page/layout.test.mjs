@@ -165,11 +165,11 @@ const headings = [["Exercise 4", "#practice/4821/4/titration:2"], ["Exercise 12"
 
 for (const [name, hash] of [...headings, ["Another like exercise 4", "#practice/4821/500004/titration:2?back=4:titration:2"]]) {
     test(`${name}: the heading is on one line on a phone, and the choice below it covers nothing`, async () => {
-        for (const width of name.startsWith("Another") ? [390, 412, 520, 576, 580] : [320, 360, 390, 412, 520, 576, 580]) {
+        for (const width of [320, 360, 390, 412, 520, 576, 580]) {
             const page = await openPage(browser, hash, { viewport: { width, height: 740 } });
             const heading = page.getByRole("heading", { level: 1, name, exact: true });
             const lines = await heading.evaluate((one) => one.getBoundingClientRect().height / parseFloat(getComputedStyle(one).lineHeight));
-            assert.ok(lines < 1.5, `${width} pixels: ${lines} lines`);
+            assert.ok(lines < (name.startsWith("Another") && width <= 360 ? 2.5 : 1.5), `${width} pixels: ${lines} lines`);
             const [kind, choose] = await Promise.all([page.locator(".which").boundingBox(), opener(page).boundingBox()]);
             const isApart = choose.x >= kind.x + kind.width || choose.y >= kind.y + kind.height || choose.y + choose.height <= kind.y;
             assert.ok(isApart, `${width} pixels: ${JSON.stringify({ kind, choose })}`);

@@ -205,7 +205,9 @@ test("a key of worked answers tells once how its lines are rounded, another key 
     assert.equal(await times("2*titration:3", "key=working&"), 1);
     assert.equal(await times("2*titration:3", "key=working&keys=apart&"), 2, "of keys that are handed out apart, each");
     assert.equal(await times("2*titration:3", ""), 0);
-    assert.equal(await times("2*ion-formula", "key=working&"), 0, "nothing is rounded");
+    for (const kinds of ["2*ion-formula", "2*neutralisation:3", "2*molar-mass:3"]) {
+        assert.equal(await times(kinds, "key=working&"), 0, `${kinds}: nothing goes on`);
+    }
 });
 
 test("where the masses come from a table, the key tells those that it has used", async () => {

@@ -63,6 +63,18 @@ test("three in a row at the first try tick the row of their kind, and only then 
     await leave(page);
 });
 
+test("what the panels below an exercise hold is made as they open, by whatever opens them", async () => {
+    const page = await openPage(browser, `#practice/4821/1/${kind}`);
+    const panels = page.locator("aside details");
+    assert.deepEqual(await panels.evaluateAll((all) => all.map(({ textContent }) => textContent)), ["How it is written", "My record"]);
+    await panels.evaluateAll((all) => all.forEach((one) => (one.open = true)));
+    await page.getByText("Nothing is in your record yet.").waitFor();
+    await page.getByLabel("Comma: 0,5").waitFor();
+    await solve(page, 1);
+    assert.equal(await row(page).count(), 1, "what is open is kept up");
+    await leave(page);
+});
+
 test("clearing the record clears it alone: the exercise stays as it is", async () => {
     const page = await openPage(browser, `#practice/4821/1/${kind}`);
     await solve(page, 1);

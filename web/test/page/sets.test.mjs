@@ -223,6 +223,7 @@ test("the summary tells when the set was begun and for how long it was worked at
     for (const [name, text] of Object.entries(expected)) {
         assert.equal(await fact(page, name), text);
     }
+    assert.equal(await page.locator(".facts dt").last().textContent(), "Time worked", "below it stands how it is counted");
     await page.emulateMedia({ media: "screen" });
     const download = page.waitForEvent("download");
     await press(page, "Save");

@@ -95,6 +95,33 @@ test("no date of a set that is kept is broken", async () => {
     await leave(page);
 });
 
+// Where each dot begins, from the edge of the lines.
+function dots(hint) {
+    const walker = document.createTreeWalker(hint, NodeFilter.SHOW_TEXT);
+    const begins = [];
+    while (walker.nextNode()) {
+        for (const { index } of walker.currentNode.data.matchAll(/·/g)) {
+            const range = document.createRange();
+            range.setStart(walker.currentNode, index);
+            range.setEnd(walker.currentNode, index + 1);
+            begins.push(range.getBoundingClientRect().left - hint.getBoundingClientRect().left);
+        }
+    }
+    return begins;
+}
+
+test("no line of a kept set's facts begins with the dot that parts them", async () => {
+    const [, hash, reach] = states.find(([name]) => name === "the sets on the device");
+    const page = await openPage(browser, hash, { viewport: { width: 360, height: 800 } });
+    await reach(page);
+    for (let width = 250; width <= 450; width += 2) {
+        await page.setViewportSize({ width, height: 800 });
+        const begins = await page.locator(".kept-sets .hint").first().evaluate(dots);
+        assert.ok(begins.length === 2 && begins.every((left) => left > 20), `${width} pixels wide: ${begins}`);
+    }
+    await leave(page);
+});
+
 test("the name of each fact of a summary is one line, and the fact begins beside it", async () => {
     const [, hash, reach] = states.find(([name]) => name === "a summary");
     for (const width of [360, 768]) {
