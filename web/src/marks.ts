@@ -1,5 +1,7 @@
 // How many marks an exercise is worth on a test, from the lines of its solution.
-import type { Exercise, Span } from "./types";
+import type { Exercise, Span, Step } from "./types";
+
+const relation = "relation";
 
 // A formula or a word is worth one, an equation one for its formulas and one for balancing them where
 // that is to be done. A calculation is worth one for each quantity that is worked out and for an equation
@@ -7,7 +9,7 @@ import type { Exercise, Span } from "./types";
 export function marksOf({ ask, equation, solution }: Exercise): number {
     switch (ask.form) {
         case "number":
-            return new Set(solution.flatMap(({ math }) => gainOf(math ?? []))).size;
+            return gainsOf(solution).size;
         case "equation":
             return [...(equation?.left ?? []), ...(equation?.right ?? [])].some(([count]) => count > 1) ? 2 : 1;
         default:
@@ -15,10 +17,19 @@ export function marksOf({ ask, equation, solution }: Exercise): number {
     }
 }
 
+// Whether a value that is worked out is used to work out another one.
+export function goesOn({ ask, solution }: Exercise): boolean {
+    return ask.form === "number" && [...gainsOf(solution)].filter((gain) => gain !== relation).length > 1;
+}
+
+function gainsOf(solution: Step[]): Set<string> {
+    return new Set(solution.flatMap(({ math }) => gainOf(math ?? [])));
+}
+
 // What a line is worth a mark for, at most one; a check works out what an earlier line has.
 function gainOf(math: Span[]): string[] {
     const units = math.filter((span) => "unit" in span).length;
     const signs = math.flatMap((span) => ("text" in span ? span.text.trim() : []));
     const isRelation = units === 0 && (signs.includes("=") || signs.includes("→"));
-    return isRelation ? ["relation"] : units === 1 ? [JSON.stringify(math[0])] : [];
+    return isRelation ? [relation] : units === 1 ? [JSON.stringify(math[0])] : [];
 }

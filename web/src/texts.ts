@@ -233,7 +233,7 @@ export const texts = {
     papers: (first: number, last: number) => `Papers ${first} to ${last}`,
     pageOf: (page: number, all: number) => `Page ${page} of ${all}`,
     keyTo: (label: string) => `Key to ${label.toLowerCase()}`,
-    howRounded: "Each line goes on with unrounded values.",
+    howRounded: "Values are shown rounded; the next line uses them unrounded.",
     continued: (title: string) => `${title}, continued`,
     nameBlank: "Name",
     dateBlank: "Date",

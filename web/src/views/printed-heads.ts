@@ -1,7 +1,7 @@
 // What stands above the exercises of a version and above its key.
 import { agreedFigures, type Group } from "../asking";
 import { element } from "../dom";
-import { marksOf } from "../marks";
+import { goesOn, marksOf } from "../marks";
 import { massesNeeded } from "../masses";
 import { typesetLine } from "../spans";
 import { texts } from "../texts";
@@ -38,14 +38,9 @@ export function sheetHead(version: Version, route: SheetRoute, elements: Element
 export function keyHead(version: Version, route: SheetRoute, elements: ElementInfo[], page: Page): HTMLElement {
     const isFirst = version.number === 1 || route.keys === "apart";
     const title = isFirst && route.title.trim() !== "" ? [element("p", { class: "title" }, route.title)] : [];
-    const isRounded = isFirst && route.key === "working" && version.exercises.some(hasSteps);
+    const isRounded = isFirst && route.key === "working" && version.exercises.some(goesOn);
     const notes = isRounded ? [element("p", { class: "notes" }, texts.howRounded)] : [];
     return element("div", { class: "head of-key" }, ...title, element("h2", {}, texts.keyTo(labelOf(version, route))), ...notes, ...massesOfKey(version, route, elements, page));
-}
-
-// A value that is worked out, shown rounded, and then used.
-function hasSteps(exercise: Exercise): boolean {
-    return exercise.ask.form === "number" && marksOf(exercise) > 1;
 }
 
 // Where the learners take them from a table, which may have others, the key tells its own.

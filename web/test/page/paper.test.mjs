@@ -1,15 +1,12 @@
 // What stands on a sheet besides the exercises' own words: how many figures, the line for the answer, marks;
 // and short questions beside each other.
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { pagesOf, plain } from "./pdf.mjs";
 import { isMade, leave, openChromium, openLesson, openMadeSheet } from "./support.mjs";
 
 const lesson = await openLesson();
-let browser;
-before(async () => {
-    browser = await openChromium();
-});
+const browser = await openChromium();
 after(() => browser.close());
 
 const openSheet = (hash, options = {}) => openMadeSheet(browser, hash, options);
@@ -189,23 +186,25 @@ const worth = {
     "molar-mass": 1, "neutralisation:3": 2, "compound-formula": 1, "ion-formula": 1, "solubility:1": 1, "solubility:3": 1,
 };
 
-test("a calculation has a line to write on for each further mark", async () => {
-    const page = await openSheet("#sheet/4821/molar-mass:1,concentration:1,concentration:3,dilution:2,titration:1,titration:3?parts=sheet&marks=1&v=1");
-    const found = await page.locator(".leaf li").evaluateAll((items) => items.map((item) => [parseInt(item.querySelector(".marks").textContent.replace("(", ""), 10), item.querySelectorAll(".rule").length]));
-    await leave(page);
-    assert.ok(new Set(found.map(([marks]) => marks)).size >= 4, `${found}`);
-    for (const [marks, rules] of found) {
-        assert.equal(rules, marks + 2, `${marks} marks`);
-    }
-});
+for (const [room, atOneMark] of [["some", 3], ["much", 7], ["none", 0]]) {
+    test(`room to write, ${room}: ${room === "none" ? "no calculation has any" : "a calculation has a line more for each further mark"}`, async () => {
+        const page = await openSheet(`#sheet/4821/molar-mass:1,concentration:1,concentration:3,dilution:2,titration:1,titration:3?parts=sheet&marks=1&room=${room}&v=1`);
+        const found = await page.locator(".leaf li").evaluateAll((items) => items.map((item) => [parseInt(item.querySelector(".marks").textContent.replace("(", ""), 10), item.querySelectorAll(".rule").length]));
+        await leave(page);
+        assert.ok(new Set(found.map(([marks]) => marks)).size >= 4, `${found}`);
+        for (const [marks, rules] of found) {
+            assert.equal(rules, room === "none" ? 0 : atOneMark + marks - 1, `${marks} marks`);
+        }
+    });
+}
 
 test("a key of worked answers tells once how its lines are rounded, another key does not", async () => {
-    const told = "Eachlinegoesonwithunroundedvalues.";
+    const told = "Valuesareshownrounded;thenextlineusesthemunrounded.";
     const times = async (kinds, options) => (await printed(`#sheet/4821/${kinds}?versions=2&${options}v=1`)).key.filter((line) => line === told).length;
     assert.equal(await times("2*titration:3", "key=working&"), 1);
     assert.equal(await times("2*titration:3", "key=working&keys=apart&"), 2, "of keys that are handed out apart, each");
     assert.equal(await times("2*titration:3", ""), 0);
-    for (const kinds of ["2*ion-formula", "2*neutralisation:3", "2*molar-mass:3"]) {
+    for (const kinds of ["2*ion-formula", "2*neutralisation:3", "2*molar-mass:3", "2*dilution:1"]) {
         assert.equal(await times(kinds, "key=working&"), 0, `${kinds}: nothing goes on`);
     }
 });

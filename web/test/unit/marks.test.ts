@@ -1,6 +1,6 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { marksOf } from "../../src/marks";
+import { goesOn, marksOf } from "../../src/marks";
 import type { Ask, Exercise, Span } from "../../src/types";
 
 const number: Ask = { form: "number", quantity: "c", unit: "mol/L", figures: 3 };
@@ -33,6 +33,19 @@ const calculations: [string, Span[][], number][] = [
 for (const [what, lines, marks] of calculations) {
     test(`marks of a calculation: ${what}`, () => assert.equal(marksOf(exercise(number, lines)), marks));
 }
+
+const goingOn: [string, Span[][], boolean][] = [
+    ["one value", [converted, result], false],
+    ["a relation and a value", [relation, result, check], false],
+    ["a value that needs another", [reaction, amount, result], true],
+];
+for (const [what, lines, expected] of goingOn) {
+    test(`whether a value is used for another: ${what}`, () => assert.equal(goesOn(exercise(number, lines)), expected));
+}
+
+test("nothing is rounded on the way to a formula", () => {
+    assert.equal(goesOn(exercise({ form: "formula" }, [amount, result])), false);
+});
 
 test("a formula, an ion and a word are worth one mark, however long their solutions", () => {
     for (const form of ["formula", "ion", "solubility"] as const) {
