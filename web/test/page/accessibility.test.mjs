@@ -1,16 +1,12 @@
 // What axe finds in every state of the page, and what a screen reader gets of an exercise.
 import axe from "axe-core";
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { answerWith, press, states, verdicts } from "./states.mjs";
 import { announced, check, compareWithApproved, leave, openChromium, openLesson, openPage, type } from "./support.mjs";
 
-let browser;
-let lesson;
-before(async () => {
-    browser = await openChromium();
-    lesson = await openLesson();
-});
+const lesson = await openLesson();
+const browser = await openChromium();
 after(() => browser.close());
 
 async function violations(page, options) {

@@ -1,14 +1,10 @@
 // The choice of exercises: near the question, read without hovering, and left without a trace.
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { leave, openChromium, openLesson, opener, openPage } from "./support.mjs";
 
-let browser;
-let lesson;
-before(async () => {
-    browser = await openChromium();
-    lesson = await openLesson();
-});
+const lesson = await openLesson();
+const browser = await openChromium();
 after(() => browser.close());
 
 const hashOf = (page) => new URL(page.url()).hash;

@@ -1,13 +1,10 @@
 // The drawings say what the numbers say: the level in the burette, the titres, the volumes in the beakers.
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { go, leave, openChromium, openLesson, openPage, panel } from "./support.mjs";
 
-let browser;
-let lesson;
-before(async () => {
-    [browser, lesson] = await Promise.all([openChromium(), openLesson()]);
-});
+const lesson = await openLesson();
+const browser = await openChromium();
 after(() => browser.close());
 
 const numbers = [1, 2, 3, 4, 5, 6];

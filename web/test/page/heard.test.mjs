@@ -1,14 +1,10 @@
 // What is heard beside what the focus tells: each thing once, and nothing of another address.
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { announced, check, go, leave, openChromium, openLesson, opener, openPage, panel, type } from "./support.mjs";
 
-let browser;
-let lesson;
-before(async () => {
-    browser = await openChromium();
-    lesson = await openLesson();
-});
+const lesson = await openLesson();
+const browser = await openChromium();
 after(() => browser.close());
 
 const button = (page, name) => page.getByRole("button", { name, exact: true });

@@ -1,11 +1,8 @@
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { address, check, go, leave, openChromium, openPage, type } from "./support.mjs";
 
-let browser;
-before(async () => {
-    browser = await openChromium();
-});
+const browser = await openChromium();
 after(() => browser.close());
 
 const markup = "<img src=x onerror=window.hit=1><b>bold</b>";

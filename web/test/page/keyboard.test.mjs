@@ -1,14 +1,10 @@
 // Whole exercises without a mouse: from the first Tab after the page has loaded.
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { announced, leave, openChromium, openLesson, opener, openPage, panel } from "./support.mjs";
 
-let browser;
-let lesson;
-before(async () => {
-    browser = await openChromium();
-    lesson = await openLesson();
-});
+const lesson = await openLesson();
+const browser = await openChromium();
 after(() => browser.close());
 
 const open = (hash) => openPage(browser, hash, { reducedMotion: "reduce" });

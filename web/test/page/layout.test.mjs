@@ -1,14 +1,11 @@
 // Narrow and zoomed windows, large text, forced colours, motion, paper.
 import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { press, states, verdicts } from "./states.mjs";
 import { announced, leave, openChromium, opener, openPage } from "./support.mjs";
 
-let browser;
-before(async () => {
-    browser = await openChromium();
-});
+const browser = await openChromium();
 after(() => browser.close());
 
 // A window 1280 pixels wide and 1024 high, at 400 %, has 320 by 256 left.

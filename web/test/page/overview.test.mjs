@@ -1,15 +1,11 @@
 // In a set: the row of its exercises, its end, its link, and the list of the sets on the device.
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { answerWith, press } from "./states.mjs";
 import { announced, check, go, leave, openChromium, openLesson, openPage, panel, type } from "./support.mjs";
 
-let browser;
-let lesson;
-before(async () => {
-    browser = await openChromium();
-    lesson = await openLesson();
-});
+const lesson = await openLesson();
+const browser = await openChromium();
 after(() => browser.close());
 
 const kind = "molar-mass:1";

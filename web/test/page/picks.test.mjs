@@ -1,15 +1,12 @@
 // A sheet's exercises one by one: another instead, up, down.
 import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { leafTexts, letters, pagesOf, plain } from "./pdf.mjs";
 import { announced, isMade, leave, openChromium, openLesson, openMadeSheet } from "./support.mjs";
 
 const lesson = await openLesson();
-let browser;
-before(async () => {
-    browser = await openChromium();
-});
+const browser = await openChromium();
 after(() => browser.close());
 
 const openSheet = (hash, options = {}) => openMadeSheet(browser, hash, options);

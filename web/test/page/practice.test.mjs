@@ -1,14 +1,10 @@
 import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { check, go, leave, openChromium, openLesson, opener, openPage, panel, samples, type } from "./support.mjs";
 
-let browser;
-let lesson;
-before(async () => {
-    browser = await openChromium();
-    lesson = await openLesson();
-});
+const lesson = await openLesson();
+const browser = await openChromium();
 after(() => browser.close());
 
 const focusedText = (page) => page.evaluate(() => document.activeElement.textContent);

@@ -1,14 +1,11 @@
 // A sheet practised: the same exercises as a set.
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { plain } from "./pdf.mjs";
 import { check, leave, openChromium, openLesson, openPage, type } from "./support.mjs";
 
 const lesson = await openLesson();
-let browser;
-before(async () => {
-    browser = await openChromium();
-});
+const browser = await openChromium();
 after(() => browser.close());
 
 const seen = (page, selector) => page.locator(selector).first().evaluate((one) => [...one.querySelectorAll("[aria-hidden]")].map((part) => part.textContent).join("") || one.textContent);

@@ -1,15 +1,11 @@
 // The record: what it counts, what it ticks, and what clearing it leaves alone.
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { press } from "./states.mjs";
 import { check, go, leave, openChromium, openLesson, openPage, panel, type } from "./support.mjs";
 
-let browser;
-let lesson;
-before(async () => {
-    browser = await openChromium();
-    lesson = await openLesson();
-});
+const lesson = await openLesson();
+const browser = await openChromium();
 after(() => browser.close());
 
 const kind = "ion-formula:1";

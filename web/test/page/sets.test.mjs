@@ -1,16 +1,12 @@
 // Sets, which the device keeps by their address.
 import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { answerWith, press } from "./states.mjs";
 import { address, announced, check, go, leave, openChromium, openLesson, openPage, type } from "./support.mjs";
 
-let browser;
-let lesson;
-before(async () => {
-    browser = await openChromium();
-    lesson = await openLesson();
-});
+const lesson = await openLesson();
+const browser = await openChromium();
 after(() => browser.close());
 
 const kind = "molar-mass:1";

@@ -1,15 +1,12 @@
 // Sheets, as a printer gets them: through Chromium's own PDF, read back by poppler.
 import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { leafTexts, letters, pageSize, pagesOf, plain, shadesOf } from "./pdf.mjs";
 import { announced, compareWithApproved, go, leave, openChromium, openLesson, openPage } from "./support.mjs";
 
 const lesson = await openLesson();
-let browser;
-before(async () => {
-    browser = await openChromium();
-});
+const browser = await openChromium();
 after(() => browser.close());
 
 const everyKind = "3*titration:3,2*titration:1,3*dilution:3,2*dilution:1,3*concentration:3,2*concentration:1,3*molar-mass:3,3*neutralisation:3,3*compound-formula:3,3*ion-formula:3,2*solubility:1,3*solubility:3";

@@ -1,13 +1,10 @@
 // What stands beside and below each other: nothing touches, and rows begin at one edge.
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { states } from "./states.mjs";
 import { leave, openChromium, openPage } from "./support.mjs";
 
-let browser;
-before(async () => {
-    browser = await openChromium();
-});
+const browser = await openChromium();
 after(() => browser.close());
 
 // Controls with less than 4 pixels between them and what stands above them.

@@ -1,15 +1,11 @@
 // The first visit, and the way in for who was here before.
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { goToStart } from "./states.mjs";
 import { go, leave, openChromium, openLesson, opener, openPage } from "./support.mjs";
 
-let browser;
-let lesson;
-before(async () => {
-    browser = await openChromium();
-    lesson = await openLesson();
-});
+const lesson = await openLesson();
+const browser = await openChromium();
 after(() => browser.close());
 
 const name = "Chemical calculations practice";

@@ -1,15 +1,11 @@
 // The tables show the library's data, row by row.
 import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
-import { after, before, test } from "node:test";
+import { after, test } from "node:test";
 import { announced, go, leave, openChromium, openLesson, openPage, panel } from "./support.mjs";
 
-let browser;
-let tables;
-before(async () => {
-    browser = await openChromium();
-    tables = (await openLesson()).tables();
-});
+const tables = (await openLesson()).tables();
+const browser = await openChromium();
 after(() => browser.close());
 
 test("each element stands in its place with its mass", async () => {
