@@ -3,7 +3,7 @@ import axe from "axe-core";
 import assert from "node:assert/strict";
 import { after, test } from "node:test";
 import { answerWith, press, states, verdicts } from "./states.mjs";
-import { announced, check, compareWithApproved, leave, openChromium, openLesson, openPage, type } from "./support.mjs";
+import { announced, check, compareWithApproved, leave, openChromium, openLesson, openPage, reload, type } from "./support.mjs";
 
 const lesson = await openLesson();
 const browser = await openChromium();
@@ -41,7 +41,7 @@ test("the live region is there at load, and empty", async () => {
 test("a mark that is shown again after a reload is not announced", async () => {
     const page = await openPage(browser, "#practice/4821/3/titration:3");
     await answerWith(page, verdicts.slip, "slip");
-    await page.reload();
+    await reload(page);
     await page.locator(".mark").waitFor();
     await page.waitForTimeout(200);
     assert.equal(await page.locator("#announcement").textContent(), "");
@@ -117,7 +117,7 @@ for (const { kind, wrong, right } of invalid) {
             assert.deepEqual([await field.getAttribute("aria-invalid"), await descriptionOf(field)], [null, before], "another text");
             await type(page, wrong);
             assert.deepEqual([await field.getAttribute("aria-invalid"), await descriptionOf(field)], ["true", described], "the same again");
-            await page.reload();
+            await reload(page);
             assert.deepEqual([await field.getAttribute("aria-invalid"), await descriptionOf(field)], ["true", described], "after a reload");
             await type(page, right ?? lesson.exercise(4821, 3, kind).key.text);
             await check(page);

@@ -1,6 +1,6 @@
 import assert from "node:assert/strict";
 import { after, test } from "node:test";
-import { address, check, go, leave, openChromium, openPage, type } from "./support.mjs";
+import { address, check, go, leave, openChromium, openPage, reload, type } from "./support.mjs";
 
 const browser = await openChromium();
 after(() => browser.close());
@@ -107,7 +107,7 @@ for (const kind of ["titration", "compound-formula", "ion-formula", "neutralisat
         await type(page, markup);
         await check(page);
         await page.locator(".mark").waitFor();
-        await page.reload();
+        await reload(page);
         await page.locator(".mark").waitFor();
         assert.equal(await page.locator("main img, main b").count(), 0);
         assert.equal(await page.evaluate(() => window.hit), undefined);

@@ -3,7 +3,7 @@
 import assert from "node:assert/strict";
 import { after, test } from "node:test";
 import { pagesOf, plain } from "./pdf.mjs";
-import { isMade, leave, openChromium, openLesson, openMadeSheet } from "./support.mjs";
+import { isMade, leave, openChromium, openLesson, openMadeSheet, reload } from "./support.mjs";
 
 const lesson = await openLesson();
 const browser = await openChromium();
@@ -284,7 +284,7 @@ test("what is chosen of it in the form stands in the address, and is there again
     await page.getByLabel("Start the key on a new leaf").uncheck();
     await page.waitForFunction(() => location.hash.includes("leaf=0"));
     assert.equal(page.url().split("#")[1], "sheet/4821/5*ion-formula,molar-mass?masses=table&columns=one&marks=1&leaf=0&v=1");
-    await page.reload();
+    await reload(page);
     await isMade(page);
     assert.equal(await page.getByLabel("Short questions").inputValue(), "one");
     assert.ok(await page.getByLabel("Marks for each question and in all").isChecked());

@@ -3,7 +3,7 @@ import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
 import { after, test } from "node:test";
 import { leafTexts, letters, pagesOf, plain } from "./pdf.mjs";
-import { announced, isMade, leave, openChromium, openLesson, openMadeSheet } from "./support.mjs";
+import { announced, isMade, leave, moved, openChromium, openLesson, openMadeSheet, reload } from "./support.mjs";
 
 const lesson = await openLesson();
 const browser = await openChromium();
@@ -49,7 +49,7 @@ test("Another puts the next exercise of the kind and level in its place, and the
     await page.keyboard.press("Enter");
     await waitForList(page, "ion-formula,ion-formula@5,ion-formula@3,dilution:1");
     await isOnThePage(page, 4821, ["ion-formula@1", "ion-formula@5", "ion-formula@3", "dilution:1@1"]);
-    await page.reload();
+    await reload(page);
     await isMade(page);
     await isOnThePage(page, 4821, ["ion-formula@1", "ion-formula@5", "ion-formula@3", "dilution:1@1"]);
     await leave(page);
@@ -86,13 +86,13 @@ test("Back takes back one pick after another, and before them what was changed i
     await page.getByLabel("Title").fill("Test");
     await page.waitForFunction(() => location.hash.includes("title=Test"));
     for (const list of lists.slice(0, 3).reverse()) {
-        await page.goBack();
+        await moved(page, () => page.goBack());
         await waitForList(page, list);
         assert.equal(await ions.inputValue(), "2");
         assert.equal(await page.getByLabel("Title").inputValue(), "Chemical calculations");
     }
     await isOnThePage(page, 4821, ["ion-formula@1", "ion-formula@2", "dilution:1@1"]);
-    await page.goForward();
+    await moved(page, () => page.goForward());
     await waitForList(page, lists[1]);
     await isOnThePage(page, 4821, ["ion-formula@3", "ion-formula@2", "dilution:1@1"]);
     await leave(page);

@@ -1,7 +1,7 @@
 import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
 import { after, test } from "node:test";
-import { check, go, leave, openChromium, openLesson, opener, openPage, panel, samples, type } from "./support.mjs";
+import { agree, check, go, leave, moved, openChromium, opener, openLesson, openPage, panel, reload, samples, type } from "./support.mjs";
 
 const lesson = await openLesson();
 const browser = await openChromium();
@@ -55,7 +55,7 @@ for (const { kind, text, other, of } of marked) {
         const [fresh, freshColour] = [await mark.ariaSnapshot(), await colour()];
         assert.equal(await mark.locator(".marked").count(), 0);
         for (const step of ["typed", "after a reload"]) {
-            await (step === "typed" ? type(page, other) : page.reload());
+            await (step === "typed" ? type(page, other) : reload(page));
             await mark.locator(".marked").waitFor();
             assert.equal(await mark.locator(".marked").innerText(), of, step);
             assert.ok((await mark.ariaSnapshot()).includes(`${of}: `), step);
@@ -118,7 +118,7 @@ test("a reload loses nothing: what was typed, the mark, the steps that were show
     await check(page);
     await page.getByRole("button", { name: "Show a step" }).click();
     const before = await page.locator("article").innerText();
-    await page.reload();
+    await reload(page);
     await page.locator(".mark").waitFor();
     assert.equal(await page.locator("#answer").inputValue(), "777");
     assert.equal(await page.locator("article").innerText(), before);
@@ -152,14 +152,14 @@ test("Another like this goes off, one further each time, and comes back to the e
     const prompt = () => page.locator(".prompt").innerText();
     const seen = [await prompt()];
     for (const hop of [1, 2]) {
-        await page.getByRole("button", { name: "Another like this" }).click();
+        await moved(page, () => page.getByRole("button", { name: "Another like this" }).click());
         await page.getByRole("heading", { level: 1, name: "Another like exercise 4", exact: true }).waitFor();
         assert.match(await page.title(), /^Another like exercise 4 of paper\s4821/);
         assert.equal(seen.includes(await prompt()), false, `hop ${hop}`);
         seen.push(await prompt());
         assert.equal(await page.getByRole("button", { name: "Next" }).count(), 0);
         const hash = new URL(page.url()).hash;
-        await page.reload();
+        await reload(page);
         assert.equal(await prompt(), seen.at(-1), hash);
         assert.equal(await page.getByRole("link", { name: "Practice", exact: true }).getAttribute("href"), "#practice/4821/4/mixed?v=1", hash);
     }
@@ -287,7 +287,7 @@ test("Practice leads back to the exercise, after a reload of the tables as well"
     const page = await openPage(browser, "#practice/4821/3/titration:1,dilution?set=5&v=1");
     await page.getByRole("link", { name: "Tables" }).click();
     await page.getByRole("heading", { name: "Relative atomic masses" }).waitFor();
-    await page.reload();
+    await reload(page);
     await page.getByRole("heading", { name: "Relative atomic masses" }).waitFor();
     await page.getByRole("link", { name: "Practice", exact: true }).click();
     await page.getByRole("heading", { name: "Exercise 3 of 5" }).waitFor();
@@ -324,7 +324,7 @@ test("units, decimal sign and names are as the reader wishes, and stay so", asyn
     assert.match(prompt, /cm3|cm\n?3/);
     assert.doesNotMatch(prompt, /mL/);
     assert.match(prompt, /\d,\d/);
-    await page.reload();
+    await reload(page);
     await page.locator(".prompt").waitFor();
     assert.equal(await page.locator(".prompt").innerText(), prompt);
     assert.match(await page.locator(".asked").innerText(), /mol\s*dm\s*−1|mol\s*dm\s*−3/);
@@ -353,12 +353,13 @@ test("two tabs keep their exercises apart and add to one record", async () => {
     const first = await openPage(browser, "#practice/4821/1/ion-formula:1", { context });
     const second = await openPage(browser, "#practice/4821/1/ion-formula:1", { context });
     await type(first, "Zz");
-    await second.reload();
+    await reload(second);
     assert.equal(await second.locator("#answer").inputValue(), "");
     for (const page of [first, second]) {
         await type(page, lesson.exercise(4821, 1, "ion-formula:1").key.text);
         await check(page);
         await page.locator(".mark[data-verdict=correct]").waitFor();
+        await agree(first, second);
     }
     await panel(second, "My record").click();
     assert.match(await second.getByRole("row", { name: /Formula of an ion/ }).innerText(), /2\s+0\s+0\s+0/);
@@ -464,11 +465,10 @@ for (const kind of weighed) {
         await panel(page, "How it is written").click();
         await page.getByRole("group", { name: "Atomic masses" }).getByLabel("Use the table").check();
         assert.equal(await line.innerText(), "Use the periodic table.");
-        await page.waitForTimeout(200); // A busy browser takes a while to keep what was chosen.
-        await page.reload();
+        await reload(page);
         await line.getByRole("link", { name: "periodic table" }).click();
         await page.getByRole("heading", { name: "Relative atomic masses" }).waitFor();
-        await page.goBack();
+        await moved(page, () => page.goBack());
         await panel(page, "How it is written").click();
         await page.getByLabel("Below the question").check();
         assert.equal((await line.locator("[aria-hidden]").innerText()).replace(/\s/g, " "), seen);

@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { after, test } from "node:test";
 import { plain } from "./pdf.mjs";
-import { check, leave, openChromium, openLesson, openPage, type } from "./support.mjs";
+import { check, leave, openChromium, openLesson, openPage, reload, type } from "./support.mjs";
 
 const lesson = await openLesson();
 const browser = await openChromium();
@@ -57,7 +57,7 @@ test("the summary of a sheet that was practised comes at its address, and again 
     const page = await openPage(browser, "#practice/4821/3/1*ion-formula,1*dilution:1?set=2&v=1");
     for (let time = 0; time < 2; ++time) {
         await page.getByRole("heading", { name: "Summary of paper 4821" }).waitFor();
-        await page.reload();
+        await reload(page);
     }
     await leave(page);
 });

@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { after, test } from "node:test";
 import { press } from "./states.mjs";
-import { check, go, leave, openChromium, openLesson, openPage, panel, type } from "./support.mjs";
+import { check, go, leave, openChromium, openLesson, openPage, panel, reload, type } from "./support.mjs";
 
 const lesson = await openLesson();
 const browser = await openChromium();
@@ -81,7 +81,7 @@ test("clearing the record clears it alone: the exercise stays as it is", async (
     await press(page, "Clear my record");
     await press(page, "Clear");
     await page.getByText("Nothing is in your record yet.").waitFor();
-    await page.reload();
+    await reload(page);
     await page.locator(".mark[data-verdict=correct]").waitFor();
     assert.equal(await page.locator("#answer").inputValue(), lesson.exercise(4821, 1, kind).key.text);
     await panel(page, "My record").click();
@@ -100,8 +100,7 @@ for (const [what, kept, cells] of found) {
     test(`a record ${what} is read field by field`, async () => {
         const page = await openPage(browser, `#practice/4821/1/${kind}`);
         await page.evaluate((text) => localStorage.setItem("chempractice.record", text), JSON.stringify(kept));
-        await page.waitForTimeout(200); // A busy browser takes a while to keep it.
-        await page.reload();
+        await reload(page);
         await panel(page, "My record").click();
         const seen = (await row(page).count()) === 0 ? null : await row(page).locator("td").allInnerTexts();
         assert.deepEqual(seen, cells, JSON.stringify(kept));

@@ -3,7 +3,7 @@ import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
 import { after, test } from "node:test";
 import { answerWith, press } from "./states.mjs";
-import { address, announced, check, go, leave, openChromium, openLesson, openPage, type } from "./support.mjs";
+import { address, agree, announced, check, go, leave, openChromium, openLesson, openPage, reload, type } from "./support.mjs";
 
 const lesson = await openLesson();
 const browser = await openChromium();
@@ -61,6 +61,7 @@ test("a set outlives its tab: the summary tells each result and its tries", asyn
     await inTabs(async (open) => {
         const page = await open(at(1));
         await work(page);
+        await agree(page, await open("#tables"));
         await page.close();
         const later = await open(summary);
         assert.deepEqual(await rowsOf(later), worked);
@@ -70,8 +71,11 @@ test("a set outlives its tab: the summary tells each result and its tries", asyn
 
 test("a new tab shows the exercises of a set as they stand", async () => {
     await inTabs(async (open) => {
-        await work(await open(at(1)));
+        const first = await open(at(1));
+        await work(first);
         const page = await open(at(2));
+        await agree(first, page);
+        await reload(page);
         await page.locator(".mark[data-verdict=correct]").waitFor();
         assert.equal(await page.locator("#answer").inputValue(), keyOf(2));
         await goTo(page, 3);
@@ -94,6 +98,7 @@ test("two tabs with one set lose none of each other's results, and keep apart wh
         await check(first);
         await goTo(first, 2);
         await answerWith(first, keyOf(2), "correct");
+        await agree(first, second);
         assert.equal(await second.locator("#answer").inputValue(), "12");
         await answerWith(second, keyOf(1), "correct");
         await go(second, summary);
@@ -153,10 +158,12 @@ test("a set that is cleared in another tab is fresh in this one, but for what is
         await goTo(first, 2);
         await type(first, "12");
         await go(second, summary);
-        await second.reload();
+        await agree(first, second);
+        await reload(second);
         await press(second, "Clear this set");
         await press(second, "Clear");
-        await first.reload();
+        await agree(first, second);
+        await reload(first);
         assert.equal(await first.locator("#answer").inputValue(), "12");
         await goTo(first, 1);
         assert.equal(await first.locator("#answer").inputValue(), "");

@@ -3,7 +3,7 @@ import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
 import { after, test } from "node:test";
 import { leafTexts, letters, pageSize, pagesOf, plain, shadesOf } from "./pdf.mjs";
-import { announced, compareWithApproved, go, leave, openChromium, openLesson, openPage } from "./support.mjs";
+import { announced, compareWithApproved, go, leave, openChromium, openLesson, openPage, reload } from "./support.mjs";
 
 const lesson = await openLesson();
 const browser = await openChromium();
@@ -391,7 +391,7 @@ test("what is typed is the sheet: address, preview, and again after a reload", a
     assert.equal(page.url().split("#")[1], "sheet/4821/3*dilution:1,2*titration?versions=2&room=none&v=1");
     const before = await previewTexts(page);
     assert.match(before[0], /^Paper 4821, version 1/);
-    await page.reload();
+    await reload(page);
     await isMade(page);
     assert.deepEqual(await previewTexts(page), before);
     assert.equal(await page.getByRole("spinbutton", { name: "Versions" }).inputValue(), "2");

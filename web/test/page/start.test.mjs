@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { after, test } from "node:test";
 import { goToStart } from "./states.mjs";
-import { go, leave, openChromium, openLesson, opener, openPage } from "./support.mjs";
+import { agree, go, leave, openChromium, opener, openLesson, openPage, reload } from "./support.mjs";
 
 const lesson = await openLesson();
 const browser = await openChromium();
@@ -112,7 +112,7 @@ test("who has practised in this tab goes on first, and starts anew with the same
     const page = await openPage(browser, "#practice/4821/3/titration:3,dilution?v=1");
     await goToStart(page);
     assert.equal(await page.locator("main button").first().innerText(), "Go on with exercise 3 of paper\u00A04821");
-    await page.reload();
+    await reload(page);
     await button(page, "Go on with exercise 3 of paper 4821").click();
     await page.getByRole("heading", { name: "Exercise 3" }).waitFor();
     assert.equal(hashOf(page), "#practice/4821/3/titration:3,dilution?v=1");
@@ -135,8 +135,9 @@ test("who left a summary goes back to it", async () => {
 test("a new tab of this device starts with the kinds that were practised last", async () => {
     const context = await browser.newContext();
     const first = await openPage(browser, "#practice/4821/3/dilution:1?v=1", { context });
-    await first.waitForTimeout(300); // A busy browser takes a while to tell other tabs what is kept.
     const second = await openPage(browser, "", { context });
+    await agree(first, second);
+    await reload(second);
     assert.equal(await second.getByRole("button", { name: /^Go on/ }).count(), 0);
     await second.getByText("Starts with: Dilution, level 1.").waitFor();
     assert.deepEqual([...first.problems, ...second.problems], []);
@@ -147,7 +148,7 @@ for (const kept of ["alchemy", "", "titration,titration", "<b>", 7, null]) {
     test(`kinds that were kept as ${JSON.stringify(kept)} are no obstacle`, async () => {
         const page = await openPage(browser);
         await page.evaluate((value) => localStorage.setItem("chempractice.kinds", JSON.stringify(value)), kept);
-        await page.reload();
+        await reload(page);
         await page.getByText("Starts with: every kind at level 2.").waitFor();
         await leave(page);
     });

@@ -76,11 +76,53 @@ function watch(page) {
     page.on("request", (request) => !isOwn(request.url()) && page.problems.push(`request: ${request.url()}`));
 }
 
-// Goes to another address of the page, as a link does.
+// Does what leads to another address of the page, and comes back once the page shows it: the address
+// itself is there earlier.
+export async function moved(page, act) {
+    await page.evaluate(() => {
+        window.moved = new Promise((done) => addEventListener("hashchange", () => setTimeout(done, 0), { once: true }));
+    });
+    await act();
+    await page.evaluate(() => window.moved);
+}
+
+// A browser tells its other processes what a page stored when that page is at rest, which takes a while
+// on a busy machine.
+function rest(page) {
+    return page.evaluate(() => new Promise((done) => requestIdleCallback(() => setTimeout(done, 100), { timeout: 1000 })));
+}
+
+// Loads the page anew once what it stored is kept.
+export async function reload(page) {
+    await rest(page);
+    await page.reload();
+}
+
+// Until two tabs of a window find the same on the device.
+export async function agree(first, second) {
+    const keptIn = (page) => page.evaluate(() => JSON.stringify(Object.entries(localStorage).sort()));
+    for (let times = 0; times < 100 && (await keptIn(first)) !== (await keptIn(second)); ++times) {
+        const page = [first, second][times % 2];
+        await page.bringToFront();
+        await rest(page);
+    }
+    assert.equal(await keptIn(first), await keptIn(second));
+}
+
+// Goes to an address of the page, as a link does: where it is there already, nothing comes.
 export async function go(page, hash) {
-    await page.evaluate((to) => (location.hash = to), hash);
-    await page.waitForFunction((to) => location.hash === to, hash);
-    await page.evaluate(() => new Promise((done) => setTimeout(done, 0)));
+    await page.evaluate(
+        (to) =>
+            new Promise((done) => {
+                const before = location.hash;
+                addEventListener("hashchange", () => setTimeout(done, 0), { once: true });
+                location.hash = to;
+                if (location.hash === before) {
+                    done();
+                }
+            }),
+        hash,
+    );
 }
 
 // Until the line above the pages tells how many there are.
