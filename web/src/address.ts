@@ -1,8 +1,8 @@
 // The address behind the "#", to a route and back. Whatever it holds, it stays text.
-import { countOf, isList, readList } from "./list";
-import { sheetAddress, sheetOf } from "./sheet";
+import { countOf, isList, readList } from "./shared/exercise-list";
+import { sheetAddress, sheetOf } from "./sheet/address";
 import type { ExerciseLeft, PracticeRoute, Route, SheetRoute } from "./types";
-import { texts } from "./texts";
+import { texts } from "./words/texts";
 
 // Raised with the library's exercises: an address made for others says so.
 export const version = 1;

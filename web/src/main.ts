@@ -1,26 +1,27 @@
 // Wires the page together; imported by none.
 import packed from "lesson.bin";
 import { addressOf, mainRoad, routeOf } from "./address";
-import { announce, byId, element, show } from "./dom";
-import { lessonOf } from "./engine/lesson";
-import { instantiate, unpacked } from "./engine/memory";
-import { choiceIn } from "./kinds";
-import { withLists } from "./lists";
-import { namesOf } from "./sentence";
-import * as storage from "./storage";
-import { usualSheet } from "./sheet";
-import { texts } from "./texts";
+import { announce, byId, element, show } from "./shared/dom";
+import { lessonOf } from "./lesson/lesson";
+import { instantiate, unpacked } from "./lesson/memory";
+import { choiceIn } from "./practice/chosen-kinds";
+import { withLists } from "./lesson/listed-exercises";
+import { namesOf } from "./text/sentences";
+import * as storage from "./shared/storage";
+import { usualSheet } from "./sheet/address";
+import { texts } from "./words/texts";
 import type { Lesson, PracticeRoute, Route, SheetRoute } from "./types";
-import { keepFieldInView } from "./views/answer";
-import { nameOf } from "./views/head";
-import { showMessage } from "./views/message";
-import { type Page, randomPaper } from "./views/page";
-import { showPractice } from "./views/practice";
-import { showSheets } from "./views/sheets";
-import { showStart } from "./views/start";
-import { showSummary } from "./views/summary";
-import { showTables } from "./views/tables";
-import * as working from "./working";
+import { keepFieldInView } from "./practice/answer-field";
+import { nameOf } from "./practice/head";
+import { showMessage } from "./shared/message";
+import type { Page } from "./shared/page";
+import { randomPaper } from "./shared/paper";
+import { showPractice } from "./practice/practice";
+import { showSheets } from "./sheet/sheets";
+import { showStart } from "./practice/start";
+import { showSummary } from "./practice/summary";
+import { showTables } from "./tables/tables";
+import * as working from "./practice/time-worked";
 
 type Focus = () => void;
 

@@ -184,3 +184,7 @@ export interface Settings {
     names: "british" | "american";
     masses: "shown" | "table"; // below a question that cannot be answered without: the numbers, or where they are
 }
+
+// Names that differ, British to American. Asked for only where they are wanted: the tables that tell
+// them take longer to make than an exercise.
+export type Names = () => ReadonlyMap<string, string>;

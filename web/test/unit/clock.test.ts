@@ -1,6 +1,6 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { type Clock, running, startedAt, ticked } from "../../src/clock";
+import { type Clock, running, startedAt, ticked } from "../../src/practice/clock";
 
 const minutes = (count: number) => count * 60_000;
 const from = Date.UTC(2026, 10, 22, 8);

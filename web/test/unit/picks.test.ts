@@ -1,9 +1,9 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
 import { addressOf, routeOf } from "../../src/address";
-import { countOf, entriesOf, listOf, oneByOne, readList } from "../../src/list";
-import { type Pick, picked, withCounts } from "../../src/picks";
-import { usualSheet } from "../../src/sheet";
+import { countOf, entriesOf, listOf, oneByOne, readList } from "../../src/shared/exercise-list";
+import { type Pick, picked, withCounts } from "../../src/sheet/picks";
+import { usualSheet } from "../../src/sheet/address";
 
 // "titration@5 dilution:1@1", spelt out one by one.
 function spelt(list: string): string {

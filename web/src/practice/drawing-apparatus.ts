@@ -1,0 +1,86 @@
+// What stands on the bench, as shapes: the burette over the flask, a beaker. Text in them repeats what
+// the labels beside them say, so they are for the eye alone.
+import { svg } from "../shared/dom";
+import { burette, heightOf } from "./drawing-levels";
+import type { Settings } from "../types";
+import { localNumber, plainUnit } from "../text/units";
+
+// Width of a beaker that holds the larger volume, and how high the liquid stands in it.
+const beakerWidth = 68;
+const beakerHeight = 74;
+const filled = 0.78;
+
+const ground = 80; // on which both beakers stand
+
+// svg
+//   g.burette   liquid, meniscus, glass, marks with their numbers, the reading
+//   g.flask     liquid, glass
+export function titrationShapes(reading: number, settings: Settings): SVGElement | null {
+    const level = heightOf(reading);
+    if (level === null) {
+        return null;
+    }
+    return svg(
+        "svg",
+        { viewBox: "0 0 96 252", "aria-hidden": "true", class: "shape" },
+        svg("g", { class: "burette" }, ...buretteShapes(level), ...numbers(settings), ...readingShapes(level, reading, settings)),
+        svg("g", { class: "flask" }, ...flaskShapes()),
+    );
+}
+
+// The level is that of the lowest point of the meniscus, where a burette is read.
+function buretteShapes(level: number): SVGElement[] {
+    const surface = `M28 ${level - 2} Q36 ${level + 2} 44 ${level - 2}`;
+    return [
+        svg("path", { d: `${surface} V154 L38 163 V180 L37 191 H35 L34 180 V163 L28 154 Z`, class: "liquid strong" }),
+        svg("path", { d: surface, class: "glass" }),
+        svg("path", { d: marks(), class: "glass fine marks" }),
+        svg("path", { d: "M28 8 V154 L34 163 V180 L35 191 M44 8 V154 L38 163 V180 L37 191", class: "glass" }),
+        svg("path", { d: "M31 168 H41 V175 H31 Z M41 171.5 H50 M50 167 V176", class: "glass tap" }),
+    ];
+}
+
+// Every millilitre has its mark, every fifth a longer one, every tenth one across.
+function marks(): string {
+    return Array.from({ length: burette.full + 1 }, (_, at) => {
+        const length = at % 10 === 0 ? 16 : at % 5 === 0 ? 9 : 5;
+        return `M28 ${burette.at0 + at * burette.perMillilitre} h${length}`;
+    }).join(" ");
+}
+
+function numbers(settings: Settings): SVGElement[] {
+    const tens = [0, 10, 20, 30, 40, 50];
+    return [
+        svg("text", { x: 24, y: 11, class: "scale end" }, plainUnit("mL", settings)),
+        ...tens.map((ten) => svg("text", { x: 24, y: burette.at0 + ten * burette.perMillilitre + 4, class: "scale end" }, String(ten))),
+    ];
+}
+
+function readingShapes(level: number, reading: number, settings: Settings): SVGElement[] {
+    return [
+        svg("path", { d: `M46 ${level} l7 -4 v8 Z`, class: "pointer" }),
+        svg("text", { x: 56, y: level + 4, class: "scale reading" }, localNumber(reading.toFixed(2), settings)),
+    ];
+}
+
+function flaskShapes(): SVGElement[] {
+    return [
+        svg("path", { d: "M18.5 226 H53.5 L66 244 Q67 249 62 249 H10 Q5 249 6 244 Z", class: "liquid weak" }),
+        svg("path", { d: "M28 200 V214 L6 244 Q5 249 10 249 H62 Q67 249 66 244 L44 214 V200 M25 200 H47", class: "glass" }),
+    ];
+}
+
+// A beaker of the usual shape, `width` times as wide and as high as the largest.
+export function beaker(width: number, strength: "strong" | "weak"): SVGElement {
+    const corner = 5 * width;
+    const [left, right] = [1 + corner, 1 + corner + beakerWidth * width];
+    const [rim, surface] = [ground - beakerHeight * width, ground - beakerHeight * filled * width];
+    const bottom = `V${ground - corner} Q${left} ${ground} ${left + corner} ${ground} H${right - corner} Q${right} ${ground} ${right} ${ground - corner}`;
+    return svg(
+        "svg",
+        { viewBox: "0 0 80 82", "aria-hidden": "true", class: "shape" },
+        svg("path", { d: `M${left} ${surface} ${bottom} V${surface} Z`, class: `liquid ${strength}` }),
+        svg("path", { d: `M${left} ${surface} H${right}`, class: "glass fine" }),
+        svg("path", { d: `M${left - corner} ${rim} Q${left} ${rim} ${left} ${rim + corner} ${bottom} V${rim + corner} Q${right} ${rim} ${right + corner} ${rim}`, class: "glass" }),
+    );
+}

@@ -1,0 +1,35 @@
+// The mark: the library's sentence, with a word in front where it does not say so itself.
+import { element, show } from "../shared/dom";
+import { seenSentence, spokenSentence } from "../text/sentences";
+import { wholeSpoken } from "../text/seen-and-spoken";
+import { texts } from "../words/texts";
+import type { Mark } from "../types";
+import type { Page } from "../shared/page";
+
+// p.mark
+//   span         what is seen: .marked where it was given for another text than stands in the field, the word,
+//                the sentence
+//   .spoken
+export function showMark(line: HTMLElement, mark: Mark | null, of: string | null, page: Page): void {
+    line.hidden = mark === null;
+    line.classList.toggle("stale", of !== null);
+    if (mark === null) {
+        return;
+    }
+    line.dataset["verdict"] = mark.verdict;
+    const word = element("strong", {}, texts.verdicts[mark.verdict] ?? "");
+    const text = of === null ? [] : [element("span", { class: "marked" }, texts.markOf(of))];
+    const seen = element("span", { "aria-hidden": "true" }, ...text, word, " ", seenSentence(mark.sentence, page.settings, page.names));
+    const said = `${of === null ? "" : `${texts.markOf(of)}: `}${spokenMark(mark, page)}`;
+    show(line, seen, wholeSpoken(said));
+}
+
+export function spokenMark(mark: Mark, page: Page): string {
+    const word = mark.verdict === "correct" ? "" : (texts.verdicts[mark.verdict] ?? "");
+    return `${word} ${spokenSentence(mark.sentence, page.settings, page.names)}`.trim();
+}
+
+// Once all is shown there is no button any more that could be pressed for a step.
+export function withoutStep(mark: Mark): Mark {
+    return { ...mark, sentence: mark.sentence.replace(texts.orPressStep, "") };
+}

@@ -1,0 +1,26 @@
+// Practice: one exercise at a time with the choice of others, and around it the display and the record.
+import { mainRoad } from "../address";
+import { element, show } from "../shared/dom";
+import { texts } from "../words/texts";
+import type { Exercise, PracticeRoute } from "../types";
+import { choicePanel } from "./choice";
+import { displayPanel, massesChoice } from "../shared/display";
+import { showExercise } from "./exercise";
+import { linkPanel } from "./link";
+import type { Page } from "../shared/page";
+import { recordPanel } from "./record";
+
+// article        the exercise
+// aside          the link of a set, display, record
+// Gives what puts the focus into the field, for a reader who comes from another exercise; the question
+// stays in view, which is read first.
+export function showPractice(main: HTMLElement, route: PracticeRoute, exercise: Exercise, page: Page): () => void {
+    const article = element("article", { class: "exercise" });
+    const record = recordPanel(page, () => draw());
+    const choice = choicePanel(mainRoad(route), exercise, page);
+    const draw = (): (() => void) => showExercise(article, { route, exercise, page, choice, solved: record.update });
+    const focus = draw();
+    const display = displayPanel(page, draw, () => [massesChoice(page, draw)]);
+    show(main, article, element("aside", { "aria-label": texts.around }, ...(route.set > 0 ? [linkPanel(route)] : []), display, record.element));
+    return focus;
+}

@@ -1,0 +1,23 @@
+import type { ElementInfo, IonInfo, KindInfo, Lesson, Names, Settings, SheetRoute } from "../types";
+
+// What every view gets from the page around it.
+export interface Page {
+    readonly lesson: Lesson;
+    readonly kinds: KindInfo[];
+    readonly names: Names;
+    settings: Settings;
+    // Goes to another address, which the reader can leave with Back.
+    go(address: string): void;
+    // Gives the present address another sheet, which is shown already.
+    stay(route: SheetRoute): void;
+    // The same, and Back brings the sheet before it.
+    step(route: SheetRoute): void;
+}
+
+export function titleOf(page: Page, kind: string): string {
+    return page.kinds.find((info) => info.kind === kind)?.title ?? kind;
+}
+
+export function nameOf(row: ElementInfo | IonInfo, page: Page): string {
+    return page.settings.names === "american" && row.american ? row.american : row.name;
+}

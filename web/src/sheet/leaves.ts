@@ -1,0 +1,100 @@
+// The pages of a sheet as they come out of the printer. Each is filled here, so that preview and print
+// break at the same places in every browser, and each page tells its paper.
+import { element } from "../shared/dom";
+import { fill, type Part } from "./page-breaks";
+import { exercisesOf, papersOf } from "./address";
+import { texts } from "../words/texts";
+import type { Exercise, SheetRoute } from "../types";
+import type { Page } from "../shared/page";
+import { labelOf, type Version } from "./printed-heads";
+import { atOnce, measureIn, type Run, runsOf } from "./runs";
+
+// In millimetres, as in sheet.css: the page without its margins and its running line, less what a line
+// that breaks otherwise in print than on the screen may need.
+const spare = 5;
+const widths: Record<SheetRoute["size"], number> = { A4: 210, Letter: 215.9 };
+const capacities: Record<SheetRoute["size"], number> = { A4: 297 - 2 * 15 - 8 - spare, Letter: 279.4 - 2 * 15 - 8 - spare };
+
+// Fills the box step by step: the sheets of all versions first, then the keys.
+export function* leaves(box: HTMLElement, route: SheetRoute, page: Page): Generator<void> {
+    const measuring = element("div", { class: "leaf measuring", "aria-hidden": "true" });
+    box.append(measuring);
+    const measure = measureIn(measuring, widths[route.size]);
+    const elements = page.lesson.tables().elements;
+    const places = exercisesOf(route.entries);
+    const keys: { label: string; run: Run }[] = [];
+    const put = putInto(box, route);
+    for (const [at, paper] of papersOf(route).entries()) {
+        const version: Version = { paper, number: at + 1, exercises: yield* exercisesOfPaper(paper, places, page) };
+        const { sheet, key } = yield* runsOf(version, route, elements, measure, page);
+        const label = labelOf(version, route);
+        put(label, leavesOf(label, sheet, route));
+        keys.push({ label, run: key });
+    }
+    measuring.remove();
+    keysApart(keys, route).forEach(({ label, runs }) => put(label, leavesOf(label, runs, route)));
+}
+
+// What is handed out apart, one after another: each from a front side on, where that is wanted.
+function putInto(box: HTMLElement, route: SheetRoute): (label: string, pages: HTMLElement[]) => void {
+    let sides = 0;
+    let before = "";
+    return (label, pages) => {
+        const blank = route.leaf && sides % 2 === 1 && pages.length > 0 ? [blankSide(before)] : [];
+        box.append(...blank, ...pages);
+        sides += blank.length + pages.length;
+        before = label;
+    };
+}
+
+// div.leaf
+//   p.running, p.empty
+function blankSide(label: string): HTMLElement {
+    return element("div", { class: "leaf" }, element("p", { class: "running" }, label), element("p", { class: "empty" }, texts.blankSide));
+}
+
+// Kinds that the library does not know were refused before.
+function* exercisesOfPaper(paper: number, places: { kind: string; number: number }[], page: Page): Generator<void, Exercise[]> {
+    const exercises: Exercise[] = [];
+    for (const { kind, number } of places) {
+        exercises.push(page.lesson.exercise(paper, number, kind)!);
+        if (exercises.length % atOnce === 0) {
+            yield;
+        }
+    }
+    return exercises;
+}
+
+function keysApart(keys: { label: string; run: Run }[], route: SheetRoute): { label: string; runs: Run[] }[] {
+    if (route.keys === "apart" || keys.length === 1) {
+        return keys.map(({ label, run }) => ({ label, runs: [run] }));
+    }
+    const papers = papersOf(route);
+    return [{ label: texts.papers(papers[0]!, papers[papers.length - 1]!), runs: keys.map(({ run }) => run) }];
+}
+
+// div.leaf
+//   p.running
+//   div.head, p.frame, ol   for each part
+function leavesOf(label: string, runs: Run[], route: SheetRoute): HTMLElement[] {
+    const pages = fill(
+        runs.map(({ head, again, rows }) => ({ head: heightOf(head), again: heightOf(again), items: heightsOf(rows) })),
+        capacities[route.size],
+    );
+    return pages.map((parts, at) => {
+        const running = element("p", { class: "running" }, element("span", {}, label), element("span", {}, texts.pageOf(at + 1, pages.length)));
+        return element("div", { class: "leaf" }, running, ...parts.flatMap((part) => partOf(part, runs[part.run]!)));
+    });
+}
+
+function partOf(part: Part, { head, again, items, rows, first }: Run): HTMLElement[] {
+    const [from, to] = [rows[part.from]!.from, rows[part.to - 1]!.to];
+    const shown = items.slice(from, to);
+    const columns = shown.some((item) => item.isHalf) ? { class: "columns" } : {};
+    const list = element("ol", { start: first + from + 1, ...columns }, ...shown.map((item) => item.element));
+    const headings = from === 0 ? head.map((item) => item.element) : again.map((item) => item.element.cloneNode(true));
+    return [...(headings as HTMLElement[]), list];
+}
+
+const heightsOf = (all: { height: number }[]) => all.map(({ height }) => height);
+const heightOf = (all: { height: number }[]) => heightsOf(all).reduce((sum, height) => sum + height, 0);
