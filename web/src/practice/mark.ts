@@ -1,7 +1,7 @@
 // The mark: the library's sentence, with a word in front where it does not say so itself.
 import { element, show } from "../shared/dom";
 import { seenSentence, spokenSentence } from "../text/sentences";
-import { wholeSpoken } from "../text/seen-and-spoken";
+import { wholeSpoken } from "../text/line";
 import { texts } from "../words/texts";
 import type { Mark } from "../types";
 import type { Page } from "../shared/page";

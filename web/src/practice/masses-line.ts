@@ -1,7 +1,7 @@
 // The relative atomic masses that exercises need, in one line.
 import { element } from "../shared/dom";
 import { massesNeeded, needsMasses } from "./masses-needed";
-import { typesetLine } from "../text/seen-and-spoken";
+import { typesetLine } from "../text/line";
 import { texts } from "../words/texts";
 import type { ElementInfo, Exercise, Span } from "../types";
 import type { Page } from "../shared/page";

@@ -1,7 +1,8 @@
 // The solution of an exercise, step by step, as it is shown and as it is announced.
 import { element, show } from "../shared/dom";
 import { spansOfKey } from "../text/sentences";
-import { speech, typesetLine } from "../text/seen-and-spoken";
+import { typesetLine } from "../text/line";
+import { speech } from "../text/seen-and-spoken";
 import { texts } from "../words/texts";
 import type { Exercise, Span, Step } from "../types";
 import type { Page } from "../shared/page";

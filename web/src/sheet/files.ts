@@ -2,7 +2,7 @@
 import { addressOf } from "../address";
 import { button, element, save, show } from "../shared/dom";
 import { listOf } from "../shared/exercise-list";
-import { papersOf, practiceOf } from "./address";
+import { papersOf, practiceOf } from "./sheet";
 import { texts } from "../words/texts";
 import type { ExportFormat, SheetRoute } from "../types";
 import { linkPanel } from "../practice/link";

@@ -1,7 +1,7 @@
 // What a sheet is to be: so many of each kind and level, the paper, the layout.
 import { announce, button, element } from "../shared/dom";
 import { isCount, mostExercises } from "../shared/exercise-list";
-import { isFew, longestTitle, mostVersions } from "./address";
+import { isFew, longestTitle, mostVersions } from "./sheet";
 import { texts } from "../words/texts";
 import type { KindInfo, SheetEntry, SheetRoute } from "../types";
 import { type Counts, countFields } from "./count-fields";

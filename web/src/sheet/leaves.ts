@@ -2,7 +2,7 @@
 // break at the same places in every browser, and each page tells its paper.
 import { element } from "../shared/dom";
 import { fill, type Part } from "./page-breaks";
-import { exercisesOf, papersOf } from "./address";
+import { exercisesOf, papersOf } from "./sheet";
 import { texts } from "../words/texts";
 import type { Exercise, SheetRoute } from "../types";
 import type { Page } from "../shared/page";

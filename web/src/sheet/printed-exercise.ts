@@ -3,8 +3,10 @@
 import { ownPartOf } from "./common-words";
 import { element } from "../shared/dom";
 import { marksOf } from "./worth";
+import { quantityOf } from "../text/quantity";
 import { spansOfKey } from "../text/sentences";
-import { seenOf, typesetLine } from "../text/seen-and-spoken";
+import { typesetLine } from "../text/line";
+import { seenOf } from "../text/seen-and-spoken";
 import { texts } from "../words/texts";
 import type { Ask, Exercise, Form, SheetRoute, Span } from "../types";
 import { drawingOf } from "../practice/drawing";
@@ -103,10 +105,4 @@ function answerOf(exercise: Exercise, page: Page): Node[] {
     const { ask } = exercise;
     const asked: Span[] = ask.quantity === undefined ? [] : [quantityOf(ask.quantity, ask.of), { text: " = " }];
     return typesetLine([...asked, ...spansOfKey(exercise)], page.settings);
-}
-
-// "c2" is c with the index 2.
-function quantityOf(symbol: string, of: string | undefined): Span {
-    const index = symbol.slice(1);
-    return { quantity: symbol.slice(0, 1), ...(of === undefined ? {} : { of }), ...(index === "" ? {} : { index }) };
 }

@@ -3,7 +3,7 @@ import { agreedFigures, type Group } from "./common-words";
 import { element } from "../shared/dom";
 import { goesOn, marksOf } from "./worth";
 import { massesNeeded } from "../practice/masses-needed";
-import { typesetLine } from "../text/seen-and-spoken";
+import { typesetLine } from "../text/line";
 import { texts } from "../words/texts";
 import type { ElementInfo, Exercise, SheetRoute } from "../types";
 import { massesLine } from "../practice/masses-line";

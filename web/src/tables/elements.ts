@@ -1,7 +1,7 @@
 // The elements: a field that finds them, above the periodic table.
 import { announce, bringIntoView, element, scrollBox, show } from "../shared/dom";
 import { elementsMeant, type Meant } from "./element-search";
-import { spokenFormula } from "../text/seen-and-spoken";
+import { spokenFormula } from "../text/formula";
 import { texts } from "../words/texts";
 import type { ElementInfo } from "../types";
 import { localNumber } from "../text/units";

@@ -1,6 +1,6 @@
 // The ions with their charges, cations beside anions.
 import { element, scrollBox } from "../shared/dom";
-import { typeset } from "../text/seen-and-spoken";
+import { typeset } from "../text/line";
 import { texts } from "../words/texts";
 import type { IonInfo } from "../types";
 import { nameOf, type Page } from "../shared/page";

@@ -1,7 +1,7 @@
 // What the library tells of a cation and an anion, in words.
 import { element } from "../shared/dom";
 import { spokenSentence, typesetSentence } from "../text/sentences";
-import { typeset } from "../text/seen-and-spoken";
+import { typeset } from "../text/line";
 import { texts } from "../words/texts";
 import type { PairInfo } from "../types";
 import type { Page } from "../shared/page";

@@ -1,29 +1,113 @@
-// A line of spans as elements: what is seen and what is said stand side by side. The visible form is
-// hidden from a screen reader where it would be read wrongly, and the spoken form from the eye.
-import { element, spoken } from "../shared/dom";
-import { type Part, partsOf } from "./kept-together";
+// What each kind of span looks like and how it is said, side by side; and lines of them.
+import { element } from "../shared/dom";
 import type { Settings, Span } from "../types";
+import { formulaPieces, spokenCharge, spokenFormula } from "./formula";
+import { type Part, partsOf } from "./kept-together";
+import { joined, type Piece, shifted, signed, thin } from "./pieces";
 import { localNumber, localUnit, spokenUnit } from "./units";
 
-const thin = "\u202F"; // a blank that does not break
+type Kind = "text" | "name" | "formula" | "ion" | "quantity" | "number" | "unit" | "fraction";
+type SpanOf<One extends Kind> = Extract<Span, Record<One, unknown>>;
 
-// A string is text beside other text: what stands together becomes one node, which is laid out sooner.
-export type Piece = Node | string;
-
-export function typeset(spans: Span[], settings: Settings): DocumentFragment {
-    return lineOf(spans, (span) => typesetSpan(span, settings));
+interface Form<One extends Span> {
+    seen(span: One, settings: Settings): Piece[];
+    spoken(span: One, settings: Settings): string;
 }
 
-// A whole sentence or line of mathematics. A screen reader gets it as one text, laid over what is seen
-// (.spoken.whole), so that it is read without a stop at each formula and is found where it stands.
-export function typesetLine(spans: Span[], settings: Settings): Node[] {
-    const seenLine = seenOf(spans, settings);
-    const isPlain = spans.every((span) => isSaidAsSeen(span, settings));
-    return isPlain ? [seenLine] : [element("span", { "aria-hidden": "true" }, seenLine), wholeSpoken(speech(spans, settings))];
+const forms: { [One in Kind]: Form<SpanOf<One>> } = {
+    text: {
+        seen: ({ text }) => [bound(text)],
+        spoken: ({ text }) => saidSigns.reduce((said, [sign, word]) => said.replaceAll(sign, word), text),
+    },
+    name: {
+        seen: (span, settings) => [nameOf(span, settings)],
+        spoken: nameOf,
+    },
+    formula: {
+        seen: ({ formula }) => formulaPieces(formula),
+        spoken: ({ formula }) => spokenFormula(formula),
+    },
+    ion: {
+        seen: ({ ion, charge }) => [...formulaPieces(ion), element("sup", {}, signed(charge))],
+        spoken: ({ ion, charge }) => `${spokenFormula(ion)} ${spokenCharge(charge)}`,
+    },
+    quantity: {
+        seen: ({ quantity, index, of }) => [
+            element("var", {}, quantity),
+            ...(index === undefined ? [] : [element("sub", {}, index)]),
+            ...(of === undefined ? [] : ["(", ...formulaPieces(of), ")"]),
+        ],
+        spoken: ({ quantity, index, of }) =>
+            `${quantity}${index === undefined ? "" : ` ${index}`}${of === undefined ? "" : ` of ${spokenFormula(of)}`}`,
+    },
+    number: {
+        seen: ({ number }, settings) => {
+            const [digits = "", exponent] = localNumber(number, settings).split("e");
+            return exponent === undefined ? [digits] : [`${digits}${thin}×${thin}10`, element("sup", {}, signed(exponent))];
+        },
+        spoken: ({ number }, settings) => {
+            const [digits = "", exponent = ""] = localNumber(number, settings).split("e");
+            return exponent === "" ? digits : `${digits} times 10 to the ${exponent.replace("-", "minus ")}`;
+        },
+    },
+    unit: {
+        seen: ({ unit }, settings) => shifted(localUnit(unit, settings).replaceAll(" ", thin), /(.*?[A-Za-z])(-?\d)|.+/gs, "sup"),
+        spoken: ({ unit }, settings) => spokenUnit(localUnit(unit, settings)),
+    },
+    fraction: {
+        seen: ({ fraction: [over, under] }, settings) => [
+            element(
+                "span",
+                { class: "stacked" },
+                element("span", { class: "over" }, seenOf(over, settings)),
+                element("span", { class: "under" }, seenOf(under, settings)),
+            ),
+        ],
+        // Of a sum the last number alone would be heard as what is divided.
+        spoken: ({ fraction: [over, under] }, settings) => `${speech(over, settings)}${isSum(over) ? ", all" : ""} over ${speech(under, settings)}`,
+    },
+};
+
+const kinds = Object.keys(forms) as Kind[];
+
+// As elements of it are called in the style.
+export function classOf(span: Span): Kind {
+    return kinds.find((kind) => kind in span)!;
 }
 
-export function wholeSpoken(text: string): HTMLElement {
-    return element("span", { class: "spoken whole" }, text);
+function formOf(span: Span): Form<Span> {
+    return forms[classOf(span)] as Form<Span>;
+}
+
+export function seenPieces(span: Span, settings: Settings): Piece[] {
+    return formOf(span).seen(span, settings);
+}
+
+export function spokenSpan(span: Span, settings: Settings): string {
+    return formOf(span).spoken(span, settings);
+}
+
+function nameOf(span: { name: string; american?: string }, settings: Settings): string {
+    return settings.names === "american" && span.american !== undefined ? span.american : span.name;
+}
+
+// A sign begins a line rather than ends one.
+export function bound(text: string): string {
+    return text.replace(/ ([=+→×−]) /g, " $1\u00A0");
+}
+
+const saidSigns: [string, string][] = [
+    ["= ?", " is to be found "],
+    ["=", " equals "],
+    ["→", " gives "],
+    ["+", " plus "],
+    ["×", " times "],
+    ["−", " minus "],
+    ["/", " over "],
+];
+
+function isSum(spans: Span[]): boolean {
+    return spans.some((span) => "text" in span && /[+−]/.test(span.text));
 }
 
 // The line for the eye alone.
@@ -53,7 +137,7 @@ function signsBehind(side: Span[]): Span[] {
     return side.map((span) => ("text" in span ? { text: "\u00A0+ " } : span));
 }
 
-function lineOf(spans: Span[], pieceOf: (span: Span) => Piece): DocumentFragment {
+export function lineOf(spans: Span[], pieceOf: (span: Span) => Piece): DocumentFragment {
     const pieces = spans.flatMap((span, at) => {
         const before = spans[at - 1];
         const isUnit = "unit" in span && before !== undefined && "number" in before;
@@ -77,24 +161,19 @@ function withoutSign(span: Span): Span {
     return "text" in span ? { text: span.text.replace(/. $/, "") } : span;
 }
 
-function joined(pieces: Piece[]): Piece[] {
-    const all: Piece[] = [];
-    for (const piece of pieces) {
-        const last = all[all.length - 1];
-        if (typeof piece === "string" && typeof last === "string") {
-            all[all.length - 1] = last + piece;
-        } else {
-            all.push(piece);
-        }
-    }
-    return all;
+// One piece a span. Text alone needs no element where a line breaks in it at its blanks only.
+export function seenSpan(span: Span, settings: Settings): Piece {
+    const pieces = seenPieces(span, settings);
+    const [first] = pieces;
+    const isText = "text" in span || (pieces.length === 1 && typeof first === "string" && !/[/·]/.test(first));
+    return isText && first !== undefined ? first : element("span", { class: classOf(span) }, ...joined(pieces));
 }
 
 // The same as a screen reader says it; for labels and announcements.
 export function speech(spans: Span[], settings: Settings): string {
     const told = spans.filter((span) => !("text" in span) || span.text !== " ");
     const said = told.map((span, at) => {
-        return `${isFactor(span, told[at - 1]) ? "times " : ""}${speechOf(span, settings)}`;
+        return `${isFactor(span, told[at - 1]) ? "times " : ""}${spokenSpan(span, settings)}`;
     });
     const line = said.reduce((before, next, at) => `${before}${isWritten(told[at - 1], told[at]!) ? "" : " "}${next}`, "");
     return line.replace(/\s+/g, " ").replace(/ ([.,;:?)])/g, "$1").replaceAll("( ", "(").trim();
@@ -111,151 +190,4 @@ function isFactor(span: Span, before: Span | undefined): boolean {
         return false;
     }
     return "text" in span ? "number" in before && span.text.startsWith("(") : "quantity" in span && "fraction" in before;
-}
-
-function typesetSpan(span: Span, settings: Settings): Piece {
-    if (isSaidAsSeen(span, settings)) {
-        return seenSpan(span, settings);
-    }
-    const visible = element("span", { "aria-hidden": "true" }, ...seenPieces(span, settings));
-    // The blank in front keeps it off what stands before, and no full stop off what it ends.
-    return element("span", { class: classOf(span) }, visible, spoken(` ${speechOf(span, settings)}`));
-}
-
-function isSaidAsSeen(span: Span, settings: Settings): boolean {
-    return "name" in span || ("text" in span && speechOf(span, settings) === span.text) || ("number" in span && !span.number.includes("e"));
-}
-
-// One piece a span. Text alone needs no element where a line breaks in it at its blanks only.
-function seenSpan(span: Span, settings: Settings): Piece {
-    const pieces = seenPieces(span, settings);
-    const [first] = pieces;
-    const isText = "text" in span || (pieces.length === 1 && typeof first === "string" && !/[/·]/.test(first));
-    return isText && first !== undefined ? first : element("span", { class: classOf(span) }, ...joined(pieces));
-}
-
-// A sign begins a line rather than ends one.
-export function bound(text: string): string {
-    return text.replace(/ ([=+→×−]) /g, " $1\u00A0");
-}
-
-function seenPieces(span: Span, settings: Settings): Piece[] {
-    if ("text" in span) {
-        return [bound(span.text)];
-    }
-    if ("name" in span) {
-        return [nameOf(span, settings)];
-    }
-    if ("formula" in span) {
-        return formulaPieces(span.formula);
-    }
-    if ("ion" in span) {
-        return [...formulaPieces(span.ion), element("sup", {}, signed(span.charge))];
-    }
-    if ("quantity" in span) {
-        const index = span.index === undefined ? [] : [element("sub", {}, span.index)];
-        const of = span.of === undefined ? [] : ["(", ...formulaPieces(span.of), ")"];
-        return [element("var", {}, span.quantity), ...index, ...of];
-    }
-    if ("number" in span) {
-        const [digits = "", exponent] = localNumber(span.number, settings).split("e");
-        return exponent === undefined ? [digits] : [`${digits}${thin}×${thin}10`, element("sup", {}, signed(exponent))];
-    }
-    if ("unit" in span) {
-        return unitPieces(localUnit(span.unit, settings));
-    }
-    const [over, under] = span.fraction;
-    return [
-        element("span", { class: "stacked" }, element("span", { class: "over" }, seenOf(over, settings)), element("span", { class: "under" }, seenOf(under, settings))),
-    ];
-}
-
-function classOf(span: Span): string {
-    return Object.keys(span)[0]!;
-}
-
-function speechOf(span: Span, settings: Settings): string {
-    if ("text" in span) {
-        return saidOf(span.text);
-    }
-    if ("name" in span) {
-        return nameOf(span, settings);
-    }
-    if ("formula" in span) {
-        return spokenFormula(span.formula);
-    }
-    if ("ion" in span) {
-        return `${spokenFormula(span.ion)} ${spokenCharge(span.charge)}`;
-    }
-    if ("quantity" in span) {
-        const index = span.index === undefined ? "" : ` ${span.index}`;
-        return `${span.quantity}${index}${span.of === undefined ? "" : ` of ${spokenFormula(span.of)}`}`;
-    }
-    if ("number" in span) {
-        const [digits = "", exponent = ""] = localNumber(span.number, settings).split("e");
-        return exponent === "" ? digits : `${digits} times 10 to the ${exponent.replace("-", "minus ")}`;
-    }
-    if ("unit" in span) {
-        return spokenUnit(localUnit(span.unit, settings));
-    }
-    const [over, under] = span.fraction.map((part) => speech(part, settings));
-    return `${over}${isSum(span.fraction[0]) ? ", all" : ""} over ${under}`;
-}
-
-// Of which the last number alone would be heard as what is divided.
-function isSum(spans: Span[]): boolean {
-    return spans.some((span) => "text" in span && /[+−]/.test(span.text));
-}
-
-const saidSigns: [string, string][] = [
-    ["= ?", " is to be found "],
-    ["=", " equals "],
-    ["→", " gives "],
-    ["+", " plus "],
-    ["×", " times "],
-    ["−", " minus "],
-    ["/", " over "],
-];
-
-function saidOf(text: string): string {
-    return saidSigns.reduce((said, [sign, word]) => said.replaceAll(sign, word), text);
-}
-
-// Digits behind a letter or a bracket are subscripts; those at the front of a part count it.
-export function formulaPieces(formula: string): Piece[] {
-    return shifted(formula.replaceAll(".", "·"), /(.*?[A-Za-z)\]])(\d+)|.+/gs, "sub");
-}
-
-// The text in front of each match's second group as it stands, that group as a subscript or superscript.
-function shifted(text: string, pattern: RegExp, tag: "sub" | "sup"): Piece[] {
-    return [...text.matchAll(pattern)].flatMap(([whole, level, behind]) =>
-        level === undefined || behind === undefined ? [whole] : [level, element(tag, {}, signed(behind))],
-    );
-}
-
-// "H2SO4" as it is said, "H 2 S O 4".
-export function spokenFormula(formula: string): string {
-    return formula
-        .replace(/[()[\]]/g, " bracket ")
-        .replaceAll(".", " dot ")
-        .replace(/([A-Z][a-z]?|\d+)/g, " $1 ")
-        .replace(/([A-Z])([a-z])/g, "$1 $2")
-        .replace(/\s+/g, " ")
-        .trim();
-}
-
-function spokenCharge(charge: string): string {
-    return charge.replace("+", " plus").replace("-", " minus").trim();
-}
-
-function signed(text: string): string {
-    return text.replace("-", "−");
-}
-
-function nameOf(span: { name: string; american?: string }, settings: Settings): string {
-    return settings.names === "american" && span.american !== undefined ? span.american : span.name;
-}
-
-function unitPieces(unit: string): Piece[] {
-    return shifted(unit.replaceAll(" ", thin), /(.*?[A-Za-z])(-?\d)|.+/gs, "sup");
 }

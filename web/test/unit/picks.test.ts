@@ -3,7 +3,7 @@ import { test } from "node:test";
 import { addressOf, routeOf } from "../../src/address";
 import { countOf, entriesOf, listOf, oneByOne, readList } from "../../src/shared/exercise-list";
 import { type Pick, picked, withCounts } from "../../src/sheet/picks";
-import { usualSheet } from "../../src/sheet/address";
+import { usualSheet } from "../../src/sheet/sheet";
 
 // "titration@5 dilution:1@1", spelt out one by one.
 function spelt(list: string): string {

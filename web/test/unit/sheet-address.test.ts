@@ -2,7 +2,7 @@ import assert from "node:assert/strict";
 import { test } from "node:test";
 import { addressOf, routeOf } from "../../src/address";
 import { listOf } from "../../src/shared/exercise-list";
-import { exercisesOf, papersOf, usualSheet } from "../../src/sheet/address";
+import { exercisesOf, papersOf, usualSheet } from "../../src/sheet/sheet";
 import type { SheetRoute } from "../../src/types";
 
 const sheet: SheetRoute = { ...usualSheet, paper: 4821 };

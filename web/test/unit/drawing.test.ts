@@ -1,6 +1,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { burette, heightOf, widthsByArea } from "../../src/practice/drawing-levels";
+import { widthsByArea } from "../../src/practice/drawing-beakers";
+import { burette, heightOf } from "../../src/practice/drawing-burette";
 
 test("a burette reads downwards, each millilitre as far from the next as from the one before", () => {
     assert.equal(heightOf(0), burette.at0);

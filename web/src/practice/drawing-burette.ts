@@ -1,16 +1,16 @@
-// What stands on the bench, as shapes: the burette over the flask, a beaker. Text in them repeats what
-// the labels beside them say, so they are for the eye alone.
+// The burette over the flask, as shapes. Text in them repeats what the labels beside them say, so they are for
+// the eye alone.
 import { svg } from "../shared/dom";
-import { burette, heightOf } from "./drawing-levels";
-import type { Settings } from "../types";
 import { localNumber, plainUnit } from "../text/units";
+import type { Settings } from "../types";
 
-// Width of a beaker that holds the larger volume, and how high the liquid stands in it.
-const beakerWidth = 68;
-const beakerHeight = 74;
-const filled = 0.78;
+// A burette of 50 mL as it is drawn: its marks from 0 at the top down to 50.
+export const burette = { full: 50, at0: 22, perMillilitre: 2.5 };
 
-const ground = 80; // on which both beakers stand
+// The lower edge of the meniscus: 0 -> 22, 50 -> 147. A reading that no such burette has gives none.
+export function heightOf(reading: number): number | null {
+    return reading >= 0 && reading <= burette.full ? burette.at0 + reading * burette.perMillilitre : null;
+}
 
 // svg
 //   g.burette   liquid, meniscus, glass, marks with their numbers, the reading
@@ -68,19 +68,4 @@ function flaskShapes(): SVGElement[] {
         svg("path", { d: "M18.5 226 H53.5 L66 244 Q67 249 62 249 H10 Q5 249 6 244 Z", class: "liquid weak" }),
         svg("path", { d: "M28 200 V214 L6 244 Q5 249 10 249 H62 Q67 249 66 244 L44 214 V200 M25 200 H47", class: "glass" }),
     ];
-}
-
-// A beaker of the usual shape, `width` times as wide and as high as the largest.
-export function beaker(width: number, strength: "strong" | "weak"): SVGElement {
-    const corner = 5 * width;
-    const [left, right] = [1 + corner, 1 + corner + beakerWidth * width];
-    const [rim, surface] = [ground - beakerHeight * width, ground - beakerHeight * filled * width];
-    const bottom = `V${ground - corner} Q${left} ${ground} ${left + corner} ${ground} H${right - corner} Q${right} ${ground} ${right} ${ground - corner}`;
-    return svg(
-        "svg",
-        { viewBox: "0 0 80 82", "aria-hidden": "true", class: "shape" },
-        svg("path", { d: `M${left} ${surface} ${bottom} V${surface} Z`, class: `liquid ${strength}` }),
-        svg("path", { d: `M${left} ${surface} H${right}`, class: "glass fine" }),
-        svg("path", { d: `M${left - corner} ${rim} Q${left} ${rim} ${left} ${rim + corner} ${bottom} V${rim + corner} Q${right} ${rim} ${right + corner} ${rim}`, class: "glass" }),
-    );
 }
