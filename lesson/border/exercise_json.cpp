@@ -1,0 +1,249 @@
+#include "lesson/border/exercise_json.hpp"
+
+#include <string_view>
+#include <utility>
+
+#include "lesson/kinds/list.hpp"
+#include "lesson/numbers/decimal.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+std::string_view nameOf(Form form)
+{
+    switch (form) {
+    case Form::number:
+        return "number";
+    case Form::formula:
+        return "formula";
+    case Form::ion:
+        return "ion";
+    case Form::equation:
+        return "equation";
+    case Form::solubility:
+        break;
+    }
+    return "solubility";
+}
+
+std::string_view nameOf(Verdict verdict)
+{
+    switch (verdict) {
+    case Verdict::correct:
+        return "correct";
+    case Verdict::figures:
+        return "figures";
+    case Verdict::slip:
+        return "slip";
+    case Verdict::powerOfTen:
+        return "power-of-ten";
+    case Verdict::close:
+        return "close";
+    case Verdict::wrong:
+        return "wrong";
+    case Verdict::unreadable:
+        break;
+    }
+    return "unreadable";
+}
+
+void addUnlessEmpty(Json& json, std::string_view name, std::string_view value)
+{
+    if (!value.empty()) {
+        json.member(name, value);
+    }
+}
+
+void add(Json& json, const Spans& spans);
+
+void addMembers(Json& json, const Span& span)
+{
+    switch (span.kind) {
+    case Span::Kind::text:
+        json.member("text", span.text);
+        break;
+    case Span::Kind::formula:
+        json.member("formula", span.text);
+        break;
+    case Span::Kind::ion:
+        json.member("ion", span.text);
+        json.member("charge", span.detail);
+        break;
+    case Span::Kind::quantity:
+        json.member("quantity", span.text);
+        addUnlessEmpty(json, "of", span.detail);
+        addUnlessEmpty(json, "index", span.index);
+        break;
+    case Span::Kind::number:
+        json.member("number", span.text);
+        break;
+    case Span::Kind::unit:
+        json.member("unit", span.text);
+        break;
+    case Span::Kind::fraction:
+        json.key("fraction").elements([&] {
+            add(json, span.over);
+            add(json, span.under);
+        });
+        break;
+    case Span::Kind::name:
+        json.member("name", span.text);
+        addUnlessEmpty(json, "american", span.detail);
+        break;
+    }
+}
+
+void add(Json& json, const Spans& spans)
+{
+    json.array(spans, [&](const Span& span) { json.object([&] { addMembers(json, span); }); });
+}
+
+void add(Json& json, const Ask& ask)
+{
+    json.object([&] {
+        json.member("form", nameOf(ask.form));
+        if (ask.form == Form::number) {
+            json.member("quantity", ask.quantity);
+            json.member("of", ask.of);
+            json.member("unit", ask.unit);
+            json.member("figures", ask.figures);
+        }
+        if (!ask.choices.empty()) {
+            json.key("choices").array(ask.choices,
+                                      [&](const std::string& choice) { json.text(choice); });
+        }
+    });
+}
+
+void addMembers(Json& json, const GivenQuantity& given)
+{
+    json.member("quantity", given.quantity);
+    json.member("of", given.of);
+    json.member("value", given.value);
+    json.member("unit", given.unit);
+    json.member("shown", given.shown);
+    json.member("shownUnit", given.shownUnit);
+    if (!given.titres.empty()) {
+        json.key("titres").array(given.titres, [&](int hundredths) {
+            json.number(plainText({hundredths, -2}));
+        });
+    }
+}
+
+void addMembers(Json& json, const GivenIon& given)
+{
+    json.member("ion", given.ion->formula);
+    json.member("charge", given.ion->charge);
+    json.member("name", given.ion->name);
+}
+
+void addMembers(Json& json, const GivenCompound& given)
+{
+    json.member("compound", given.formula);
+    json.member("name", given.name);
+}
+
+void add(Json& json, const Given& given)
+{
+    json.object([&] { std::visit([&](const auto& one) { addMembers(json, one); }, given); });
+}
+
+using Species = std::pair<int, std::string>;
+
+void add(Json& json, const std::vector<Species>& side)
+{
+    json.array(side, [&](const Species& species) {
+        json.elements([&] {
+            json.number(species.first);
+            json.text(species.second);
+        });
+    });
+}
+
+void add(Json& json, const Equation& equation)
+{
+    json.object([&] {
+        add(json.key("left"), equation.left);
+        add(json.key("right"), equation.right);
+    });
+}
+
+void add(Json& json, const Step& step)
+{
+    json.object([&] {
+        add(json.key("say"), step.say);
+        add(json.key("math"), step.math);
+        add(json.key("hint"), step.hint);
+    });
+}
+
+void add(Json& json, const Slip& slip)
+{
+    json.object([&] {
+        json.member("text", slip.text);
+        if (slip.value) {
+            json.member("value", *slip.value);
+        }
+        json.member("sentence", slip.sentence);
+    });
+}
+
+void addKey(Json& json, const Exercise& exercise)
+{
+    json.key("key").object([&] {
+        json.member("text", exercise.key);
+        if (const auto* const number = std::get_if<NumberAnswer>(&exercise.answer)) {
+            json.member("value", number->value);
+        }
+    });
+}
+
+void addPlace(Json& json, Place place)
+{
+    json.member("paper", static_cast<int>(place.paper));
+    json.member("number", static_cast<int>(place.number));
+    json.member("kind", rowOf(place.kind).slug);
+    json.member("level", place.level);
+}
+
+template <typename Table>
+void addEach(Json& json, std::string_view name, const Table& table)
+{
+    json.key(name).array(table, [&](const auto& element) { add(json, element); });
+}
+
+} // namespace
+
+std::string exerciseJson(const Exercise& exercise)
+{
+    Json json;
+    json.object([&] {
+        json.member("version", static_cast<int>(lessonVersion));
+        addPlace(json, exercise.place);
+        add(json.key("prompt"), exercise.prompt);
+        add(json.key("ask"), exercise.ask);
+        addEach(json, "given", exercise.given);
+        if (exercise.equation) {
+            add(json.key("equation"), *exercise.equation);
+        }
+        addKey(json, exercise);
+        addEach(json, "solution", exercise.solution);
+        addEach(json, "slips", exercise.slips);
+    });
+    return json.take();
+}
+
+std::string markJson(const Mark& mark)
+{
+    Json json;
+    json.object([&] {
+        json.member("verdict", nameOf(mark.verdict));
+        json.member("sentence", mark.sentence);
+    });
+    return json.take();
+}
+
+} // namespace lesson

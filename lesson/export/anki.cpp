@@ -1,0 +1,76 @@
+#include "lesson/export/anki.hpp"
+
+#include <set>
+#include <string_view>
+
+#include "lesson/export/html.hpp"
+#include "lesson/kinds/list.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+bool fitsCard(Kind kind)
+{
+    return kind == Kind::compoundFormula || kind == Kind::ionFormula || kind == Kind::solubility;
+}
+
+std::string backOf(const Exercise& exercise)
+{
+    std::string html;
+    addAll(html, {"<b>", htmlOfKey(exercise), "</b>"});
+    for (const Step& step : exercise.solution) {
+        addAll(html, {"<br>", htmlOf(step.say), " ", htmlOf(step.math)});
+    }
+    return html;
+}
+
+void addCard(std::string& cards, const Exercise& exercise, std::string_view front)
+{
+    const Place& place = exercise.place;
+    addAll(cards, {front, "\t", backOf(exercise), "\t", rowOf(place.kind).slug, " level-",
+                   std::to_string(place.level), " paper-", std::to_string(place.paper), "\n"});
+}
+
+// Anki passes over lines that begin with this sign and set nothing.
+void addRemark(std::string& header, std::size_t count, std::string_view one, std::string_view more)
+{
+    if (count > 0) {
+        addAll(header, {"# ", std::to_string(count), count == 1 ? one : more, "\n"});
+    }
+}
+
+} // namespace
+
+std::string ankiCards(const std::vector<Place>& places)
+{
+    std::string cards;
+    std::set<std::string> fronts;
+    std::size_t others = 0;
+    for (const Place& place : places) {
+        if (!fitsCard(place.kind)) {
+            ++others;
+            continue;
+        }
+        const Exercise exercise = makeExercise(place);
+        const auto [front, isNew] = fronts.insert(htmlOf(exercise.prompt));
+        if (isNew) {
+            addCard(cards, exercise, *front);
+        }
+    }
+    if (cards.empty()) {
+        return cards;
+    }
+    std::string text = "#separator:Tab\n#html:true\n#notetype:Basic\n"
+                       "#deck:Chemical calculations practice\n#tags column:3\n";
+    addRemark(text, others, " calculation or equation is left out, since it fits no card.",
+              " calculations and equations are left out, since they fit no card.");
+    addRemark(text, places.size() - others - fronts.size(),
+              " exercise is left out that an earlier card asks already.",
+              " exercises are left out that earlier cards ask already.");
+    return text + cards;
+}
+
+} // namespace lesson

@@ -1,0 +1,183 @@
+#include <algorithm>
+#include <initializer_list>
+#include <iterator>
+#include <utility>
+#include <variant>
+
+#include "lesson/export/expected.hpp"
+#include "lesson/export/spelt.hpp"
+#include "lesson/marking/spellings.hpp"
+#include "lesson/reading/typed.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+using Texts = std::vector<std::string>;
+
+constexpr std::string_view noneWords[] = {
+    "none",           "no",
+    "nothing",        "no precipitate",
+    "no ppt",         "no solid",
+    "no reaction",    "no precipitate forms",
+    "nothing forms",  "there is no precipitate",
+    "there is none",  "no precipitate is formed",
+    "none forms",     "nothing precipitates",
+    "none is formed", "-",
+};
+
+bool isNone(const Exercise& exercise)
+{
+    const auto* const answer = std::get_if<PrecipitateAnswer>(&exercise.answer);
+    return answer != nullptr && answer->cation == nullptr;
+}
+
+// The key, and its formula in other orders: "CH3COO^-", "CH3CO2^-".
+Texts rightFormulas(std::string_view key)
+{
+    const std::size_t place = std::min(key.find('^'), key.size());
+    Texts texts;
+    for (const std::string& spelling : spellingsOf(key.substr(0, place))) {
+        texts.push_back(spelling + std::string(key.substr(place)));
+    }
+    return texts;
+}
+
+// What is said of a solid may be said of a precipitate.
+void addStates(Texts& texts)
+{
+    const std::size_t count = texts.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        texts.push_back(texts[i] + "(s)");
+        texts.push_back(texts[i] + " (s)");
+    }
+}
+
+void addAll(Texts& texts, const Texts& more)
+{
+    texts.insert(texts.end(), more.begin(), more.end());
+}
+
+Texts rightTexts(const Exercise& exercise)
+{
+    if (isNone(exercise)) {
+        return {std::begin(noneWords), std::end(noneWords)};
+    }
+    Texts texts;
+    for (const std::string& right : rightFormulas(exercise.key)) {
+        addAll(texts, usualSpellings(right));
+    }
+    addAll(texts, rareSpellings(exercise.key));
+    if (exercise.ask.form == Form::solubility) {
+        addStates(texts);
+    }
+    return texts;
+}
+
+// For zeros that the marking cannot read.
+constexpr std::string_view zeroTyped = "There is a zero where the letter O should be.";
+
+std::string inCapitals(std::string text)
+{
+    for (char& c : text) {
+        c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    }
+    return text;
+}
+
+// Each O of the key as a zero, or all of them: "SO4^2-" -> "S04^2-", "S042-".
+Texts withZeros(std::string_view key)
+{
+    Texts texts;
+    std::string all(key);
+    for (std::size_t i = key.find('O'); i != std::string_view::npos; i = key.find('O', i + 1)) {
+        std::string one(key);
+        one[i] = all[i] = '0';
+        texts.push_back(std::move(one));
+    }
+    texts.push_back(std::move(all));
+    for (std::size_t i = texts.size(); i > 0; --i) {
+        std::string plain = texts[i - 1];
+        plain.erase(std::remove(plain.begin(), plain.end(), '^'), plain.end());
+        texts.push_back(std::move(plain));
+    }
+    return texts;
+}
+
+// What shows a mistake, besides the slips: a charge below, capitals, and none where there is a
+// precipitate.
+Texts wrongTexts(const Exercise& exercise)
+{
+    Texts texts;
+    for (const Slip& slip : exercise.slips) {
+        const bool hasSeveralCharges = slip.text.find('^') != slip.text.rfind('^');
+        addAll(texts, hasSeveralCharges ? Texts{slip.text} : usualSpellings(slip.text));
+    }
+    addAll(texts, withLoweredCharge(exercise.key));
+    if (!isNone(exercise)) {
+        texts.push_back(lowerCase(exercise.key));
+        addAll(texts, usualSpellings(inCapitals(exercise.key)));
+        texts.emplace_back(noneWords[0]);
+    }
+    return texts;
+}
+
+class Answers
+{
+public:
+    explicit Answers(const Exercise& asked) : exercise(asked) {}
+
+    // Those of the texts of which the marking says what is wanted, each once.
+    void add(const Texts& texts, std::initializer_list<Verdict> wanted)
+    {
+        for (const std::string& text : texts) {
+            Mark mark = markAnswer(exercise, text);
+            const bool isWanted =
+                std::find(wanted.begin(), wanted.end(), mark.verdict) != wanted.end();
+            if (isWanted && !isThere(text)) {
+                expected.push_back({percentFor(mark.verdict), text, "", std::move(mark.sentence)});
+            }
+        }
+    }
+
+    // Wrong ones that the marking does not know.
+    void add(const Texts& texts, std::string_view sentence)
+    {
+        for (const std::string& text : texts) {
+            if (!isThere(text)) {
+                expected.push_back({0, text, "", std::string(sentence)});
+            }
+        }
+    }
+
+    std::vector<Expected> expected;
+
+private:
+    bool isThere(const std::string& text) const
+    {
+        return std::any_of(expected.begin(), expected.end(),
+                           [&text](const Expected& one) { return one.text == text; });
+    }
+
+    const Exercise& exercise;
+};
+
+} // namespace
+
+// The marking tells what each text gets, so that nothing here can contradict it.
+std::vector<Expected> expectedTexts(const Exercise& exercise)
+{
+    Answers answers(exercise);
+    answers.add(rightTexts(exercise), {Verdict::correct});
+    answers.add(wrongTexts(exercise), {Verdict::slip, Verdict::wrong});
+    if (!isNone(exercise) && exercise.key.find('O') != std::string::npos) {
+        const Texts zeros = withZeros(exercise.key);
+        answers.add(zeros, {Verdict::slip});
+        answers.add(zeros, zeroTyped);
+    }
+    return std::move(answers.expected);
+}
+
+} // namespace lesson

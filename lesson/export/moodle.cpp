@@ -1,0 +1,259 @@
+#include "lesson/export/moodle.hpp"
+
+#include <string_view>
+#include <utility>
+
+#include "lesson/chemistry/reaction.hpp"
+#include "lesson/export/expected.hpp"
+#include "lesson/export/html.hpp"
+#include "lesson/export/units.hpp"
+#include "lesson/kinds/list.hpp"
+#include "lesson/numbers/decimal.hpp"
+#include "lesson/reading/scan.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+// The elements stand in the order in which Moodle writes them itself.
+
+// HTML goes in as it is: it never holds "]]>", since it has a reference for each ">" of a text.
+void addHtml(std::string& xml, std::string_view tag, std::string_view html)
+{
+    addAll(xml, {"<", tag, " format=\"html\"><text>"});
+    if (!html.empty()) {
+        addAll(xml, {"<![CDATA[", html, "]]>"});
+    }
+    addAll(xml, {"</text></", tag, ">\n"});
+}
+
+// ------------------------------------------------------------------------------ its four types
+
+enum class Type { numerical, shortAnswer, multipleChoice, cloze };
+
+struct TypeRow {
+    std::string_view name;
+    std::string_view advice; // what to type, below the question
+};
+
+constexpr TypeRow typeRows[] = {
+    {"numerical", ""},
+    {"shortanswer", "Type subscripts as ordinary digits, such as H2O."},
+    {"multichoice", ""},
+    {"cloze", "Type the smallest whole numbers, and 1 where a formula needs none."},
+};
+
+Type typeOf(const Ask& ask)
+{
+    if (ask.form == Form::number) {
+        return Type::numerical;
+    }
+    if (ask.form == Form::equation) {
+        return Type::cloze;
+    }
+    return ask.choices.empty() ? Type::shortAnswer : Type::multipleChoice;
+}
+
+const TypeRow& rowOf(Type type)
+{
+    return typeRows[static_cast<int>(type)];
+}
+
+std::string adviceFor(const Ask& ask)
+{
+    if (ask.form == Form::number) {
+        return "The number alone, such as 1.23e-4, to " + std::to_string(ask.figures) +
+               " significant figures.";
+    }
+    const std::string advice(rowOf(typeOf(ask)).advice);
+    return ask.form == Form::ion ? advice + " The charge stands behind a ^, such as ClO4^-."
+                                 : advice;
+}
+
+// --------------------------------------------------------------------------------- the question
+
+// A gap knows nothing of the other ones, so that a sentence about one number has to leave open what
+// they are. What would end it early (braces, ~, #) is in no sentence.
+std::string gap(int coefficient)
+{
+    const std::string twice = std::to_string(2 * coefficient);
+    std::string text = "{1:NUMERICAL:=" + std::to_string(coefficient) + ":0";
+    addAll(text, {"~%0%", twice, ":0#Are all doubled? Use the smallest whole numbers."});
+    if (coefficient % 2 != 0) {
+        const std::string half = std::to_string(coefficient / 2) + ".5";
+        addAll(text, {"~%0%", half, ":0#Use whole numbers."});
+    }
+    return text + "}";
+}
+
+std::string sideOf(const std::vector<std::pair<int, std::string>>& side)
+{
+    std::string html;
+    for (const auto& [coefficient, species] : side) {
+        addAll(html,
+               {html.empty() ? "" : " + ", gap(coefficient), " ", htmlOf({formula(species)})});
+    }
+    return html;
+}
+
+std::string gapsOf(const Equation& equation)
+{
+    return "<p>" + sideOf(equation.left) + " → " + sideOf(equation.right) + "</p>";
+}
+
+std::string questionOf(const Exercise& exercise)
+{
+    std::string html;
+    addAll(html, {"<p>", htmlOf(exercise.prompt), "</p>"});
+    if (exercise.ask.form == Form::equation) {
+        html += gapsOf(*exercise.equation);
+    }
+    const std::string advice = adviceFor(exercise.ask);
+    if (!advice.empty()) {
+        addAll(html, {"<p>", advice, "</p>"});
+    }
+    return html;
+}
+
+std::string htmlOfStep(const Step& step)
+{
+    return htmlOf(step.say) + (step.math.empty() ? "" : "<br>") + htmlOf(step.math);
+}
+
+std::string solutionOf(const Exercise& exercise)
+{
+    std::string html = "<ol>";
+    for (const Step& step : exercise.solution) {
+        addAll(html, {"<li>", htmlOfStep(step), "</li>"});
+    }
+    return html + "</ol>";
+}
+
+// The number or the equation that is asked for, as the step that arrives at it shows it. What else
+// is asked for, the last step alone tells.
+std::string htmlOfResult(const Exercise& exercise)
+{
+    if (const auto* const asked = std::get_if<NumberAnswer>(&exercise.answer)) {
+        return htmlOf(measure(shown(asked->value, exercise.ask.figures), exercise.ask.unit));
+    }
+    if (const auto* const asked = std::get_if<EquationAnswer>(&exercise.answer)) {
+        return htmlOf(spansOf(neutralisationOf(*asked->acid, asked->base)));
+    }
+    return {};
+}
+
+// Each is shown behind a wrong try, and there is one try more than hints: first what helps without
+// giving anything away, then the solution up to the step that arrives at the answer.
+std::vector<std::string> hintsOf(const Exercise& exercise)
+{
+    const std::vector<Step>& steps = exercise.solution;
+    const std::string result = htmlOfResult(exercise);
+    std::vector<std::string> hints;
+    if (!steps.front().hint.empty()) {
+        hints.push_back(htmlOf(steps.front().hint));
+    }
+    for (std::size_t i = 0; i + 1 < steps.size(); ++i) {
+        if (!result.empty() && endsWith(htmlOf(steps[i].math), result)) {
+            break;
+        }
+        hints.push_back(htmlOfStep(steps[i]));
+    }
+    return hints;
+}
+
+void addHints(std::string& xml, const Exercise& exercise)
+{
+    // Of several gaps it is told how many are right, and the wrong ones are emptied.
+    const bool hasGaps = typeOf(exercise.ask) == Type::cloze;
+    for (const std::string& hint : hintsOf(exercise)) {
+        addAll(xml, {"<hint format=\"html\"><text><![CDATA[", hint, "]]></text>\n",
+                     hasGaps ? "<shownumcorrect/>\n<clearwrong/>\n" : "", "</hint>\n"});
+    }
+}
+
+// ---------------------------------------------------------------------------------- the answers
+
+void addAnswer(std::string& xml, const Expected& expected, std::string_view format)
+{
+    addAll(xml, {"<answer fraction=\"", std::to_string(expected.percent), "\" format=\"", format,
+                 "\"><text>", escaped(expected.text), "</text>\n"});
+    addHtml(xml, "feedback", escaped(expected.sentence));
+    if (!expected.tolerance.empty()) {
+        addAll(xml, {"<tolerance>", expected.tolerance, "</tolerance>\n"});
+    }
+    xml += "</answer>\n";
+}
+
+void addUnits(std::string& xml, const Exercise& exercise)
+{
+    xml += "<units>\n";
+    for (const UnitRow& row : unitsBehind(exercise)) {
+        addAll(xml, {"<unit><multiplier>", row.times, "</multiplier><unit_name>", row.name,
+                     "</unit_name></unit>\n"});
+    }
+    xml += "</units>\n";
+    // Neither graded nor asked for: typed behind the number or not.
+    xml += "<unitgradingtype>0</unitgradingtype>\n<unitpenalty>0</unitpenalty>\n"
+           "<showunits>0</showunits>\n<unitsleft>0</unitsleft>\n";
+}
+
+void addAnswers(std::string& xml, const Exercise& exercise)
+{
+    const Type type = typeOf(exercise.ask);
+    if (type == Type::shortAnswer) {
+        // Capitals matter in formulas, and in "none" they do not.
+        xml += exercise.key == "none" ? "<usecase>0</usecase>\n" : "<usecase>1</usecase>\n";
+    } else if (type == Type::multipleChoice) {
+        xml += "<single>true</single>\n<shuffleanswers>false</shuffleanswers>\n"
+               "<answernumbering>none</answernumbering>\n";
+    }
+    for (const Expected& expected : expectedAnswers(exercise)) {
+        addAnswer(xml, expected, type == Type::multipleChoice ? "html" : "moodle_auto_format");
+    }
+    if (type == Type::numerical) {
+        addUnits(xml, exercise);
+    }
+}
+
+// ------------------------------------------------------------------------------------ the file
+
+void addQuestion(std::string& xml, const Place& place)
+{
+    const Exercise exercise = makeExercise(place);
+    const Type type = typeOf(exercise.ask);
+    const std::string_view slug = rowOf(place.kind).slug;
+    const std::string paper = std::to_string(place.paper);
+    const std::string level = std::to_string(place.level);
+    const std::string number = std::to_string(place.number);
+    addAll(xml, {"<question type=\"", rowOf(type).name, "\">\n<name><text>Paper ", paper, ", ",
+                 slug, ", level ", level, ", number ", number, "</text></name>\n"});
+    addHtml(xml, "questiontext", questionOf(exercise));
+    addHtml(xml, "generalfeedback", solutionOf(exercise));
+    if (type != Type::cloze) { // whose grade is that of its gaps
+        xml += "<defaultgrade>1</defaultgrade>\n";
+    }
+    addAll(xml, {"<penalty>0.3333333</penalty>\n<hidden>0</hidden>\n<idnumber>", paper, "-", slug,
+                 "-", level, "-", number, "</idnumber>\n"});
+    addAnswers(xml, exercise);
+    addHints(xml, exercise);
+    addAll(xml, {"<tags>\n<tag><text>", slug, "</text></tag>\n<tag><text>level ", level,
+                 "</text></tag>\n</tags>\n</question>\n"});
+}
+
+} // namespace
+
+std::string moodleXml(const std::vector<Place>& places)
+{
+    std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<quiz>\n"
+                      "<question type=\"category\">\n<category>";
+    addAll(xml, {"<text>top/Chemical calculations practice/Paper ",
+                 std::to_string(places.front().paper), "</text></category>\n</question>\n"});
+    for (const Place& place : places) {
+        addQuestion(xml, place);
+    }
+    return xml + "</quiz>\n";
+}
+
+} // namespace lesson

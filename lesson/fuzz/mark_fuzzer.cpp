@@ -1,0 +1,47 @@
+// Any text as an answer of one form, which KINDS names by the exercises that ask for it: it gets a
+// verdict and a sentence, and blanks around it change neither. The first byte of an input chooses
+// kind and level, the second one the paper, the others are the answer up to the first NUL.
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+
+#include "lesson/fuzz/support.hpp"
+#include "lesson/lesson.h"
+
+namespace
+{
+
+constexpr const char* kinds[] = {KINDS};
+
+constexpr std::size_t longestSentence = 1000; // In bytes: what it quotes is cut.
+
+const std::set<std::string>& verdicts()
+{
+    static const std::set<std::string> all = {"correct", "figures", "slip",      "power-of-ten",
+                                              "close",   "wrong",   "unreadable"};
+    return all;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    if (size < 2) {
+        return 0;
+    }
+    const char* const kind = kinds[data[0] % std::size(kinds)];
+    const unsigned paper = data[1] + 1U;
+    std::string typed = textOf(data + 2, size - 2);
+    typed.erase(std::min(typed.find('\0'), typed.size()));
+
+    const nlohmann::json mark = parsed(lesson_mark(paper, 1, kind, typed.c_str()));
+    require(verdicts().count(textIn(mark, "verdict")) == 1, "the verdict is one of seven");
+    require(!textIn(mark, "sentence").empty(), "there is a sentence");
+    require(textIn(mark, "sentence").size() <= longestSentence, "the sentence is no page");
+
+    const std::string amongBlanks = " \t" + typed + "\u2009\u00A0";
+    require(parsed(lesson_mark(paper, 1, kind, amongBlanks.c_str())) == mark,
+            "blanks at the ends do not matter");
+    return 0;
+}

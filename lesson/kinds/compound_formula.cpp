@@ -1,0 +1,287 @@
+#include <cstddef>
+#include <cstdlib>
+#include <numeric>
+#include <string>
+#include <utility>
+
+#include "lesson/chemistry/pairs.hpp"
+#include "lesson/kinds/kinds.hpp"
+#include "lesson/kinds/shared/classified.hpp"
+#include "lesson/kinds/shared/salts.hpp"
+#include "lesson/marking/confusions.hpp"
+#include "lesson/marking/formula.hpp"
+#include "lesson/marking/ions_within.hpp"
+#include "lesson/marking/sentences.hpp"
+#include "lesson/marking/spellings.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+// ---------------------------------------------------------------------------------- the draw
+
+int levelOf(const Pair& pair)
+{
+    if (hasRomanNumeral(*pair.cation)) {
+        return 3;
+    }
+    return pair.cation->isGroup || pair.anion->isGroup ? 2 : 1;
+}
+
+std::string sizes(int cation, int anion)
+{
+    return std::to_string(cation) + ":" + std::to_string(anion);
+}
+
+// The ratio of the ions is drawn first, then their charges, then the pair: else half of the
+// formulas would be of one ion each. A ratio or charges that only rare compounds have come rarely.
+ClassKey classOf(const Pair& pair)
+{
+    const int positive = cationsIn(*pair.cation, *pair.anion);
+    const int negative = anionsIn(*pair.cation, *pair.anion);
+    return {positive * 10 + negative, sizes(pair.cation->charge, -pair.anion->charge),
+            weightOf(pair)};
+}
+
+Classified<Pair> pairsOf(int level)
+{
+    std::vector<Pair> pairs;
+    for (const Pair& pair : pairsForFormulas()) {
+        if (levelOf(pair) == level) {
+            pairs.push_back(pair);
+        }
+    }
+    constexpr int enough = 200; // five or six common compounds
+    return classified(pairs, classOf, enough);
+}
+
+const Classified<Pair>& pairsOfLevel(int level)
+{
+    static const Classified<Pair> levels[] = {pairsOf(1), pairsOf(2), pairsOf(3)};
+    return levels[level - 1];
+}
+
+// ------------------------------------------------------------------------------ the solution
+
+// "2(+3)", "(−2)"
+std::string chargeTerm(int times, int charge)
+{
+    const std::string sign = charge < 0 ? "−" : "+";
+    const std::string inBrackets = "(" + sign + std::to_string(std::abs(charge)) + ")";
+    return times == 1 ? inBrackets : std::to_string(times) + inBrackets;
+}
+
+std::string lastSentence(bool hasBracket, bool repeatsNothing)
+{
+    if (hasBracket) {
+        return std::string(sentences::bracketForGroups);
+    }
+    return repeatsNothing ? "Write the positive ion first, and leave out the charges."
+                          : "Write the positive ion first; small numbers count the ions.";
+}
+
+std::string ionsHint(const IonRow& cation)
+{
+    const std::string charges = hasRomanNumeral(cation)
+                                    ? " A Roman numeral tells the charge of the one in front of it."
+                                    : " What are their charges?";
+    return "The name begins with the positive ion and ends with the negative one." + charges;
+}
+
+std::string lastHint(bool hasBracket)
+{
+    return hasBracket ? "Which number belongs to a whole group of atoms?"
+                      : "Which ion comes first? A number stands behind what it counts.";
+}
+
+std::vector<Step> workedSolution(const IonRow& cation, const IonRow& anion)
+{
+    const int positive = cationsIn(cation, anion);
+    const int negative = anionsIn(cation, anion);
+    const bool isOneEach = positive == 1 && negative == 1;
+    const bool hasBracket = repeatsGroup(cation, anion);
+    return {
+        {line(capitalised(nameOf(cation, anion)), " has these ions.",
+              hasRomanNumeral(cation) ? " The Roman numeral is the charge of the metal ion." : ""),
+         line(spanOf(cation), ", ", spanOf(anion)), line(ionsHint(cation))},
+        {line(isOneEach ? "One of each: the charges cancel."
+                        : "Find the fewest ions whose charges cancel."),
+         line(chargeTerm(positive, cation.charge) + " + " + chargeTerm(negative, anion.charge) +
+              " = 0"),
+         line("A compound has no charge. How many of each ion does that take?")},
+        {line(lastSentence(hasBracket, isOneEach)), line(formula(compoundFormula(cation, anion))),
+         line(lastHint(hasBracket))},
+    };
+}
+
+// --------------------------------------------------------------------------------- the slips
+
+// A part of a formula as a learner may write it.
+struct Part {
+    std::string ion;
+    bool isGroup;
+    int times;
+};
+
+std::string written(const Part& part)
+{
+    if (part.times == 1) {
+        return part.ion;
+    }
+    return (part.isGroup ? "(" + part.ion + ")" : part.ion) + std::to_string(part.times);
+}
+
+// The slips of one exercise, kind by kind.
+class Slips
+{
+public:
+    Slips(Exercise& target, const IonRow& positive, const IonRow& negative)
+        : exercise(target), cation(positive), anion(negative),
+          right(spellingsOf(compoundFormula(positive, negative))),
+          first{std::string(cation.formula), cation.isGroup, cationsIn(cation, anion)},
+          second{std::string(anion.formula), anion.isGroup, anionsIn(cation, anion)}
+    {
+    }
+
+    void addAll()
+    {
+        addRomanNumeral();
+        addBracket();
+        addCharges();
+        addOtherAnions();
+        addOtherCations();
+        addSymbols();
+        addChargesLeftIn();
+        addOxygens();
+    }
+
+private:
+    void add(const Part& one, const Part& other, std::string_view sentence)
+    {
+        addSlip(exercise, right, written(one) + written(other), sentence);
+    }
+
+    void addTimes(int positive, int negative, std::string_view sentence)
+    {
+        add({first.ion, first.isGroup, positive}, {second.ion, second.isGroup, negative}, sentence);
+    }
+
+    void addRomanNumeral()
+    {
+        if (!hasRomanNumeral(cation)) {
+            return;
+        }
+        constexpr int greatest = 7;
+        for (int charge = 1; charge <= greatest; ++charge) {
+            if (hasOtherCharge(cation, charge)) {
+                addCharge(charge, sentences::chargeOfMetal);
+            }
+        }
+        addTimes(cation.charge, 1, sentences::romanNumeral);
+        if (second.times > 1) {
+            addTimes(cation.charge, second.times, sentences::romanNumeral);
+        }
+    }
+
+    // As if the cation had another charge.
+    void addCharge(int charge, std::string_view sentence)
+    {
+        const int common = std::gcd(charge, anion.charge);
+        addTimes(-anion.charge / common, charge / common, sentence);
+    }
+
+    void addBracket()
+    {
+        add({first.ion, false, first.times}, {second.ion, false, second.times},
+            sentences::bracketMissing);
+        if (anion.isGroup && second.times == 1) {
+            addSlip(exercise, right, written(first) + "(" + second.ion + ")",
+                    sentences::bracketNotNeeded);
+        }
+    }
+
+    void addCharges()
+    {
+        if (first.times == 1 && second.times == 1) {
+            addTimes(cation.charge, cation.charge, sentences::simplify);
+            return;
+        }
+        addTimes(1, 1, sentences::chargesDoNotCancel);
+        addTimes(second.times, first.times, sentences::chargesDoNotCancel);
+    }
+
+    void addOtherAnions()
+    {
+        for (const Confusion* const other : confusionsOf(anion)) {
+            const int common = std::gcd(cation.charge, other->charge);
+            add({first.ion, first.isGroup, -other->charge / common},
+                {std::string(other->formula), isGroup(other->formula), cation.charge / common},
+                other->sentence);
+        }
+    }
+
+    void addOtherCations()
+    {
+        for (const Confusion* const other : confusionsOf(cation)) {
+            add({std::string(other->formula), isGroup(other->formula), first.times}, second,
+                other->sentence);
+        }
+    }
+
+    void addSymbols()
+    {
+        for (const std::string_view symbol : wrongSymbolsOf(cation)) {
+            add({std::string(symbol), cation.isGroup && isGroup(symbol), first.times}, second,
+                sentences::checkSymbol(symbol));
+        }
+        for (const std::string_view symbol : wrongSymbolsOf(anion)) {
+            add(first, {std::string(symbol), false, second.times}, sentences::checkSymbol(symbol));
+        }
+    }
+
+    void addChargesLeftIn()
+    {
+        add({first.ion + "^" + chargeText(cation), true, first.times},
+            {second.ion + "^" + chargeText(anion), true, second.times}, sentences::chargesLeftIn);
+    }
+
+    void addOxygens()
+    {
+        for (const int more : {-1, 1}) {
+            const std::string other = withOxygens(anion, more);
+            if (!other.empty()) {
+                add(first, {other, true, second.times}, sentences::oxygens);
+            }
+        }
+    }
+
+    Exercise& exercise;
+    const IonRow& cation;
+    const IonRow& anion;
+    std::vector<std::string> right;
+    Part first;
+    Part second;
+};
+
+} // namespace
+
+Exercise compoundFormulaExercise(const Place& place)
+{
+    const Pair& pair = memberFor(place, pairsOfLevel(place.level));
+    const IonRow& cation = *pair.cation;
+    const IonRow& anion = *pair.anion;
+    Exercise exercise = {};
+    exercise.place = place;
+    exercise.prompt = line("Write the formula of ", nameOf(cation, anion), ".");
+    exercise.ask.form = Form::formula;
+    exercise.given = {GivenIon{&cation}, GivenIon{&anion}};
+    exercise.key = compoundFormula(cation, anion);
+    exercise.answer = FormulaAnswer{&cation, &anion};
+    exercise.solution = workedSolution(cation, anion);
+    Slips(exercise, cation, anion).addAll();
+    return exercise;
+}
+
+} // namespace lesson

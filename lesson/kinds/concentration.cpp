@@ -1,0 +1,193 @@
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "lesson/chemistry/composition.hpp"
+#include "lesson/kinds/concentration_parts.hpp"
+#include "lesson/kinds/kinds.hpp"
+#include "lesson/kinds/molar_mass.hpp"
+#include "lesson/kinds/shared/orders.hpp"
+#include "lesson/kinds/shared/quantities.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+// ---------------------------------------------------------------------------------- the draw
+
+constexpr int figures = 3;
+
+// In mL, volumetric flasks: where the concentration is asked for, and where the mass is.
+constexpr int volumes[] = {50, 100, 200, 250, 500, 1000};
+constexpr int flasks[] = {50, 100, 250, 500, 1000};
+// In 0.0001 mol/L.
+constexpr int concentrations[] = {500, 1000, 2000, 2500, 5000, 10000};
+
+Ratio massOf(const Preparation& drawn, Ratio molarMass)
+{
+    return drawn.concentration * drawn.volume * molarMass;
+}
+
+Ratio concentrationOf(const Preparation& drawn, Ratio molarMass)
+{
+    return drawn.mass / molarMass / drawn.volume;
+}
+
+Preparation drawOnce(Draws& draws, int level, bool asksForMass)
+{
+    Preparation drawn = {};
+    drawn.substance = &draws.oneOf(level == 3 ? hydrates() : weighedSolutes());
+    drawn.asksForMass = asksForMass;
+    drawn.isMolarMassTold = level == 1;
+    drawn.molarMass = toHundredths(molarMassOf(drawn.substance->formula));
+    if (asksForMass) {
+        drawn.concentration = molesPerLitre(draws.oneOf(concentrations));
+        drawn.volume = litres(draws.oneOf(flasks));
+        drawn.mass = massOf(drawn, drawn.molarMass);
+    } else {
+        drawn.mass = ratio(draws.between(100, 1000), 100);
+        drawn.volume = litres(draws.oneOf(volumes));
+        drawn.concentration = concentrationOf(drawn, drawn.molarMass);
+    }
+    return drawn;
+}
+
+bool isSensible(const Preparation& drawn)
+{
+    const SoluteRow& substance = *drawn.substance;
+    const bool isBelowCeiling = drawn.concentration <= ratio(substance.ceiling, 100);
+    const bool isAffordable =
+        substance.greatestMass == 0 || drawn.mass <= ratio(substance.greatestMass, 100);
+    const bool isInRange =
+        drawn.asksForMass ? ratio(1, 10) <= drawn.mass && drawn.mass <= ratio(50)
+                          : ratio(2, 100) <= drawn.concentration && drawn.concentration <= ratio(2);
+    return isBelowCeiling && isAffordable && isInRange;
+}
+
+Calculation calculationOf(const Preparation& drawn, Ratio molarMass)
+{
+    if (drawn.asksForMass) {
+        return {{drawn.concentration, drawn.volume, molarMass}, {}};
+    }
+    return {{drawn.mass}, {molarMass, drawn.volume}};
+}
+
+// Where the molar mass is not told it is worked out beforehand.
+bool bearsEveryOrder(const Preparation& drawn)
+{
+    const CorrectAnswers correct(drawn.asksForMass ? drawn.mass : drawn.concentration);
+    const std::vector<Ratio> used = drawn.isMolarMassTold ? std::vector<Ratio>{drawn.molarMass}
+                                                          : roundedOrKept(drawn.molarMass);
+    return std::all_of(used.begin(), used.end(), [&](Ratio molarMass) {
+        return correct.haveEveryOrderOf(calculationOf(drawn, molarMass));
+    });
+}
+
+Preparation draw(const Place& place)
+{
+    Draws draws = drawsFor(place);
+    const bool asksForMass = place.level == 3 ? draws.below(2) == 1 : place.level == 2;
+    for (;;) {
+        const Preparation drawn = drawOnce(draws, place.level, asksForMass);
+        if (isSensible(drawn) && bearsEveryOrder(drawn)) {
+            return drawn;
+        }
+    }
+}
+
+// -------------------------------------------------------------------------------- the prompt
+
+// As the prompt tells them, but for the one that is asked for.
+struct Quantities {
+    GivenQuantity mass;
+    GivenQuantity molarMass;
+    GivenQuantity volume;
+    GivenQuantity concentration;
+};
+
+Quantities quantitiesOf(const Preparation& drawn)
+{
+    const std::string_view weighed = drawn.substance->formula;
+    const std::string_view dissolved = withoutWater(weighed);
+    const GivenQuantity molarMass = givenMolarMass(weighed);
+    return {givenMass(weighed, drawn.mass), drawn.isMolarMassTold ? molarMass : untold(molarMass),
+            givenVolume("V", dissolved, drawn.volume),
+            givenConcentration("c", dissolved, drawn.concentration)};
+}
+
+std::vector<Given> givenOf(const Preparation& drawn, const Quantities& quantities)
+{
+    const GivenCompound substance = givenCompound(*drawn.substance);
+    const auto& [mass, molarMass, volume, concentration] = quantities;
+    if (drawn.asksForMass) {
+        return {substance, molarMass, volume, concentration};
+    }
+    return {substance, mass, molarMass, volume};
+}
+
+// anhydrous sodium carbonate, Na2CO3 (M = 105.99 g/mol)
+Spans substanceOf(const Preparation& drawn, const GivenQuantity& molarMass)
+{
+    const SoluteRow& substance = *drawn.substance;
+    return line(substance.weighed == Weighed::asAnhydrous ? "anhydrous " : "", nameOf(substance),
+                ", ", formula(substance.formula),
+                drawn.isMolarMassTold ? line(" (", quantity("M"), " = ", told(molarMass), ")")
+                                      : Spans());
+}
+
+Spans promptOf(const Preparation& drawn, const Quantities& quantities)
+{
+    const Spans substance = substanceOf(drawn, quantities.molarMass);
+    if (drawn.asksForMass) {
+        return line("Calculate the mass of ", substance, ", in ", unit("g"), ", needed to prepare ",
+                    told(quantities.volume), " of a ", told(quantities.concentration),
+                    " solution.");
+    }
+    return line(told(quantities.mass), " of ", substance, ", is dissolved in water and made up to ",
+                told(quantities.volume),
+                " of solution. Calculate the concentration of the solution in ", unit("mol/L"),
+                ".");
+}
+
+std::vector<Ratio> answersWithRoundedMasses(const Preparation& drawn)
+{
+    std::vector<Ratio> answers;
+    if (!drawn.isMolarMassTold) {
+        for (const Ratio molarMass : roundedMolarMasses(drawn.substance->formula)) {
+            answers.push_back(answerFor(drawn, molarMass));
+        }
+    }
+    return answers;
+}
+
+} // namespace
+
+Ratio answerFor(const Preparation& drawn, Ratio molarMass)
+{
+    return drawn.asksForMass ? massOf(drawn, molarMass) : concentrationOf(drawn, molarMass);
+}
+
+std::string_view withoutWater(std::string_view formula)
+{
+    return formula.substr(0, formula.find('.'));
+}
+
+Exercise concentrationExercise(const Place& place)
+{
+    const Preparation drawn = draw(place);
+    const Quantities quantities = quantitiesOf(drawn);
+    const GivenQuantity& asked = drawn.asksForMass ? quantities.mass : quantities.concentration;
+    Exercise exercise = numberExercise(
+        place, {Form::number, asked.quantity, asked.of, asked.unit, figures, {}},
+        {answerFor(drawn, drawn.molarMass), answersWithRoundedMasses(drawn), false, true});
+    exercise.prompt = promptOf(drawn, quantities);
+    exercise.given = givenOf(drawn, quantities);
+    exercise.solution = concentrationSolution(drawn, keyMeasure(exercise));
+    addConcentrationSlips(exercise, drawn);
+    return exercise;
+}
+
+} // namespace lesson

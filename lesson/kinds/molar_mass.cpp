@@ -1,0 +1,279 @@
+#include "lesson/kinds/molar_mass.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <utility>
+
+#include "lesson/chemistry/composition.hpp"
+#include "lesson/chemistry/elements.hpp"
+#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/substances.hpp"
+#include "lesson/kinds/kinds.hpp"
+#include "lesson/kinds/molar_mass_slips.hpp"
+#include "lesson/kinds/shared/classified.hpp"
+#include "lesson/kinds/shared/quantities.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+constexpr int figures = 4;
+
+struct Substance {
+    std::string formula;
+    std::string name;
+    std::string american;
+    int weight; // how common it is
+    Composition composition;
+};
+
+// ---------------------------------------------------------------------------------- the draw
+
+bool hasBracket(const std::string& formula)
+{
+    return formula.find('(') != std::string::npos;
+}
+
+Substance substanceOf(const Pair& pair)
+{
+    const auto& [cation, anion] = pair;
+    const std::string formula = compoundFormula(*cation, *anion);
+    return {formula, compoundName(*cation, *anion), americanName(*cation, *anion), weightOf(pair),
+            compositionOf(formula)};
+}
+
+Substance substanceOf(const SubstanceRow& row)
+{
+    return {std::string(row.formula), std::string(row.name), std::string(row.american), row.weight,
+            compositionOf(row.formula)};
+}
+
+// Level 1 has molecules and the salts without a bracket, level 2 the salts with one, level 3
+// hydrates.
+std::vector<Substance> substancesOf(int level)
+{
+    std::vector<Substance> substances;
+    for (const SubstanceRow& row : level == 3 ? crystals() : molecules()) {
+        if (level != 2) {
+            substances.push_back(substanceOf(row));
+        }
+    }
+    for (const Pair& pair : pairsForFormulas()) {
+        const Substance salt = substanceOf(pair);
+        if (level == (hasBracket(salt.formula) ? 2 : 1)) {
+            substances.push_back(salt);
+        }
+    }
+    return substances;
+}
+
+Classified<Substance> poolOf(int level)
+{
+    return classified(
+        substancesOf(level),
+        [](const Substance& substance) {
+            return ClassKey{0, "", substance.weight};
+        },
+        allTheSame);
+}
+
+const Classified<Substance>& poolOfLevel(int level)
+{
+    static const Classified<Substance> levels[] = {poolOf(1), poolOf(2), poolOf(3)};
+    return levels[level - 1];
+}
+
+// ------------------------------------------------------------------------------ the solution
+
+Spans countTerm(AtomCount atom)
+{
+    const Span symbol = formula(std::string(element(atom.element).symbol));
+    return atom.count == 1 ? line(symbol) : line(number(std::to_string(atom.count)), " ", symbol);
+}
+
+Spans massTerm(AtomCount atom)
+{
+    const Span mass = number(std::string(element(atom.element).shown));
+    return atom.count == 1 ? line(mass) : line(number(std::to_string(atom.count)), "(", mass, ")");
+}
+
+// Terms, made by `term`, with pluses between.
+template <typename Items, typename Term>
+Spans sumOf(const Items& items, Term term)
+{
+    Spans sum;
+    for (const auto& item : items) {
+        if (!sum.empty()) {
+            append(sum, " + ");
+        }
+        append(sum, term(item));
+    }
+    return sum;
+}
+
+// A part of a formula as a term, what stands in it made by `inside`: 3(S + 4 O).
+template <typename Inside>
+Spans termOf(const FormulaPart& part, Inside inside)
+{
+    return part.times == 1 ? inside(part)
+                           : line(number(std::to_string(part.times)), "(", inside(part), ")");
+}
+
+// Cu + S + 4 O + 5(2 H + O)
+Spans atomLine(const Composition& composition)
+{
+    const auto inside = [](const FormulaPart& part) { return sumOf(part.atoms, countTerm); };
+    return sumOf(composition.parts, [&](const FormulaPart& part) { return termOf(part, inside); });
+}
+
+// 63.55 + 32.06 + 4(16.00) + 5(18.016): everybody knows what water is made of.
+Spans massLine(const Composition& composition)
+{
+    const auto inside = [](const FormulaPart& part) {
+        return part.isWater ? line(number(exactText(massOf(part.atoms))))
+                            : sumOf(part.atoms, massTerm);
+    };
+    return sumOf(composition.parts, [&](const FormulaPart& part) { return termOf(part, inside); });
+}
+
+bool hasBracket(const Composition& composition)
+{
+    return std::any_of(composition.parts.begin(), composition.parts.end(),
+                       [](const FormulaPart& part) { return part.times > 1 && !part.isWater; });
+}
+
+Step countingStep(const Composition& composition)
+{
+    const Spans atoms = atomLine(composition);
+    if (composition.parts.back().isWater) {
+        return {line("Count the atoms; the water belongs to the crystal."), atoms,
+                line("The dot stands for “together with”. How many water molecules come with one "
+                     "unit of the salt?")};
+    }
+    if (hasBracket(composition)) {
+        return {line("Count the atoms; the number after the bracket counts everything inside."),
+                atoms, line("What is in one bracket, and how many brackets are there?")};
+    }
+    return {line("Count the atoms."), atoms,
+            line("A small number belongs to the symbol in front of it. Where there is none, it is "
+                 "one atom.")};
+}
+
+// M = 249.69 = 249.7 g/mol, or M = 58.44 g/mol where two decimals are no more than is asked.
+Spans total(const Exercise& exercise, Ratio mass)
+{
+    const bool isRounded = valueOf(roundedTo(mass, figures)) != toHundredths(mass);
+    const Spans unrounded = isRounded ? line(" = ", number(shownMass(mass))) : Spans();
+    return line(quantity("M"), unrounded, " = ", keyMeasure(exercise));
+}
+
+std::vector<Step> workedSolution(const Exercise& exercise, const Substance& drawn, Ratio mass)
+{
+    return {
+        countingStep(drawn.composition),
+        {line("Put in the masses."), massLine(drawn.composition),
+         line("The periodic table has two numbers for each element. The one with decimals is the "
+              "mass.")},
+        {line("Add."), total(exercise, mass),
+         line("Multiply before you add, and round at the end.")},
+    };
+}
+
+// ---------------------------------------------------------------------------- rounded masses
+
+// Masses in thousandths, as in the table.
+
+// What boards print besides a mass of the table rounded.
+struct PrintedMass {
+    std::string_view symbol;
+    int thousandths;
+};
+constexpr PrintedMass alsoPrinted[] = {
+    {"H", 1010},
+    {"S", 32070},
+};
+
+// The two neighbours where it is halfway.
+void addRounded(std::vector<int>& masses, int mass, int unit)
+{
+    const int lower = mass / unit * unit;
+    const int rest = mass - lower;
+    if (2 * rest <= unit) {
+        masses.push_back(lower);
+    }
+    if (2 * rest >= unit) {
+        masses.push_back(lower + unit);
+    }
+}
+
+// As a board may print it: as here, to one decimal, or whole, but never chlorine as 35.
+std::vector<int> printedMasses(const ElementRow& row)
+{
+    std::vector<int> masses = {row.thousandths};
+    addRounded(masses, row.thousandths, 100);
+    if (row.symbol != "Cl") {
+        addRounded(masses, row.thousandths, 1000);
+    }
+    for (const PrintedMass& other : alsoPrinted) {
+        if (other.symbol == row.symbol) {
+            masses.push_back(other.thousandths);
+        }
+    }
+    return masses;
+}
+
+void sortOut(std::vector<int>& numbers)
+{
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+}
+
+} // namespace
+
+Spans sumOfMasses(std::string_view formula)
+{
+    return massLine(compositionOf(formula));
+}
+
+// Each element has one mass in the whole formula, whatever the others have: a board may print one
+// to two decimals and another as a whole number.
+std::vector<Ratio> roundedMolarMasses(std::string_view formula)
+{
+    std::vector<int> sums = {0};
+    for (const AtomCount atom : compositionOf(formula).atoms) {
+        std::vector<int> longerSums;
+        for (const int mass : printedMasses(element(atom.element))) {
+            for (const int sum : sums) {
+                longerSums.push_back(sum + atom.count * mass);
+            }
+        }
+        sortOut(longerSums);
+        sums = std::move(longerSums);
+    }
+    std::vector<Ratio> masses;
+    masses.reserve(sums.size());
+    for (const int thousandths : sums) {
+        masses.push_back(ratio(thousandths, 1000));
+    }
+    return masses;
+}
+
+Exercise molarMassExercise(const Place& place)
+{
+    const Substance& drawn = memberFor(place, poolOfLevel(place.level));
+    const Ratio mass = massOf(drawn.composition.atoms);
+    Exercise exercise =
+        numberExercise(place, {Form::number, "M", drawn.formula, "g/mol", figures, {}},
+                       {mass, roundedMolarMasses(drawn.formula), true, false});
+    exercise.prompt = line("Calculate the molar mass of ", name(drawn.name, drawn.american), ", ",
+                           formula(drawn.formula), ", in ", unit("g/mol"), ".");
+    exercise.given = {GivenCompound{drawn.formula, drawn.name}};
+    exercise.solution = workedSolution(exercise, drawn, mass);
+    addMolarMassSlips(exercise, drawn.formula);
+    return exercise;
+}
+
+} // namespace lesson

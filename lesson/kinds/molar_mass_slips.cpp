@@ -1,0 +1,252 @@
+#include "lesson/kinds/molar_mass_slips.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "lesson/chemistry/composition.hpp"
+#include "lesson/chemistry/elements.hpp"
+#include "lesson/marking/number.hpp"
+#include "lesson/reading/scan.hpp"
+
+// A learner who miscounts works out the mass of another formula, so most slips are that formula:
+// of Al2(SO4)3, AlSO by who leaves out all small numbers.
+namespace lesson
+{
+
+namespace
+{
+
+constexpr std::string_view smallNumbers =
+    "The small numbers count atoms: each of them has its mass.";
+constexpr std::string_view bracketNumber = "The number after the bracket counts everything inside.";
+constexpr std::string_view waterNumber = "The number before H2O counts whole water molecules.";
+constexpr std::string_view dot = "The dot adds the water: it does not multiply.";
+constexpr std::string_view oneAtom = "In a compound each symbol is one atom.";
+constexpr std::string_view relativeMasses = "Use the relative masses, not the atomic numbers.";
+constexpr std::string_view countHydrogen = "Count the hydrogen atoms again.";
+
+constexpr int hydrogen = 1;
+
+// A number in a formula: where its digits begin and end.
+struct Run {
+    std::size_t begin;
+    std::size_t end;
+};
+
+std::vector<Run> numbersIn(std::string_view formula)
+{
+    std::vector<Run> runs;
+    for (std::size_t i = 0; i < formula.size(); ++i) {
+        if (isDigit(formula[i]) && (i == 0 || !isDigit(formula[i - 1]))) {
+            runs.push_back({i, i});
+        }
+        if (isDigit(formula[i])) {
+            runs.back().end = i + 1;
+        }
+    }
+    return runs;
+}
+
+std::string without(const std::string& formula, const Run& run)
+{
+    return formula.substr(0, run.begin) + formula.substr(run.end);
+}
+
+std::string withoutBrackets(std::string formula)
+{
+    formula.erase(std::remove(formula.begin(), formula.end(), '('), formula.end());
+    formula.erase(std::remove(formula.begin(), formula.end(), ')'), formula.end());
+    return formula;
+}
+
+// The front of a formula up to and with a number, which counts all of it: "(AlF)3".
+std::string countingAll(const std::string& formula, const Run& run)
+{
+    return "(" + withoutBrackets(formula.substr(0, run.begin)) + ")" + formula.substr(run.begin);
+}
+
+bool isSmall(char c)
+{
+    return c >= 'a' && c <= 'z';
+}
+
+// The symbols of a formula in their order, with what stands behind each: "O4" of SO4.
+std::vector<std::string> termsOf(std::string_view formula)
+{
+    std::vector<std::string> terms;
+    for (const char c : formula) {
+        if (isDigit(c) || isSmall(c)) {
+            terms.back() += c;
+        } else {
+            terms.emplace_back(1, c);
+        }
+    }
+    return terms;
+}
+
+std::string times(const std::string& term, int number)
+{
+    return "(" + term + ")" + std::to_string(number);
+}
+
+class MolarMassSlips
+{
+public:
+    MolarMassSlips(Exercise& target, std::string_view ofFormula)
+        : exercise(target), formula(ofFormula), salt(formula.substr(0, formula.find('.'))),
+          water(formula.substr(salt.size())), composition(compositionOf(formula))
+    {
+    }
+
+    void addAll()
+    {
+        addWater();
+        addBracket();
+        addSmallNumbers();
+        addAtomicNumbers();
+        addMoleculesOfElements();
+        addHydrogen();
+    }
+
+private:
+    void add(Ratio mass, std::string_view sentence)
+    {
+        addSlip(exercise, mass, std::string(sentence));
+    }
+
+    void add(const std::string& otherFormula, std::string_view sentence)
+    {
+        add(molarMassOf(otherFormula), sentence);
+    }
+
+    void addWater()
+    {
+        if (water.empty()) {
+            return;
+        }
+        const FormulaPart& part = composition.parts.back();
+        const Ratio molecules = ratio(part.times) * massOf(part.atoms);
+        const std::string number = std::to_string(part.times);
+        add(salt, waterNumber);
+        add(salt + ".H2O", waterNumber);
+        add(salt + times("H2", part.times) + "O", waterNumber);
+        add(molarMassOf(salt) * molecules, dot);
+        add(salt + "." + number + "HO", smallNumbers);
+        add(molarMassOf(salt + ".H2O") * ratio(part.times), waterNumber);
+    }
+
+    // With the number on nothing, on the last atom, on the first one, and on what stands in front.
+    void addBracket()
+    {
+        const std::size_t open = salt.find('(');
+        if (open == std::string::npos) {
+            return;
+        }
+        const std::size_t close = salt.find(')');
+        const std::size_t end =
+            std::min(salt.find_first_not_of("0123456789", close + 1), salt.size());
+        const std::string before = salt.substr(0, open);
+        const std::string inside = salt.substr(open + 1, close - open - 1);
+        const std::string behind = salt.substr(end) + water;
+        const auto number = static_cast<int>(
+            wholeNumber(std::string_view(salt).substr(close + 1, end - close - 1)));
+        const std::vector<std::string> terms = termsOf(inside);
+        const std::size_t first = terms.front().size();
+        const std::size_t last = inside.size() - terms.back().size();
+        add(before + inside + behind, bracketNumber);
+        add(before + inside.substr(0, last) + times(inside.substr(last), number) + behind,
+            bracketNumber);
+        add(before + times(inside.substr(0, first), number) + inside.substr(first) + behind,
+            bracketNumber);
+        add(times(before + inside, number) + behind, bracketNumber);
+    }
+
+    void addSmallNumbers()
+    {
+        const std::vector<Run> all = numbersIn(salt);
+        std::string none = salt;
+        std::string bracketOnly = salt;
+        for (auto run = all.rbegin(); run != all.rend(); ++run) {
+            none = without(none, *run);
+            bracketOnly = isOfBracket(*run) ? bracketOnly : without(bracketOnly, *run);
+        }
+        add(bracketOnly + water, smallNumbers);
+        add(withoutBrackets(none) + water, smallNumbers);
+        add(eachElementOnce(), smallNumbers);
+        for (const Run& run : all) {
+            if (!isOfBracket(run)) {
+                add(without(salt, run) + water, smallNumbers);
+            }
+        }
+        for (const Run& run : all) {
+            if (salt.find('(') >= run.begin) {
+                add(countingAll(salt, run) + water, smallNumbers);
+            }
+        }
+    }
+
+    bool isOfBracket(const Run& run) const
+    {
+        return run.begin > 0 && salt[run.begin - 1] == ')';
+    }
+
+    Ratio eachElementOnce() const
+    {
+        Atoms atoms = composition.atoms;
+        for (AtomCount& atom : atoms) {
+            atom.count = 1;
+        }
+        return massOf(atoms);
+    }
+
+    void addAtomicNumbers()
+    {
+        int all = 0;
+        int eachOnce = 0;
+        for (const AtomCount atom : composition.atoms) {
+            all += atom.count * atom.element;
+            eachOnce += atom.element;
+        }
+        add(ratio(all), relativeMasses);
+        add(ratio(eachOnce), relativeMasses);
+    }
+
+    // As if an element that is Cl2 by itself were so in its compounds.
+    void addMoleculesOfElements()
+    {
+        for (const AtomCount atom : composition.atoms) {
+            const std::string_view symbol = element(atom.element).symbol;
+            if (symbol == "F" || symbol == "Cl" || symbol == "Br" || symbol == "I" ||
+                symbol == "O" || symbol == "N") {
+                add(massOf(composition.atoms) + massOf({atom}), oneAtom);
+            }
+        }
+    }
+
+    void addHydrogen()
+    {
+        for (const AtomCount atom : composition.atoms) {
+            if (atom.element == hydrogen) {
+                add(massOf(composition.atoms) - massOf({{hydrogen, 1}}), countHydrogen);
+            }
+        }
+    }
+
+    Exercise& exercise;
+    std::string formula;
+    std::string salt;  // what stands before the dot
+    std::string water; // the dot and what stands behind it
+    Composition composition;
+};
+
+} // namespace
+
+void addMolarMassSlips(Exercise& exercise, std::string_view formula)
+{
+    MolarMassSlips(exercise, formula).addAll();
+}
+
+} // namespace lesson

@@ -1,0 +1,433 @@
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "lesson/chemistry/composition.hpp"
+#include "lesson/chemistry/elements.hpp"
+#include "lesson/chemistry/reaction.hpp"
+#include "lesson/kinds/kinds.hpp"
+#include "lesson/kinds/shared/classified.hpp"
+#include "lesson/kinds/shared/salts.hpp"
+#include "lesson/marking/equation.hpp"
+#include "lesson/marking/formula.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+// ---- The pool
+
+// Acids, the anions of their bases, and the cations of these; blanks between the names. Ammonia is
+// the base of a cation alone. What every class does, the acid on limestone, is commoner than its
+// ions tell.
+//
+// Left out is what does not neutralise plainly: silver and lead, whose chlorides, bromides and
+// sulfates coat the solid, as calcium and barium sulfate do; chromium(III) oxide, which acids leave
+// alone; iron(II) with nitric acid, which oxidises it; and what can hardly be had in a bottle.
+struct PoolRow {
+    std::string_view acids;
+    std::string_view anions;
+    std::string_view cations;
+    int times = 1; // commoner
+};
+
+// clang-format off
+constexpr PoolRow poolRows[] = {
+    {"HCl HBr", "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium chromium(III) iron(III)"},
+    {"HCl HBr", "oxide",     "lithium sodium potassium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium iron(III)"},
+    {"HCl HBr", "carbonate", "lithium sodium potassium ammonium magnesium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc"},
+    {"HNO3",    "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II) aluminium chromium(III) iron(III)"},
+    {"HNO3",    "oxide",     "lithium sodium potassium silver magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II) aluminium iron(III)"},
+    {"HNO3",    "carbonate", "lithium sodium potassium ammonium silver magnesium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II)"},
+    {"H2SO4",   "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium chromium(III) iron(III)"},
+    {"H2SO4",   "oxide",     "lithium sodium potassium magnesium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium iron(III)"},
+    {"H2SO4",   "carbonate", "lithium sodium potassium ammonium magnesium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc"},
+    {"H3PO4",   "hydroxide", "sodium potassium magnesium calcium aluminium"},
+    {"H3PO4",   "oxide",     "magnesium calcium"},
+    {"CH3COOH", "hydroxide oxide carbonate", "lithium sodium potassium magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II)"},
+    {"HCl HNO3 H2SO4", "hydrogencarbonate", "sodium potassium"},
+    {"HCl HNO3", "carbonate", "calcium", 3},
+    {"HBr", "carbonate", "calcium"},
+    {"HCl HBr HNO3 H2SO4", "ammonia", "ammonium"},
+};
+// clang-format on
+
+struct Reaction {
+    const AcidRow* acid;
+    Base base;
+    int times; // commoner than acid and ions tell
+};
+
+std::vector<std::string_view> wordsOf(std::string_view text)
+{
+    std::vector<std::string_view> words;
+    while (!text.empty()) {
+        words.push_back(text.substr(0, text.find(' ')));
+        text.remove_prefix(std::min(text.size(), words.back().size() + 1));
+    }
+    return words;
+}
+
+std::vector<Reaction> everyReaction()
+{
+    std::vector<Reaction> all;
+    for (const PoolRow& row : poolRows) {
+        for (const std::string_view acid : wordsOf(row.acids)) {
+            for (const std::string_view anion : wordsOf(row.anions)) {
+                for (const std::string_view cation : wordsOf(row.cations)) {
+                    const IonRow* const ofBase = anion == "ammonia" ? nullptr : findIon(anion);
+                    all.push_back({findAcid(acid), {findIon(cation), ofBase}, row.times});
+                }
+            }
+        }
+    }
+    return all;
+}
+
+// Moles of acid and of base.
+using MoleRatio = std::pair<int, int>;
+
+MoleRatio ratioOf(const Reaction& reaction)
+{
+    const Equation equation = neutralisationOf(*reaction.acid, reaction.base);
+    return {equation.left[0].first, equation.left[1].first};
+}
+
+int levelOf(const Reaction& reaction)
+{
+    const auto [acid, base] = ratioOf(reaction);
+    if (std::max(acid, base) > 2) {
+        return 3;
+    }
+    const IonRow* const anion = reaction.base.anion;
+    return anion != nullptr && anion->name == "hydroxide" ? 1 : 2;
+}
+
+int weightOf(const Reaction& reaction)
+{
+    constexpr int ofAmmonia = 6; // as of a common anion
+    const auto& [cation, anion] = reaction.base;
+    return reaction.times * reaction.acid->weight * cation->weight *
+           (anion == nullptr ? ofAmmonia : anion->weight);
+}
+
+// The ratio is drawn before the acid and the base; one that only rare bases have comes rarely.
+ClassKey classOf(const Reaction& reaction)
+{
+    const auto [acid, base] = ratioOf(reaction);
+    return {acid * 10 + base, "", weightOf(reaction)};
+}
+
+Classified<Reaction> poolOfLevel(int level)
+{
+    constexpr int enough = 600; // three or four common reactions
+    std::vector<Reaction> reactions;
+    for (const Reaction& reaction : everyReaction()) {
+        if (levelOf(reaction) == level) {
+            reactions.push_back(reaction);
+        }
+    }
+    return classified(reactions, classOf, enough);
+}
+
+const Classified<Reaction>& poolFor(int level)
+{
+    static const Classified<Reaction> pools[] = {poolOfLevel(1), poolOfLevel(2), poolOfLevel(3)};
+    return pools[level - 1];
+}
+
+// ---- The prompt
+
+Span nameOfAcid(const AcidRow& acid)
+{
+    return name(acid.name, acid.american);
+}
+
+Spans promptFor(const AcidRow& acid, const Base& base)
+{
+    return line("Write the balanced equation for the complete neutralisation of ",
+                name(nameOf(base), americanNameOf(base)), " by ", nameOfAcid(acid),
+                ". The salt is ", name(saltName(acid, base), americanSaltName(acid, base)), ".");
+}
+
+// ---- The worked solution
+
+Equation withCoefficients(Equation equation, int (*change)(int coefficient))
+{
+    for (auto* const side : {&equation.left, &equation.right}) {
+        for (auto& term : *side) {
+            term.first = change(term.first);
+        }
+    }
+    return equation;
+}
+
+// The formulas alone.
+Equation skeletonOf(const Equation& equation)
+{
+    return withCoefficients(equation, [](int) { return 1; });
+}
+
+Equation doubled(const Equation& equation)
+{
+    return withCoefficients(equation, [](int coefficient) { return 2 * coefficient; });
+}
+
+// Balanced but for water and carbon dioxide.
+Equation withSinglesBehindTheSalt(Equation equation)
+{
+    for (std::size_t i = 1; i < equation.right.size(); ++i) {
+        equation.right[i].first = 1;
+    }
+    return equation;
+}
+
+bool isCarbonate(const Base& base)
+{
+    return base.anion != nullptr && (base.anion->formula == "CO3" || base.anion->formula == "HCO3");
+}
+
+Step ionsOfTheSalt(const AcidRow& acid, const Base& base)
+{
+    return {
+        line("The salt has these ions, as many of each as make the charges cancel."),
+        line(spanOf(*base.cation), ", ", spanOf(anionOf(acid)), ": ",
+             formula(saltFormula(acid, base))),
+        base.anion == nullptr
+            ? line("Ammonia takes up a hydrogen ion of the acid. Which ion does it become?")
+            : line("The salt is made of the positive ion of the base and of what the acid leaves. "
+                   "What are their charges?")};
+}
+
+Spans productsHint(const Base& base)
+{
+    if (base.anion == nullptr) {
+        return line("All the hydrogen of the acid goes to the ammonia. What is left over?");
+    }
+    const IonRow& anion = *base.anion;
+    if (isCarbonate(base)) {
+        return line("Each ", nameOf(anion), " gives carbon dioxide as well as water.");
+    }
+    return line("What do the hydrogen of the acid and the ", anion.formula == "O" ? "oxygen" : "OH",
+                " of the base become?");
+}
+
+Spans waterHint(const Base& base)
+{
+    const IonRow& anion = *base.anion;
+    if (isCarbonate(base)) {
+        return line("Each ", nameOf(anion), " gives one water and one carbon dioxide.");
+    }
+    return anion.formula == "O"
+               ? line("Each oxygen of the base makes one water with two hydrogens of the acid.")
+               : line("Each OH of the base makes one water with one hydrogen of the acid.");
+}
+
+Step writeFormulas(const Equation& equation, const Base& base)
+{
+    if (base.anion == nullptr) {
+        return {line("Write the formulas: an acid and ammonia give a salt alone."),
+                spansOf(skeletonOf(equation)), productsHint(base)};
+    }
+    return {line("Write the formulas: an acid and ", base.anion->formula == "O" ? "an " : "a ",
+                 nameOf(*base.anion),
+                 isCarbonate(base) ? " give a salt, water and carbon dioxide."
+                                   : " give a salt and water."),
+            spansOf(skeletonOf(equation)), productsHint(base)};
+}
+
+// What of metal and anion takes a coefficient to balance; empty where neither does.
+Spans balanceFirst(const Equation& equation, const AcidRow& acid, const Base& base)
+{
+    const bool isMetal = equation.left[1].first > 1 || equation.right[0].first > 1;
+    const bool isAnion = equation.left[0].first > 1;
+    const IonRow& anion = anionOf(acid);
+    const Span metal = plainNameOf(*base.cation);
+    const Span group = name(anion.name, anion.american);
+    if (isMetal && isAnion) {
+        return line("Balance the ", metal, ", then the ", group, ".");
+    }
+    if (isMetal) {
+        return line("Balance the ", metal, ".");
+    }
+    return isAnion ? line("Balance the ", group, ".") : Spans();
+}
+
+// "H 12, S 3, Al 2, O 18", oxygen last.
+Spans countsOf(const Equation& equation)
+{
+    constexpr int oxygen = 8;
+    Atoms counts;
+    for (const auto& [coefficient, species] : equation.left) {
+        const Atoms atoms = compositionOf(species).atoms;
+        for (const AtomCount& atom : atoms) {
+            const auto known =
+                std::find_if(counts.begin(), counts.end(), [&atom](const AtomCount& count) {
+                    return count.element == atom.element;
+                });
+            if (known == counts.end()) {
+                counts.push_back({atom.element, coefficient * atom.count});
+            } else {
+                known->count += coefficient * atom.count;
+            }
+        }
+    }
+    std::stable_partition(counts.begin(), counts.end(),
+                          [](const AtomCount& count) { return count.element != oxygen; });
+    Spans spans;
+    for (const AtomCount& count : counts) {
+        append(spans, line(spans.empty() ? "" : ", ", formula(element(count.element).symbol), " ",
+                           number(std::to_string(count.count))));
+    }
+    return spans;
+}
+
+Step balanceWater(const Equation& equation, const Base& base, bool isFirst)
+{
+    const std::string what = isCarbonate(base) ? "the water and the carbon dioxide." : "the water.";
+    return {line((isFirst ? "Balance " : "Then ") + what), spansOf(equation), waterHint(base)};
+}
+
+std::vector<Step> solutionFor(const Equation& equation, const AcidRow& acid, const Base& base)
+{
+    std::vector<Step> steps = {ionsOfTheSalt(acid, base), writeFormulas(equation, base)};
+    const Spans first = balanceFirst(equation, acid, base);
+    if (!first.empty()) {
+        steps.push_back({first, spansOf(withSinglesBehindTheSalt(equation)),
+                         line("How many of each ion are in one unit of the salt? The left side has "
+                              "to bring as many.")});
+    }
+    if (equation.right.size() > 1 && equation.right[1].first > 1) {
+        steps.push_back(balanceWater(equation, base, first.empty()));
+    }
+    steps.push_back({line("Count the atoms to check."), line(countsOf(equation), " on each side"),
+                     line("Is each element there as often on the left as on the right?")});
+    return steps;
+}
+
+// ---- The slips
+
+// What is left of an acid that keeps some of its protons, with cations of a charge.
+struct AcidSaltRow {
+    std::string_view acid;
+    int cationCharge;
+    int protons; // that it gives away
+    IonRow anion;
+};
+constexpr AcidSaltRow acidSalts[] = {
+    {"H2SO4", 1, 1, {"hydrogensulfate", "", "HSO4", -1, true}},
+    {"H3PO4", 1, 1, {"dihydrogenphosphate", "", "H2PO4", -1, true}},
+    {"H3PO4", 2, 2, {"hydrogenphosphate", "", "HPO4", -2, true}},
+};
+
+// With ions one to one where they do not stand so, and with both charges written as subscripts
+// where they cancel.
+std::string wrongSalt(const IonRow& cation, const IonRow& anion)
+{
+    const std::string formulaOfCation(cation.formula);
+    const std::string formulaOfAnion(anion.formula);
+    if (cation.charge + anion.charge != 0) {
+        return formulaOfCation + formulaOfAnion;
+    }
+    const std::string subscript = std::to_string(cation.charge);
+    return formulaOfCation + subscript +
+           (anion.isGroup ? "(" + formulaOfAnion + ")" : formulaOfAnion) + subscript;
+}
+
+using Slips = std::vector<Slip>;
+
+void add(Slips& slips, const Equation& wrong, std::string_view sentence)
+{
+    slips.push_back({textOf(wrong), std::nullopt, std::string(sentence)});
+}
+
+void addUnbalanced(Slips& slips, const Equation& equation, const EquationAnswer& answer)
+{
+    const Mark mark = markEquation(answer, textOf(skeletonOf(equation)));
+    if (mark.verdict == Verdict::slip) { // else each formula is needed once
+        add(slips, skeletonOf(equation), mark.sentence);
+    }
+}
+
+void addForgotten(Slips& slips, Equation equation)
+{
+    equation.right.pop_back();
+    add(slips, equation, sentences::oneMoreProduct);
+}
+
+void addWrongSalt(Slips& slips, const Equation& equation, const IonRow& cation, const IonRow& anion)
+{
+    if (cation.charge == 1 && anion.charge == -1) {
+        return;
+    }
+    Equation wrong = skeletonOf(equation);
+    std::string& salt = wrong.right[0].second;
+    salt = wrongSalt(cation, anion);
+    const bool isNeutral = cation.charge + anion.charge == 0;
+    add(slips, wrong,
+        sentences::isNot(salt, "salt", isNeutral ? sentences::simplify : sentences::charges));
+}
+
+// With carbonic acid or hydrogen for the water and what else would form.
+void addWrongProduct(Slips& slips, Equation equation, bool isCarbonicAcid)
+{
+    equation.right.resize(2);
+    equation.right[1].second = isCarbonicAcid ? "H2CO3" : "H2";
+    add(slips, equation, isCarbonicAcid ? sentences::carbonicAcid : sentences::hydrogenGas);
+}
+
+void addAcidSalt(Slips& slips, const AcidRow& acid, const Base& base)
+{
+    for (const AcidSaltRow& row : acidSalts) {
+        if (row.acid == acid.formula && row.cationCharge == base.cation->charge) {
+            add(slips, equationOf(row.acid, row.protons, row.anion, base), sentences::lessBase);
+        }
+    }
+}
+
+Slips slipsFor(const Equation& equation, const EquationAnswer& answer)
+{
+    Slips slips;
+    addUnbalanced(slips, equation, answer);
+    if (equation.right.size() > 1) {
+        addForgotten(slips, equation);
+        addWrongProduct(slips, equation, isCarbonate(answer.base));
+    }
+    addWrongSalt(slips, equation, *answer.base.cation, anionOf(*answer.acid));
+    add(slips, doubled(equation), sentences::smallestNumbers);
+    addAcidSalt(slips, *answer.acid, answer.base);
+    return slips;
+}
+
+} // namespace
+
+Exercise neutralisationExercise(const Place& place)
+{
+    const Reaction& reaction = memberFor(place, poolFor(place.level));
+    const AcidRow* const acid = reaction.acid;
+    const Base& base = reaction.base;
+
+    Exercise exercise = {};
+    exercise.place = place;
+    exercise.prompt = promptFor(*acid, base);
+    exercise.ask.form = Form::equation;
+    exercise.given = {
+        GivenCompound{std::string(acid->formula), std::string(acid->name)},
+        GivenCompound{formulaOf(base), nameOf(base)},
+        GivenCompound{saltFormula(*acid, base), saltName(*acid, base)},
+    };
+    exercise.equation = neutralisationOf(*acid, base);
+    exercise.key = textOf(*exercise.equation);
+    exercise.solution = solutionFor(*exercise.equation, *acid, base);
+    exercise.slips = slipsFor(*exercise.equation, {acid, base});
+    exercise.answer = EquationAnswer{acid, base};
+    return exercise;
+}
+
+} // namespace lesson

@@ -1,0 +1,120 @@
+#include "lesson/kinds/shared/quantities.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "lesson/chemistry/composition.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+// A value that has its end at a decimal place: 5 g, 2 -> "5.00".
+std::string withDecimals(Ratio value, int decimals)
+{
+    const Ratio lastPlaces = value * powerOfTen(decimals);
+    return plainText({lastPlaces.numerator / lastPlaces.denominator, -decimals});
+}
+
+// Some come only as solutions, and their names mean them.
+bool isNamedAsSolution(const SoluteRow& solute)
+{
+    const auto isSame = [&solute](const SoluteRow& acid) { return acid.formula == solute.formula; };
+    return solute.formula == "NH3" ||
+           std::any_of(acidSolutions().begin(), acidSolutions().end(), isSame);
+}
+
+} // namespace
+
+GivenQuantity givenMass(std::string_view of, Ratio inGrams)
+{
+    return {"m", std::string(of), inGrams, "g", withDecimals(inGrams, 2), "g"};
+}
+
+GivenQuantity givenMolarMass(std::string_view of)
+{
+    const Ratio mass = toHundredths(molarMassOf(of));
+    return {"M", std::string(of), mass, "g/mol", shownMass(mass), "g/mol"};
+}
+
+GivenQuantity givenVolume(std::string symbol, std::string_view of, Ratio inLitres)
+{
+    const bool isLarge = ratio(1) <= inLitres;
+    const Ratio shownValue = isLarge ? inLitres : inLitres * ratio(1000);
+    const char* const shownUnit = isLarge ? "L" : "mL";
+    return {std::move(symbol), std::string(of), inLitres, "L", shown(shownValue, askedFigures),
+            shownUnit};
+}
+
+GivenQuantity givenTitre(std::string_view of, Ratio inLitres)
+{
+    return {"V", std::string(of), inLitres, "L", withDecimals(inLitres * ratio(1000), 2), "mL"};
+}
+
+GivenQuantity givenConcentration(std::string symbol, std::string_view of, Ratio inMolesPerLitre)
+{
+    const std::string shownValue = shown(inMolesPerLitre, askedFigures);
+    return {std::move(symbol), std::string(of), inMolesPerLitre, "mol/L", shownValue, "mol/L"};
+}
+
+GivenQuantity untold(GivenQuantity given)
+{
+    given.shown.clear();
+    given.shownUnit.clear();
+    return given;
+}
+
+Spans told(const GivenQuantity& given)
+{
+    return measure(given.shown, given.shownUnit);
+}
+
+Span nameOf(const SoluteRow& solute)
+{
+    return name(std::string(solute.name), std::string(solute.american));
+}
+
+Spans solutionOf(const SoluteRow& solute)
+{
+    return isNamedAsSolution(solute) ? line(nameOf(solute)) : line(nameOf(solute), " solution");
+}
+
+GivenCompound givenCompound(const SoluteRow& solute)
+{
+    return {std::string(solute.formula), std::string(solute.name)};
+}
+
+Ratio litres(int millilitres)
+{
+    return ratio(millilitres, 1000);
+}
+
+Ratio molesPerLitre(int tenThousandths)
+{
+    return ratio(tenThousandths, 10000);
+}
+
+Exercise numberExercise(const Place& place, Ask ask, NumberAnswer answer)
+{
+    Exercise exercise = {};
+    exercise.place = place;
+    exercise.key = shown(answer.value, ask.figures) + " " + ask.unit;
+    exercise.ask = std::move(ask);
+    exercise.answer = std::move(answer);
+    return exercise;
+}
+
+Spans keyMeasure(const Exercise& exercise)
+{
+    const auto* const answer = std::get_if<NumberAnswer>(&exercise.answer);
+    return measure(shown(answer->value, exercise.ask.figures), exercise.ask.unit);
+}
+
+Span between(Ratio value)
+{
+    return number(shownBetween(value, askedFigures + 1));
+}
+
+} // namespace lesson

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "lesson/chemistry/ions.hpp"
+#include "lesson/exercise.hpp"
+#include "lesson/words/spans.hpp"
+
+// What the pages on formulas, ions and solubility share.
+namespace lesson
+{
+
+// "aluminium sulfate", "sulfate", and the same at the beginning of a sentence.
+Span nameOf(const IonRow& cation, const IonRow& anion);
+Span nameOf(const IonRow& ion);
+// Without the Roman numeral: "iron". The same of all compounds of an anion: "sulfates".
+Span plainNameOf(const IonRow& ion);
+Span pluralOf(const IonRow& anion);
+Span capitalised(Span nameSpan);
+
+Span spanOf(const IonRow& ion);
+
+// The charge in words of a sentence: "2−", "1+".
+std::string chargeWords(const IonRow& ion);
+
+// Adds a slip to an exercise unless its text is right but for capitals, or that of an earlier slip.
+// `right` holds the right texts, `text` has no blanks, and subscripts as plain digits.
+void addSlip(Exercise& exercise, const std::vector<std::string>& right, std::string text,
+             std::string_view sentence);
+
+// What learners write for the symbol of an ion: "P" for potassium, "Ni" for nitride.
+std::vector<std::string_view> wrongSymbolsOf(const IonRow& ion);
+
+// The formula with one oxygen atom more or less, "SO5" for SO4; empty where that is not asked
+// about.
+std::string withOxygens(const IonRow& ion, int more);
+
+} // namespace lesson

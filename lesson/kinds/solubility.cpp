@@ -1,0 +1,278 @@
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <string>
+#include <utility>
+
+#include "lesson/chemistry/pairs.hpp"
+#include "lesson/kinds/kinds.hpp"
+#include "lesson/kinds/shared/classified.hpp"
+#include "lesson/kinds/shared/salts.hpp"
+#include "lesson/marking/spellings.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+std::string formulaOf(const Pair& pair)
+{
+    return compoundFormula(*pair.cation, *pair.anion);
+}
+
+const SolubilityRule& ruleOf(const Pair& pair)
+{
+    return *ruleFor(*pair.anion);
+}
+
+std::string familyOf(const Pair& pair)
+{
+    return std::string(ruleOf(pair).family);
+}
+
+// The rule for a learner, with the anion's name as one that may differ in American English.
+Spans ruleWords(const Pair& pair)
+{
+    const std::string sentence(ruleOf(pair).sentence);
+    const std::string anion(pair.anion->name);
+    const Span small = nameOf(*pair.anion);
+    for (const Span& anionName : {small, capitalised(small)}) {
+        const std::size_t place = sentence.find(anionName.text);
+        if (place != std::string::npos) {
+            return line(sentence.substr(0, place), anionName,
+                        sentence.substr(place + anion.size()));
+        }
+    }
+    return line(sentence);
+}
+
+Spans verdictOn(const Pair& pair)
+{
+    return line(formula(formulaOf(pair)), isSoluble(pair) ? " is soluble" : " is insoluble");
+}
+
+// What to ask of a pair before the rule is told.
+Spans ruleHint(const Pair& pair)
+{
+    return line("What is the rule for ", pluralOf(*pair.anion), "? Does it name ",
+                plainNameOf(*pair.cation), "?");
+}
+
+Step ruleStep(const Pair& pair)
+{
+    return {ruleWords(pair), verdictOn(pair), ruleHint(pair)};
+}
+
+// ------------------------------------------------------------- levels 1 and 2: does it dissolve
+
+// Level 1 has the pairs that follow their rule. Whether the answer is yes is drawn first, at level
+// 2 together with whether the pair is an exception; then the rule, then the pair, by how common it
+// is.
+ClassKey classOf(const Pair& pair)
+{
+    const int group = (isSoluble(pair) ? 0 : 1) + (isException(pair) ? 2 : 0);
+    return {group, familyOf(pair), weightOf(pair)};
+}
+
+Classified<Pair> pairsOf(bool withExceptions)
+{
+    std::vector<Pair> pairs;
+    for (const Pair& pair : pairsForSolubility()) {
+        if (withExceptions || !isException(pair)) {
+            pairs.push_back(pair);
+        }
+    }
+    return classified(pairs, classOf, allTheSame);
+}
+
+const Classified<Pair>& pairsOfLevel(int level)
+{
+    static const Classified<Pair> levels[] = {pairsOf(false), pairsOf(true)};
+    return levels[level - 1];
+}
+
+Exercise oneCompound(const Place& place)
+{
+    const Pair& pair = memberFor(place, pairsOfLevel(place.level));
+    Exercise exercise = {};
+    exercise.place = place;
+    exercise.prompt = line("Does ", nameOf(*pair.cation, *pair.anion), ", ",
+                           formula(formulaOf(pair)), ", dissolve in water?");
+    exercise.ask.form = Form::solubility;
+    exercise.ask.choices = {"yes", "no"};
+    exercise.given = {GivenIon{pair.cation}, GivenIon{pair.anion}};
+    exercise.key = isSoluble(pair) ? "yes" : "no";
+    exercise.answer = SolubilityAnswer{isSoluble(pair), std::string(ruleOf(pair).sentence)};
+    exercise.solution = {
+        {line(capitalised(nameOf(*pair.cation, *pair.anion)), " has these ions."),
+         line(spanOf(*pair.cation), ", ", spanOf(*pair.anion)),
+         line("Each compound here is made of two ions. The negative one tells which rule holds.")},
+        ruleStep(pair),
+    };
+    return exercise;
+}
+
+// ---------------------------------------------------------------- level 3: mixing two solutions
+
+// Two salts in solution, and the pairs that they could exchange their ions to. At most the first
+// of these is insoluble.
+struct Mixture {
+    Pair salts[2];
+    Pair exchanged[2];
+};
+
+bool isAsked(const Pair& pair)
+{
+    return whySolubilityIsNotAsked(pair).empty();
+}
+
+bool hasPrecipitate(const Mixture& mixture)
+{
+    return !isSoluble(mixture.exchanged[0]);
+}
+
+bool isAlwaysSoluble(const IonRow& cation)
+{
+    return cation.name == "sodium" || cation.name == "potassium" || cation.name == "ammonium";
+}
+
+// With a precipitate the class is its rule. Without one it is how many of the cations have soluble
+// salts only, so that such salts do not tell the answer.
+ClassKey classOf(const Mixture& mixture)
+{
+    const int weight = std::min(weightOf(mixture.salts[0]), weightOf(mixture.salts[1]));
+    if (hasPrecipitate(mixture)) {
+        return {0, familyOf(mixture.exchanged[0]), weight};
+    }
+    const auto count =
+        std::count_if(std::begin(mixture.salts), std::end(mixture.salts),
+                      [](const Pair& salt) { return isAlwaysSoluble(*salt.cation); });
+    return {1, std::to_string(count), weight};
+}
+
+std::vector<Pair> solublePairs()
+{
+    std::vector<Pair> pairs;
+    std::copy_if(pairsForSolubility().begin(), pairsForSolubility().end(),
+                 std::back_inserter(pairs), isSoluble);
+    return pairs;
+}
+
+void addMixture(std::vector<Mixture>& mixtures, const Pair& a, const Pair& b)
+{
+    if (a.cation == b.cation || a.anion == b.anion) {
+        return;
+    }
+    Mixture mixture = {{a, b}, {{a.cation, b.anion}, {b.cation, a.anion}}};
+    if (!isAsked(mixture.exchanged[0]) || !isAsked(mixture.exchanged[1])) {
+        return;
+    }
+    if (isSoluble(mixture.exchanged[0])) {
+        std::swap(mixture.exchanged[0], mixture.exchanged[1]);
+    }
+    if (isSoluble(mixture.exchanged[1])) {
+        mixtures.push_back(mixture);
+    }
+}
+
+Classified<Mixture> makeMixtures()
+{
+    const std::vector<Pair> salts = solublePairs();
+    std::vector<Mixture> mixtures;
+    for (std::size_t i = 0; i < salts.size(); ++i) {
+        for (std::size_t j = i + 1; j < salts.size(); ++j) {
+            addMixture(mixtures, salts[i], salts[j]);
+        }
+    }
+    return classified(
+        mixtures, [](const Mixture& mixture) { return classOf(mixture); }, allTheSame);
+}
+
+const Classified<Mixture>& allMixtures()
+{
+    static const Classified<Mixture> mixtures = makeMixtures();
+    return mixtures;
+}
+
+// The rules of the new pairs, one sentence where it is the same for both.
+std::string rulesFor(const Mixture& mixture)
+{
+    const std::string first(ruleOf(mixture.exchanged[0]).sentence);
+    const std::string second(ruleOf(mixture.exchanged[1]).sentence);
+    return first == second || hasPrecipitate(mixture) ? first : first + " " + second;
+}
+
+std::vector<Step> workedSolution(const Mixture& mixture)
+{
+    const auto& [a, b] = mixture.salts;
+    const auto& [first, second] = mixture.exchanged;
+    std::vector<Step> steps = {
+        {line("These ions come together."),
+         line(spanOf(*a.cation), ", ", spanOf(*a.anion), ", ", spanOf(*b.cation), ", ",
+              spanOf(*b.anion)),
+         line("Each salt falls apart into its ions in water. Which four are in the mixture?")},
+        {line("Exchange the partners: these are the new pairs."),
+         line(formula(formulaOf(first)), ", ", formula(formulaOf(second))),
+         line("Which compounds can the positive ions make with the negative ions of the other "
+              "solution?")},
+        ruleStep(second),
+        ruleStep(first),
+    };
+    const Spans hint = line("Which of the new pairs does not stay in solution, if any?");
+    if (hasPrecipitate(mixture)) {
+        steps.push_back(
+            {line("So this is the precipitate."), line(formula(formulaOf(first))), hint});
+    } else {
+        steps.push_back(
+            {line("Both are soluble, so there is no precipitate."), line("none"), hint});
+    }
+    return steps;
+}
+
+void addSlips(Exercise& exercise, const Mixture& mixture)
+{
+    const std::vector<std::string> right =
+        hasPrecipitate(mixture) ? spellingsOf(exercise.key) : std::vector<std::string>();
+    for (const Pair& pair : mixture.exchanged) {
+        addSlip(exercise, right, formulaOf(pair),
+                "That one stays in solution. " + std::string(ruleOf(pair).sentence));
+    }
+    for (const Pair& pair : mixture.salts) {
+        addSlip(exercise, right, formulaOf(pair),
+                "That one was dissolved at the start. Look at the new pairs of ions.");
+    }
+}
+
+Exercise twoSolutions(const Place& place)
+{
+    Mixture mixture = memberFor(place, allMixtures());
+    if (drawsFor(place).below(2) == 1) {
+        std::swap(mixture.salts[0], mixture.salts[1]);
+    }
+    const Pair& precipitate = mixture.exchanged[0];
+    const auto& [a, b] = mixture.salts;
+    Exercise exercise = {};
+    exercise.place = place;
+    exercise.prompt =
+        line("Solutions of ", nameOf(*a.cation, *a.anion), " and ", nameOf(*b.cation, *b.anion),
+             " are mixed. Write the formula of the precipitate, or “none”.");
+    exercise.ask.form = Form::solubility;
+    exercise.given = {GivenIon{a.cation}, GivenIon{a.anion}, GivenIon{b.cation}, GivenIon{b.anion}};
+    exercise.key = hasPrecipitate(mixture) ? formulaOf(precipitate) : "none";
+    exercise.answer =
+        PrecipitateAnswer{hasPrecipitate(mixture) ? precipitate.cation : nullptr,
+                          hasPrecipitate(mixture) ? precipitate.anion : nullptr, rulesFor(mixture)};
+    exercise.solution = workedSolution(mixture);
+    addSlips(exercise, mixture);
+    return exercise;
+}
+
+} // namespace
+
+Exercise solubilityExercise(const Place& place)
+{
+    return place.level == 3 ? twoSolutions(place) : oneCompound(place);
+}
+
+} // namespace lesson

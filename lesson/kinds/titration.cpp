@@ -1,0 +1,157 @@
+#include "lesson/kinds/titration.hpp"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "lesson/chemistry/reaction.hpp"
+#include "lesson/kinds/kinds.hpp"
+#include "lesson/kinds/shared/quantities.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+// ----------------------------------------------------------------------- what it is about
+
+Base baseOf(std::string_view formula)
+{
+    for (const char* const anion : {"hydroxide", "carbonate", "hydrogencarbonate"}) {
+        for (const char* const cation : {"lithium", "sodium", "potassium"}) {
+            const Base base = {findIon(cation), findIon(anion)};
+            if (formulaOf(base) == formula) {
+                return base;
+            }
+        }
+    }
+    return ammonia();
+}
+
+Equation equationOf(const Titration& drawn)
+{
+    return neutralisationOf(*findAcid(drawn.pair->acid), baseOf(drawn.pair->base));
+}
+
+Solutions solutionsOf(const Titration& drawn)
+{
+    const SoluteRow* const acid = findSolute(drawn.pair->acid);
+    const SoluteRow* const base = findSolute(drawn.pair->base);
+    return {drawn.isAcidInBurette ? base : acid, drawn.isAcidInBurette ? acid : base,
+            drawn.isAcidKnown ? acid : base, drawn.isAcidKnown ? base : acid};
+}
+
+// As the prompt tells them.
+struct Quantities {
+    GivenQuantity concentration;
+    GivenQuantity inFlask;
+    GivenQuantity fromBurette;
+};
+
+GivenQuantity givenBurette(const Titration& drawn, std::string_view of)
+{
+    GivenQuantity given = givenTitre(of, drawn.fromBurette);
+    given.titres = drawn.titres;
+    return drawn.titres.empty() ? given : untold(given);
+}
+
+Quantities quantitiesOf(const Titration& drawn, const Solutions& solutions)
+{
+    return {givenConcentration("c", solutions.known->formula, drawn.concentration),
+            givenVolume("V", solutions.inFlask->formula, drawn.inFlask),
+            givenBurette(drawn, solutions.inBurette->formula)};
+}
+
+// -------------------------------------------------------------------------------- the prompt
+
+// 0.105 mol/L hydrochloric acid, or its name alone.
+Spans withConcentration(const SoluteRow& solution, const Solutions& solutions,
+                        const GivenQuantity& concentration)
+{
+    return &solution == solutions.known ? line(told(concentration), " ", solutionOf(solution))
+                                        : solutionOf(solution);
+}
+
+const char* nameOf(Indicator indicator)
+{
+    return indicator == Indicator::phenolphthalein ? "phenolphthalein" : "methyl orange";
+}
+
+// Halfway a carbonate has become a hydrogencarbonate, which other indicators show.
+Spans endOf(const Titration& drawn)
+{
+    const std::string_view base = drawn.pair->base;
+    if (base.find("CO3") == std::string_view::npos) {
+        return {};
+    }
+    const bool isHydrogencarbonate = base.find("HCO3") != std::string_view::npos;
+    return line(", until the ",
+                isHydrogencarbonate ? name("hydrogencarbonate", "hydrogen carbonate")
+                                    : name("carbonate"),
+                " has reacted completely");
+}
+
+Spans measureOfTitre(int hundredths)
+{
+    return measure(plainText({hundredths, -2}), "mL");
+}
+
+Spans titresSentence(const Titration& drawn)
+{
+    const std::vector<int>& titres = drawn.titres;
+    if (titres.empty()) {
+        return line("The titre is ", told(givenTitre("", drawn.fromBurette)), ".");
+    }
+    Spans sentence = line("The rough titre is ", measureOfTitre(titres[0]), ", and the others are ",
+                          measureOfTitre(titres[1]));
+    for (std::size_t i = 2; i < titres.size(); ++i) {
+        const bool isLast = i + 1 == titres.size();
+        append(sentence, line(isLast ? " and " : ", ", measureOfTitre(titres[i])));
+    }
+    append(sentence, ".");
+    return sentence;
+}
+
+Spans promptOf(const Titration& drawn, const Solutions& solutions, const Quantities& quantities,
+               const Equation& equation)
+{
+    const Spans flask = withConcentration(*solutions.inFlask, solutions, quantities.concentration);
+    const Spans burette =
+        withConcentration(*solutions.inBurette, solutions, quantities.concentration);
+    const bool isEquationGiven = drawn.titres.empty();
+    return line(told(quantities.inFlask), " of ", flask, " is titrated with ", burette,
+                " from the burette, with ", nameOf(drawn.indicator), " as the indicator",
+                endOf(drawn), ". ", titresSentence(drawn),
+                isEquationGiven ? line(" The equation is ", spansOf(equation), ".") : Spans(),
+                " Calculate the concentration of the ", solutionOf(*solutions.unknown), " in ",
+                unit("mol/L"), ".");
+}
+
+std::vector<Given> givenOf(const Solutions& solutions, const Quantities& quantities)
+{
+    return {givenCompound(*solutions.inFlask), givenCompound(*solutions.inBurette),
+            quantities.inFlask, quantities.fromBurette, quantities.concentration};
+}
+
+} // namespace
+
+Exercise titrationExercise(const Place& place)
+{
+    const Titration drawn = drawTitration(place);
+    const Solutions solutions = solutionsOf(drawn);
+    const Quantities quantities = quantitiesOf(drawn, solutions);
+    const Equation equation = equationOf(drawn);
+    Exercise exercise = numberExercise(
+        place,
+        {Form::number, "c", std::string(solutions.unknown->formula), "mol/L", askedFigures, {}},
+        numberAnswerOf(drawn));
+    exercise.prompt = promptOf(drawn, solutions, quantities, equation);
+    exercise.given = givenOf(solutions, quantities);
+    exercise.equation = equation;
+    exercise.solution = titrationSteps(drawn, solutions, equation, keyMeasure(exercise));
+    addTitrationSlips(exercise, drawn);
+    return exercise;
+}
+
+} // namespace lesson

@@ -1,0 +1,437 @@
+#include "lesson/marking/formula.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <optional>
+
+#include "lesson/chemistry/composition.hpp"
+#include "lesson/chemistry/elements.hpp"
+#include "lesson/marking/confusions.hpp"
+#include "lesson/marking/ions_within.hpp"
+#include "lesson/marking/sentences.hpp"
+#include "lesson/marking/spellings.hpp"
+#include "lesson/reading/formula.hpp"
+#include "lesson/reading/group_braces.hpp"
+#include "lesson/reading/lookalikes.hpp"
+#include "lesson/reading/scan.hpp"
+#include "lesson/reading/typed.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+constexpr int oxygen = 8;
+
+// What was typed, and all that it is compared with.
+struct Attempt {
+    const FormulaAnswer& answer;
+    const std::vector<Slip>& slips;
+    std::string_view whatToType;
+    std::string plain; // with its curly brackets as they were typed
+    std::string round; // with round ones for them
+    TypedFormula read;
+    std::vector<std::string> right; // the key and its other spellings
+    Atoms rightAtoms;
+};
+
+bool isAmong(const std::vector<std::string>& texts, const std::string& text)
+{
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+std::string withoutBrackets(std::string text)
+{
+    text.erase(
+        std::remove_if(text.begin(), text.end(), [](char c) { return c == '(' || c == ')'; }),
+        text.end());
+    return text;
+}
+
+bool hasOxygen(const Atoms& atoms)
+{
+    return std::any_of(atoms.begin(), atoms.end(),
+                       [](AtomCount atom) { return atom.element == oxygen; });
+}
+
+Atoms withoutOxygen(Atoms atoms)
+{
+    atoms.erase(std::remove_if(atoms.begin(), atoms.end(),
+                               [](AtomCount atom) { return atom.element == oxygen; }),
+                atoms.end());
+    return atoms;
+}
+
+bool haveSameElements(const Atoms& a, const Atoms& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](AtomCount x, AtomCount y) { return x.element == y.element; });
+}
+
+// Every element so many times as often as in the right formula.
+bool isMultiple(const Atoms& atoms, const Atoms& right)
+{
+    if (!haveSameElements(atoms, right)) {
+        return false;
+    }
+    const int factor = atoms.front().count / right.front().count;
+    return factor > 1 && std::equal(atoms.begin(), atoms.end(), right.begin(),
+                                    [factor](AtomCount x, AtomCount y) {
+                                        return x.count / y.count == factor &&
+                                               x.count % y.count == 0;
+                                    });
+}
+
+// Whether a learner typed the name in place of the formula, whatever the capitals.
+bool isNameOf(std::string_view plain, const IonRow& cation, const IonRow& anion)
+{
+    const std::string typed = lowerCase(plain);
+    return typed == lowerCase(compoundName(cation, anion)) ||
+           typed == lowerCase(americanName(cation, anion));
+}
+
+// ---------------------------------------------------------------- the rules, first that fits
+
+using Rule = std::optional<Mark> (*)(const Attempt&);
+
+std::optional<Mark> slipWhen(bool isMade, std::string_view sentence)
+{
+    return isMade ? std::optional(markOf(Verdict::slip, sentence)) : std::nullopt;
+}
+
+std::optional<Mark> nothingTyped(const Attempt& attempt)
+{
+    return attempt.plain.empty() ? std::optional(markOf(Verdict::unreadable, attempt.whatToType))
+                                 : std::nullopt;
+}
+
+// Curly brackets count a group, or hold together what is in them; blanks may stand within a symbol.
+std::optional<Mark> right(const Attempt& attempt)
+{
+    const TypedFormula& read = attempt.read;
+    const bool isRight =
+        (isAmong(attempt.right, read.text) && !read.hasCharge && !read.hasRaisedNumber) ||
+        isAmong(attempt.right, bareFormula(attempt.plain)) ||
+        isAmong(attempt.right, bareFormula(withAllBracesRound(attempt.plain)));
+    return isRight ? std::optional(markOf(Verdict::correct, sentences::correct)) : std::nullopt;
+}
+
+std::optional<Mark> capitals(const Attempt& attempt)
+{
+    const std::string folded[] = {withoutCapitals(attempt.plain), withoutCapitals(attempt.round)};
+    const bool isSame =
+        std::any_of(attempt.right.begin(), attempt.right.end(), [&folded](const std::string& text) {
+            const std::string wanted = withoutCapitals(text);
+            return wanted == folded[0] || wanted == folded[1];
+        });
+    return slipWhen(isSame, sentences::capitals);
+}
+
+// A text that is no formula may still be a slip but for its capitals.
+std::optional<Mark> listedSlip(const Attempt& attempt)
+{
+    const std::string bare = bareFormula(attempt.round);
+    const std::string folded = lowerCase(bare);
+    const bool isRead = attempt.read.isRead;
+    const auto slip =
+        std::find_if(attempt.slips.begin(), attempt.slips.end(), [&](const Slip& known) {
+            return known.text == bare || (!isRead && lowerCase(known.text) == folded);
+        });
+    return slip == attempt.slips.end() ? std::nullopt
+                                       : std::optional(markOf(Verdict::slip, slip->sentence));
+}
+
+std::optional<Mark> lookalikes(const Attempt& attempt)
+{
+    for (const Lookalike& other : lookalikesOf(attempt.plain)) {
+        if (isAmong(attempt.right, readFormula(other.meant).text)) {
+            return markOf(Verdict::slip, other.sentence);
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<Mark> notRead(const Attempt& attempt)
+{
+    if (attempt.read.isRead) {
+        return std::nullopt;
+    }
+    if (isNameOf(attempt.plain, *attempt.answer.cation, *attempt.answer.anion)) {
+        return markOf(Verdict::unreadable, "That is its name. Type its formula.");
+    }
+    return unreadable(attempt.read.unread, attempt.whatToType);
+}
+
+// "2Al + 3O"
+std::optional<Mark> sum(const Attempt& attempt)
+{
+    std::string_view left = attempt.plain;
+    bool isApart = false;
+    std::size_t plus = left.find('+');
+    if (plus == std::string_view::npos) {
+        return std::nullopt;
+    }
+    for (;;) {
+        const std::string_view part = left.substr(0, plus);
+        const TypedFormula read = readFormula(part);
+        if (!read.isRead || read.hasCharge) {
+            return std::nullopt;
+        }
+        isApart = isApart || startsWithDigit(part) || part.front() == ' ' || part.back() == ' ';
+        if (plus >= left.size()) {
+            return slipWhen(isApart, "Write one formula, without a plus sign.");
+        }
+        left.remove_prefix(plus + 1);
+        plus = left.find('+');
+    }
+}
+
+std::optional<Mark> chargesLeftIn(const Attempt& attempt)
+{
+    return slipWhen(attempt.read.hasCharge, sentences::chargesLeftIn);
+}
+
+std::optional<Mark> raisedNumber(const Attempt& attempt)
+{
+    return slipWhen(attempt.read.hasRaisedNumber,
+                    "Small numbers stand below the line: type them as plain digits.");
+}
+
+std::optional<Mark> numberInFront(const Attempt& attempt)
+{
+    const char first = attempt.read.text.front();
+    return slipWhen(first >= '0' && first <= '9', "Leave out the number in front.");
+}
+
+// "Fe(III)2O3" is read as one with iodine. Where no iodide is asked for, the numeral shows even if
+// more is wrong.
+std::optional<Mark> numeralLeftIn(const Attempt& attempt)
+{
+    const bool isIodide = attempt.answer.anion->formula == "I";
+    const bool hasNumeral = attempt.read.text.find("(II)") != std::string::npos ||
+                            attempt.read.text.find("(III)") != std::string::npos;
+    const std::vector<std::string> others = withoutNumeral(attempt.read.text);
+    const bool isRightWithout =
+        std::any_of(others.begin(), others.end(), [&attempt](const std::string& other) {
+            return isAmong(attempt.right, readFormula(other).simplest);
+        });
+    return slipWhen(isRightWithout || (hasNumeral && !isIodide), sentences::romanNumeral);
+}
+
+std::optional<Mark> waterLeftIn(const Attempt& attempt)
+{
+    const std::size_t dot = attempt.read.text.find('.');
+    return slipWhen(dot != std::string::npos &&
+                        isAmong(attempt.right, attempt.read.text.substr(0, dot)),
+                    "Leave out the water: it belongs to the crystals, not to the compound.");
+}
+
+std::optional<Mark> bracketNotNeeded(const Attempt& attempt)
+{
+    return slipWhen(isAmong(attempt.right, attempt.read.simplest), sentences::bracketNotNeeded);
+}
+
+std::optional<Mark> bracketMissing(const Attempt& attempt)
+{
+    const std::string typed = withoutBrackets(attempt.read.text);
+    const bool isSame =
+        std::any_of(attempt.right.begin(), attempt.right.end(),
+                    [&typed](const std::string& text) { return withoutBrackets(text) == typed; });
+    return slipWhen(isSame, sentences::bracketMissing);
+}
+
+std::optional<Mark> notSimplified(const Attempt& attempt)
+{
+    return slipWhen(isMultiple(attempt.read.atoms, attempt.rightAtoms), sentences::simplify);
+}
+
+// The right ions in wrong numbers; those of a metal may be right for another charge of it, "PbO2".
+std::optional<Mark> chargesDoNotCancel(const Attempt& attempt)
+{
+    const IonRow& cation = *attempt.answer.cation;
+    const IonRow& anion = *attempt.answer.anion;
+    const Counts counts = countsIn(attempt.read.simplest, cation.formula, anion.formula);
+    if (counts.positive == 0) {
+        return std::nullopt;
+    }
+    const int charge = -anion.charge * counts.negative;
+    const bool isNeutral = hasRomanNumeral(cation) && charge % counts.positive == 0 &&
+                           hasOtherCharge(cation, charge / counts.positive);
+    return markOf(Verdict::slip,
+                  isNeutral ? sentences::chargeOfMetal : sentences::chargesDoNotCancel);
+}
+
+// Another ion for one of the two, whatever their numbers: "Na2SO3", "NaHSO4", "NH3Cl".
+std::optional<Mark> otherIon(const Attempt& attempt)
+{
+    const IonRow& cation = *attempt.answer.cation;
+    const IonRow& anion = *attempt.answer.anion;
+    const auto isMadeOf = [&](std::string_view positive, std::string_view negative) {
+        return countsIn(attempt.read.simplest, positive, negative).positive > 0;
+    };
+    for (const Confusion* const other : confusionsOf(anion)) {
+        if (isMadeOf(cation.formula, other->formula)) {
+            return markOf(Verdict::slip, other->sentence);
+        }
+    }
+    for (const Confusion* const other : confusionsOf(cation)) {
+        if (isMadeOf(other->formula, anion.formula)) {
+            return markOf(Verdict::slip, other->sentence);
+        }
+    }
+    return std::nullopt;
+}
+
+// "PbOHOH", "MgClCl"
+std::optional<Mark> writtenOut(const Attempt& attempt)
+{
+    const IonRow& cation = *attempt.answer.cation;
+    const IonRow& anion = *attempt.answer.anion;
+    const std::string& typed = attempt.read.simplest;
+    const bool lacksBracket = repeatsGroup(cation, anion) && typed.find('(') == std::string::npos;
+    return slipWhen(attempt.read.atoms == attempt.rightAtoms && isWrittenOut(typed, cation, anion),
+                    lacksBracket ? sentences::bracketForGroups : sentences::numberForIons);
+}
+
+std::optional<Mark> otherOrder(const Attempt& attempt)
+{
+    const IonRow& cation = *attempt.answer.cation;
+    const IonRow& anion = *attempt.answer.anion;
+    const std::string reversed = repeated(anion.formula, anionsIn(cation, anion)) +
+                                 repeated(cation.formula, cationsIn(cation, anion));
+    if (attempt.read.simplest == reversed) {
+        return markOf(Verdict::slip, sentences::positiveFirst);
+    }
+    return slipWhen(attempt.read.atoms == attempt.rightAtoms,
+                    "The atoms are right. Write ion after ion, the positive one first.");
+}
+
+std::optional<Mark> symbol(const Attempt& attempt)
+{
+    const std::string wrong = wrongSymbol(attempt.read.simplest, attempt.right);
+    return slipWhen(!wrong.empty(), sentences::checkSymbol(wrong));
+}
+
+std::optional<Mark> ending(const Attempt& attempt)
+{
+    return slipWhen(mistakesEnding(*attempt.answer.anion, attempt.read.atoms, attempt.rightAtoms),
+                    sentences::ending);
+}
+
+std::optional<Mark> oxygens(const Attempt& attempt)
+{
+    return slipWhen(differInOxygens(attempt.read.atoms, attempt.rightAtoms), sentences::oxygens);
+}
+
+constexpr Rule rules[] = {
+    nothingTyped,  right,       capitals,           lookalikes,     listedSlip,
+    sum,           notRead,     chargesLeftIn,      raisedNumber,   numberInFront,
+    numeralLeftIn, waterLeftIn, bracketNotNeeded,   bracketMissing, notSimplified,
+    writtenOut,    otherOrder,  chargesDoNotCancel, otherIon,       symbol,
+    ending,        oxygens,
+};
+
+// A formula cut at its symbols: "K2SO4" -> K, S, O and "?2??4".
+struct Symbols {
+    std::vector<std::string> symbols;
+    std::string rest;
+};
+
+Symbols symbolsOf(std::string_view text)
+{
+    Symbols cut;
+    for (const char c : text) {
+        if (c >= 'A' && c <= 'Z') {
+            cut.symbols.emplace_back(1, c);
+            cut.rest += '?';
+        } else if (c >= 'a' && c <= 'z') {
+            cut.symbols.back() += c;
+        } else {
+            cut.rest += c;
+        }
+    }
+    return cut;
+}
+
+// The symbol that stands wherever they differ; empty where there is more than one.
+std::string onlyDifference(const Symbols& typed, const Symbols& rightOnes)
+{
+    std::string wrong;
+    for (std::size_t i = 0; i < typed.symbols.size(); ++i) {
+        const std::string& symbol = typed.symbols[i];
+        if (symbol == rightOnes.symbols[i]) {
+            continue;
+        }
+        if (!wrong.empty() && wrong != symbol) {
+            return "";
+        }
+        wrong = symbol;
+    }
+    return wrong;
+}
+
+} // namespace
+
+Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
+                 std::string_view typed, std::string_view whatToType)
+{
+    Attempt attempt = {answer, slips, whatToType, withoutBond(spelledOut(plainTyped(typed))),
+                       {},     {},    {},         {}};
+    attempt.round = withRoundBraces(attempt.plain);
+    attempt.read = readFormula(attempt.plain);
+    attempt.right = spellingsOf(compoundFormula(*answer.cation, *answer.anion));
+    attempt.rightAtoms = readFormula(attempt.right.front()).atoms;
+    for (const Rule rule : rules) {
+        if (const std::optional<Mark> mark = rule(attempt)) {
+            return *mark;
+        }
+    }
+    return markOf(Verdict::wrong, sentences::notYet);
+}
+
+std::vector<std::string> withoutNumeral(std::string_view text)
+{
+    std::vector<std::string> others;
+    for (const std::string_view numeral :
+         {"(VII)", "(III)", "(II)", "(I)", "VII", "III", "II", "I"}) {
+        const std::size_t place = text.find(numeral, 1);
+        if (place != std::string_view::npos) {
+            const std::size_t raised = text[place - 1] == '^' ? 1 : 0;
+            others.emplace_back(text);
+            others.back().erase(place - raised, numeral.size() + raised);
+        }
+    }
+    return others;
+}
+
+std::string wrongSymbol(std::string_view text, const std::vector<std::string>& rightTexts)
+{
+    const Symbols typed = symbolsOf(text);
+    for (const std::string& right : rightTexts) {
+        const Symbols cut = symbolsOf(right);
+        if (cut.rest == typed.rest) {
+            std::string wrong = onlyDifference(typed, cut);
+            if (!wrong.empty()) {
+                return wrong;
+            }
+        }
+    }
+    return "";
+}
+
+bool mistakesEnding(const IonRow& ion, const Atoms& typed, const Atoms& right)
+{
+    const bool isDue = hasOxygen(right);
+    const bool isTold = ion.charge < 0 && (!isDue || !endsWith(ion.name, "ide"));
+    return isTold && hasOxygen(typed) != isDue &&
+           haveSameElements(withoutOxygen(typed), withoutOxygen(right));
+}
+
+bool differInOxygens(const Atoms& a, const Atoms& b)
+{
+    return hasOxygen(a) && hasOxygen(b) && a != b && withoutOxygen(a) == withoutOxygen(b);
+}
+
+} // namespace lesson

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "lesson/exercise.hpp"
+#include "lesson/reading/typed.hpp"
+
+namespace lesson
+{
+
+// What several forms of answers tell the learner.
+namespace sentences
+{
+
+constexpr std::string_view correct = "Correct.";
+constexpr std::string_view notYet =
+    "Not right yet. Write down what you know, or press Show a step.";
+constexpr std::string_view capitals = "Check the capitals: first letter large, second small.";
+
+// Of a symbol or a short formula.
+inline std::string checkSymbol(std::string_view symbol)
+{
+    return "Check this symbol: " + std::string(symbol) + ".";
+}
+
+} // namespace sentences
+
+inline Mark markOf(Verdict verdict, std::string_view sentence)
+{
+    return {verdict, std::string(sentence)};
+}
+
+// For a part that could not be read; a sentence that begins with "Type" goes on with what can be.
+inline Mark unreadable(std::string_view part, std::string_view whatToType)
+{
+    return {Verdict::unreadable,
+            "I can't read this part: '" + quotable(part) + "'. " + std::string(whatToType)};
+}
+
+} // namespace lesson

@@ -1,0 +1,438 @@
+#include "lesson/reading/equation.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <optional>
+#include <utility>
+
+#include "lesson/reading/equation_signs.hpp"
+#include "lesson/reading/scan.hpp"
+#include "lesson/reading/typed.hpp"
+
+namespace lesson
+{
+
+// The grammar; blanks may stand anywhere but inside a number.
+//
+//   equation    = side arrow side "."?
+//   arrow       = a run of "-", "=", "<", ">" with more than dashes in it | "_>" | "~>"
+//   side        = "+"? term ("+" term)*
+//   term        = (coefficient times?)? formula state?
+//   coefficient = number | "(" number ")"
+//   number      = digits | digits? ("." | ",") digits | (digits " ")? digits "/" digits
+//   times       = "*" | "·" | "×" | "." | "x"
+//   state       = "(s)" | "(l)" | "(g)" | "(aq)" | "_{s}" | " s" and so on | "↓" | "↑" | " ^"
+//
+// Words such as "gives" and "and" stand for an arrow and a "+". A "+" with no term behind it
+// belongs to the term before. States are in any case, also subscripts.
+
+namespace
+{
+
+constexpr std::size_t mostTerms = 50;
+
+std::string_view trimmed(std::string_view text)
+{
+    takeBlanks(text);
+    while (!text.empty() && text.back() == ' ') {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+// Removes the end if it is there, and the blanks before it.
+bool removeEnd(std::string_view& text, std::string_view end)
+{
+    if (!endsWith(text, end)) {
+        return false;
+    }
+    text.remove_suffix(end.size());
+    text = trimmed(text);
+    return true;
+}
+
+// ---- Arrows
+
+struct Run {
+    std::size_t begin;
+    std::size_t end;
+    bool isDashes; // no arrow, but perhaps meant as one
+    bool pointsLeft;
+    bool pointsRight;
+};
+
+// The first run of arrow characters, with blanks between them, from a place on.
+std::optional<Run> runFrom(std::string_view text, std::size_t from)
+{
+    const std::size_t start = text.find_first_of(ofArrows, from);
+    if (start == std::string_view::npos) {
+        return std::nullopt;
+    }
+    Run run = {start, start, true, false, false};
+    for (std::size_t i = start; i < text.size() && (isOneOf(text[i], ofArrows) || text[i] == ' ');
+         ++i) {
+        run.pointsLeft = run.pointsLeft || text[i] == '<';
+        run.pointsRight = run.pointsRight || text[i] == '>';
+        run.isDashes = run.isDashes && (text[i] == '-' || text[i] == ' ');
+        run.end = text[i] == ' ' ? run.end : i + 1;
+    }
+    return run;
+}
+
+std::optional<Run> firstArrow(std::string_view text)
+{
+    std::optional<Run> run = runFrom(text, 0);
+    while (run.has_value() && run->isDashes) {
+        run = runFrom(text, run->end);
+    }
+    return run;
+}
+
+// ---- Terms
+
+struct StateSpelling {
+    std::string_view typed;
+    std::string_view state;
+};
+
+// In lower case, without blanks.
+constexpr StateSpelling stateSpellings[] = {
+    {"s", "s"},     {"l", "l"},      {"g", "g"},   {"aq", "aq"},      {"aq.", "aq"},
+    {"solid", "s"}, {"liquid", "l"}, {"gas", "g"}, {"aqueous", "aq"},
+};
+
+std::string_view stateIn(std::string_view brackets)
+{
+    brackets = trimmed(brackets);
+    if (startsWith(brackets, "(") && removeEnd(brackets, ")")) { // "_{(aq)}"
+        brackets = trimmed(brackets.substr(1));
+    }
+    const std::string lower = lowerCase(brackets);
+    const auto* const known =
+        std::find_if(std::begin(stateSpellings), std::end(stateSpellings),
+                     [&lower](const StateSpelling& spelling) { return spelling.typed == lower; });
+    return known == std::end(stateSpellings) ? std::string_view() : known->state;
+}
+
+// A state behind the last opening bracket, which ends with `closing`; empty where there is none.
+std::string_view takeStateIn(std::string_view& term, std::string_view opening,
+                             std::string_view closing)
+{
+    const std::size_t begin = term.rfind(opening);
+    if (!endsWith(term, closing) || begin == std::string_view::npos) {
+        return "";
+    }
+    const std::size_t inside = begin + opening.size();
+    if (term.size() < inside + closing.size()) {
+        return "";
+    }
+    const std::string_view typed = term.substr(inside, term.size() - inside - closing.size());
+    // "Na2 S" has a sulfur, and no state.
+    const std::string_view state =
+        opening == " " && typed != lowerCase(typed) ? "" : stateIn(typed);
+    if (!state.empty()) {
+        term = trimmed(term.substr(0, begin));
+        removeEnd(term, "_");
+    }
+    return state;
+}
+
+// The same with the blanks behind it.
+bool takeWithBlanks(std::string_view& rest, std::string_view expected)
+{
+    const bool isThere = take(rest, expected);
+    if (isThere) {
+        takeBlanks(rest);
+    }
+    return isThere;
+}
+
+// ---- Coefficients: each of these takes a number off the front, or leaves the text as it is.
+
+using Number = std::optional<Ratio>;
+
+// More digits than any coefficient has are taken as a number that is too large for one.
+Number takeWhole(std::string_view& text)
+{
+    constexpr std::int64_t tooLarge = 1000000000;
+    if (!startsWithDigit(text)) {
+        return std::nullopt;
+    }
+    std::int64_t value = 0;
+    for (; startsWithDigit(text); text.remove_prefix(1)) {
+        value = std::min(value * 10 + (text.front() - '0'), tooLarge);
+    }
+    return ratio(value);
+}
+
+Number takeDecimal(std::string_view& text)
+{
+    constexpr std::size_t mostDecimals = 4;
+    std::string_view rest = text;
+    const Ratio whole = takeWhole(rest).value_or(ratio(0));
+    if (!take(rest, ".") && !take(rest, ",")) {
+        return std::nullopt;
+    }
+    const std::size_t length = rest.size();
+    const Number decimals = takeWhole(rest);
+    const std::size_t places = length - rest.size();
+    if (!decimals.has_value() || places > mostDecimals) {
+        return std::nullopt;
+    }
+    text = rest;
+    return whole + *decimals * powerOfTen(-static_cast<int>(places));
+}
+
+Number takeFraction(std::string_view& text)
+{
+    std::string_view rest = text;
+    const Number over = takeWhole(rest);
+    takeBlanks(rest);
+    if (!over.has_value() || !takeWithBlanks(rest, "/")) {
+        return std::nullopt;
+    }
+    const Number under = takeWhole(rest);
+    if (!under.has_value() || *under == ratio(0)) {
+        return std::nullopt;
+    }
+    text = rest;
+    return *over / *under;
+}
+
+// "1 1/2"
+Number takeMixed(std::string_view& text)
+{
+    std::string_view rest = text;
+    const Number whole = takeWhole(rest);
+    if (!whole.has_value() || !takeWithBlanks(rest, " ")) {
+        return std::nullopt;
+    }
+    const Number part = takeFraction(rest);
+    if (!part.has_value()) {
+        return std::nullopt;
+    }
+    text = rest;
+    return *whole + *part;
+}
+
+Number takeNumber(std::string_view& text)
+{
+    for (const auto take : {takeMixed, takeFraction, takeDecimal, takeWhole}) {
+        const Number number = take(text);
+        if (number.has_value()) {
+            return number;
+        }
+    }
+    return std::nullopt;
+}
+
+Number takeNumberInBrackets(std::string_view& text)
+{
+    std::string_view rest = text;
+    if (!takeWithBlanks(rest, "(")) {
+        return std::nullopt;
+    }
+    const Number number = takeNumber(rest);
+    takeBlanks(rest);
+    if (!number.has_value() || !takeWithBlanks(rest, ")")) {
+        return std::nullopt;
+    }
+    text = rest;
+    return number;
+}
+
+// 1 where none is written.
+Ratio takeCoefficient(std::string_view& term)
+{
+    Number number = takeNumber(term);
+    if (!number.has_value()) {
+        number = takeNumberInBrackets(term);
+    }
+    if (!number.has_value()) {
+        return ratio(1);
+    }
+    takeBlanks(term);
+    for (const std::string_view times : {"*", "·", "×", ".", "x"}) {
+        if (takeWithBlanks(term, times)) {
+            break;
+        }
+    }
+    return *number;
+}
+
+// ---- Terms and sides
+
+// The formula without the bonds that some draw: "CH3-COOH". A dash that no symbol
+// follows is a charge, and stays.
+std::string withoutBonds(std::string_view formula)
+{
+    std::string plain;
+    for (std::size_t i = 0; i < formula.size(); ++i) {
+        const char next = i + 1 < formula.size() ? formula[i + 1] : ' ';
+        const bool isBond = formula[i] == '-' && !plain.empty() && next >= 'A' && next <= 'Z';
+        if (!isBond) {
+            plain += formula[i];
+        }
+    }
+    return plain;
+}
+
+bool isBareFormula(const TypedFormula& formula)
+{
+    return formula.isRead && !formula.hasCharge && formula.state.empty();
+}
+
+// Marks of what stands below the line; here they may be left out.
+constexpr std::string_view idleMarks = "_{}";
+
+// As it stands, or without marks that mark nothing: "H2_SO4".
+TypedFormula readBareFormula(std::string_view text)
+{
+    TypedFormula formula = readFormula(text);
+    if (isBareFormula(formula)) {
+        return formula;
+    }
+    std::string unmarked(text);
+    unmarked.erase(std::remove_if(unmarked.begin(), unmarked.end(),
+                                  [](char c) { return isOneOf(c, idleMarks); }),
+                   unmarked.end());
+    TypedFormula other = readFormula(unmarked);
+    return isBareFormula(other) ? other : formula;
+}
+
+// "_2HCl", "{ 2HCl"
+void removeMarksBeforeNumber(std::string_view& rest)
+{
+    std::string_view behind = rest;
+    while (!behind.empty() && (isOneOf(behind.front(), idleMarks) || behind.front() == ' ')) {
+        behind.remove_prefix(1);
+    }
+    rest = startsWithDigit(behind) ? behind : rest;
+}
+
+TypedTerm readTerm(std::string_view typed)
+{
+    TypedTerm term;
+    std::string_view rest = typed;
+    term.state = takeState(rest);
+    removeMarksBeforeNumber(rest);
+    term.coefficient = takeCoefficient(rest);
+    term.text = rest;
+    const bool hasSecondCoefficient = startsWithDigit(rest);
+    if (rest.empty() || hasSecondCoefficient || !isFitCoefficient(term.coefficient)) {
+        term.unread = typed;
+        return term;
+    }
+    const std::optional<Run> secondArrow = firstArrow(rest);
+    if (secondArrow.has_value()) {
+        term.unread = rest.substr(secondArrow->begin);
+        return term;
+    }
+    term.text = withoutBonds(rest);
+    term.formula = readBareFormula(term.text);
+    if (!isBareFormula(term.formula)) {
+        term.unread = term.formula.unread.empty() ? typed : term.formula.unread;
+    }
+    return term;
+}
+
+// Whether a "+" with this behind it stands between two species; else it is a charge.
+bool separates(std::string_view behind)
+{
+    constexpr std::string_view noStart = "+-)]}^_/";
+    constexpr std::size_t longestState = 10;
+    behind = trimmed(behind);
+    if (behind.empty() || isOneOf(behind.front(), noStart)) {
+        return false;
+    }
+    const std::string_view start = behind.substr(0, longestState);
+    const std::size_t closing = start.find(')');
+    return start.front() != '(' || closing == std::string_view::npos ||
+           stateIn(start.substr(1, closing - 1)).empty();
+}
+
+// Reads one side, and notes the first part that could not be read.
+std::vector<TypedTerm> readSide(std::string_view side, std::string& unread)
+{
+    std::vector<TypedTerm> terms;
+    terms.reserve(4);
+    side = trimmed(side);
+    if (startsWith(side, "+") && separates(side.substr(1))) {
+        take(side, "+");
+    }
+    while (!side.empty()) {
+        if (terms.size() == mostTerms) {
+            unread = unread.empty() ? side : unread;
+            break;
+        }
+        std::size_t end = side.find('+');
+        while (end != std::string_view::npos && !separates(side.substr(end + 1))) {
+            end = side.find('+', end + 1);
+        }
+        terms.push_back(readTerm(trimmed(side.substr(0, end))));
+        if (unread.empty()) {
+            unread = terms.back().unread;
+        }
+        side.remove_prefix(std::min(end, side.size() - 1) + 1);
+        side = trimmed(side);
+    }
+    return terms;
+}
+
+} // namespace
+
+std::string_view takeState(std::string_view& term)
+{
+    if (removeEnd(term, "↓")) {
+        return "s";
+    }
+    if (removeEnd(term, "↑") || removeEnd(term, " ^")) {
+        return "g";
+    }
+    struct Brackets {
+        std::string_view opening;
+        std::string_view closing;
+    };
+    constexpr Brackets brackets[] = {{"{", "}"}, {"(", ")"}, {" ", ""}};
+    for (const Brackets& pair : brackets) {
+        const std::string_view state = takeStateIn(term, pair.opening, pair.closing);
+        if (!state.empty()) {
+            return state;
+        }
+    }
+    return "";
+}
+
+bool isFitCoefficient(Ratio value)
+{
+    return ratio(0) < value && value.numerator <= 99999 && value.denominator <= 10000;
+}
+
+TypedEquation readEquation(std::string_view typed)
+{
+    const std::string text = withPlainSigns(typed);
+    std::string_view plain = text;
+    TypedEquation equation;
+    removeEnd(plain, ".");
+    const std::optional<Run> arrow = firstArrow(plain);
+    // Without an arrow, a dash may be meant as one, and what stands at its sides can be read.
+    const std::optional<Run> split = arrow.has_value() ? arrow : runFrom(plain, 0);
+    equation.left =
+        readSide(plain.substr(0, split.has_value() ? split->begin : plain.size()), equation.unread);
+    if (split.has_value()) {
+        equation.right = readSide(plain.substr(split->end), equation.unread);
+    }
+    if (arrow.has_value()) {
+        const bool isTwoWay = arrow->pointsLeft && arrow->pointsRight;
+        equation.arrow = isTwoWay ? Arrow::twoWay : Arrow::oneWay;
+        equation.pointsLeft = arrow->pointsLeft && !isTwoWay;
+        if (equation.pointsLeft) {
+            std::swap(equation.left, equation.right);
+        }
+    }
+    return equation;
+}
+
+} // namespace lesson

@@ -1,0 +1,164 @@
+#include "lesson/reading/units.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <string>
+
+#include "lesson/reading/scan.hpp"
+#include "lesson/reading/typed.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+struct Word {
+    std::string_view typed;
+    std::string_view plain;
+};
+
+struct UnitRow {
+    std::string_view plain; // small letters, nothing between the factors
+    Unit unit;
+};
+
+// clang-format off
+constexpr Word words[] = {
+    {"per", "/"},
+    {"mole", "mol"}, {"moles", "mol"}, {"mols", "mol"},
+    {"millimole", "mmol"}, {"millimoles", "mmol"},
+    {"molar", "mol/l"}, {"millimolar", "mmol/l"},
+    {"litre", "l"}, {"litres", "l"}, {"liter", "l"}, {"liters", "l"},
+    {"ltr", "l"}, {"ltrs", "l"},
+    {"millilitre", "ml"}, {"millilitres", "ml"}, {"milliliter", "ml"}, {"milliliters", "ml"},
+    {"centimetre", "cm"}, {"centimetres", "cm"}, {"centimeter", "cm"}, {"centimeters", "cm"},
+    {"decimetre", "dm"}, {"decimetres", "dm"}, {"decimeter", "dm"}, {"decimeters", "dm"},
+    {"mls", "ml"}, {"cc", "cm3"}, {"ccm", "cm3"},
+    {"gram", "g"}, {"grams", "g"}, {"gramme", "g"}, {"grammes", "g"}, {"gm", "g"}, {"gms", "g"},
+    {"gr", "g"},
+    {"milligram", "mg"}, {"milligrams", "mg"}, {"kilogram", "kg"}, {"kilograms", "kg"},
+};
+
+constexpr UnitRow units[] = {
+    {"mol/l",      {Measure::concentration,  0, "mol/L"}},
+    {"moll-1",     {Measure::concentration,  0, "mol/L"}},
+    {"mol/dm3",    {Measure::concentration,  0, "mol/dm³"}},
+    {"moldm-3",    {Measure::concentration,  0, "mol dm⁻³"}},
+    {"mmol/l",     {Measure::concentration, -3, "mmol/L"}},
+    {"mmoll-1",    {Measure::concentration, -3, "mmol/L"}},
+    {"mmol/dm3",   {Measure::concentration, -3, "mmol/dm³"}},
+    {"mmoldm-3",   {Measure::concentration, -3, "mmol dm⁻³"}},
+    {"mmol/ml",    {Measure::concentration,  0, "mmol/mL"}},
+    {"mmolml-1",   {Measure::concentration,  0, "mmol/mL"}},
+    {"mmol/cm3",   {Measure::concentration,  0, "mmol/cm³"}},
+    {"mmolcm-3",   {Measure::concentration,  0, "mmol cm⁻³"}},
+    {"mol/cubicdm", {Measure::concentration, 0, "mol/dm³"}},
+    {"g/mol",      {Measure::molarMass,      0, "g/mol"}},
+    {"gmol-1",     {Measure::molarMass,      0, "g mol⁻¹"}},
+    {"kg/mol",     {Measure::molarMass,      3, "kg/mol"}},
+    {"kgmol-1",    {Measure::molarMass,      3, "kg mol⁻¹"}},
+    {"kg",         {Measure::mass,           3, "kg"}},
+    {"g",          {Measure::mass,           0, "g"}},
+    {"mg",         {Measure::mass,          -3, "mg"}},
+    {"l",          {Measure::volume,         0, "L"}},
+    {"dm3",        {Measure::volume,         0, "dm³"}},
+    {"cubicdm",    {Measure::volume,         0, "dm³"}},
+    {"cubiccm",    {Measure::volume,        -3, "cm³"}},
+    {"ml",         {Measure::volume,        -3, "mL"}},
+    {"cm3",        {Measure::volume,        -3, "cm³"}},
+};
+// clang-format on
+
+// What stands between factors, around them or before an exponent; byte by byte, since no other
+// character is made of the raised dot's bytes alone.
+constexpr std::string_view joins = " .*^_()[]{}·";
+
+bool isJoin(char byte)
+{
+    return isOneOf(byte, joins);
+}
+
+std::string withoutJoins(std::string text)
+{
+    text.erase(std::remove_if(text.begin(), text.end(), isJoin), text.end());
+    return text;
+}
+
+std::size_t lettersAtFront(std::string_view text)
+{
+    std::size_t length = 0;
+    while (length < text.size() && isLetter(text[length])) {
+        ++length;
+    }
+    return length;
+}
+
+std::string plainWord(std::string_view typed)
+{
+    std::string small = lowerCase(typed);
+    const auto* const word = std::find_if(std::begin(words), std::end(words),
+                                          [&](const Word& row) { return row.typed == small; });
+    return word == std::end(words) ? small : std::string(word->plain);
+}
+
+std::string withPlainWords(std::string_view text)
+{
+    std::string plain;
+    while (!text.empty()) {
+        const std::size_t length = lettersAtFront(text);
+        plain += length == 0 ? std::string(1, text.front()) : plainWord(text.substr(0, length));
+        text.remove_prefix(length == 0 ? 1 : length);
+    }
+    return plain;
+}
+
+// "mol/dm-3" is "mol/dm3": who writes both a stroke and a negative power means one of them.
+std::string withoutDoubleDivision(std::string plain)
+{
+    const std::size_t minus = plain.find('-');
+    if (plain.find('/') < minus && minus != std::string::npos) {
+        const std::string_view power = std::string_view(plain).substr(minus);
+        plain.erase(minus, power == "-1" ? 2 : power == "-3" ? 1 : 0);
+    }
+    return plain;
+}
+
+} // namespace
+
+std::optional<Unit> unitOf(std::string_view typed)
+{
+    // Only here capitals matter: m is the metre, and milli.
+    const std::string symbol = withoutJoins(std::string(typed));
+    if (symbol == "M") {
+        return Unit{Measure::concentration, 0, "M"};
+    }
+    if (symbol == "mM") {
+        return Unit{Measure::concentration, -3, "mM"};
+    }
+    const std::string plain = withoutDoubleDivision(withoutJoins(withPlainWords(typed)));
+    const auto* const row = std::find_if(std::begin(units), std::end(units),
+                                         [&](const UnitRow& unit) { return unit.plain == plain; });
+    return row == std::end(units) ? std::nullopt : std::optional<Unit>(row->unit);
+}
+
+std::string_view withoutEnding(std::string_view typed, std::string_view ending)
+{
+    std::string_view rest = typed;
+    for (; !ending.empty(); ending.remove_suffix(1)) {
+        if (isJoin(ending.back())) {
+            continue;
+        }
+        while (!rest.empty() && isJoin(rest.back())) {
+            rest.remove_suffix(1);
+        }
+        if (rest.empty() || smallLetter(rest.back()) != smallLetter(ending.back())) {
+            return typed;
+        }
+        rest.remove_suffix(1);
+    }
+    return rest;
+}
+
+} // namespace lesson

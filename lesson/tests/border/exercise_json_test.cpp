@@ -1,0 +1,153 @@
+#include "lesson/border/exercise_json.hpp"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <string>
+
+namespace lesson
+{
+
+namespace
+{
+
+using Json = nlohmann::ordered_json;
+
+Exercise titration()
+{
+    Exercise exercise;
+    exercise.place = {4821, 3, Kind::titration, 2};
+    exercise.prompt = line("Titrated with ", measure("0.105", "mol/L"), " ", formula("HCl"), ".");
+    exercise.ask = {Form::number, "c", "Na2CO3", "mol/L", 3, {}};
+    exercise.given = {
+        GivenQuantity{"c", "HCl", ratio(105, 1000), "mol/L", "0.105", "mol/L"},
+        GivenQuantity{"V", "HCl", ratio(217, 10000), "L", "21.70", "mL", {2210, 2170, 2175}},
+        GivenQuantity{"M", "HCl", ratio(36458, 1000), "g/mol", "", ""},
+    };
+    exercise.equation =
+        Equation{{{2, "HCl"}, {1, "Na2CO3"}}, {{2, "NaCl"}, {1, "H2O"}, {1, "CO2"}}};
+    exercise.key = "0.0456 mol/L";
+    exercise.answer = NumberAnswer{ratio(45570, 1000000)};
+    exercise.solution = {{line("Ratio."), line(quantity("n", "HCl"), " = ", number("2.28e-3")),
+                          line("How many react with one?")},
+                         {line("Check."), {}}};
+    exercise.slips = {{"0.182 mol/L", ratio(18228, 100000), "Look at the numbers."}};
+    return exercise;
+}
+
+TEST(ExerciseJsonTest, ATitrationInItsOrder)
+{
+    const char* const expected =
+        R"({"version":1,"paper":4821,"number":3,"kind":"titration","level":2,
+        "prompt":[{"text":"Titrated with "},{"number":"0.105"},{"unit":"mol/L"},{"text":" "},
+                  {"formula":"HCl"},{"text":"."}],
+        "ask":{"form":"number","quantity":"c","of":"Na2CO3","unit":"mol/L","figures":3},
+        "given":[{"quantity":"c","of":"HCl","value":0.105,"unit":"mol/L","shown":"0.105","shownUnit":"mol/L"},
+                 {"quantity":"V","of":"HCl","value":0.0217,"unit":"L","shown":"21.70","shownUnit":"mL",
+                  "titres":[22.10,21.70,21.75]},
+                 {"quantity":"M","of":"HCl","value":36.458,"unit":"g/mol","shown":"","shownUnit":""}],
+        "equation":{"left":[[2,"HCl"],[1,"Na2CO3"]],"right":[[2,"NaCl"],[1,"H2O"],[1,"CO2"]]},
+        "key":{"text":"0.0456 mol/L","value":0.04557},
+        "solution":[{"say":[{"text":"Ratio."}],
+                     "math":[{"quantity":"n","of":"HCl"},{"text":" = "},{"number":"2.28e-3"}],
+                     "hint":[{"text":"How many react with one?"}]},
+                    {"say":[{"text":"Check."}],"math":[],"hint":[]}],
+        "slips":[{"text":"0.182 mol/L","value":0.18228,"sentence":"Look at the numbers."}]})";
+    EXPECT_EQ(Json::parse(exerciseJson(titration())).dump(1), Json::parse(expected).dump(1));
+    EXPECT_NE(exerciseJson(titration()).find("[22.10,21.70,21.75]"), std::string::npos)
+        << "titres keep their two decimals";
+}
+
+TEST(ExerciseJsonTest, IonsCompoundsAndChoices)
+{
+    Exercise exercise;
+    exercise.place = {1, 1, Kind::solubility, 1};
+    exercise.ask = {Form::solubility, "", "", "", 0, {"yes", "no"}};
+    exercise.given = {GivenIon{findIon("SO4", -2)}, GivenIon{findIon("aluminium")},
+                      GivenCompound{"CuSO4.5H2O", "copper(II) sulfate pentahydrate"}};
+    exercise.key = "yes";
+    exercise.answer = SolubilityAnswer{true, "rule"};
+    exercise.slips = {{"Al2SO43", {}, "sentence"}};
+    const Json json = Json::parse(exerciseJson(exercise));
+    EXPECT_EQ(json["ask"].dump(), R"({"form":"solubility","choices":["yes","no"]})");
+    EXPECT_EQ(json["given"].dump(),
+              R"([{"ion":"SO4","charge":-2,"name":"sulfate"},)"
+              R"({"ion":"Al","charge":3,"name":"aluminium"},)"
+              R"({"compound":"CuSO4.5H2O","name":"copper(II) sulfate pentahydrate"}])");
+    EXPECT_EQ(json["key"].dump(), R"({"text":"yes"})");
+    EXPECT_EQ(json["slips"].dump(), R"([{"text":"Al2SO43","sentence":"sentence"}])");
+    EXPECT_FALSE(json.contains("equation"));
+}
+
+TEST(ExerciseJsonTest, EverySpanHasTheMembersThatApply)
+{
+    struct Case {
+        Span span;
+        const char* text;
+    };
+    const Case cases[] = {
+        {line("words").front(), R"({"text":"words"})"},
+        {formula("Ca(OH)2"), R"({"formula":"Ca(OH)2"})"},
+        {ionSpan("SO4", "2-"), R"({"ion":"SO4","charge":"2-"})"},
+        {quantity("V"), R"({"quantity":"V"})"},
+        {quantity("V", "HCl"), R"({"quantity":"V","of":"HCl"})"},
+        {quantity("V", "", "1"), R"({"quantity":"V","index":"1"})"},
+        {quantity("V", "HCl", "1"), R"({"quantity":"V","of":"HCl","index":"1"})"},
+        {number("5.00e-5"), R"({"number":"5.00e-5"})"},
+        {unit("mL"), R"({"unit":"mL"})"},
+        {fraction(line(quantity("m")), line(quantity("M"), " ", fraction(line("a"), {}))),
+         R"({"fraction":[[{"quantity":"m"}],[{"quantity":"M"},{"text":" "},)"
+         R"({"fraction":[[{"text":"a"}],[]]}]]})"},
+        {name("sulfate"), R"({"name":"sulfate"})"},
+        {name("aluminium", "aluminum"), R"({"name":"aluminium","american":"aluminum"})"},
+    };
+    for (const Case& one : cases) {
+        Exercise exercise;
+        exercise.place = {1, 1, Kind::molarMass, 1};
+        exercise.prompt = {one.span};
+        EXPECT_EQ(Json::parse(exerciseJson(exercise))["prompt"][0].dump(), one.text);
+    }
+}
+
+TEST(ExerciseJsonTest, EveryForm)
+{
+    struct Case {
+        Form form;
+        const char* name;
+    };
+    const Case cases[] = {{Form::number, "number"},
+                          {Form::formula, "formula"},
+                          {Form::ion, "ion"},
+                          {Form::equation, "equation"},
+                          {Form::solubility, "solubility"}};
+    for (const Case& one : cases) {
+        Exercise exercise;
+        exercise.place = {1, 1, Kind::molarMass, 1};
+        exercise.ask.form = one.form;
+        EXPECT_EQ(Json::parse(exerciseJson(exercise))["ask"]["form"], one.name);
+    }
+}
+
+TEST(MarkJsonTest, EveryVerdict)
+{
+    struct Case {
+        Verdict verdict;
+        const char* text;
+    };
+    const Case cases[] = {
+        {Verdict::correct, R"({"verdict":"correct","sentence":"s"})"},
+        {Verdict::figures, R"({"verdict":"figures","sentence":"s"})"},
+        {Verdict::slip, R"({"verdict":"slip","sentence":"s"})"},
+        {Verdict::powerOfTen, R"({"verdict":"power-of-ten","sentence":"s"})"},
+        {Verdict::close, R"({"verdict":"close","sentence":"s"})"},
+        {Verdict::wrong, R"({"verdict":"wrong","sentence":"s"})"},
+        {Verdict::unreadable, R"({"verdict":"unreadable","sentence":"s"})"},
+    };
+    for (const Case& one : cases) {
+        EXPECT_EQ(markJson({one.verdict, "s"}), one.text);
+    }
+}
+
+} // namespace
+
+} // namespace lesson

@@ -1,0 +1,241 @@
+#include "lesson/lesson.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "lesson/tests/digests/digest.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+using Json = nlohmann::ordered_json;
+
+std::vector<std::string> members(const Json& object)
+{
+    std::vector<std::string> names;
+    for (const auto& [name, value] : object.items()) {
+        names.push_back(name);
+    }
+    return names;
+}
+
+Json exercise(unsigned paper, unsigned number, const std::string& kind)
+{
+    return Json::parse(lesson_exercise(paper, number, kind.c_str()));
+}
+
+Json mark(unsigned paper, unsigned number, const std::string& kind, const std::string& typed)
+{
+    return Json::parse(lesson_mark(paper, number, kind.c_str(), typed.c_str()));
+}
+
+TEST(InterfaceTest, TheKindsInOrderWithThreeLevelsEach)
+{
+    const Json kinds = Json::parse(lesson_kinds());
+    std::string slugs;
+    for (const Json& row : kinds) {
+        slugs += row["kind"].get<std::string>() + " ";
+        EXPECT_EQ(members(row), (std::vector<std::string>{"kind", "title", "levels"}));
+        EXPECT_FALSE(row["title"].get<std::string>().empty());
+        EXPECT_EQ(row["levels"].size(), 3U) << row;
+    }
+    EXPECT_EQ(slugs, "molar-mass compound-formula ion-formula solubility concentration dilution "
+                     "neutralisation titration ");
+}
+
+TEST(InterfaceTest, AnExerciseTellsWhichItIs)
+{
+    for (const std::string& kind : kindsAndLevels()) {
+        const Json made = exercise(999999, 999999, kind);
+        EXPECT_EQ(made["version"], 1) << kind;
+        EXPECT_EQ(made["paper"], 999999) << kind;
+        EXPECT_EQ(made["number"], 999999) << kind;
+        EXPECT_EQ(made["kind"].get<std::string>() + ":" + std::to_string(made["level"].get<int>()),
+                  kind);
+    }
+}
+
+// What is drawn from several kinds is an exercise of the same number that can be asked for by
+// itself.
+TEST(InterfaceTest, AMixedExerciseIsThatOfItsOwnKind)
+{
+    for (unsigned number = 1; number <= 50; ++number) {
+        for (const char* const choice : {"mixed", "titration:1,molar-mass:3,titration:3"}) {
+            const Json drawn = exercise(4821, number, choice);
+            const std::string own =
+                drawn["kind"].get<std::string>() + ":" + std::to_string(drawn["level"].get<int>());
+            EXPECT_EQ(drawn.dump(), exercise(4821, number, own).dump())
+                << choice << ", number " << number;
+        }
+    }
+}
+
+TEST(InterfaceTest, ThePerfectAnswerIsCorrectByTheArgumentsThatMadeTheExercise)
+{
+    for (const char* const choice : {"mixed", "dilution,solubility:3", "neutralisation:1"}) {
+        for (unsigned number = 1; number <= 40; ++number) {
+            const std::string key = exercise(7, number, choice)["key"]["text"];
+            const Json marked = mark(7, number, choice, key);
+            EXPECT_EQ(marked["verdict"], "correct") << choice << " " << number << " " << key;
+            EXPECT_EQ(members(marked), (std::vector<std::string>{"verdict", "sentence"}));
+        }
+    }
+}
+
+TEST(InterfaceTest, BadArgumentsAreToldBySentences)
+{
+    const std::string paper = "The paper has to be a number from 1 to 999999.";
+    const std::string number = "The number of the exercise has to be from 1 to 999999.";
+    const std::string kind = "Name a kind of exercise.";
+    struct Case {
+        unsigned paper;
+        unsigned number;
+        const char* kind;
+        std::string error;
+    };
+    const Case cases[] = {
+        {0, 1, "mixed", paper},
+        {1000000, 1, "mixed", paper},
+        {4294967295U, 1, "mixed", paper},
+        {1, 0, "mixed", number},
+        {1, 1000000, "mixed", number},
+        {1, 4294967295U, "mixed", number},
+        {1, 1, nullptr, kind},
+        {1, 1, "", kind},
+        {1, 1, "tit\"ration", "There is no kind of exercise called 'tit\"ration'."},
+        {1, 1, "titration:4", "The level of titration has to be 1, 2 or 3."},
+        {1, 1, "titration,titration:2", "The kind titration:2 is there twice."},
+        {1, 1, "mixed,titration", "The kind mixed stands alone, without a level."},
+    };
+    for (const Case& one : cases) {
+        const Json expected = {{"error", one.error}};
+        EXPECT_EQ(Json::parse(lesson_exercise(one.paper, one.number, one.kind)), expected);
+        EXPECT_EQ(Json::parse(lesson_mark(one.paper, one.number, one.kind, "1")), expected);
+    }
+    const Json expected = {{"error", "There is no typed text."}};
+    EXPECT_EQ(Json::parse(lesson_mark(1, 1, "mixed", nullptr)), expected);
+}
+
+TEST(InterfaceTest, BadArgumentsOfAnExportAreToldBySentences)
+{
+    const std::string paper = "The paper has to be a number from 1 to 999999.";
+    const std::string none = "A sheet has at least one exercise.";
+    const std::string many = "A sheet has at most 1000 exercises.";
+    const std::string format = "The format has to be moodle or anki.";
+    const std::string noCard =
+        "Nothing on this sheet fits a card: formulas, ions and solubility do.";
+    struct Case {
+        unsigned paper;
+        const char* sheet;
+        const char* format;
+        std::string error;
+    };
+    const Case cases[] = {
+        {0, "titration", "moodle", paper},
+        {1000000, "titration", "anki", paper},
+        {4294967295U, nullptr, nullptr, paper},
+        {1, nullptr, "moodle", none},
+        {1, "", "anki", none},
+        {1, "0*titration", "moodle", none},
+        {1, "1001*titration", "moodle", many},
+        {1, "mixed", "moodle", "A sheet names each of its kinds, and mixed is none."},
+        {1, "tit\"ration", "moodle", "There is no kind of exercise called 'tit\"ration'."},
+        {1, "titration", nullptr, format},
+        {1, "titration", "", format},
+        {1, "titration", "Moodle", format},
+        {1, "ion-formula", "anki,moodle", format},
+        {1, "9*titration,neutralisation:3", "anki", noCard},
+    };
+    for (const Case& one : cases) {
+        const Json expected = {{"error", one.error}};
+        EXPECT_EQ(Json::parse(lesson_export(one.paper, one.sheet, one.format)), expected)
+            << (one.sheet == nullptr ? "null" : one.sheet);
+    }
+}
+
+TEST(InterfaceTest, AnExportIsAFileAndNoJson)
+{
+    EXPECT_EQ(std::string(lesson_export(999999, "1000*titration:3", "moodle")).substr(0, 5),
+              "<?xml");
+    EXPECT_EQ(std::string(lesson_export(1, "solubility", "anki")).substr(0, 11), "#separator:");
+}
+
+TEST(InterfaceTest, ExercisesNamedByTheirNumbersAreTheSameInAFile)
+{
+    const auto file = [](const char* sheet) {
+        return std::string(lesson_export(4821, sheet, "moodle"));
+    };
+    EXPECT_EQ(file("titration@1,titration@2,dilution:1@1"), file("2*titration,dilution:1"));
+    EXPECT_EQ(file("2*titration@8"), file("titration@8,titration@9"));
+    const std::string all = file("9*titration");
+    const std::string one = file("titration@9");
+    const std::size_t question = one.rfind("<question");
+    EXPECT_NE(all.find(one.substr(question)), std::string::npos) << one;
+    EXPECT_EQ(all.find(one.substr(question)), all.rfind("<question"));
+}
+
+TEST(InterfaceTest, AResultHoldsUntilTheNextCallOfTheSameFunction)
+{
+    const char* const made = lesson_exercise(4821, 3, "titration");
+    const std::string before = made;
+    lesson_kinds();
+    lesson_tables();
+    lesson_mark(4821, 4, "titration", "1");
+    lesson_export(4821, "titration", "moodle");
+    std::thread([] { lesson_exercise(1, 1, "dilution"); }).join();
+    EXPECT_EQ(before, made);
+}
+
+std::string repeated(const std::string& part, std::size_t length, const char* start = "")
+{
+    std::string text = start;
+    for (std::size_t times = length / part.size(); times > 0; --times) {
+        text += part;
+    }
+    return text;
+}
+
+// Were a mark worse than linear in the length, the time allowed for a test would not suffice for
+// the megabyte.
+TEST(InterfaceTest, AnyTypedTextGetsAMark)
+{
+    std::vector<std::string> texts = {"",
+                                      " ",
+                                      "\x80\xFF\xC3",
+                                      "\x01\x02\x1F\x7F",
+                                      repeated("(", 10000) + repeated(")", 10000),
+                                      repeated("[{(", 10000)};
+    for (const char* const part :
+         {"1",        "0",   ".",  ",",     "1,",   "1 ",   "-",   "e",      "1e",     "^",
+          "+",        "(",   ")",  "(H",    "H2",   "NaCl", "2+",  "3-",     "H2O + ", "->",
+          " -> ",     "1/2", "·",  "²",     "₂",    "⁻",    " ",   "\u2009", "é",      "\x80",
+          "\xE2\x82", "=",   "= ", "mol/L", "c = ", "(aq)", "x10", "×10^",   "*",      "\n"}) {
+        texts.push_back(repeated(part, 2000));
+        texts.push_back(repeated(part, 2000, "0.0456"));
+        texts.push_back(repeated(part, 2000, "2HCl + Na2CO3 -> "));
+    }
+    for (const char* const part : {"1", "(", "H2O + ", "²"}) {
+        texts.push_back(repeated(part, 1000000));
+    }
+    for (const char* const kind : {"molar-mass", "compound-formula", "ion-formula", "solubility",
+                                   "solubility:3", "titration:3", "neutralisation"}) {
+        for (const std::string& typed : texts) {
+            const Json marked = mark(1, 1, kind, typed);
+            ASSERT_EQ(members(marked), (std::vector<std::string>{"verdict", "sentence"}))
+                << kind << ": " << typed.size() << " bytes like " << typed.substr(0, 40);
+            ASSERT_LT(marked["sentence"].get<std::string>().size(), 1000U)
+                << kind << ": " << typed.size() << " bytes like " << typed.substr(0, 40);
+        }
+    }
+}
+
+} // namespace
+
+} // namespace lesson

@@ -1,0 +1,143 @@
+// How exercises are worded, over many of every kind and level.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "lesson/tests/every/learners.hpp"
+
+namespace
+{
+
+constexpr const char* slugs[] = {"molar-mass",     "compound-formula", "ion-formula",
+                                 "solubility",     "concentration",    "dilution",
+                                 "neutralisation", "titration"};
+
+// clang-format off
+constexpr const char* unwanted[] = {
+    "weaker",                               // of an acid it means something else
+    "Amount of the known.", "Ratio.",       // known to whom, of what
+    "has become carbon dioxide",
+    "that has to be dissolved",
+    " .", " ,", "..", "()",
+    "a ammonia", "a acid", "a ethan", "a iron", "a alum", "an nitr", "an sulf", "an carb",
+    "NaCH3COO", "LiCH3COO", "NH4CH3COO", "AgCH3COO", // as nobody prints them; KCH3COO likewise
+    " KCH3COO", "hydrogen carbonate", "aluminum", "sulph",
+};
+// clang-format on
+
+struct Line {
+    std::string text;
+    bool isSentence;
+};
+
+// All that an exercise shows.
+std::vector<Line> linesOf(const Json& exercise)
+{
+    std::vector<Line> lines = {{textOf(exercise["prompt"]), true}};
+    for (const Json& step : exercise["solution"]) {
+        lines.push_back({textOf(step["say"]), true});
+        lines.push_back({textOf(step["math"]), false});
+        if (!step["hint"].empty()) {
+            lines.push_back({textOf(step["hint"]), true});
+        }
+    }
+    for (const Json& slip : exercise["slips"]) {
+        lines.push_back({slip["sentence"], true});
+    }
+    return lines;
+}
+
+bool isWhole(const std::string& sentence)
+{
+    const std::string ends = ".?!";
+    const auto first = static_cast<unsigned char>(sentence[0]);
+    const bool beginsWell = std::islower(first) == 0;
+    return beginsWell && ends.find(sentence.back()) != std::string::npos;
+}
+
+void forEachExercise(Problems& problems, void (*check)(Problems&, const Asked&))
+{
+    for (const char* const slug : slugs) {
+        for (int level = 1; level <= 3; ++level) {
+            const std::string kind = kindAt(slug, level);
+            for (const Asked& asked : firstExercises(kind, std::min(papersToCheck(), 2000U))) {
+                problems.at(kind, asked.paper, asked.number);
+                check(problems, asked);
+            }
+        }
+    }
+}
+
+void checkLines(Problems& problems, const Asked& asked)
+{
+    for (const Line& line : linesOf(asked.exercise)) {
+        for (const char* const words : unwanted) {
+            problems.expect(line.text.find(words) == std::string::npos, words, line.text);
+        }
+        problems.expect(!line.isSentence || isWhole(line.text), "a sentence is whole", line.text);
+    }
+}
+
+TEST(WordingTest, NothingUnwantedIsSaid)
+{
+    Problems problems;
+    forEachExercise(problems, checkLines);
+    EXPECT_EQ(problems.text(), "");
+}
+
+// Masses of elements have two decimals at most but for hydrogen and lithium, and so has their sum.
+void checkMolarMass(Problems& problems, const Asked& asked)
+{
+    for (const Json& one : asked.exercise["given"]) {
+        if (one.contains("quantity") && one["quantity"] == "M") {
+            const std::string value = one["value"];
+            const std::string shown = one["shown"];
+            const Exact hundredths = Exact::read(value) * 100;
+            problems.expect(hundredths.isWhole(), "a molar mass has two decimals", one.dump());
+            problems.expect(shown.empty() || Exact::read(shown) == Exact::read(value),
+                            "a molar mass is worked with as it is shown", one.dump());
+            problems.expect(shown.empty() || (shown.size() > 3 && shown[shown.size() - 3] == '.'),
+                            "a molar mass is shown with two decimals", one.dump());
+        }
+    }
+}
+
+TEST(WordingTest, MolarMassesHaveTwoDecimals)
+{
+    Problems problems;
+    forEachExercise(problems, checkMolarMass);
+    EXPECT_EQ(problems.text(), "");
+}
+
+// What is sold with its water, and weighed without it, is called so.
+void checkAnhydrous(Problems& problems, const Asked& asked)
+{
+    if (asked.slug() != "concentration") {
+        return;
+    }
+    std::set<std::string> salts;
+    for (const auto& hydrate : typedHydrateCeilings()) {
+        salts.insert(hydrate.first.substr(0, hydrate.first.find('.')));
+    }
+    const std::string formula = asked.exercise["given"][0]["compound"];
+    problems.expect(salts.count(formula) == 0 ||
+                        asked.prompt().find("anhydrous") != std::string::npos,
+                    "a salt without its water is called anhydrous", asked.prompt());
+    problems.expect(formula.find('.') == std::string::npos ||
+                        asked.prompt().find("anhydrous") == std::string::npos,
+                    "a hydrate is not", asked.prompt());
+}
+
+TEST(WordingTest, SaltsOfHydratesAreCalledAnhydrous)
+{
+    Problems problems;
+    forEachExercise(problems, checkAnhydrous);
+    EXPECT_EQ(problems.text(), "");
+}
+
+} // namespace

@@ -1,0 +1,742 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "lesson/chemistry/pairs.hpp"
+#include "lesson/kinds/kinds.hpp"
+#include "lesson/marking/equation.hpp"
+#include "support/atom_count.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+using Side = std::vector<std::pair<int, std::string>>;
+
+Exercise exerciseOf(unsigned paper, unsigned number, int level)
+{
+    return neutralisationExercise({paper, number, Kind::neutralisation, level});
+}
+
+// A walk of a paper through the pool of a level: all exercises until the first one comes again.
+std::vector<Exercise> walk(int level, unsigned paper = 1)
+{
+    std::vector<Exercise> exercises;
+    std::set<std::string> keys;
+    for (unsigned number = 1;; ++number) {
+        Exercise exercise = exerciseOf(paper, number, level);
+        if (!keys.insert(exercise.key).second) {
+            return exercises;
+        }
+        exercises.push_back(std::move(exercise));
+    }
+}
+
+std::vector<Exercise> everyExercise()
+{
+    std::vector<Exercise> all;
+    for (const int level : {1, 2, 3}) {
+        for (Exercise& exercise : walk(level)) {
+            all.push_back(std::move(exercise));
+        }
+    }
+    return all;
+}
+
+const EquationAnswer& answerOf(const Exercise& exercise)
+{
+    return std::get<EquationAnswer>(exercise.answer);
+}
+
+std::string textOf(const Spans& spans)
+{
+    std::string text;
+    for (const Span& span : spans) {
+        text += span.text + (span.kind == Span::Kind::ion ? span.detail : "");
+    }
+    return text;
+}
+
+// ---- Which exercises there are
+
+bool isOneOf(std::string_view wanted, const std::vector<std::string_view>& names)
+{
+    return std::find(names.begin(), names.end(), wanted) != names.end();
+}
+
+// Which base an acid is asked with, as a teacher would rule out what does not react plainly.
+bool isAsked(std::string_view acid, std::string_view cation, std::string_view anion)
+{
+    if (!whyFormulaIsNotAsked({findIon(cation), findIon(anion)}).empty() || cation == "tin(II)") {
+        return false;
+    }
+    if (anion == "hydrogencarbonate") {
+        return isOneOf(cation, {"sodium", "potassium"}) && isOneOf(acid, {"HCl", "HNO3", "H2SO4"});
+    }
+    const bool isOxide = anion == "oxide";
+    if (acid == "H3PO4") {
+        return isOxide ? isOneOf(cation, {"magnesium", "calcium"})
+                       : anion == "hydroxide" &&
+                             isOneOf(cation,
+                                     {"sodium", "potassium", "magnesium", "calcium", "aluminium"});
+    }
+    if (acid == "CH3COOH") {
+        return isOneOf(cation, {"lithium", "sodium", "potassium", "magnesium", "calcium", "barium",
+                                "manganese(II)", "cobalt(II)", "nickel(II)", "copper(II)", "zinc",
+                                "lead(II)"});
+    }
+    if (isOxide && cation == "chromium(III)") {
+        return false;
+    }
+    if (acid == "HNO3") {
+        return cation != "iron(II)";
+    }
+    if (isOneOf(cation, {"silver", "lead(II)"})) {
+        return false;
+    }
+    if (acid == "H2SO4") {
+        const bool isCoated = isOneOf(cation, {"calcium", "barium"}) && anion != "hydroxide";
+        return !isCoated;
+    }
+    return true; // HCl and HBr
+}
+
+std::string typeOf(const Exercise& exercise)
+{
+    const IonRow* const anion = answerOf(exercise).base.anion;
+    return anion == nullptr ? "ammonia" : std::string(anion->name);
+}
+
+std::pair<int, int> ratioOf(const Exercise& exercise)
+{
+    return {exercise.equation->left[0].first, exercise.equation->left[1].first};
+}
+
+TEST(NeutralisationTest, ThePoolHasEveryAcidAndBaseThatReactPlainly)
+{
+    std::set<std::string> expected;
+    for (const char* const acid : {"HCl", "HBr", "HNO3", "H2SO4", "H3PO4", "CH3COOH"}) {
+        for (const IonRow* const cation : cations()) {
+            for (const char* const anion :
+                 {"hydroxide", "oxide", "carbonate", "hydrogencarbonate"}) {
+                if (isAsked(acid, cation->name, anion)) {
+                    expected.insert(std::string(acid) + " + " +
+                                    compoundFormula(*cation, *findIon(anion)));
+                }
+            }
+        }
+    }
+    for (const char* const acid : {"HCl", "HBr", "HNO3", "H2SO4"}) {
+        expected.insert(std::string(acid) + " + NH3");
+    }
+    std::set<std::string> asked;
+    for (const Exercise& exercise : everyExercise()) {
+        asked.insert(exercise.equation->left[0].second + " + " + exercise.equation->left[1].second);
+    }
+    EXPECT_EQ(asked, expected);
+    EXPECT_EQ(asked.size(), everyExercise().size());
+}
+
+TEST(NeutralisationTest, LevelsDifferInBasesAndRatios)
+{
+    const std::set<std::pair<int, int>> simple = {{1, 1}, {1, 2}, {2, 1}};
+    const std::set<std::pair<int, int>> hard = {{3, 1}, {1, 3}, {3, 2}, {2, 3}, {6, 1}};
+    std::set<std::pair<int, int>> ratios[3];
+    std::set<std::string> bases[3];
+    for (const int level : {1, 2, 3}) {
+        for (const Exercise& exercise : walk(level)) {
+            ratios[level - 1].insert(ratioOf(exercise));
+            bases[level - 1].insert(typeOf(exercise));
+        }
+    }
+    EXPECT_EQ(ratios[0], simple);
+    EXPECT_EQ(ratios[1], simple);
+    EXPECT_EQ(ratios[2], hard);
+    EXPECT_EQ(bases[0], (std::set<std::string>{"hydroxide"}));
+    EXPECT_EQ(bases[1],
+              (std::set<std::string>{"oxide", "carbonate", "hydrogencarbonate", "ammonia"}));
+    EXPECT_EQ(bases[2], (std::set<std::string>{"hydroxide", "oxide"}));
+}
+
+// The first exercise of a paper: no ratio is twice as likely as its fair share, and none a third.
+TEST(NeutralisationTest, NoRatioCrowdsOutTheOthers)
+{
+    constexpr int papers = 3000;
+    for (const int level : {1, 2, 3}) {
+        std::map<std::pair<int, int>, int> counts;
+        for (unsigned paper = 1; paper <= papers; ++paper) {
+            ++counts[ratioOf(exerciseOf(paper, 1, level))];
+        }
+        const int fair = papers / static_cast<int>(counts.size());
+        for (const auto& [ratio, count] : counts) {
+            EXPECT_GT(count, fair / 3) << ratio.first << ":" << ratio.second;
+            EXPECT_LT(count, fair * 2) << ratio.first << ":" << ratio.second;
+        }
+    }
+}
+
+TEST(NeutralisationTest, EachPaperGoesThroughThePoolInItsOwnOrder)
+{
+    for (const int level : {1, 2, 3}) {
+        const std::vector<Exercise> one = walk(level, 1);
+        const std::vector<Exercise> other = walk(level, 2);
+        ASSERT_EQ(one.size(), other.size());
+        EXPECT_FALSE(
+            std::equal(one.begin(), one.end(), other.begin(),
+                       [](const Exercise& a, const Exercise& b) { return a.key == b.key; }));
+    }
+}
+
+// ---- What an exercise says
+
+std::map<std::string, int> atomsOn(const Side& side)
+{
+    std::map<std::string, int> atoms;
+    for (const auto& [coefficient, species] : side) {
+        for (const auto& [symbol, count] : countAtoms(species)) {
+            atoms[symbol] += coefficient * count;
+        }
+    }
+    return atoms;
+}
+
+TEST(NeutralisationTest, PromptAndGivenNameAcidBaseAndSalt)
+{
+    for (const Exercise& exercise : everyExercise()) {
+        const Equation& equation = *exercise.equation;
+        const std::string prompt = textOf(exercise.prompt);
+        const std::string formulas[] = {equation.left[0].second, equation.left[1].second,
+                                        equation.right[0].second};
+        ASSERT_EQ(exercise.given.size(), 3U) << exercise.key;
+        for (std::size_t i = 0; i < 3; ++i) {
+            const auto& given = std::get<GivenCompound>(exercise.given[i]);
+            EXPECT_EQ(given.formula, formulas[i]) << exercise.key;
+            EXPECT_NE(prompt.find(given.name), std::string::npos) << prompt;
+        }
+        EXPECT_EQ(exercise.ask.form, Form::equation) << exercise.key;
+        EXPECT_EQ(atomsOn(equation.left), atomsOn(equation.right)) << exercise.key;
+    }
+    EXPECT_EQ(textOf(walk(1).front().prompt).substr(0, 59),
+              "Write the balanced equation for the complete neutralisation");
+}
+
+TEST(NeutralisationTest, TheSolutionShowsTheKeyAndThenTheAtomsOfEachSide)
+{
+    for (const Exercise& exercise : everyExercise()) {
+        std::string key = exercise.key;
+        key.replace(key.find("->"), 2, "→");
+        const std::size_t steps = exercise.solution.size();
+        ASSERT_GE(steps, 2U) << key;
+        EXPECT_EQ(textOf(exercise.solution[steps - 2].math), key);
+        const Step& last = exercise.solution.back();
+        EXPECT_EQ(textOf(last.say), "Count the atoms to check.") << key;
+        const std::string counts = textOf(last.math);
+        for (const auto& [symbol, count] : atomsOn(exercise.equation->right)) {
+            const std::string counted = ", " + symbol + " " + std::to_string(count);
+            EXPECT_NE((", " + counts).find(counted), std::string::npos) << counts << " of " << key;
+        }
+        const auto elements = std::count(counts.begin(), counts.end(), ',') + 1;
+        EXPECT_EQ(static_cast<std::size_t>(elements), atomsOn(exercise.equation->left).size())
+            << counts;
+        const std::string end = " on each side";
+        ASSERT_GT(counts.size(), end.size());
+        EXPECT_EQ(counts.substr(counts.size() - end.size()), end);
+    }
+}
+
+std::vector<std::string> solutionText(const EquationAnswer& wanted)
+{
+    std::vector<std::string> text;
+    for (const Exercise& exercise : everyExercise()) {
+        const EquationAnswer& answer = answerOf(exercise);
+        if (answer.acid == wanted.acid && answer.base.cation == wanted.base.cation &&
+            answer.base.anion == wanted.base.anion) {
+            for (const Step& step : exercise.solution) {
+                text.push_back(textOf(step.say) + " | " + textOf(step.math));
+            }
+        }
+    }
+    return text;
+}
+
+TEST(NeutralisationTest, SolutionsReadLikeATextbook)
+{
+    EXPECT_EQ(solutionText({findAcid("H2SO4"), {findIon("aluminium"), findIon("hydroxide")}}),
+              (std::vector<std::string>{
+                  "The salt has these ions, as many of each as make the charges cancel. | Al3+, "
+                  "SO42-: Al2(SO4)3",
+                  "Write the formulas: an acid and a hydroxide give a salt and water. | "
+                  "H2SO4 + Al(OH)3 → Al2(SO4)3 + H2O",
+                  "Balance the aluminium, then the sulfate. | 3H2SO4 + 2Al(OH)3 → Al2(SO4)3 + H2O",
+                  "Then the water. | 3H2SO4 + 2Al(OH)3 → Al2(SO4)3 + 6H2O",
+                  "Count the atoms to check. | H 12, S 3, Al 2, O 18 on each side"}));
+    EXPECT_EQ(
+        solutionText({findAcid("HCl"), {findIon("sodium"), findIon("hydroxide")}}),
+        (std::vector<std::string>{
+            "The salt has these ions, as many of each as make the charges cancel. | Na+, Cl-: NaCl",
+            "Write the formulas: an acid and a hydroxide give a salt and water. | HCl + NaOH → "
+            "NaCl + H2O",
+            "Count the atoms to check. | H 2, Cl 1, Na 1, O 1 on each side"}));
+    EXPECT_EQ(
+        solutionText({findAcid("H3PO4"), {findIon("aluminium"), findIon("hydroxide")}}),
+        (std::vector<std::string>{"The salt has these ions, as many of each as make the charges "
+                                  "cancel. | Al3+, PO43-: AlPO4",
+                                  "Write the formulas: an acid and a hydroxide give a salt and "
+                                  "water. | H3PO4 + Al(OH)3 → AlPO4 + H2O",
+                                  "Balance the water. | H3PO4 + Al(OH)3 → AlPO4 + 3H2O",
+                                  "Count the atoms to check. | H 6, P 1, Al 1, O 7 on each side"}));
+    EXPECT_EQ(solutionText({findAcid("H2SO4"), {findIon("sodium"), findIon("hydrogencarbonate")}}),
+              (std::vector<std::string>{
+                  "The salt has these ions, as many of each as make the charges cancel. | Na+, "
+                  "SO42-: Na2SO4",
+                  "Write the formulas: an acid and a hydrogencarbonate give a salt, water and "
+                  "carbon dioxide. | "
+                  "H2SO4 + NaHCO3 → Na2SO4 + H2O + CO2",
+                  "Balance the sodium. | H2SO4 + 2NaHCO3 → Na2SO4 + H2O + CO2",
+                  "Then the water and the carbon dioxide. | "
+                  "H2SO4 + 2NaHCO3 → Na2SO4 + 2H2O + 2CO2",
+                  "Count the atoms to check. | H 4, S 1, Na 2, C 2, O 10 on each side"}));
+    EXPECT_EQ(
+        solutionText({findAcid("CH3COOH"), {findIon("zinc"), findIon("carbonate")}}),
+        (std::vector<std::string>{
+            "The salt has these ions, as many of each as make the charges cancel. | Zn2+, CH3COO-: "
+            "Zn(CH3COO)2",
+            "Write the formulas: an acid and a carbonate give a salt, water and carbon dioxide. | "
+            "CH3COOH + ZnCO3 → Zn(CH3COO)2 + H2O + CO2",
+            "Balance the ethanoate. | 2CH3COOH + ZnCO3 → Zn(CH3COO)2 + H2O + CO2",
+            "Count the atoms to check. | C 5, H 8, Zn 1, O 7 on each side"}));
+}
+
+// A hint has other words than the sentence of its step, and no formula or number of its result.
+TEST(NeutralisationTest, EachStepHasAHintThatGivesNothingAway)
+{
+    for (const Exercise& exercise : everyExercise()) {
+        for (const Step& step : exercise.solution) {
+            const std::string hint = textOf(step.hint);
+            EXPECT_GT(hint.size(), 30U) << textOf(step.say);
+            EXPECT_EQ(hint.find(textOf(step.say)), std::string::npos) << hint;
+            EXPECT_EQ(hint.find_first_of("0123456789→"), std::string::npos) << hint;
+            for (const Span& span : step.hint) {
+                EXPECT_TRUE(span.kind == Span::Kind::text || span.kind == Span::Kind::name) << hint;
+            }
+        }
+    }
+}
+
+TEST(NeutralisationTest, HintsOfACarbonate)
+{
+    std::vector<std::string> hints;
+    for (const Exercise& exercise : walk(2)) {
+        if (exercise.key == "H2SO4 + 2NaHCO3 -> Na2SO4 + 2H2O + 2CO2") {
+            for (const Step& step : exercise.solution) {
+                hints.push_back(textOf(step.hint));
+            }
+        }
+    }
+    EXPECT_EQ(hints,
+              (std::vector<std::string>{
+                  "The salt is made of the positive ion of the base and of what the acid leaves. "
+                  "What are their charges?",
+                  "Each hydrogencarbonate gives carbon dioxide as well as water.",
+                  "How many of each ion are in one unit of the salt? The left side has to bring as "
+                  "many.",
+                  "Each hydrogencarbonate gives one water and one carbon dioxide.",
+                  "Is each element there as often on the left as on the right?"}));
+}
+
+TEST(NeutralisationTest, AmericanNamesStandBesideTheOthers)
+{
+    std::set<std::string> american;
+    for (const Exercise& exercise : everyExercise()) {
+        for (const Span& span : exercise.prompt) {
+            if (!span.detail.empty()) {
+                EXPECT_EQ(span.kind, Span::Kind::name);
+                american.insert(span.text + " = " + span.detail);
+            }
+        }
+    }
+    for (const char* const expected :
+         {"ethanoic acid = acetic acid", "aluminium hydroxide = aluminum hydroxide",
+          "zinc ethanoate = zinc acetate",
+          "sodium hydrogencarbonate = sodium hydrogen carbonate"}) {
+        EXPECT_EQ(american.count(expected), 1U) << expected;
+    }
+}
+
+TEST(NeutralisationTest, EverySlipGetsItsSentence)
+{
+    for (const Exercise& exercise : everyExercise()) {
+        // With ammonia nothing but the salt forms, which leaves little to mistake.
+        const bool isAmmonia = answerOf(exercise).base.anion == nullptr;
+        EXPECT_GE(exercise.slips.size(), isAmmonia ? 1U : 3U) << exercise.key;
+        std::set<std::string> texts;
+        for (const Slip& slip : exercise.slips) {
+            const Mark mark = markEquation(answerOf(exercise), slip.text);
+            EXPECT_EQ(mark.verdict, Verdict::slip) << slip.text;
+            EXPECT_EQ(mark.sentence, slip.sentence) << slip.text;
+            EXPECT_FALSE(slip.value.has_value()) << slip.text;
+            EXPECT_TRUE(texts.insert(slip.text).second) << slip.text;
+        }
+    }
+}
+
+std::set<std::string> slipTexts(const EquationAnswer& wanted)
+{
+    std::set<std::string> texts;
+    for (const Exercise& exercise : everyExercise()) {
+        const EquationAnswer& answer = answerOf(exercise);
+        if (answer.acid == wanted.acid && answer.base.cation == wanted.base.cation &&
+            answer.base.anion == wanted.base.anion) {
+            for (const Slip& slip : exercise.slips) {
+                texts.insert(slip.text);
+            }
+        }
+    }
+    return texts;
+}
+
+TEST(NeutralisationTest, SlipsOfThreeEquations)
+{
+    EXPECT_EQ(slipTexts({findAcid("HCl"), {findIon("sodium"), findIon("carbonate")}}),
+              (std::set<std::string>{
+                  "HCl + Na2CO3 -> NaCl + H2O + CO2", "2HCl + Na2CO3 -> 2NaCl + H2O",
+                  "2HCl + Na2CO3 -> 2NaCl + H2CO3", "4HCl + 2Na2CO3 -> 4NaCl + 2H2O + 2CO2"}));
+    EXPECT_EQ(slipTexts({findAcid("H2SO4"), {findIon("sodium"), findIon("hydroxide")}}),
+              (std::set<std::string>{"H2SO4 + NaOH -> Na2SO4 + H2O", "H2SO4 + 2NaOH -> Na2SO4",
+                                     "H2SO4 + 2NaOH -> Na2SO4 + 2H2", "H2SO4 + NaOH -> NaSO4 + H2O",
+                                     "H2SO4 + NaOH -> NaHSO4 + H2O",
+                                     "2H2SO4 + 4NaOH -> 2Na2SO4 + 4H2O"}));
+    EXPECT_EQ(slipTexts({findAcid("H2SO4"), {findIon("magnesium"), findIon("oxide")}}),
+              (std::set<std::string>{"H2SO4 + MgO -> MgSO4", "H2SO4 + MgO -> MgSO4 + H2",
+                                     "H2SO4 + MgO -> Mg2(SO4)2 + H2O",
+                                     "2H2SO4 + 2MgO -> 2MgSO4 + 2H2O"}));
+}
+
+// ---- Marking over the whole pool
+
+// How a learner writes: each function changes how a piece of the equation is spelt.
+struct Spelling {
+    std::string (*formula)(std::string plain);
+    const char* times; // between a coefficient and its formula
+    const char* one;   // the coefficient 1
+    const char* plus;  // between species
+    const char* arrow;
+    bool isReversed; // the order of the species on each side
+};
+
+std::string plain(std::string formula)
+{
+    return formula;
+}
+
+template <typename Change>
+std::string withEachDigit(const std::string& formula, Change change)
+{
+    std::string text;
+    for (const char c : formula) {
+        text += std::isdigit(static_cast<unsigned char>(c)) != 0 ? change(c) : std::string(1, c);
+    }
+    return text;
+}
+
+std::string subscripts(std::string formula)
+{
+    return withEachDigit(formula, [](char digit) {
+        return "\xE2\x82" + std::string(1, static_cast<char>('\x80' + (digit - '0')));
+    });
+}
+
+std::string underscored(std::string formula)
+{
+    return withEachDigit(formula, [](char digit) { return "_" + std::string(1, digit); });
+}
+
+std::string braced(std::string formula)
+{
+    return withEachDigit(formula, [](char digit) { return "_{" + std::string(1, digit) + "}"; });
+}
+
+std::string markedUp(std::string formula)
+{
+    return withEachDigit(formula,
+                         [](char digit) { return "<sub>" + std::string(1, digit) + "</sub>"; });
+}
+
+std::string inMhchem(std::string formula)
+{
+    return "\\ce{" + formula + "}";
+}
+
+std::string squareBracketed(std::string formula)
+{
+    std::replace(formula.begin(), formula.end(), '(', '[');
+    std::replace(formula.begin(), formula.end(), ')', ']');
+    return formula;
+}
+
+// The ethanoate in front, with the brackets that it needs.
+std::string ethanoateFirst(std::string formula)
+{
+    const std::size_t place = formula.find("CH3COO");
+    if (place == std::string::npos || place == 0) {
+        return formula;
+    }
+    const bool isBracketed = formula[place - 1] == '(';
+    const std::size_t start = isBracketed ? place - 1 : place;
+    return formula.substr(start) + formula.substr(0, start);
+}
+
+std::string otherEthanoate(std::string formula)
+{
+    const std::size_t place = formula.find("CH3COO");
+    if (place != std::string::npos) {
+        formula.replace(place, 6, formula == "CH3COOH" ? "CH3CO2" : "C2H3O2");
+    }
+    return formula;
+}
+
+constexpr Spelling spellings[] = {
+    {plain, "", "", " + ", " -> ", false},          {plain, "", "", "+", "->", true},
+    {plain, " ", "1 ", " + ", " --> ", false},      {plain, "*", "", " + ", " = ", true},
+    {plain, "·", "1", " +", " => ", false},         {subscripts, "", "", " + ", " → ", false},
+    {subscripts, " × ", "1", "+ ", "⟶", true},      {underscored, "", "", " + ", " -> ", true},
+    {braced, " ", "", " + ", " = ", false},         {squareBracketed, "", "", " + ", "->", false},
+    {ethanoateFirst, "", "", " + ", "->", false},   {otherEthanoate, "", "1", "+", "==>", true},
+    {plain, " x ", "", "  +  ", "  >  ", false},    {plain, "", "2/2", " + ", "->", false},
+    {plain, "", "1.0", " + ", "->", false},         {plain, "", "(1)", " + ", "->", true},
+    {plain, "", "", " + ", " _> ", false},          {plain, "", "", " + ", " rarr ", false},
+    {plain, "", "", " + ", "\\rightarrow ", false}, {braced, "", "", " + ", " \\to ", false},
+    {underscored, "", "", "+", "_>", false},        {plain, "", "", " \\+ ", " -\\> ", false},
+    {markedUp, "", "", " + ", " &rarr; ", false},   {inMhchem, "", "", " + ", "\\ce{->}", false},
+};
+
+std::string sideText(Side side, const Spelling& spelling)
+{
+    if (spelling.isReversed) {
+        std::reverse(side.begin(), side.end());
+    }
+    std::string text;
+    for (const auto& [coefficient, species] : side) {
+        text += text.empty() ? "" : spelling.plus;
+        text += coefficient == 1 ? spelling.one : std::to_string(coefficient) + spelling.times;
+        text += spelling.formula(species);
+    }
+    return text;
+}
+
+std::string typedText(const Equation& equation, const Spelling& spelling)
+{
+    return sideText(equation.left, spelling) + spelling.arrow + sideText(equation.right, spelling);
+}
+
+TEST(NeutralisationTest, TheKeyIsCorrectInEverySpelling)
+{
+    for (const Exercise& exercise : everyExercise()) {
+        EXPECT_EQ(markEquation(answerOf(exercise), exercise.key).verdict, Verdict::correct);
+        for (const Spelling& spelling : spellings) {
+            const std::string typed = typedText(*exercise.equation, spelling);
+            const Mark mark = markEquation(answerOf(exercise), typed);
+            EXPECT_EQ(mark.verdict, Verdict::correct) << typed << ": " << mark.sentence;
+            EXPECT_EQ(mark.sentence, "Correct.") << typed;
+        }
+    }
+}
+
+// The bases that the rules call insoluble, and all others that are asked: those that dissolve,
+// those on which school tables differ, and the oxides, for which there is no rule.
+const std::vector<std::string_view> onlySolidBases = {
+    "Mg(OH)2", "Mn(OH)2", "Fe(OH)2", "Co(OH)2", "Ni(OH)2", "Cu(OH)2", "Zn(OH)2", "Pb(OH)2",
+    "Al(OH)3", "Cr(OH)3", "Fe(OH)3", "Ag2CO3",  "MgCO3",   "CaCO3",   "BaCO3",   "MnCO3",
+    "FeCO3",   "CoCO3",   "NiCO3",   "CuCO3",   "ZnCO3",   "PbCO3",
+};
+const std::vector<std::string_view> solidOrDissolvedBases = {
+    "LiOH",  "NaOH",      "KOH",  "Ca(OH)2", "Ba(OH)2", "Li2CO3", "Na2CO3", "K2CO3", "NaHCO3",
+    "KHCO3", "(NH4)2CO3", "Li2O", "Na2O",    "K2O",     "Ag2O",   "MgO",    "CaO",   "BaO",
+    "MnO",   "FeO",       "CoO",  "NiO",     "CuO",     "ZnO",    "PbO",    "Al2O3", "Fe2O3",
+};
+
+TEST(NeutralisationTest, EveryBaseIsListedWithItsStates)
+{
+    std::set<std::string> asked;
+    for (const Exercise& exercise : everyExercise()) {
+        asked.insert(exercise.equation->left[1].second);
+    }
+    std::set<std::string> listed(onlySolidBases.begin(), onlySolidBases.end());
+    listed.insert(solidOrDissolvedBases.begin(), solidOrDissolvedBases.end());
+    listed.insert("NH3");
+    EXPECT_EQ(asked, listed);
+}
+
+// The states that are right, as a teacher's list has them.
+std::vector<std::string> statesOf(const std::string& species, bool isOnTheLeft, bool isAcid)
+{
+    if (species == "H2O") {
+        return {"(l)"};
+    }
+    if (species == "CO2") {
+        return {"(g)"};
+    }
+    if (isOnTheLeft && isAcid) {
+        return {"(aq)"};
+    }
+    if (species == "NH3") {
+        return {"(g)", "(aq)"};
+    }
+    if (isOnTheLeft) {
+        return isOneOf(species, onlySolidBases) ? std::vector<std::string>{"(s)"}
+                                                : std::vector<std::string>{"(s)", "(aq)"};
+    }
+    if (isOneOf(species, {"BaSO4", "Mg3(PO4)2", "Ca3(PO4)2", "AlPO4"})) {
+        return {"(s)"};
+    }
+    if (isOneOf(species, {"CaSO4", "AlBr3", "CrBr3"})) {
+        return {"(s)", "(aq)"};
+    }
+    return {"(aq)"};
+}
+
+TEST(NeutralisationTest, RightStatesAreCorrectAndWrongOnesAreSlips)
+{
+    for (const Exercise& exercise : everyExercise()) {
+        const Equation& equation = *exercise.equation;
+        const std::size_t species = equation.left.size() + equation.right.size();
+        for (std::size_t chosen = 0; chosen < species; ++chosen) {
+            for (const std::string state : {"(s)", "(l)", "(g)", "(aq)"}) {
+                const bool isOnTheLeft = chosen < equation.left.size();
+                Equation typed = equation;
+                std::string& formula = isOnTheLeft
+                                           ? typed.left[chosen].second
+                                           : typed.right[chosen - equation.left.size()].second;
+                const std::vector<std::string> right = statesOf(formula, isOnTheLeft, chosen == 0);
+                const bool isRight = std::find(right.begin(), right.end(), state) != right.end();
+                const std::string expected =
+                    isRight ? "Correct." : "Check the state of " + formula + ".";
+                formula += " " + state;
+                const std::string text = lesson::textOf(typed);
+                const Mark mark = markEquation(answerOf(exercise), text);
+                EXPECT_EQ(mark.verdict, isRight ? Verdict::correct : Verdict::slip) << text;
+                EXPECT_EQ(mark.sentence, expected) << text;
+            }
+        }
+    }
+}
+
+std::string withFactor(const Side& side, int factor, int divisor)
+{
+    std::string text;
+    for (const auto& [coefficient, species] : side) {
+        text += (text.empty() ? "" : " + ") + std::to_string(coefficient * factor) + "/" +
+                std::to_string(divisor) + " " + species;
+    }
+    return text;
+}
+
+TEST(NeutralisationTest, MultiplesAndPartsAreBalancedButNotInLowestTerms)
+{
+    const std::pair<int, int> factors[] = {{2, 1}, {3, 1}, {10, 1}, {1, 2}, {1, 3}, {3, 2}, {1, 6}};
+    for (const Exercise& exercise : everyExercise()) {
+        for (const auto& [factor, divisor] : factors) {
+            const std::string typed = withFactor(exercise.equation->left, factor, divisor) +
+                                      " -> " +
+                                      withFactor(exercise.equation->right, factor, divisor);
+            const Mark mark = markEquation(answerOf(exercise), typed);
+            EXPECT_EQ(mark.verdict, Verdict::slip) << typed;
+            EXPECT_EQ(mark.sentence, "Balanced. Use the smallest whole numbers.") << typed;
+        }
+    }
+}
+
+// The sentence names an element and tells its numbers, which are counted anew here.
+void expectTrueCounts(const Equation& typed, const Mark& mark)
+{
+    const std::map<std::string, std::string> symbols = {
+        {"hydrogen", "H"},   {"lithium", "Li"},  {"carbon", "C"},     {"nitrogen", "N"},
+        {"oxygen", "O"},     {"sodium", "Na"},   {"magnesium", "Mg"}, {"aluminium", "Al"},
+        {"phosphorus", "P"}, {"sulfur", "S"},    {"chlorine", "Cl"},  {"potassium", "K"},
+        {"calcium", "Ca"},   {"chromium", "Cr"}, {"manganese", "Mn"}, {"iron", "Fe"},
+        {"cobalt", "Co"},    {"nickel", "Ni"},   {"copper", "Cu"},    {"zinc", "Zn"},
+        {"bromine", "Br"},   {"silver", "Ag"},   {"barium", "Ba"},    {"lead", "Pb"},
+    };
+    const std::string start = "Count the ";
+    ASSERT_EQ(mark.sentence.substr(0, start.size()), start);
+    const std::string name =
+        mark.sentence.substr(start.size(), mark.sentence.find(" atoms") - start.size());
+    ASSERT_EQ(symbols.count(name), 1U) << name;
+    const int left = atomsOn(typed.left)[symbols.at(name)];
+    const int right = atomsOn(typed.right)[symbols.at(name)];
+    EXPECT_NE(left, right) << mark.sentence;
+    EXPECT_EQ(mark.sentence, start + name + " atoms: " + std::to_string(left) + " on the left, " +
+                                 std::to_string(right) + " on the right.");
+}
+
+TEST(NeutralisationTest, NoOtherCoefficientIsCorrect)
+{
+    for (const Exercise& exercise : everyExercise()) {
+        const Equation& equation = *exercise.equation;
+        const std::size_t species = equation.left.size() + equation.right.size();
+        for (std::size_t chosen = 0; chosen < species; ++chosen) {
+            for (int coefficient = 1; coefficient <= 12; ++coefficient) {
+                Equation typed = equation;
+                int& changed = chosen < equation.left.size()
+                                   ? typed.left[chosen].first
+                                   : typed.right[chosen - equation.left.size()].first;
+                if (changed == coefficient) {
+                    continue;
+                }
+                changed = coefficient;
+                const std::string text = lesson::textOf(typed);
+                const Mark mark = markEquation(answerOf(exercise), text);
+                EXPECT_EQ(mark.verdict, Verdict::slip) << text;
+                expectTrueCounts(typed, mark);
+            }
+        }
+    }
+}
+
+TEST(NeutralisationTest, CapitalsAloneAreASlipAndAMissingSpeciesIsNeverCorrect)
+{
+    for (const Exercise& exercise : everyExercise()) {
+        std::string lower = exercise.key;
+        std::transform(lower.begin(), lower.end(), lower.begin(),
+                       [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+        const Mark mark = markEquation(answerOf(exercise), lower);
+        EXPECT_EQ(mark.verdict, Verdict::slip) << lower;
+        EXPECT_EQ(mark.sentence, "Check the capitals: first letter large, second small.");
+        const Equation& equation = *exercise.equation;
+        for (std::size_t i = 0; i < equation.right.size(); ++i) {
+            Equation typed = equation;
+            typed.right.erase(typed.right.begin() + static_cast<std::ptrdiff_t>(i));
+            const std::string text = lesson::textOf(typed);
+            const Mark without = markEquation(answerOf(exercise), text);
+            EXPECT_EQ(without.verdict, i == 0 ? Verdict::wrong : Verdict::slip) << text;
+        }
+    }
+}
+
+// No answer to one exercise is marked as right for another.
+TEST(NeutralisationTest, OtherKeysAreNotCorrect)
+{
+    const std::vector<Exercise> all = everyExercise();
+    for (const Exercise& exercise : all) {
+        for (const Exercise& other : all) {
+            if (other.key != exercise.key) {
+                const Mark mark = markEquation(answerOf(exercise), other.key);
+                EXPECT_TRUE(mark.verdict == Verdict::wrong || mark.verdict == Verdict::slip)
+                    << other.key << " for " << exercise.key;
+            }
+        }
+    }
+}
+
+} // namespace
+
+} // namespace lesson

@@ -1,0 +1,48 @@
+// Prints what the lesson's interface gives, for checks in other languages:
+//
+//   print_json tables                        one line
+//   print_json exercises KIND PAPER COUNT    exercises 1 to COUNT of a paper, one a line
+//   print_json export FORMAT PAPER SHEET     the file, or the error
+//
+// Ends with status 2 for other arguments, and with 1 when the output cannot be written.
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "lesson/lesson.h"
+
+namespace
+{
+
+int tellUsage()
+{
+    std::fputs("usage: print_json tables | print_json exercises KIND PAPER COUNT | print_json "
+               "export FORMAT PAPER SHEET\n",
+               stderr);
+    return 2;
+}
+
+unsigned numberIn(const char* text)
+{
+    return static_cast<unsigned>(std::strtoul(text, nullptr, 10));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc == 2 && std::strcmp(argv[1], "tables") == 0) {
+        std::puts(lesson_tables());
+    } else if (argc == 5 && std::strcmp(argv[1], "exercises") == 0) {
+        const unsigned count = numberIn(argv[4]);
+        for (unsigned number = 1; number <= count; ++number) {
+            std::puts(lesson_exercise(numberIn(argv[3]), number, argv[2]));
+        }
+    } else if (argc == 5 && std::strcmp(argv[1], "export") == 0) {
+        std::fputs(lesson_export(numberIn(argv[3]), argv[4], argv[2]), stdout);
+    } else {
+        return tellUsage();
+    }
+    return std::fflush(stdout) == 0 ? 0 : 1;
+}

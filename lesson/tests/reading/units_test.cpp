@@ -1,0 +1,187 @@
+#include "lesson/reading/units.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace lesson
+{
+
+namespace
+{
+
+struct UnitCase {
+    const char* typed;
+    Measure measure;
+    int power;
+};
+
+TEST(UnitsTest, APrintedUnitIsTheOneThatWasTyped)
+{
+    struct Case {
+        const char* typed;
+        const char* printed;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"mol/L", "mol/L"}, {"moles per litre", "mol/L"}, {"mol L^-1", "mol/L"}, {"mmol L-1", "mmol/L"},
+        {"mol/dm^3", "mol/dm³"}, {"mol.dm^{-3}", "mol dm⁻³"}, {"M", "M"}, {"mM", "mM"},
+        {"mmol dm^-3", "mmol dm⁻³"}, {"mmol/l", "mmol/L"}, {"g mol-1", "g mol⁻¹"},
+        {"mol/dm-3", "mol/dm³"}, {"g/mol-1", "g/mol"}, {"mmol/L^-1", "mmol/L"},
+        {"cm^3", "cm³"}, {"cc", "cm³"}, {"ML", "mL"}, {"litres", "L"}, {"dm3", "dm³"},
+        {"ltr", "L"}, {"cubic centimetres", "cm³"},
+        {"cubic decimeter", "dm³"}, {"moles per cubic decimetre", "mol/dm³"},
+        {"KG", "kg"}, {"mg", "mg"}, {"grams", "g"},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        const std::optional<Unit> unit = unitOf(c.typed);
+        ASSERT_TRUE(unit.has_value()) << c.typed;
+        EXPECT_EQ(unit->printed, c.printed) << c.typed;
+    }
+}
+
+TEST(UnitsTest, KnowsEveryUsualSpelling)
+{
+    // clang-format off
+    const UnitCase cases[] = {
+        {"mol/L", Measure::concentration, 0},
+        {"mol/l", Measure::concentration, 0},
+        {"MOL/L", Measure::concentration, 0},
+        {"Mol/L", Measure::concentration, 0},
+        {"mol / L", Measure::concentration, 0},
+        {"mol L-1", Measure::concentration, 0},
+        {"mol L^-1", Measure::concentration, 0},
+        {"mol L^{-1}", Measure::concentration, 0},
+        {"mol L^(-1)", Measure::concentration, 0},
+        {"mol.L-1", Measure::concentration, 0},
+        {"mol·L^-1", Measure::concentration, 0},
+        {"mol*L^-1", Measure::concentration, 0},
+        {"mol*L**-1", Measure::concentration, 0},
+        {"molL-1", Measure::concentration, 0},
+        {"mol/dm3", Measure::concentration, 0},
+        {"mol/dm^3", Measure::concentration, 0},
+        {"mol dm-3", Measure::concentration, 0},
+        {"mol dm^-3", Measure::concentration, 0},
+        {"mol.dm^{-3}", Measure::concentration, 0},
+        {"mol per litre", Measure::concentration, 0},
+        {"moles per liter", Measure::concentration, 0},
+        {"mol per L", Measure::concentration, 0},
+        {"moles/litre", Measure::concentration, 0},
+        {"mols/dm3", Measure::concentration, 0},
+        {"mole/L", Measure::concentration, 0},
+        {"M", Measure::concentration, 0},
+        {"molar", Measure::concentration, 0},
+        {"Molar", Measure::concentration, 0},
+        {"(mol/L)", Measure::concentration, 0},
+        {"[mol/L]", Measure::concentration, 0},
+        {"[M]", Measure::concentration, 0},
+        {"mM", Measure::concentration, -3},
+        {"mmol/L", Measure::concentration, -3},
+        {"mmol/l", Measure::concentration, -3},
+        {"mmol L-1", Measure::concentration, -3},
+        {"mmol dm^-3", Measure::concentration, -3},
+        {"mmol/dm3", Measure::concentration, -3},
+        {"millimoles per litre", Measure::concentration, -3},
+        {"millimolar", Measure::concentration, -3},
+        {"mmol/mL", Measure::concentration, 0},
+        {"mmol cm-3", Measure::concentration, 0},
+        // Divided twice.
+        {"mol/dm-3", Measure::concentration, 0},
+        {"mol/dm^-3", Measure::concentration, 0},
+        {"mol / dm^{-3}", Measure::concentration, 0},
+        {"moles per dm-3", Measure::concentration, 0},
+        {"mol/L-1", Measure::concentration, 0},
+        {"mol/litre^(-1)", Measure::concentration, 0},
+        {"mmol/dm-3", Measure::concentration, -3},
+        {"mmol/cm-3", Measure::concentration, 0},
+        {"g/mol-1", Measure::molarMass, 0},
+        {"g/mol^-1", Measure::molarMass, 0},
+        {"kg/mol-1", Measure::molarMass, 3},
+        {"kg mol^-1", Measure::molarMass, 3},
+        {"kg/mol", Measure::molarMass, 3},
+        {"g/mol", Measure::molarMass, 0},
+        {"G/Mol", Measure::molarMass, 0},
+        {"g mol-1", Measure::molarMass, 0},
+        {"g mol^-1", Measure::molarMass, 0},
+        {"g.mol-1", Measure::molarMass, 0},
+        {"g·mol^-1", Measure::molarMass, 0},
+        {"grams per mole", Measure::molarMass, 0},
+        {"g/mole", Measure::molarMass, 0},
+        {"kg", Measure::mass, 3},
+        {"kilograms", Measure::mass, 3},
+        {"g", Measure::mass, 0},
+        {"G", Measure::mass, 0},
+        {"gram", Measure::mass, 0},
+        {"grams", Measure::mass, 0},
+        {"grammes", Measure::mass, 0},
+        {"mg", Measure::mass, -3},
+        {"milligrams", Measure::mass, -3},
+        {"L", Measure::volume, 0},
+        {"l", Measure::volume, 0},
+        {"litres", Measure::volume, 0},
+        {"Liters", Measure::volume, 0},
+        {"dm3", Measure::volume, 0},
+        {"dm^3", Measure::volume, 0},
+        {"mL", Measure::volume, -3},
+        {"ml", Measure::volume, -3},
+        {"ML", Measure::volume, -3},
+        {"mls", Measure::volume, -3},
+        {"millilitres", Measure::volume, -3},
+        {"milliliter", Measure::volume, -3},
+        {"cc", Measure::volume, -3},
+        {"cm3", Measure::volume, -3},
+        {"cm^3", Measure::volume, -3},
+        {"CM3", Measure::volume, -3},
+    };
+    // clang-format on
+    for (const UnitCase& c : cases) {
+        const std::optional<Unit> unit = unitOf(c.typed);
+        ASSERT_TRUE(unit) << c.typed;
+        EXPECT_EQ(unit->measure, c.measure) << c.typed;
+        EXPECT_EQ(unit->power, c.power) << c.typed;
+    }
+}
+
+TEST(UnitsTest, OtherUnitsAndTextsAreNone)
+{
+    const char* const others[] = {
+        "",         "m",       "mm",     "MM",   "Mm",          "mol",      "mol L",    "mol/L-3",
+        "mol-L",    "L/mol",   "g/L",    "%",    "cm",          "cm2",      "dm",       "m3",
+        "mol/kg",   "mol/m3",  "µL",     "gmol", "per",         "of",       "-1",       "mol//L",
+        "kmol/L",   "mol per", "g/mol2", "\xC2", "mol/L mol/L", "mol/dm-1", "mol/dm-2", "mol/dm--3",
+        "mol/m-3",  "mol/-L",  "mol/-1", "/-1",  "-3/",         "mol/L-",   "L-1/mol",  "mol-1/g",
+        "mol/L-11",
+    };
+    for (const char* const other : others) {
+        EXPECT_FALSE(unitOf(other)) << other;
+    }
+}
+
+TEST(UnitsTest, TakesAnEndingAway)
+{
+    struct Case {
+        const char* typed;
+        const char* ending;
+        const char* left;
+    };
+    const Case cases[] = {
+        {"g NaCl", "NaCl", "g "},
+        {"g nacl", "NaCl", "g "},
+        {"M (NaOH)", "NaOH", "M ("},
+        {"g Na2CO3 · 10H2O", "Na2CO3.10H2O", "g "},
+        {"g Ca(CH3COO)2", "Ca(CH3COO)2", "g "},
+        {"NaCl", "NaCl", ""},
+        {"g KCl", "NaCl", "g KCl"},
+        {"l", "NaCl", "l"},
+        {"", "NaCl", ""},
+        {"g", "", "g"},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(withoutEnding(c.typed, c.ending), c.left) << c.typed << ", " << c.ending;
+    }
+}
+
+} // namespace
+
+} // namespace lesson

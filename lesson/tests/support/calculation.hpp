@@ -1,0 +1,216 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <string>
+#include <variant>
+
+#include "lesson/kinds/kinds.hpp"
+#include "lesson/marking/number.hpp"
+#include "lesson/words/spans.hpp"
+
+// What the tests of the calculations share: exercises as a learner reads them, and as he works them
+// out, on a calculator in floating point, with roundings on the way.
+namespace lesson
+{
+
+inline Exercise calculationOf(const Place& place)
+{
+    switch (place.kind) {
+    case Kind::molarMass:
+        return molarMassExercise(place);
+    case Kind::concentration:
+        return concentrationExercise(place);
+    case Kind::dilution:
+        return dilutionExercise(place);
+    default:
+        return titrationExercise(place);
+    }
+}
+
+// So many exercises of a kind and level, ten of each paper.
+template <typename Check>
+void forExercises(Kind kind, int level, unsigned count, Check check)
+{
+    for (unsigned i = 0; i < count; ++i) {
+        check(calculationOf({i / 10 + 1, i % 10 + 1, kind, level}));
+    }
+}
+
+// A line in plain text: a blank before a unit, a fraction with a slash.
+//   c = n/V = 0.08556/0.250 = 0.342 mol/L
+inline std::string textOf(const Spans& line)
+{
+    std::string text;
+    for (const Span& span : line) {
+        switch (span.kind) {
+        case Span::Kind::unit:
+            text += text.empty() || text.back() == ' ' ? "" : " ";
+            text += span.text;
+            break;
+        case Span::Kind::quantity:
+            text += span.text + span.index + (span.detail.empty() ? "" : "(" + span.detail + ")");
+            break;
+        case Span::Kind::ion:
+            text += span.text + "^" + span.detail;
+            break;
+        case Span::Kind::fraction:
+            text += textOf(span.over) + "/" + textOf(span.under);
+            break;
+        default:
+            text += span.text;
+        }
+    }
+    return text;
+}
+
+inline std::string placeOf(const Exercise& exercise)
+{
+    return "paper " + std::to_string(exercise.place.paper) + ", number " +
+           std::to_string(exercise.place.number) + ", level " +
+           std::to_string(exercise.place.level) + ": " + textOf(exercise.prompt);
+}
+
+// The whole page: the prompt, the solution step by step, the key, the slips.
+inline std::string pageOf(const Exercise& exercise)
+{
+    std::string page = textOf(exercise.prompt) + "\n";
+    for (const Step& step : exercise.solution) {
+        page += "  " + textOf(step.say) + " | " + textOf(step.math) + "\n";
+    }
+    page += "= " + exercise.key + "\n";
+    for (const Slip& slip : exercise.slips) {
+        page += "! " + slip.text + "  " + slip.sentence + "\n";
+    }
+    return page;
+}
+
+inline long double toFloat(Ratio value)
+{
+    return static_cast<long double>(value.numerator) / static_cast<long double>(value.denominator);
+}
+
+inline const NumberAnswer& answerOf(const Exercise& exercise)
+{
+    return std::get<NumberAnswer>(exercise.answer);
+}
+
+// The given quantity with this symbol, of this substance if one is named; null where there is none.
+inline const GivenQuantity* findGiven(const Exercise& exercise, const std::string& symbol,
+                                      const std::string& of = "")
+{
+    for (const Given& given : exercise.given) {
+        const auto* const found = std::get_if<GivenQuantity>(&given);
+        if (found != nullptr && found->quantity == symbol && (of.empty() || found->of == of)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+// Its value in L, g, mol/L or g/mol; not a number where it is not given.
+inline long double givenValue(const Exercise& exercise, const std::string& symbol,
+                              const std::string& of = "")
+{
+    const GivenQuantity* const given = findGiven(exercise, symbol, of);
+    return given == nullptr ? std::nanl("") : toFloat(given->value);
+}
+
+inline Mark markOf(const Exercise& exercise, const std::string& typed)
+{
+    return markNumber(answerOf(exercise), exercise.ask, exercise.slips, typed);
+}
+
+// A learner's calculator: rounds to significant figures, halves up or down; 0 figures leave the
+// value as it is.
+struct Calculator {
+    int figures;
+    bool halvesUp = true;
+
+    long double operator()(long double value) const
+    {
+        return figures == 0 ? value : to(figures, value);
+    }
+
+    long double to(int significantFigures, long double value) const
+    {
+        // Far less than any digit that counts, and far more than floating point is off.
+        const long double nudged = value * (halvesUp ? 1 + 1e-12L : 1 - 1e-12L);
+        const long double place = std::floor(std::log10(nudged));
+        const long double scale = std::pow(10.0L, significantFigures - 1 - place);
+        return std::round(nudged * scale) / scale;
+    }
+};
+
+// A value as it is typed in scientific notation.
+inline std::string typedText(long double value, int figures)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, "%.*Le", figures - 1, value);
+    return text;
+}
+
+// Counts how often a learner is right who rounds each step to 5 figures, and expects it of one who
+// rounds to 3 or 4, and the exact value without any rounding. `work` takes an exercise and a
+// Calculator that each step but the last is put through.
+class RoundingOnTheWay
+{
+public:
+    template <typename Work>
+    void check(const Exercise& exercise, Work work)
+    {
+        const long double exact = toFloat(answerOf(exercise).value);
+        EXPECT_NEAR(static_cast<double>(work(exercise, Calculator{0}) / exact), 1.0, 1e-12)
+            << placeOf(exercise);
+        for (const int figures : {3, 4, 5}) {
+            for (const bool halvesUp : {true, false}) {
+                const Calculator rounded = {figures, halvesUp};
+                const int asked = exercise.ask.figures;
+                const long double answer = rounded.to(asked, work(exercise, rounded));
+                checkMark(exercise, figures, typedText(answer, asked));
+            }
+        }
+    }
+
+    void expectFairness() const
+    {
+        EXPECT_GE(rightWithFive, 0.994 * allWithFive);
+    }
+
+private:
+    void checkMark(const Exercise& exercise, int figures, const std::string& typed)
+    {
+        const Verdict verdict = markOf(exercise, typed).verdict;
+        EXPECT_NE(verdict, Verdict::wrong) << typed << ", " << placeOf(exercise);
+        if (figures < 5) {
+            EXPECT_EQ(verdict, Verdict::correct) << typed << ", " << placeOf(exercise);
+        } else {
+            ++allWithFive;
+            rightWithFive += verdict == Verdict::correct ? 1 : 0;
+        }
+    }
+
+    int allWithFive = 0;
+    int rightWithFive = 0;
+};
+
+// Expects classes that are drawn with equal shares to have come so, within five standard
+// deviations.
+inline void expectEqualShares(const std::map<std::string, int>& counts, std::size_t classes)
+{
+    EXPECT_EQ(counts.size(), classes);
+    int all = 0;
+    for (const auto& [name, count] : counts) {
+        all += count;
+    }
+    const double expected = static_cast<double>(all) / static_cast<double>(classes);
+    for (const auto& [name, count] : counts) {
+        EXPECT_NEAR(count, expected, 5 * std::sqrt(expected)) << name;
+    }
+}
+
+} // namespace lesson
