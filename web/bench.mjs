@@ -113,7 +113,8 @@ function pressToFrames(hash) {
         const from = performance.now();
         const main = document.querySelector("main");
         const times = {};
-        const keep = (which) => requestAnimationFrame(() => scheduler.postTask(() => (times[which] = performance.now() - from), { priority: "user-blocking" }));
+        const keep = (which) =>
+            requestAnimationFrame(() => scheduler.postTask(() => (times[which] = performance.now() - from), { priority: "user-blocking" }));
         const opened = new MutationObserver(() => {
             opened.disconnect();
             const pages = new MutationObserver(lookForPages);

@@ -20,14 +20,25 @@ await tab.locator("body").screenshot({ path: practice });
 
 await tab.setViewportSize({ width: 1300, height: 900 });
 await tab.goto("about:blank");
-await tab.goto(`${pathToFileURL(page).href}#sheet/4821/molar-mass:3,concentration:1,dilution:1,neutralisation:3,titration?key=working&drawings=1&room=none&leaf=0`);
+await tab.goto(
+    `${pathToFileURL(page).href}#sheet/4821/molar-mass:3,concentration:1,dilution:1,neutralisation:3,titration?key=working&drawings=1&room=none&leaf=0`,
+);
 await tab.locator(".size:not(:empty)").waitFor();
 // The two pages alone, side by side.
 await tab.evaluate(() => {
     document.querySelectorAll("header, .sheets, .outcome > :not(.leaves)").forEach((one) => (one.hidden = true));
     const box = document.querySelector(".leaves");
     box.style.setProperty("--mm", "0.75mm");
-    Object.assign(box.style, { display: "flex", gap: "1.5rem", position: "absolute", insetBlockStart: "0", insetInlineStart: "0", marginInlineStart: "0", inlineSize: "auto", padding: "1px" });
+    Object.assign(box.style, {
+        display: "flex",
+        gap: "1.5rem",
+        position: "absolute",
+        insetBlockStart: "0",
+        insetInlineStart: "0",
+        marginInlineStart: "0",
+        inlineSize: "auto",
+        padding: "1px",
+    });
 });
 await tab.waitForTimeout(200);
 const { width } = await tab.locator(".leaves").boundingBox();

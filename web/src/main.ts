@@ -1,27 +1,27 @@
 // Wires the page together; imported by none.
 import packed from "lesson.bin";
 import { addressOf, mainRoad, routeOf } from "./address";
-import { announce, byId, element, show } from "./shared/dom";
 import { lessonOf } from "./lesson/lesson";
+import { withLists } from "./lesson/listed-exercises";
 import { instantiate, unpacked } from "./lesson/memory";
 import { choiceIn } from "./practice/chosen-kinds";
-import { withLists } from "./lesson/listed-exercises";
-import { namesOf } from "./text/sentences";
-import * as storage from "./shared/storage";
-import { usualSheet } from "./sheet/sheet";
-import { texts } from "./words/texts";
-import type { Lesson, PracticeRoute, Route, SheetRoute } from "./types";
 import { keepFieldInView } from "./practice/field-in-view";
 import { nameOf } from "./practice/head";
+import { showPractice } from "./practice/practice";
+import { showStart } from "./practice/start";
+import { showSummary } from "./practice/summary";
+import * as working from "./practice/time-worked";
+import { announce, byId, element, show } from "./shared/dom";
 import { showMessage } from "./shared/message";
 import type { Page } from "./shared/page";
 import { randomPaper } from "./shared/paper";
-import { showPractice } from "./practice/practice";
+import * as storage from "./shared/storage";
+import { usualSheet } from "./sheet/sheet";
 import { showSheets } from "./sheet/sheets";
-import { showStart } from "./practice/start";
-import { showSummary } from "./practice/summary";
 import { showTables } from "./tables/tables";
-import * as working from "./practice/time-worked";
+import { namesOf } from "./text/sentences";
+import type { Lesson, PracticeRoute, Route, SheetRoute } from "./types";
+import { texts } from "./words/texts";
 
 type Focus = () => void;
 
@@ -166,7 +166,9 @@ function showViews(route: Route): void {
         { text: texts.sheets, href: printed === null ? "#sheet" : addressOf(printed), view: "sheet" },
         { text: texts.tables, href: "#tables", view: "tables" },
     ];
-    const items = links.map(({ text, href, view }) => element("a", { href, "aria-current": route.view === view ? "page" : undefined }, text));
+    const items = links.map(({ text, href, view }) =>
+        element("a", { href, "aria-current": route.view === view ? "page" : undefined }, text),
+    );
     show(byId("views"), ...items);
     keepPlaces();
     document.title = route.view === "start" ? texts.title : `${titleOf(route)} – ${texts.title}`;
@@ -175,7 +177,9 @@ function showViews(route: Route): void {
 function titleOf(route: Route): string {
     switch (route.view) {
         case "practice":
-            return isSummary(route) ? texts.summaryOf(route.paper) : `${nameOf({ ...route, set: 0 })} of ${texts.paper(route.paper).toLowerCase()}`;
+            return isSummary(route)
+                ? texts.summaryOf(route.paper)
+                : `${nameOf({ ...route, set: 0 })} of ${texts.paper(route.paper).toLowerCase()}`;
         case "sheet":
             return texts.sheetOf(route.paper);
         case "tables":

@@ -32,10 +32,7 @@ export interface GivenQuantity {
     titres?: number[];
 }
 
-export type Given =
-    | GivenQuantity
-    | { ion: string; charge: number; name: string }
-    | { compound: string; name: string };
+export type Given = GivenQuantity | { ion: string; charge: number; name: string } | { compound: string; name: string };
 
 export interface Step {
     say: Span[];
@@ -58,14 +55,7 @@ export interface Exercise {
     slips: { text: string; value?: number; sentence: string }[];
 }
 
-export type Verdict =
-    | "correct"
-    | "figures"
-    | "slip"
-    | "power-of-ten"
-    | "close"
-    | "wrong"
-    | "unreadable";
+export type Verdict = "correct" | "figures" | "slip" | "power-of-ten" | "close" | "wrong" | "unreadable";
 
 export interface Mark {
     verdict: Verdict;

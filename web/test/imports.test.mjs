@@ -49,7 +49,10 @@ for (const module of modules()) {
     test(`${module} imports only what its folder may`, () => {
         const folder = folderOf(module);
         for (const name of importsOf(module)) {
-            assert.ok([folder, ...allowed[folder]].some((one) => name === one || name.startsWith(`${one}/`)), `${module} imports ${name}`);
+            assert.ok(
+                [folder, ...allowed[folder]].some((one) => name === one || name.startsWith(`${one}/`)),
+                `${module} imports ${name}`,
+            );
         }
     });
 }
@@ -59,7 +62,9 @@ test("no module imports itself by way of others", () => {
     const walk = (module, path) => {
         assert.ok(!path.includes(module), [...path, module].join(" > "));
         if (!done.has(module)) {
-            importsOf(module).filter((name) => modules().includes(name)).forEach((name) => walk(name, [...path, module]));
+            importsOf(module)
+                .filter((name) => modules().includes(name))
+                .forEach((name) => walk(name, [...path, module]));
             done.add(module);
         }
     };
@@ -68,7 +73,10 @@ test("no module imports itself by way of others", () => {
 
 test("every module is used", () => {
     const used = new Set(modules().flatMap(importsOf));
-    assert.deepEqual(modules().filter((module) => !used.has(module)), ["main"]);
+    assert.deepEqual(
+        modules().filter((module) => !used.has(module)),
+        ["main"],
+    );
 });
 
 test("only lesson/memory touches the module's memory, and nothing makes markup from text", () => {

@@ -50,11 +50,7 @@ async function inflated(compressed: Uint8Array<ArrayBuffer>): Promise<BufferSour
 
 // Calls with texts put into the module's memory, and takes them out again afterwards. A zero byte
 // would end the text for the module, so it goes as a replacement character.
-export function withTexts(
-    module: Exports,
-    texts: string[],
-    call: (...addresses: number[]) => number,
-): string {
+export function withTexts(module: Exports, texts: string[], call: (...addresses: number[]) => number): string {
     const addresses = texts.map((text) => put(module, text.replaceAll("\0", "\uFFFD")));
     try {
         return take(module, call(...addresses));

@@ -1,14 +1,14 @@
 // Which exercises: kinds and levels as a set, the paper, how many. Opened by a button, right below it.
 import { addressOf } from "../address";
 import { bringIntoView, button, element } from "../shared/dom";
-import { choiceIn, entriesOf, shortest } from "./chosen-kinds";
 import { isList } from "../shared/exercise-list";
-import { texts } from "../words/texts";
-import type { Exercise, PracticeRoute } from "../types";
-import { type KindRows, kindRows } from "./kind-rows";
 import { type Page, titleOf } from "../shared/page";
-import { type PaperField, paperField } from "./paper-field";
 import { type Problem, problemMarks } from "../shared/problems";
+import type { Exercise, PracticeRoute } from "../types";
+import { texts } from "../words/texts";
+import { choiceIn, entriesOf, shortest } from "./chosen-kinds";
+import { type KindRows, kindRows } from "./kind-rows";
+import { type PaperField, paperField } from "./paper-field";
 
 const lengths = [0, 5, 10, 20];
 
@@ -19,7 +19,11 @@ export interface Fields {
 }
 
 export function fieldsOf({ kinds, set, paper }: Pick<PracticeRoute, "kinds" | "set" | "paper">, page: Page): Fields {
-    return { kinds: kindRows(choiceIn(kinds, page.kinds), page.kinds), length: lengthField(isList(kinds) ? 0 : set), paper: paperField(paper) };
+    return {
+        kinds: kindRows(choiceIn(kinds, page.kinds), page.kinds),
+        length: lengthField(isList(kinds) ? 0 : set),
+        paper: paperField(paper),
+    };
 }
 
 // Goes to the first exercise of what is chosen, or to the first field that is wrong. What is told is taken
@@ -34,7 +38,10 @@ export function beginWith(form: HTMLFormElement, fields: Fields, page: Page, whe
         const problems = problemsIn(fields);
         const first = problems[0]?.field;
         // A field tells its problem when the focus comes to it.
-        tell(problems, problems.filter(({ field }) => field !== first || field === document.activeElement));
+        tell(
+            problems,
+            problems.filter(({ field }) => field !== first || field === document.activeElement),
+        );
         if (first === undefined) {
             page.go(addressOf(routeOf(fields)));
         } else {
@@ -64,7 +71,12 @@ function lengthField(present: number): HTMLSelectElement {
 //   label
 //   div.field    select, Start
 export function lengthAndStart(length: HTMLSelectElement, start: HTMLElement): HTMLElement {
-    return element("div", { class: "length" }, element("label", { for: "length" }, texts.chooseLength), element("div", { class: "field" }, length, start));
+    return element(
+        "div",
+        { class: "length" },
+        element("label", { for: "length" }, texts.chooseLength),
+        element("div", { class: "field" }, length, start),
+    );
 }
 
 export interface Opener {

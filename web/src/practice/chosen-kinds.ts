@@ -1,7 +1,7 @@
 // Which kinds and levels are chosen: as an address writes them, one by one, and in words.
 import { isList, kindOf, readList } from "../shared/exercise-list";
-import { texts } from "../words/texts";
 import type { KindInfo } from "../types";
+import { texts } from "../words/texts";
 
 const usualLevel = "2";
 

@@ -25,6 +25,9 @@ export function beaker(width: number, strength: "strong" | "weak"): SVGElement {
         { viewBox: "0 0 80 82", "aria-hidden": "true", class: "shape" },
         svg("path", { d: `M${left} ${surface} ${bottom} V${surface} Z`, class: `liquid ${strength}` }),
         svg("path", { d: `M${left} ${surface} H${right}`, class: "glass fine" }),
-        svg("path", { d: `M${left - corner} ${rim} Q${left} ${rim} ${left} ${rim + corner} ${bottom} V${rim + corner} Q${right} ${rim} ${right + corner} ${rim}`, class: "glass" }),
+        svg("path", {
+            d: `M${left - corner} ${rim} Q${left} ${rim} ${left} ${rim + corner} ${bottom} V${rim + corner} Q${right} ${rim} ${right + corner} ${rim}`,
+            class: "glass",
+        }),
     );
 }

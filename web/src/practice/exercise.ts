@@ -1,24 +1,24 @@
 // One exercise: the question, a field, the mark, the solution step by step; and what each press leads to.
 import { addressOf, atNumber, mainRoad, sideRoad } from "../address";
 import { announce, bringIntoView, button, element, fitIntoView, isNarrow, isTouched, show } from "../shared/dom";
-import { keepProgress, keepTyped, progressOf } from "./progress";
-import { addToRecord } from "./kept-record";
+import type { Page } from "../shared/page";
+import { withdraw } from "../shared/question";
 import { typesetLine } from "../text/line";
 import { speech } from "../text/seen-and-spoken";
-import * as state from "./tries";
-import { texts } from "../words/texts";
 import type { Exercise, Mark, PracticeRoute } from "../types";
-import { workAt } from "./time-worked";
+import { texts } from "../words/texts";
 import { type AnswerField, answerField, markId } from "./answer-field";
 import { drawingOf } from "./drawing";
 import { finish, isLastOfSet } from "./finish";
 import { headerOf, nameOf } from "./head";
-import { massesBelow } from "./masses-line";
+import { addToRecord } from "./kept-record";
 import { showMark, spokenMark, withoutStep } from "./mark";
+import { massesBelow } from "./masses-line";
 import { overviewOf } from "./overview";
-import type { Page } from "../shared/page";
-import { withdraw } from "../shared/question";
+import { keepProgress, keepTyped, progressOf } from "./progress";
 import { newlySpoken, showSolution } from "./solution";
+import { workAt } from "./time-worked";
+import * as state from "./tries";
 
 export interface Place {
     route: PracticeRoute;

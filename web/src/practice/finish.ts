@@ -1,10 +1,10 @@
 // The end of a set: asked for where exercises are open.
 import { addressOf, atNumber } from "../address";
-import { openIn } from "./kept-sets";
-import { texts } from "../words/texts";
-import type { PracticeRoute } from "../types";
 import type { Page } from "../shared/page";
 import { ask } from "../shared/question";
+import type { PracticeRoute } from "../types";
+import { texts } from "../words/texts";
+import { openIn } from "./kept-sets";
 
 // Behind the last exercise, and behind any once nothing is open.
 export function isLastOfSet(route: PracticeRoute): boolean {
@@ -18,6 +18,11 @@ export function finish(pressed: HTMLElement, route: PracticeRoute, page: Page): 
     if (first === undefined) {
         goTo(route.set + 1);
     } else {
-        ask(pressed, texts.askFinish(open.length, first), () => goTo(route.set + 1), () => goTo(first));
+        ask(
+            pressed,
+            texts.askFinish(open.length, first),
+            () => goTo(route.set + 1),
+            () => goTo(first),
+        );
     }
 }

@@ -1,8 +1,8 @@
 // Which exercise it is.
 import { element } from "../shared/dom";
-import { texts } from "../words/texts";
-import type { Exercise, PracticeRoute } from "../types";
 import { type Page, titleOf } from "../shared/page";
+import type { Exercise, PracticeRoute } from "../types";
+import { texts } from "../words/texts";
 
 // header
 //   h1
@@ -13,11 +13,14 @@ export function headerOf(route: PracticeRoute, exercise: Exercise, choose: HTMLE
         "header",
         {},
         element("h1", {}, nameOf(route)),
-        element("p", { class: "which" }, `${texts.kindAndLevel(titleOf(page, exercise.kind), exercise.level)} · ${texts.paper(route.paper)}`),
+        element(
+            "p",
+            { class: "which" },
+            `${texts.kindAndLevel(titleOf(page, exercise.kind), exercise.level)} · ${texts.paper(route.paper)}`,
+        ),
         choose,
     );
 }
-
 
 export function nameOf({ number, set, back }: PracticeRoute): string {
     if (back !== undefined) {

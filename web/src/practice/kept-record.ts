@@ -1,6 +1,7 @@
 // The record: by kind, how the exercises were solved that were done on this device.
-import { type Result, results } from "./tries";
+
 import { countOf, fieldsOf, read, remove, write } from "../shared/storage";
+import { type Result, results } from "./tries";
 
 // How many there are of each result; how many of the last ones in a row at the first try; whether those
 // were ever as many as tick a kind.
@@ -17,7 +18,14 @@ export function record(): Tallies {
 
 function tallyOf(kept: unknown): Tally {
     const { first, later, help, shown, row, ticked } = fieldsOf(kept);
-    return { first: countOf(first), later: countOf(later), help: countOf(help), shown: countOf(shown), row: countOf(row), ticked: ticked === true };
+    return {
+        first: countOf(first),
+        later: countOf(later),
+        help: countOf(help),
+        shown: countOf(shown),
+        row: countOf(row),
+        ticked: ticked === true,
+    };
 }
 
 function isUsed(tally: Tally): boolean {

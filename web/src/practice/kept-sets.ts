@@ -2,9 +2,9 @@
 // of what was solved how. Each is an entry of its own in the store, so that two tabs with two sets never
 // write over each other; two tabs with one set read it anew before each write.
 import { addressOfSet, routeOf } from "../address";
-import { type Progress, resultOf } from "./tries";
 import { countOf, fieldsOf, keysBehind, read, remove, write } from "../shared/storage";
 import type { PracticeRoute } from "../types";
+import { type Progress, resultOf } from "./tries";
 
 // What an exercise has come to, without what is being typed, which is a tab's own.
 export type Done = Omit<Progress, "typed">;
@@ -53,7 +53,9 @@ function setIn(key: string, length: number): KeptSet | null {
     const done = fieldsOf(exercises);
     const numbers = Array.from({ length }, (_, at) => at + 1);
     const tried = numbers.map((number) => [number, doneOf(done[number])] as const).filter(([, one]) => isTried(one));
-    return tried.length === 0 ? null : { begun: countOf(begun), touched: countOf(touched), worked: countOf(worked), exercises: new Map(tried) };
+    return tried.length === 0
+        ? null
+        : { begun: countOf(begun), touched: countOf(touched), worked: countOf(worked), exercises: new Map(tried) };
 }
 
 function doneOf(kept: unknown): Done {

@@ -1,10 +1,10 @@
 // Kinds as rows with a box for each level.
 import { announce, button, element, spoken } from "../shared/dom";
-import { changedTo, entriesOf } from "./chosen-kinds";
-import { texts } from "../words/texts";
-import type { KindInfo } from "../types";
 import { meaningsOf } from "../shared/level-meanings";
 import type { Problem } from "../shared/problems";
+import type { KindInfo } from "../types";
+import { texts } from "../words/texts";
+import { changedTo, entriesOf } from "./chosen-kinds";
 
 export interface KindRows {
     element: HTMLElement;
@@ -23,13 +23,24 @@ export function kindRows(kinds: string, all: KindInfo[]): KindRows {
     const title = element("span", { id: "kinds-title", class: "title" }, texts.chooseKinds);
     const box = element("div", { class: "kinds asked", role: "group", "aria-labelledby": title.id });
     const boxes = rows.flatMap((row) => [...row.querySelectorAll("input")]);
-    const read = () => changedTo(boxes.filter((one) => one.checked).map((one) => one.value), kinds, all);
+    const read = () =>
+        changedTo(
+            boxes.filter((one) => one.checked).map((one) => one.value),
+            kinds,
+            all,
+        );
     const setAll = (checked: boolean) => {
         boxes.forEach((one) => (one.checked = checked));
         box.dispatchEvent(new Event("input", { bubbles: true }));
         announce(checked ? texts.allChosen : texts.noneChosen);
     };
-    const whole = element("div", { class: "whole" }, title, button(texts.all, () => setAll(true)), button(texts.none, () => setAll(false)));
+    const whole = element(
+        "div",
+        { class: "whole" },
+        title,
+        button(texts.all, () => setAll(true)),
+        button(texts.none, () => setAll(false)),
+    );
     box.append(whole, element("div", { class: "rows" }, ...rows));
     return { element: box, read, problems: () => (read() === "" ? [{ field: boxes[0]!, sentence: texts.chooseNone }] : []) };
 }
@@ -52,5 +63,11 @@ function kindRow(info: KindInfo, chosen: ReadonlySet<string>): HTMLElement {
 
 function levelBox(value: string, level: number, text: string, chosen: ReadonlySet<string>): HTMLElement {
     const box = element("input", { id: `level-${value}`, type: "checkbox", value, checked: chosen.has(value) });
-    return element("label", { class: "level" }, box, element("span", { "aria-hidden": "true" }, String(level)), spoken(`${texts.level(level)}: ${text}`));
+    return element(
+        "label",
+        { class: "level" },
+        box,
+        element("span", { "aria-hidden": "true" }, String(level)),
+        spoken(`${texts.level(level)}: ${text}`),
+    );
 }

@@ -1,8 +1,8 @@
 // The link to a set: to copy, or to select where the browser does not let a page copy.
 import { addressOfSet } from "../address";
 import { announce, button, element, show } from "../shared/dom";
-import { texts } from "../words/texts";
 import type { PracticeRoute } from "../types";
+import { texts } from "../words/texts";
 
 // div.link
 //   button

@@ -1,10 +1,10 @@
 // The mark: the library's sentence, with a word in front where it does not say so itself.
 import { element, show } from "../shared/dom";
-import { seenSentence, spokenSentence } from "../text/sentences";
-import { wholeSpoken } from "../text/line";
-import { texts } from "../words/texts";
-import type { Mark } from "../types";
 import type { Page } from "../shared/page";
+import { wholeSpoken } from "../text/line";
+import { seenSentence, spokenSentence } from "../text/sentences";
+import type { Mark } from "../types";
+import { texts } from "../words/texts";
 
 // p.mark
 //   span         what is seen: .marked where it was given for another text than stands in the field, the word,

@@ -1,10 +1,10 @@
 // The relative atomic masses that exercises need, in one line.
 import { element } from "../shared/dom";
-import { massesNeeded, needsMasses } from "./masses-needed";
-import { typesetLine } from "../text/line";
-import { texts } from "../words/texts";
-import type { ElementInfo, Exercise, Span } from "../types";
 import type { Page } from "../shared/page";
+import { typesetLine } from "../text/line";
+import type { ElementInfo, Exercise, Span } from "../types";
+import { texts } from "../words/texts";
+import { massesNeeded, needsMasses } from "./masses-needed";
 
 // "Relative atomic masses: H 1.008; O 16.00", which breaks between elements only.
 export function massesLine(masses: ElementInfo[], page: Page): HTMLElement {

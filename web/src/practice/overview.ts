@@ -1,9 +1,9 @@
 // The exercises of a set in a row, each with what it has come to, to jump to.
 import { addressOf, atNumber } from "../address";
 import { element, show, spoken } from "../shared/dom";
-import { type Done, keptSet, openIn } from "./kept-sets";
-import { texts } from "../words/texts";
 import type { PracticeRoute } from "../types";
+import { texts } from "../words/texts";
+import { type Done, keptSet, openIn } from "./kept-sets";
 
 type State = keyof typeof texts.overviewSigns;
 
@@ -28,12 +28,24 @@ export function overviewOf(route: PracticeRoute): { element: HTMLElement; update
         show(summary, `${texts.overview}: ${texts.doneOf(route.set - openIn(route).length, route.set)}`);
     };
     const folded = route.set > mostOpen ? element("details", {}, summary, list) : list;
-    return { element: element("nav", { class: "overview", "aria-label": texts.overview }, folded, element("p", { class: "hint" }, texts.overviewKeys)), update };
+    return {
+        element: element(
+            "nav",
+            { class: "overview", "aria-label": texts.overview },
+            folded,
+            element("p", { class: "hint" }, texts.overviewKeys),
+        ),
+        update,
+    };
 }
 
 function linkTo(route: PracticeRoute, number: number): HTMLAnchorElement {
     const isPresent = number === route.number;
-    return element("a", { href: addressOf(atNumber(route, number)), "aria-current": isPresent ? "page" : undefined, tabindex: isPresent ? undefined : -1 });
+    return element("a", {
+        href: addressOf(atNumber(route, number)),
+        "aria-current": isPresent ? "page" : undefined,
+        tabindex: isPresent ? undefined : -1,
+    });
 }
 
 // Left alone where it is as it was: a long set has many, and one changes.
@@ -44,7 +56,12 @@ function showState(link: HTMLElement, number: number, done: Done | undefined): v
         return;
     }
     // Its title is for the eye alone: a link's own would be read behind its name, which ends with the same words.
-    const seen = element("span", { "aria-hidden": "true", title: words }, String(number), element("span", { class: "sign" }, texts.overviewSigns[state]));
+    const seen = element(
+        "span",
+        { "aria-hidden": "true", title: words },
+        String(number),
+        element("span", { class: "sign" }, texts.overviewSigns[state]),
+    );
     link.dataset["state"] = state;
     link.dataset["words"] = words;
     show(link, seen, spoken(`${texts.exercise(number)}: ${words}`));

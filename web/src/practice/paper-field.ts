@@ -1,8 +1,8 @@
 // The number of a paper, with a way to another one.
 import { announce, button, element } from "../shared/dom";
-import { texts } from "../words/texts";
 import { isPaper, randomPaper } from "../shared/paper";
 import type { Problem } from "../shared/problems";
+import { texts } from "../words/texts";
 
 export interface PaperField {
     element: HTMLElement;
@@ -15,7 +15,14 @@ export interface PaperField {
 //   div.field    input, New paper
 //   p#paper-hint
 export function paperField(present: number): PaperField {
-    const input = element("input", { id: "paper", type: "text", inputmode: "numeric", value: present, autocomplete: "off", "aria-describedby": "paper-hint" });
+    const input = element("input", {
+        id: "paper",
+        type: "text",
+        inputmode: "numeric",
+        value: present,
+        autocomplete: "off",
+        "aria-describedby": "paper-hint",
+    });
     const anew = button(texts.newPaper, () => {
         input.value = String(randomPaper());
         input.dispatchEvent(new Event("input", { bubbles: true }));

@@ -1,13 +1,13 @@
 // Practice: one exercise at a time with the choice of others, and around it the display and the record.
 import { mainRoad } from "../address";
-import { element, show } from "../shared/dom";
-import { texts } from "../words/texts";
-import type { Exercise, PracticeRoute } from "../types";
-import { choicePanel } from "./choice";
 import { displayPanel, massesChoice } from "../shared/display";
+import { element, show } from "../shared/dom";
+import type { Page } from "../shared/page";
+import type { Exercise, PracticeRoute } from "../types";
+import { texts } from "../words/texts";
+import { choicePanel } from "./choice";
 import { showExercise } from "./exercise";
 import { linkPanel } from "./link";
-import type { Page } from "../shared/page";
 import { recordPanel } from "./record";
 
 // article        the exercise
@@ -21,6 +21,10 @@ export function showPractice(main: HTMLElement, route: PracticeRoute, exercise: 
     const draw = (): (() => void) => showExercise(article, { route, exercise, page, choice, solved: record.update });
     const focus = draw();
     const display = displayPanel(page, draw, () => [massesChoice(page, draw)]);
-    show(main, article, element("aside", { "aria-label": texts.around }, ...(route.set > 0 ? [linkPanel(route)] : []), display, record.element));
+    show(
+        main,
+        article,
+        element("aside", { "aria-label": texts.around }, ...(route.set > 0 ? [linkPanel(route)] : []), display, record.element),
+    );
     return focus;
 }

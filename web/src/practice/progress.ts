@@ -1,11 +1,11 @@
 // What an exercise has come to, so that a reload loses nothing. Outside sets the tab keeps it. In a set the
 // device does, and the tab what is being typed.
 import { isInSet, placeOf } from "../address";
-import * as sets from "./kept-sets";
-import { type Progress, resultOf } from "./tries";
 import { countOf, fieldsOf, keysBehind, read, remove, write } from "../shared/storage";
 import type { PracticeRoute } from "../types";
+import * as sets from "./kept-sets";
 import { spend, workAt } from "./time-worked";
+import { type Progress, resultOf } from "./tries";
 
 const prefix = "chempractice.exercise.";
 

@@ -1,12 +1,12 @@
 // What the reader has solved on this device, by kind.
 import { announce, button, disclosure, element, scrollBox, show } from "../shared/dom";
-import { clearRecord, record, type Tallies, type Tally } from "./kept-record";
-import { results } from "./tries";
-import { texts } from "../words/texts";
-import type { KindInfo } from "../types";
-import { keptSetsPanel } from "./sets";
 import type { Page } from "../shared/page";
 import { ask } from "../shared/question";
+import type { KindInfo } from "../types";
+import { texts } from "../words/texts";
+import { clearRecord, record, type Tallies, type Tally } from "./kept-record";
+import { keptSetsPanel } from "./sets";
+import { results } from "./tries";
 
 // details
 //   summary

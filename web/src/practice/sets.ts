@@ -1,14 +1,14 @@
 // The sets that are kept on this device: where each leads on, and what clears them all.
 import { addressOf, atNumber } from "../address";
 import { announce, button, element, show } from "../shared/dom";
-import { choiceIn, inWords } from "./chosen-kinds";
-import { forgetSets } from "./progress";
-import { type KeptSet, keptSets, openIn } from "./kept-sets";
-import { dateAndTime } from "./summary-facts";
-import { texts } from "../words/texts";
-import type { PracticeRoute } from "../types";
 import type { Page } from "../shared/page";
 import { ask } from "../shared/question";
+import type { PracticeRoute } from "../types";
+import { texts } from "../words/texts";
+import { choiceIn, inWords } from "./chosen-kinds";
+import { type KeptSet, keptSets, openIn } from "./kept-sets";
+import { forgetSets } from "./progress";
+import { dateAndTime } from "./summary-facts";
 
 // div
 //   h2
@@ -36,7 +36,11 @@ export function keptSetsPanel(page: Page, cleared: () => void): { element: HTMLE
 function itemOf(route: PracticeRoute, { touched }: KeptSet, page: Page): HTMLElement {
     const open = openIn(route);
     const link = element("a", { href: addressOf(atNumber(route, open[0] ?? route.set + 1)) }, texts.keptSet(route.paper, route.set));
-    const facts = [inWords(choiceIn(route.kinds, page.kinds), page.kinds), texts.doneOf(route.set - open.length, route.set), ...(touched > 0 ? [dateAndTime(touched)] : [])];
+    const facts = [
+        inWords(choiceIn(route.kinds, page.kinds), page.kinds),
+        texts.doneOf(route.set - open.length, route.set),
+        ...(touched > 0 ? [dateAndTime(touched)] : []),
+    ];
     return element("li", {}, link, element("span", { class: "hint" }, ...facts.flatMap(apart)));
 }
 

@@ -1,11 +1,11 @@
 // The solution of an exercise, step by step, as it is shown and as it is announced.
 import { element, show } from "../shared/dom";
-import { spansOfKey } from "../text/sentences";
+import type { Page } from "../shared/page";
 import { typesetLine } from "../text/line";
 import { speech } from "../text/seen-and-spoken";
-import { texts } from "../words/texts";
+import { spansOfKey } from "../text/sentences";
 import type { Exercise, Span, Step } from "../types";
-import type { Page } from "../shared/page";
+import { texts } from "../words/texts";
 
 // h2        takes the focus once all is shown
 // ol        the steps that are shown
@@ -32,7 +32,12 @@ function rowOf(step: Step, page: Page): HTMLElement {
 }
 
 function labelled(kind: string, label: string, line: Span[], page: Page): HTMLElement {
-    return element("p", { class: kind }, element("strong", {}, `${label}: `), element("span", { class: "line" }, ...typesetLine(line, page.settings)));
+    return element(
+        "p",
+        { class: kind },
+        element("strong", {}, `${label}: `),
+        element("span", { class: "line" }, ...typesetLine(line, page.settings)),
+    );
 }
 
 // What is shown now and was not before, to be announced: a step with the hint to the next one, or the answer.
@@ -43,7 +48,10 @@ export function newlySpoken(exercise: Exercise, before: number, after: number, p
     const next = exercise.solution[after - 1];
     const end = next === undefined ? `${texts.key}: ${said(spansOfKey(exercise))}` : `${texts.hint}: ${said(next.hint)}`;
     const lines = step === undefined ? [end] : [said(step.say), said(step.math ?? []), end];
-    return lines.filter((line) => line !== "").map(stopped).join(" ");
+    return lines
+        .filter((line) => line !== "")
+        .map(stopped)
+        .join(" ");
 }
 
 // A formula has no full stop, and would be read on into what comes behind it.

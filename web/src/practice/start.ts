@@ -1,12 +1,12 @@
 // The first visit: what the page is, and a way into it; for who was here before, the way back.
 import { addressOf } from "../address";
 import { button, element, show } from "../shared/dom";
-import { inWords } from "./chosen-kinds";
-import { texts } from "../words/texts";
-import type { PracticeRoute } from "../types";
-import { beginWith, fieldsOf, lengthAndStart, openerOf } from "./choice";
 import type { Page } from "../shared/page";
 import { randomPaper } from "../shared/paper";
+import type { PracticeRoute } from "../types";
+import { texts } from "../words/texts";
+import { beginWith, fieldsOf, lengthAndStart, openerOf } from "./choice";
+import { inWords } from "./chosen-kinds";
 
 // What is known of the reader: where practice was left in this tab, and which kinds were chosen last.
 export interface Past {
@@ -40,7 +40,9 @@ export function showStart(main: HTMLElement, past: Past, page: Page): () => void
 
 function goOn(left: PracticeRoute, page: Page): HTMLElement {
     const isOver = left.set > 0 && left.number > left.set;
-    return button(isOver ? texts.goToSummary(left.paper) : texts.goOn(left.number, left.paper), () => page.go(addressOf(left)), { class: "main" });
+    return button(isOver ? texts.goToSummary(left.paper) : texts.goOn(left.number, left.paper), () => page.go(addressOf(left)), {
+        class: "main",
+    });
 }
 
 // form

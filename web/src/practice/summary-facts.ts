@@ -1,7 +1,8 @@
 // A set in rows and facts: what its summary shows, prints and saves.
-import type { Done, KeptSet } from "./kept-sets";
-import { texts } from "../words/texts";
+
 import type { PracticeRoute } from "../types";
+import { texts } from "../words/texts";
+import type { Done, KeptSet } from "./kept-sets";
 
 export interface Row {
     number: number;
@@ -17,7 +18,10 @@ export interface Summary {
 
 export function summaryOf(kept: KeptSet, length: number, kindOf: (number: number) => string): Summary {
     const rows = Array.from({ length }, (_, at) => rowOf(at + 1, kindOf(at + 1), kept.exercises.get(at + 1)));
-    const times: [string, number][] = [[texts.begun, kept.begun], [texts.lastWorked, kept.touched]];
+    const times: [string, number][] = [
+        [texts.begun, kept.begun],
+        [texts.lastWorked, kept.touched],
+    ];
     // A time that could not be read is none.
     const dates = times.filter(([, time]) => time > 0).map(([name, time]): [string, string] => [name, dateAndTime(time)]);
     const worked = texts.duration(Math.round(kept.worked / 60_000));

@@ -1,9 +1,9 @@
 // The summary of a set: its facts and its exercises.
 import { addressOf, atNumber } from "../address";
 import { element, scrollBox } from "../shared/dom";
-import type { Row, Summary } from "./summary-facts";
-import { texts } from "../words/texts";
 import type { PracticeRoute } from "../types";
+import { texts } from "../words/texts";
+import type { Row, Summary } from "./summary-facts";
 
 // dl.facts
 // p.hint      how the time is counted

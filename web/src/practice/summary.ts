@@ -1,15 +1,15 @@
 // What a set of exercises has come to, as the device keeps it: to print or to save, for a teacher.
 import { addressOfSet } from "../address";
 import { announce, button, element, save, show } from "../shared/dom";
-import { forgetSet } from "./progress";
-import { keptSet, type KeptSet } from "./kept-sets";
-import { type Summary, summaryOf, textOf } from "./summary-facts";
-import { texts } from "../words/texts";
-import type { PracticeRoute } from "../types";
-import { linkPanel } from "./link";
 import { type Page, titleOf } from "../shared/page";
 import { randomPaper } from "../shared/paper";
 import { ask } from "../shared/question";
+import type { PracticeRoute } from "../types";
+import { texts } from "../words/texts";
+import { type KeptSet, keptSet } from "./kept-sets";
+import { linkPanel } from "./link";
+import { forgetSet } from "./progress";
+import { type Summary, summaryOf, textOf } from "./summary-facts";
 import { factsOf, resultsTable } from "./summary-table";
 
 // Gives what puts the focus on the heading.

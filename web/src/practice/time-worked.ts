@@ -1,9 +1,9 @@
 // The clock of the set that this tab works at. It goes on from one exercise of the set to the next, and
 // stands still while there is nothing to solve on the screen.
 import { addressOfSet } from "../address";
+import type { PracticeRoute } from "../types";
 import { type Clock, running, startedAt, ticked } from "./clock";
 import { addTime, type Spent } from "./kept-sets";
-import type { PracticeRoute } from "../types";
 
 let present: { route: PracticeRoute; clock: Clock } | null = null;
 let isOpen = false; // an exercise of the set, without a result

@@ -56,9 +56,11 @@ const typedArrow = / *(?:[-–—_=]*>|\\(?:long)?rightarrow|\\to(?![a-z])|\brar
 // A formula, an ion or an equation as it is being typed.
 export function previewOf(text: string): Piece[] {
     const arrows = bound(text.replace(typedArrow, " → ").slice(0, 300));
-    return arrows.split(/(\^\{?[\d+−-]*\}?)/).flatMap((part): Piece[] =>
-        part.startsWith("^")
-            ? [element("sup", {}, part.replace(/[\^{}]/g, "").replaceAll("-", "−"))]
-            : formulaPieces(part.replace(/_\{?(\d+)\}?/g, "$1")),
-    );
+    return arrows
+        .split(/(\^\{?[\d+−-]*\}?)/)
+        .flatMap((part): Piece[] =>
+            part.startsWith("^")
+                ? [element("sup", {}, part.replace(/[\^{}]/g, "").replaceAll("-", "−"))]
+                : formulaPieces(part.replace(/_\{?(\d+)\}?/g, "$1")),
+        );
 }

@@ -1,9 +1,10 @@
 // How quantities and names are written.
-import { disclosure, element, show } from "./dom";
-import * as storage from "./storage";
-import { texts } from "../words/texts";
+
 import type { Settings } from "../types";
+import { texts } from "../words/texts";
+import { disclosure, element, show } from "./dom";
 import type { Page } from "./page";
+import * as storage from "./storage";
 
 type Choices<Key extends keyof Settings> = { value: Settings[Key]; label: string }[];
 

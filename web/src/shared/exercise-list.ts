@@ -14,7 +14,9 @@ export interface Numbered {
 
 export function listOf(entries: SheetEntry[]): string {
     return entries
-        .map((entry) => `${entry.count === 1 ? "" : `${entry.count}*`}${kindOf(entry)}${entry.first === undefined ? "" : `@${entry.first}`}`)
+        .map(
+            (entry) => `${entry.count === 1 ? "" : `${entry.count}*`}${kindOf(entry)}${entry.first === undefined ? "" : `@${entry.first}`}`,
+        )
         .join(",");
 }
 
@@ -37,7 +39,9 @@ export function countOf(entries: SheetEntry[]): number {
 }
 
 export function oneByOne(entries: SheetEntry[]): Numbered[] {
-    return entries.flatMap(({ kind, level, count, first = 1 }) => Array.from({ length: count }, (_, at) => ({ kind, level, number: first + at })));
+    return entries.flatMap(({ kind, level, count, first = 1 }) =>
+        Array.from({ length: count }, (_, at) => ({ kind, level, number: first + at })),
+    );
 }
 
 // What follows each other by number as well is one entry.
@@ -67,7 +71,8 @@ function isEachOnce(entries: SheetEntry[]): boolean {
 }
 
 function entryOf(text: string): SheetEntry | null {
-    const [, count = "1", kind, level = String(usualLevel), first = "1"] = /^(?:(\d+)\*)?([a-z][a-z-]*)(?::([123]))?(?:@(\d+))?$/.exec(text) ?? [];
+    const [, count = "1", kind, level = String(usualLevel), first = "1"] =
+        /^(?:(\d+)\*)?([a-z][a-z-]*)(?::([123]))?(?:@(\d+))?$/.exec(text) ?? [];
     if (kind === undefined || !isCount(count, mostExercises) || !isCount(first, greatestNumber + 1 - Number(count))) {
         return null;
     }

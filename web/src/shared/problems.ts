@@ -16,7 +16,8 @@ export function problemMarks(): (problems: Problem[], told?: Problem[]) => void 
         present.forEach(({ field }) => unmark(field));
         lines.forEach((line) => line.remove());
         lines = linesOf(problems);
-        const news = told ?? problems.filter(({ field, sentence }) => !present.some((old) => old.field === field && old.sentence === sentence));
+        const news =
+            told ?? problems.filter(({ field, sentence }) => !present.some((old) => old.field === field && old.sentence === sentence));
         present = problems;
         if (news.length > 0) {
             announce([...new Set(news.map(spoken))].join(" "));

@@ -16,7 +16,13 @@ export interface Question {
 export function ask(pressed: HTMLElement, { text, yes, no }: Question, whenYes: () => void, whenNo = () => pressed.focus()): void {
     const harmless = button(no, () => answer(whenNo));
     const sentence = element("p", {}, text);
-    const group = element("div", { class: "question", role: "group", "aria-label": text }, sentence, button(yes, () => answer(whenYes)), harmless);
+    const group = element(
+        "div",
+        { class: "question", role: "group", "aria-label": text },
+        sentence,
+        button(yes, () => answer(whenYes)),
+        harmless,
+    );
     const answer = (then: () => void) => {
         group.remove();
         pressed.hidden = false;

@@ -1,7 +1,8 @@
 // What questions have in common, so that it stands on a sheet once: how many figures are wanted, and the
 // words around what is asked for.
-import { marksOf } from "./worth";
+
 import type { Exercise, Form, SheetRoute, Span } from "../types";
+import { marksOf } from "./worth";
 
 // Exercises that follow each other, from `from` up to, not with, `to`. Under a frame each says only its
 // own part of the question.

@@ -1,11 +1,11 @@
 // How many of each kind and level: a field for each, and below each kind what its levels ask for.
 import { element } from "../shared/dom";
 import { countOf, isCount, kindOf, mostExercises } from "../shared/exercise-list";
-import { withCounts } from "./picks";
-import { texts } from "../words/texts";
-import type { KindInfo, SheetEntry } from "../types";
 import { meaningsOf } from "../shared/level-meanings";
 import type { Problem } from "../shared/problems";
+import type { KindInfo, SheetEntry } from "../types";
+import { texts } from "../words/texts";
+import { withCounts } from "./picks";
 
 interface CountField {
     entry: Omit<SheetEntry, "count">;
@@ -33,7 +33,10 @@ export function countFields(opened: SheetEntry[], kinds: KindInfo[]): Counts {
         const filled = counts.filter(({ input }) => input.validity.badInput || !/^0*$/.test(input.value));
         const wrong = filled.filter(({ input }) => !isCount(input.value, mostExercises));
         if (wrong.length > 0) {
-            return { entries: [], problems: wrong.map(({ input, place }) => ({ field: input, sentence: texts.wrongCount(mostExercises), where: place })) };
+            return {
+                entries: [],
+                problems: wrong.map(({ input, place }) => ({ field: input, sentence: texts.wrongCount(mostExercises), where: place })),
+            };
         }
         const wanted = counts.map(({ entry, input }) => ({ ...entry, count: Number(input.value) }));
         const entries = countOf(wanted) > mostExercises ? wanted : withCounts(picked, wanted);
@@ -52,7 +55,19 @@ function countField(opened: SheetEntry[], info: KindInfo, level: number): CountF
     const count = countOf(opened.filter((one) => kindOf(one) === kindOf(entry)));
     const label = texts.fieldOf(info.title, level, info.levels[level - 1]!);
     const id = `count-${info.kind}-${level}`;
-    return { entry, place: texts.placeOf(info.title, level), input: element("input", { id, type: "number", min: 0, max: mostExercises, value: count === 0 ? "" : count, class: "count", "aria-label": label }) };
+    return {
+        entry,
+        place: texts.placeOf(info.title, level),
+        input: element("input", {
+            id,
+            type: "number",
+            min: 0,
+            max: mostExercises,
+            value: count === 0 ? "" : count,
+            class: "count",
+            "aria-label": label,
+        }),
+    };
 }
 
 // fieldset
@@ -64,10 +79,20 @@ function countField(opened: SheetEntry[], info: KindInfo, level: number): CountF
 function countRows(counts: CountField[], kinds: KindInfo[]): HTMLElement {
     const hint = element("p", { class: "hint" }, texts.howManyHint);
     const heads = [1, 2, 3].map((level) => element("span", { class: "count" }, texts.level(level)));
-    const head = element("div", { class: "row heads", "aria-hidden": "true" }, element("span", { class: "title" }, texts.columns.kind), element("div", { class: "levels" }, ...heads));
+    const head = element(
+        "div",
+        { class: "row heads", "aria-hidden": "true" },
+        element("span", { class: "title" }, texts.columns.kind),
+        element("div", { class: "levels" }, ...heads),
+    );
     const rows = kinds.map((info) => {
         const fields = counts.filter(({ entry }) => entry.kind === info.kind).map(({ input }) => input);
-        const row = element("div", { class: "row" }, element("span", { class: "title", "aria-hidden": "true" }, info.title), element("div", { class: "levels" }, ...fields));
+        const row = element(
+            "div",
+            { class: "row" },
+            element("span", { class: "title", "aria-hidden": "true" }, info.title),
+            element("div", { class: "levels" }, ...fields),
+        );
         return element("div", { class: "asked" }, row, meaningsOf(info));
     });
     return element("fieldset", { class: "counts" }, element("legend", {}, texts.howMany), hint, head, ...rows);

@@ -1,12 +1,12 @@
 // The exercises of a sheet elsewhere, a version at a time: as files for other programs, and as a set to practise.
 import { addressOf } from "../address";
+import { linkPanel } from "../practice/link";
 import { button, element, save, show } from "../shared/dom";
 import { listOf } from "../shared/exercise-list";
-import { papersOf, practiceOf } from "./sheet";
-import { texts } from "../words/texts";
-import type { ExportFormat, SheetRoute } from "../types";
-import { linkPanel } from "../practice/link";
 import type { Page } from "../shared/page";
+import type { ExportFormat, SheetRoute } from "../types";
+import { texts } from "../words/texts";
+import { papersOf, practiceOf } from "./sheet";
 
 const endings: Record<ExportFormat, string> = { moodle: "xml", anki: "txt" };
 
@@ -35,7 +35,9 @@ export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: 
     function update(route: SheetRoute): void {
         const chosen = version.value;
         const papers = papersOf(route);
-        const options = papers.map((paper, at) => element("option", { value: paper, selected: String(paper) === chosen }, texts.paperAndVersion(paper, at + 1)));
+        const options = papers.map((paper, at) =>
+            element("option", { value: paper, selected: String(paper) === chosen }, texts.paperAndVersion(paper, at + 1)),
+        );
         show(version, ...options);
         which.hidden = papers.length === 1;
         present = route;

@@ -1,12 +1,12 @@
 // What a sheet is to be: so many of each kind and level, the paper, the layout.
 import { announce, button, element } from "../shared/dom";
 import { isCount, mostExercises } from "../shared/exercise-list";
-import { isFew, longestTitle, mostVersions } from "./sheet";
-import { texts } from "../words/texts";
-import type { KindInfo, SheetEntry, SheetRoute } from "../types";
-import { type Counts, countFields } from "./count-fields";
 import { isPaper, randomPaper } from "../shared/paper";
 import type { Problem } from "../shared/problems";
+import type { KindInfo, SheetEntry, SheetRoute } from "../types";
+import { texts } from "../words/texts";
+import { type Counts, countFields } from "./count-fields";
+import { isFew, longestTitle, mostVersions } from "./sheet";
 
 // A sheet, or why what stands in the fields is none.
 export type Reading = { route: SheetRoute } | { problems: Problem[] };
@@ -46,7 +46,13 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
     const counts = countFields(opened.entries, kinds);
     const controls = controlsOf(opened);
     const { versions } = controls;
-    const form = element("form", { class: "sheet-form", autocomplete: "off" }, counts.element, fieldsOf(controls, changed), ...flagsOf(controls));
+    const form = element(
+        "form",
+        { class: "sheet-form", autocomplete: "off" },
+        counts.element,
+        fieldsOf(controls, changed),
+        ...flagsOf(controls),
+    );
     let lastNumber = versions; // of how many; where there are too many in all, it is told there
     // Enter in a field is a change like any other, and sends nothing anywhere.
     form.addEventListener("submit", (event) => event.preventDefault());
@@ -136,7 +142,12 @@ function problemsIn({ paper, versions, title }: Controls): Problem[] {
 
 function labelled(id: string, label: string, control: HTMLElement, ...further: HTMLElement[]): HTMLElement {
     control.id = id;
-    return element("div", { class: "labelled asked" }, element("label", { for: id }, label), element("div", { class: "field" }, control, ...further));
+    return element(
+        "div",
+        { class: "labelled asked" },
+        element("label", { for: id }, label),
+        element("div", { class: "field" }, control, ...further),
+    );
 }
 
 function hinted(box: HTMLElement, control: HTMLElement, text: string): HTMLElement {
@@ -147,5 +158,9 @@ function hinted(box: HTMLElement, control: HTMLElement, text: string): HTMLEleme
 }
 
 function choice(words: Record<string, string>, present: string): HTMLSelectElement {
-    return element("select", {}, ...Object.entries(words).map(([value, word]) => element("option", { value, selected: value === present }, word)));
+    return element(
+        "select",
+        {},
+        ...Object.entries(words).map(([value, word]) => element("option", { value, selected: value === present }, word)),
+    );
 }

@@ -1,13 +1,13 @@
 // The pages of a sheet as they come out of the printer. Each is filled here, so that preview and print
 // break at the same places in every browser, and each page tells its paper.
 import { element } from "../shared/dom";
-import { fill, type Part } from "./page-breaks";
-import { exercisesOf, papersOf } from "./sheet";
-import { texts } from "../words/texts";
-import type { Exercise, SheetRoute } from "../types";
 import type { Page } from "../shared/page";
+import type { Exercise, SheetRoute } from "../types";
+import { texts } from "../words/texts";
+import { fill, type Part } from "./page-breaks";
 import { labelOf, type Version } from "./printed-heads";
 import { atOnce, measureIn, type Run, runsOf } from "./runs";
+import { exercisesOf, papersOf } from "./sheet";
 
 // In millimetres, as in sheet.css: the page without its margins and its running line, less what a line
 // that breaks otherwise in print than on the screen may need.
@@ -82,7 +82,12 @@ function leavesOf(label: string, runs: Run[], route: SheetRoute): HTMLElement[] 
         capacities[route.size],
     );
     return pages.map((parts, at) => {
-        const running = element("p", { class: "running" }, element("span", {}, label), element("span", {}, texts.pageOf(at + 1, pages.length)));
+        const running = element(
+            "p",
+            { class: "running" },
+            element("span", {}, label),
+            element("span", {}, texts.pageOf(at + 1, pages.length)),
+        );
         return element("div", { class: "leaf" }, running, ...parts.flatMap((part) => partOf(part, runs[part.run]!)));
     });
 }

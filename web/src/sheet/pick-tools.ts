@@ -1,10 +1,10 @@
 // On the screen, beside each exercise of the first version: another one instead, one place up, one down. What
 // is changed so holds for all versions.
 import { button, element } from "../shared/dom";
-import type { Pick } from "./picks";
 import { countOf } from "../shared/exercise-list";
-import { texts } from "../words/texts";
 import type { SheetRoute } from "../types";
+import { texts } from "../words/texts";
+import type { Pick } from "./picks";
 
 const picks: Pick[] = ["another", "up", "down"];
 
@@ -35,7 +35,11 @@ function exercisesIn(box: HTMLElement, count: number): HTMLElement[] {
 function toolsOf(at: number, count: number, change: (at: number, pick: Pick) => void): HTMLElement {
     const impossible: Partial<Record<Pick, boolean>> = { up: at === 0, down: at === count - 1 };
     const buttons = picks.map((pick) =>
-        button(texts.picks[pick], () => change(at, pick), { class: pick, "aria-label": texts.pickNames[pick](at + 1), "aria-disabled": impossible[pick] === true ? "true" : undefined }),
+        button(texts.picks[pick], () => change(at, pick), {
+            class: pick,
+            "aria-label": texts.pickNames[pick](at + 1),
+            "aria-disabled": impossible[pick] === true ? "true" : undefined,
+        }),
     );
     return element("div", { class: "picks" }, ...buttons);
 }

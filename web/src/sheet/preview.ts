@@ -1,11 +1,11 @@
 // The pages of the present sheet, made in slices: a class set has dozens.
 import { element, show } from "../shared/dom";
 import { countOf } from "../shared/exercise-list";
-import { inSlices, type Work } from "../shared/slices";
-import { texts } from "../words/texts";
-import type { SheetRoute } from "../types";
-import { leaves } from "./leaves";
 import type { Page } from "../shared/page";
+import { inSlices, type Work } from "../shared/slices";
+import type { SheetRoute } from "../types";
+import { texts } from "../words/texts";
+import { leaves } from "./leaves";
 
 export interface Preview {
     size: HTMLElement; // how many pages, and how many of them blank, in words

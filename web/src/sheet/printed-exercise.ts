@@ -1,16 +1,17 @@
 // What is printed of an exercise: the question with its room to write, and the answer in the key. On paper
 // there is no field and no mark, so it is all text.
-import { ownPartOf } from "./common-words";
-import { element } from "../shared/dom";
-import { marksOf } from "./worth";
-import { quantityOf } from "../text/quantity";
-import { spansOfKey } from "../text/sentences";
-import { typesetLine } from "../text/line";
-import { seenOf } from "../text/seen-and-spoken";
-import { texts } from "../words/texts";
-import type { Ask, Exercise, Form, SheetRoute, Span } from "../types";
+
 import { drawingOf } from "../practice/drawing";
+import { element } from "../shared/dom";
 import type { Page } from "../shared/page";
+import { typesetLine } from "../text/line";
+import { quantityOf } from "../text/quantity";
+import { seenOf } from "../text/seen-and-spoken";
+import { spansOfKey } from "../text/sentences";
+import type { Ask, Exercise, Form, SheetRoute, Span } from "../types";
+import { texts } from "../words/texts";
+import { ownPartOf } from "./common-words";
+import { marksOf } from "./worth";
 
 // How the question stands on its sheet.
 export interface Place {
@@ -93,7 +94,13 @@ function roomFor(ask: Ask, count: number, page: Page): HTMLElement[] {
 function answerLine({ quantity, of, unit }: Ask, page: Page): HTMLElement {
     const before = quantity === undefined ? [{ text: `${texts.key}:` }] : [quantityOf(quantity, of), { text: " =" }];
     const behind = unit === undefined ? [] : [seenOf([{ unit }], page.settings)];
-    return element("p", { class: "answer-line", "aria-hidden": "true" }, element("span", {}, seenOf(before, page.settings)), gap(), ...behind);
+    return element(
+        "p",
+        { class: "answer-line", "aria-hidden": "true" },
+        element("span", {}, seenOf(before, page.settings)),
+        gap(),
+        ...behind,
+    );
 }
 
 function gap(): HTMLElement {

@@ -1,13 +1,14 @@
 // What stands above the exercises of a version and above its key.
-import { agreedFigures, type Group } from "./common-words";
-import { element } from "../shared/dom";
-import { goesOn, marksOf } from "./worth";
-import { massesNeeded } from "../practice/masses-needed";
-import { typesetLine } from "../text/line";
-import { texts } from "../words/texts";
-import type { ElementInfo, Exercise, SheetRoute } from "../types";
+
 import { massesLine } from "../practice/masses-line";
+import { massesNeeded } from "../practice/masses-needed";
+import { element } from "../shared/dom";
 import type { Page } from "../shared/page";
+import { typesetLine } from "../text/line";
+import type { ElementInfo, Exercise, SheetRoute } from "../types";
+import { texts } from "../words/texts";
+import { agreedFigures, type Group } from "./common-words";
+import { goesOn, marksOf } from "./worth";
 
 export interface Version {
     paper: number;
@@ -40,7 +41,14 @@ export function keyHead(version: Version, route: SheetRoute, elements: ElementIn
     const title = isFirst && route.title.trim() !== "" ? [element("p", { class: "title" }, route.title)] : [];
     const isRounded = isFirst && route.key === "working" && version.exercises.some(goesOn);
     const notes = isRounded ? [element("p", { class: "notes" }, texts.howRounded)] : [];
-    return element("div", { class: "head of-key" }, ...title, element("h2", {}, texts.keyTo(labelOf(version, route))), ...notes, ...massesOfKey(version, route, elements, page));
+    return element(
+        "div",
+        { class: "head of-key" },
+        ...title,
+        element("h2", {}, texts.keyTo(labelOf(version, route))),
+        ...notes,
+        ...massesOfKey(version, route, elements, page),
+    );
 }
 
 // Where the learners take them from a table, which may have others, the key tells its own.
@@ -61,7 +69,14 @@ export function frameHead({ from, to, frame }: Group, { exercises }: Version, ro
     const shared = typesetLine([...frame!, { text: figures }], page.settings);
     const range = element("strong", {}, texts.exercisesFromTo(from + 1, to));
     const marks = route.marks ? [element("span", { class: "marks" }, texts.worthEach(marksOf(first)))] : [];
-    return element("p", { class: route.marks ? "frame with-marks" : "frame" }, range, " ", element("span", { class: "words" }, ...shared), ...marks);
+    return element(
+        "p",
+        { class: route.marks ? "frame with-marks" : "frame" },
+        range,
+        " ",
+        element("span", { class: "words" }, ...shared),
+        ...marks,
+    );
 }
 
 export function labelOf(version: Version, route: SheetRoute): string {
@@ -79,7 +94,10 @@ function blank(label: string, kind: string): HTMLElement {
 
 function notesOf({ exercises }: Version, route: SheetRoute): HTMLElement[] {
     const figures = agreedFigures(exercises);
-    const notes = [...(figures === null ? [] : [texts.figuresOfAll(figures)]), ...(route.marks ? [texts.totalWorth(totalOf(exercises))] : [])];
+    const notes = [
+        ...(figures === null ? [] : [texts.figuresOfAll(figures)]),
+        ...(route.marks ? [texts.totalWorth(totalOf(exercises))] : []),
+    ];
     return notes.length === 0 ? [] : [element("p", { class: "notes" }, ...notes.map((note) => element("span", {}, note)))];
 }
 

@@ -1,9 +1,10 @@
 // What a version is printed from: its exercises and answers as elements, each measured once.
-import { agreedFigures, type Group, groupsOf } from "./common-words";
+
 import { element } from "../shared/dom";
-import { type Row, rowsOf } from "./page-breaks";
-import type { ElementInfo, SheetRoute } from "../types";
 import type { Page } from "../shared/page";
+import type { ElementInfo, SheetRoute } from "../types";
+import { agreedFigures, type Group, groupsOf } from "./common-words";
+import { type Row, rowsOf } from "./page-breaks";
 import { exerciseItem, keyItem } from "./printed-exercise";
 import { frameHead, keyHead, keyHeadAgain, sheetHead, type Version } from "./printed-heads";
 
@@ -30,7 +31,13 @@ export const atOnce = 25; // exercises that are made and measured in one step
 const oneLine = 11; // millimetres; an item of the key that is higher has two
 
 // What is not printed is not made.
-export function* runsOf(version: Version, route: SheetRoute, elements: ElementInfo[], measure: Measure, page: Page): Generator<void, { sheet: Run[]; key: Run }> {
+export function* runsOf(
+    version: Version,
+    route: SheetRoute,
+    elements: ElementInfo[],
+    measure: Measure,
+    page: Page,
+): Generator<void, { sheet: Run[]; key: Run }> {
     const groups = groupsOf(version.exercises, route);
     const heads: Item[] = [];
     const sheet: Item[] = [];
@@ -38,7 +45,8 @@ export function* runsOf(version: Version, route: SheetRoute, elements: ElementIn
     for (let from = 0; from < version.exercises.length; from += atOnce) {
         const headings = from > 0 ? [] : headingsOf(version, groups, route, elements, page);
         const asked = route.parts === "key" ? [] : askedItems(version, groups, from, route, page);
-        const answered = route.parts === "sheet" ? [] : version.exercises.slice(from, from + atOnce).map((exercise) => keyItem(exercise, route, page));
+        const answered =
+            route.parts === "sheet" ? [] : version.exercises.slice(from, from + atOnce).map((exercise) => keyItem(exercise, route, page));
         const items = measure([...headings, ...asked, ...answered]);
         heads.push(...items.splice(0, headings.length));
         sheet.push(...items.splice(0, asked.length));
@@ -52,7 +60,12 @@ export function* runsOf(version: Version, route: SheetRoute, elements: ElementIn
 // Those of the key, that of the sheet, and the words of each group that shares some.
 function headingsOf(version: Version, groups: Group[], route: SheetRoute, elements: ElementInfo[], page: Page): HTMLElement[] {
     const framed = groups.filter(({ frame }) => frame !== null);
-    return [keyHead(version, route, elements, page), keyHeadAgain(version, route), sheetHead(version, route, elements, page), ...framed.map((group) => frameHead(group, version, route, page))];
+    return [
+        keyHead(version, route, elements, page),
+        keyHeadAgain(version, route),
+        sheetHead(version, route, elements, page),
+        ...framed.map((group) => frameHead(group, version, route, page)),
+    ];
 }
 
 function askedItems({ exercises }: Version, groups: Group[], from: number, route: SheetRoute, page: Page): HTMLElement[] {

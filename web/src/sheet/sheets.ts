@@ -1,15 +1,16 @@
 // Sheets to print: what is chosen, and beside or below it the pages as they come out of the printer.
-import { announce, button, element, show } from "../shared/dom";
-import { type Pick, picked } from "./picks";
-import { texts } from "../words/texts";
-import type { SheetRoute } from "../types";
+
 import { displayPanel } from "../shared/display";
-import { type FilesPanel, filesPanel } from "./files";
+import { announce, button, element, show } from "../shared/dom";
 import type { Page } from "../shared/page";
-import { focusTool, pickTools } from "./pick-tools";
-import { type Preview, previewOf } from "./preview";
 import { type Problem, problemMarks } from "../shared/problems";
+import type { SheetRoute } from "../types";
+import { texts } from "../words/texts";
+import { type FilesPanel, filesPanel } from "./files";
 import { type SheetForm, sheetForm } from "./form";
+import { focusTool, pickTools } from "./pick-tools";
+import { type Pick, picked } from "./picks";
+import { type Preview, previewOf } from "./preview";
 
 const pause = 150; // milliseconds behind the last key press, so that nothing is made for half a number
 const patience = 600; // more, so that nothing is called wrong that is still being typed
@@ -69,12 +70,21 @@ function workOf(opened: SheetRoute, page: Page): Work {
 
 function chosenOf(work: Work, heading: HTMLElement): HTMLElement {
     const title = element("div", { class: "title-line" }, heading, button(texts.pages, work.preview.reach, { class: "to-pages" }));
-    const display = element("aside", { "aria-label": texts.display }, displayPanel(work.page, () => restyle(work)));
+    const display = element(
+        "aside",
+        { "aria-label": texts.display },
+        displayPanel(work.page, () => restyle(work)),
+    );
     return element("article", { class: "sheets" }, title, work.form.element, display);
 }
 
 function outcomeOf({ preview, files, message }: Work): HTMLElement {
-    const actions = element("div", { class: "help" }, button(texts.printIt, () => window.print(), { class: "main" }), files.element);
+    const actions = element(
+        "div",
+        { class: "help" },
+        button(texts.printIt, () => window.print(), { class: "main" }),
+        files.element,
+    );
     const pickHint = element("p", { class: "hint pick-hint" }, texts.pickHint);
     return element("div", { class: "outcome" }, actions, message, preview.size, preview.stale, pickHint, preview.box);
 }

@@ -33,7 +33,10 @@ function isListOfNumbers(typed: string): boolean {
 }
 
 function numbered(word: string, elements: ElementInfo[]): Meant {
-    return meantOr(elements.filter(({ number }) => number === Number(word)), word);
+    return meantOr(
+        elements.filter(({ number }) => number === Number(word)),
+        word,
+    );
 }
 
 // A symbol or a formula with its capitals as they are; else in any letters a symbol, a name, or the
@@ -43,7 +46,10 @@ function named(word: string, elements: ElementInfo[]): Meant {
     if (formula !== null && formula.unknown.length === 0) {
         return formula;
     }
-    const wanted = word.toLowerCase().replace(/^\d+/, "").replace(/^sulph/, "sulf"); // spelt so until lately
+    const wanted = word
+        .toLowerCase()
+        .replace(/^\d+/, "")
+        .replace(/^sulph/, "sulf"); // spelt so until lately
     const namesOf = ({ name, american = name }: ElementInfo) => [name, american];
     const exact = elements.filter((one) => one.symbol.toLowerCase() === wanted || namesOf(one).includes(wanted));
     const begun = elements.filter((one) => namesOf(one).some((name) => name.startsWith(wanted)));
@@ -56,7 +62,12 @@ function formulaOf(word: string, elements: ElementInfo[]): Meant | null {
     if (!/^\d*(?:[A-Z][a-z]?\d*)+$/.test(word)) {
         return null;
     }
-    const all = word.match(/[A-Z][a-z]?/g)!.map((symbol) => meantOr(elements.filter((one) => one.symbol === symbol), symbol));
+    const all = word.match(/[A-Z][a-z]?/g)!.map((symbol) =>
+        meantOr(
+            elements.filter((one) => one.symbol === symbol),
+            symbol,
+        ),
+    );
     return { elements: all.flatMap((one) => one.elements), unknown: all.flatMap((one) => one.unknown) };
 }
 

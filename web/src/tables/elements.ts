@@ -1,11 +1,11 @@
 // The elements: a field that finds them, above the periodic table.
 import { announce, bringIntoView, element, scrollBox, show } from "../shared/dom";
-import { elementsMeant, type Meant } from "./element-search";
-import { spokenFormula } from "../text/formula";
-import { texts } from "../words/texts";
-import type { ElementInfo } from "../types";
-import { localNumber } from "../text/units";
 import { nameOf, type Page } from "../shared/page";
+import { spokenFormula } from "../text/formula";
+import { localNumber } from "../text/units";
+import type { ElementInfo } from "../types";
+import { texts } from "../words/texts";
+import { elementsMeant, type Meant } from "./element-search";
 import { periodicTable } from "./periodic-table";
 
 // div

@@ -1,9 +1,9 @@
 // The ions with their charges, cations beside anions.
 import { element, scrollBox } from "../shared/dom";
-import { typeset } from "../text/line";
-import { texts } from "../words/texts";
-import type { IonInfo } from "../types";
 import { nameOf, type Page } from "../shared/page";
+import { typeset } from "../text/line";
+import type { IonInfo } from "../types";
+import { texts } from "../words/texts";
 
 export function ionTables(ions: IonInfo[], page: Page): HTMLElement {
     const [cations, anions] = [ions.filter((ion) => ion.charge > 0), ions.filter((ion) => ion.charge < 0)];

@@ -1,10 +1,10 @@
 // What the library tells of a cation and an anion, in words.
 import { element } from "../shared/dom";
-import { spokenSentence, typesetSentence } from "../text/sentences";
-import { typeset } from "../text/line";
-import { texts } from "../words/texts";
-import type { PairInfo } from "../types";
 import type { Page } from "../shared/page";
+import { typeset } from "../text/line";
+import { spokenSentence, typesetSentence } from "../text/sentences";
+import type { PairInfo } from "../types";
+import { texts } from "../words/texts";
 
 // "silver chloride: insoluble"
 export function labelOf(pair: PairInfo, page: Page): string {
@@ -20,7 +20,9 @@ export function reasonOf(pair: PairInfo, page: Page): Node[] {
 // Its formula, or its name where there is no such compound.
 function compoundOf(pair: PairInfo, page: Page): Node {
     const name = `${pair.cation} ${pair.anion}`;
-    return pair.formula === undefined ? typesetSentence(name, page.settings, page.names) : typeset([{ formula: pair.formula }], page.settings);
+    return pair.formula === undefined
+        ? typesetSentence(name, page.settings, page.names)
+        : typeset([{ formula: pair.formula }], page.settings);
 }
 
 // Each reason once, with all its pairs.

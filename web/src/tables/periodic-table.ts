@@ -1,9 +1,9 @@
 // The periodic table, in a box that scrolls where the window is narrow.
 import { element, scrollBox, spoken } from "../shared/dom";
-import { texts } from "../words/texts";
-import type { ElementInfo } from "../types";
-import { localNumber } from "../text/units";
 import { nameOf, type Page } from "../shared/page";
+import { localNumber } from "../text/units";
+import type { ElementInfo } from "../types";
+import { texts } from "../words/texts";
 
 export interface PeriodicTable {
     element: HTMLElement;

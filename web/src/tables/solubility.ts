@@ -1,9 +1,9 @@
 // The solubility of salts: the rules, and a grid of all pairs that tells the reason of the chosen one.
 import { bringIntoView, button, element, scrollBox, show } from "../shared/dom";
-import { typesetSentence } from "../text/sentences";
-import { texts } from "../words/texts";
-import type { IonInfo, PairInfo, Tables } from "../types";
 import { nameOf, type Page } from "../shared/page";
+import { typesetSentence } from "../text/sentences";
+import type { IonInfo, PairInfo, Tables } from "../types";
+import { texts } from "../words/texts";
 import { labelOf, reasonOf } from "./pairs";
 
 interface Grid {
@@ -37,12 +37,22 @@ export function solubility(tables: Tables, page: Page): HTMLElement {
         chosen: null,
     };
     draw(grid);
-    const beside = element("div", { class: "grid-and-reason" }, element("p", { class: "hint signs" }, texts.signNotes), grid.box, grid.reason);
+    const beside = element(
+        "div",
+        { class: "grid-and-reason" },
+        element("p", { class: "hint signs" }, texts.signNotes),
+        grid.box,
+        grid.reason,
+    );
     return element("div", {}, ruleList(tables, page), element("p", { class: "hint how" }, texts.gridNote), beside, leftOut(grid));
 }
 
 function ruleList({ rules }: Tables, page: Page): HTMLElement {
-    return element("ul", { class: "rules" }, ...rules.map(({ sentence }) => element("li", {}, typesetSentence(sentence, page.settings, page.names))));
+    return element(
+        "ul",
+        { class: "rules" },
+        ...rules.map(({ sentence }) => element("li", {}, typesetSentence(sentence, page.settings, page.names))),
+    );
 }
 
 function leftOut(grid: Grid): HTMLElement {

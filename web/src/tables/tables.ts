@@ -1,9 +1,9 @@
 // The data that the exercises use, read from the library.
 import { element, show } from "../shared/dom";
+import type { Page } from "../shared/page";
 import { texts } from "../words/texts";
 import { elementsWithSearch } from "./elements";
 import { ionTables } from "./ions";
-import type { Page } from "../shared/page";
 import { pairsNotAsked } from "./pairs";
 import { solubility } from "./solubility";
 

@@ -31,5 +31,7 @@ function typesetSpan(span: Span, settings: Settings): Piece {
 }
 
 function isSaidAsSeen(span: Span, settings: Settings): boolean {
-    return "name" in span || ("text" in span && spokenSpan(span, settings) === span.text) || ("number" in span && !span.number.includes("e"));
+    return (
+        "name" in span || ("text" in span && spokenSpan(span, settings) === span.text) || ("number" in span && !span.number.includes("e"))
+    );
 }

@@ -64,7 +64,8 @@ const forms: { [One in Kind]: Form<SpanOf<One>> } = {
             ),
         ],
         // Of a sum the last number alone would be heard as what is divided.
-        spoken: ({ fraction: [over, under] }, settings) => `${speech(over, settings)}${isSum(over) ? ", all" : ""} over ${speech(under, settings)}`,
+        spoken: ({ fraction: [over, under] }, settings) =>
+            `${speech(over, settings)}${isSum(over) ? ", all" : ""} over ${speech(under, settings)}`,
     },
 };
 
@@ -176,7 +177,11 @@ export function speech(spans: Span[], settings: Settings): string {
         return `${isFactor(span, told[at - 1]) ? "times " : ""}${spokenSpan(span, settings)}`;
     });
     const line = said.reduce((before, next, at) => `${before}${isWritten(told[at - 1], told[at]!) ? "" : " "}${next}`, "");
-    return line.replace(/\s+/g, " ").replace(/ ([.,;:?)])/g, "$1").replaceAll("( ", "(").trim();
+    return line
+        .replace(/\s+/g, " ")
+        .replace(/ ([.,;:?)])/g, "$1")
+        .replaceAll("( ", "(")
+        .trim();
 }
 
 // A name and a text have the blanks between them that they need: "Sulfate" and "s are soluble" none.

@@ -1,8 +1,9 @@
 // The library's sentences are plain text with plain formulas, in the usual units and names: here they
 // become spans, and so get the reader's units and names, subscripts and a spoken form.
+
+import type { Exercise, Names, Settings, Span, Tables } from "../types";
 import { typeset } from "./line";
 import { seenOf, speech } from "./seen-and-spoken";
-import type { Exercise, Names, Settings, Span, Tables } from "../types";
 
 export function namesOf(tables: () => Tables): Names {
     let names: ReadonlyMap<string, string> | null = null;

@@ -40,5 +40,8 @@ export function spokenUnit(unit: string): string {
 
 // As plain text, for a label or a file: "mol dm⁻³".
 export function plainUnit(unit: string, settings: Settings): string {
-    return localUnit(unit, settings).replace("-3", "⁻³").replace("-1", "⁻¹").replace(/([a-z])3/, "$1³");
+    return localUnit(unit, settings)
+        .replace("-3", "⁻³")
+        .replace("-1", "⁻¹")
+        .replace(/([a-z])3/, "$1³");
 }

@@ -130,8 +130,10 @@ export const texts = {
     begun: "Begun",
     lastWorked: "Last worked at",
     worked: "Time worked",
-    workedNote: "The time counts while an open exercise of the set is on the screen; of a pause without a key or a press, five minutes at most.",
-    duration: (minutes: number) => (minutes < 1 ? "less than a minute" : minutes < 60 ? `${minutes} min` : `${Math.floor(minutes / 60)} h ${minutes % 60} min`),
+    workedNote:
+        "The time counts while an open exercise of the set is on the screen; of a pause without a key or a press, five minutes at most.",
+    duration: (minutes: number) =>
+        minutes < 1 ? "less than a minute" : minutes < 60 ? `${minutes} min` : `${Math.floor(minutes / 60)} h ${minutes % 60} min`,
     total: "Total",
     totalOf: (solved: number, all: number, first: number) => `${solved} of ${all} solved, ${first === 0 ? "none" : first} at the first try`,
     summaryColumns: ["Exercise", "Kind", "Tries", "Result"],
@@ -181,7 +183,8 @@ export const texts = {
         up: (number: number) => `Exercise ${number} is exercise ${number - 1} now.`,
         down: (number: number) => `Exercise ${number} is exercise ${number + 1} now.`,
     },
-    pickHint: "Point at an exercise, or go to it with the Tab key, to replace it by another one or to move it; with several versions, in all of them. Back takes that back.",
+    pickHint:
+        "Point at an exercise, or go to it with the Tab key, to replace it by another one or to move it; with several versions, in all of them. Back takes that back.",
     howMany: "How many of each",
     howManyHint: "A field for each level; empty is none.",
     level: (level: number) => `Level ${level}`,
@@ -272,14 +275,16 @@ export const texts = {
     findHint: "Symbols, names, atomic numbers, or a formula such as Na2SO4.",
     found: "What is found",
     foundHeads: ["Symbol", "Name", "Number", "Mass"],
-    foundElement: (symbol: string, name: string, number: number, mass: string) => `${symbol}, ${name}, number ${number}, relative atomic mass ${mass}.`,
+    foundElement: (symbol: string, name: string, number: number, mass: string) =>
+        `${symbol}, ${name}, number ${number}, relative atomic mass ${mass}.`,
     noElement: (words: string[]) =>
         `There is no such element: ${words.join(", ")}.${words.some((word) => /^\p{Ll}/u.test(word)) ? " In a formula, each symbol begins with a capital letter." : ""}`,
     group: "Group",
     period: "Period",
     lanthanides: "Lanthanides",
     actinides: "Actinides",
-    elementsNote: "To four significant figures; a number in brackets is the mass number of an isotope of an element that has no stable one.",
+    elementsNote:
+        "To four significant figures; a number in brackets is the mass number of an isotope of an element that has no stable one.",
     ionsTitle: "Ions",
     cations: "Cations",
     anions: "Anions",

@@ -1,7 +1,8 @@
 // What axe finds in every state of the page, and what a screen reader gets of an exercise.
-import axe from "axe-core";
+
 import assert from "node:assert/strict";
 import { after, test } from "node:test";
+import axe from "axe-core";
 import { answerWith, press, states, verdicts } from "./states.mjs";
 import { announced, check, compareWithApproved, leave, openChromium, openLesson, openPage, reload, type } from "./support.mjs";
 
@@ -97,7 +98,13 @@ const invalid = [
     { kind: "solubility:1", wrong: "no", right: "yes" },
 ];
 const answerField = (page) => page.locator("#answer, .answer[role=radiogroup]");
-const descriptionOf = (field) => field.evaluate((one) => (one.getAttribute("aria-describedby") ?? "").split(" ").map((id) => document.getElementById(id)?.textContent ?? "").join(" "));
+const descriptionOf = (field) =>
+    field.evaluate((one) =>
+        (one.getAttribute("aria-describedby") ?? "")
+            .split(" ")
+            .map((id) => document.getElementById(id)?.textContent ?? "")
+            .join(" "),
+    );
 
 for (const { kind, wrong, right } of invalid) {
     for (const way of ["Enter", "Check"]) {
@@ -131,7 +138,9 @@ for (const { kind, wrong, right } of invalid) {
 // Else a screen reader tells the mark twice: as the field's description, and as an announcement.
 test("where Check gives the focus to the field, the field does not tell the mark at that moment", async () => {
     const page = await openPage(browser, "#practice/4821/3/titration:3");
-    await page.locator("#answer").evaluate((field) => field.addEventListener("focus", () => (window.toldAtFocus = field.getAttribute("aria-describedby"))));
+    await page
+        .locator("#answer")
+        .evaluate((field) => field.addEventListener("focus", () => (window.toldAtFocus = field.getAttribute("aria-describedby"))));
     await type(page, verdicts.wrong);
     await check(page);
     await page.locator("#answer:focus").waitFor();

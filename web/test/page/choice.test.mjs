@@ -1,7 +1,7 @@
 // The choice of exercises: near the question, read without hovering, and left without a trace.
 import assert from "node:assert/strict";
 import { after, test } from "node:test";
-import { leave, openChromium, openLesson, opener, openPage } from "./support.mjs";
+import { leave, openChromium, opener, openLesson, openPage } from "./support.mjs";
 
 const lesson = await openLesson();
 const browser = await openChromium();
@@ -9,7 +9,8 @@ after(() => browser.close());
 
 const hashOf = (page) => new URL(page.url()).hash;
 const button = (page, text) => page.getByRole("button", { name: text, exact: true });
-const boxOf = (page, title, level) => page.getByRole("group", { name: title, exact: true }).getByRole("checkbox", { name: new RegExp(`^Level ${level}`) });
+const boxOf = (page, title, level) =>
+    page.getByRole("group", { name: title, exact: true }).getByRole("checkbox", { name: new RegExp(`^Level ${level}`) });
 const isFocused = (locator) => locator.evaluate((element) => element === document.activeElement);
 const chosen = (page) => page.locator(".kinds input:checked").evaluateAll((all) => all.map((one) => one.value));
 const top = (locator) => locator.evaluate((element) => element.getBoundingClientRect().top);
@@ -52,7 +53,11 @@ test("of a list its kinds are chosen, to go on without end", async () => {
 });
 
 test("the button stands between the head and the question, and what it opens too", async () => {
-    for (const viewport of [{ width: 320, height: 640 }, { width: 360, height: 740 }, { width: 1280, height: 800 }]) {
+    for (const viewport of [
+        { width: 320, height: 640 },
+        { width: 360, height: 740 },
+        { width: 1280, height: 800 },
+    ]) {
         const page = await openPage(browser, "#practice/4821/3/mixed", { viewport, reducedMotion: "reduce" });
         const [heading, question] = [page.getByRole("heading", { level: 1 }), page.locator(".prompt")];
         assert.ok((await top(opener(page))) < (await top(question)), `${viewport.width}`);
@@ -65,7 +70,11 @@ test("the button stands between the head and the question, and what it opens too
 });
 
 test("opened it is in view, and fits a wide window", async () => {
-    for (const [viewport, most] of [[{ width: 360, height: 740 }, 1.75], [{ width: 768, height: 1024 }, 1], [{ width: 1280, height: 800 }, 1]]) {
+    for (const [viewport, most] of [
+        [{ width: 360, height: 740 }, 1.75],
+        [{ width: 768, height: 1024 }, 1],
+        [{ width: 1280, height: 800 }, 1],
+    ]) {
         const page = await opened("#practice/4821/3/mixed", { viewport });
         const { y, height } = await page.getByRole("form", { name: "Choose exercises" }).boundingBox();
         assert.ok((await top(opener(page))) >= 0 && y <= 0.2 * viewport.height, `at ${viewport.width} it begins at ${y}`);
@@ -76,7 +85,13 @@ test("opened it is in view, and fits a wide window", async () => {
 
 test("Escape closes it from any place within, and the focus is on the button", async () => {
     const page = await openPage(browser, "#practice/4821/3/mixed");
-    for (const place of [opener(page), button(page, "None"), boxOf(page, "Dilution", 3), page.getByLabel("Paper", { exact: true }), button(page, "Start")]) {
+    for (const place of [
+        opener(page),
+        button(page, "None"),
+        boxOf(page, "Dilution", 3),
+        page.getByLabel("Paper", { exact: true }),
+        button(page, "Start"),
+    ]) {
         await opener(page).click();
         assert.equal(await opener(page).getAttribute("aria-expanded"), "true");
         assert.equal(await isFocused(opener(page)), true, "what it opens follows behind it");
@@ -94,7 +109,11 @@ test("what each level of each kind is stands there to be read, and is a part of 
     for (const { title, levels } of lesson.kinds()) {
         const row = page.getByRole("group", { name: title, exact: true });
         for (const [at, text] of levels.entries()) {
-            assert.equal(await row.getByRole("checkbox", { name: `Level ${at + 1}: ${text}`, exact: true }).count(), 1, `${title}: ${text}`);
+            assert.equal(
+                await row.getByRole("checkbox", { name: `Level ${at + 1}: ${text}`, exact: true }).count(),
+                1,
+                `${title}: ${text}`,
+            );
             assert.ok((await row.innerText()).includes(`${at + 1}\u00A0${text}`), `${title}: ${text}`);
         }
     }
@@ -142,9 +161,13 @@ test("how quantities are written may change meanwhile: the choice stays as it is
 
 test("what is pressed with a finger is as large as one", async () => {
     const page = await opened("#practice/4821/3/mixed", { viewport: { width: 360, height: 740 }, isMobile: true, hasTouch: true });
-    const small = await page.locator(".exercise > header button, .choice button, .choice .level, .choice select, #paper").evaluateAll((all) =>
-        all.map((one) => [one.outerHTML.slice(0, 80), one.offsetWidth, one.offsetHeight]).filter(([, width, height]) => width < 44 || height < 44),
-    );
+    const small = await page
+        .locator(".exercise > header button, .choice button, .choice .level, .choice select, #paper")
+        .evaluateAll((all) =>
+            all
+                .map((one) => [one.outerHTML.slice(0, 80), one.offsetWidth, one.offsetHeight])
+                .filter(([, width, height]) => width < 44 || height < 44),
+        );
     assert.deepEqual(small, []);
     await page.locator(".level").first().tap();
     assert.equal(await boxOf(page, "Molar mass", 1).isChecked(), true);

@@ -42,10 +42,19 @@ for (const level of [1, 2, 3]) {
             await page.getByRole("heading", { name: `Exercise ${number}` }).waitFor();
             const { reading, numbers: scale } = await page.evaluate(levelDrawn);
             assert.ok(Math.abs(reading - titre) < 0.1, `exercise ${number}: drawn ${reading}, told ${titre}`);
-            assert.deepEqual(scale.map(([ten]) => ten), [0, 10, 20, 30, 40, 50]);
-            assert.ok(scale.every(([ten, place]) => Math.abs(place - ten) < 1.5), JSON.stringify(scale));
+            assert.deepEqual(
+                scale.map(([ten]) => ten),
+                [0, 10, 20, 30, 40, 50],
+            );
+            assert.ok(
+                scale.every(([ten, place]) => Math.abs(place - ten) < 1.5),
+                JSON.stringify(scale),
+            );
             assert.equal(await page.locator(".titration .reading").textContent(), titre);
-            assert.equal(await page.getByRole("figure").getByText("The burette was filled to 0").textContent(), `The burette was filled to 0 and now reads ${titre} millilitres.`);
+            assert.equal(
+                await page.getByRole("figure").getByText("The burette was filled to 0").textContent(),
+                `The burette was filled to 0 and now reads ${titre} millilitres.`,
+            );
         }
         await leave(page);
     });
@@ -73,7 +82,12 @@ test("titres are written with the reader's decimal sign and unit", async () => {
     await page.getByLabel(/^cm³/).check();
     assert.equal(await page.locator(".titration .reading").textContent(), "12,10");
     assert.equal(await page.locator(".titration .scale").first().textContent(), "cm³");
-    assert.deepEqual(await page.getByRole("table", { name: "V in cubic centimetres" }).getByRole("cell").allTextContents(), ["12,75", "12,20", "12,15", "12,10"]);
+    assert.deepEqual(await page.getByRole("table", { name: "V in cubic centimetres" }).getByRole("cell").allTextContents(), [
+        "12,75",
+        "12,20",
+        "12,15",
+        "12,10",
+    ]);
     await leave(page);
 });
 
@@ -104,9 +118,14 @@ for (const width of [320, 360, 768, 1280]) {
     });
 }
 
-for (const [width, height] of [[1366, 650], [1024, 768]]) {
+for (const [width, height] of [
+    [1366, 650],
+    [1024, 768],
+]) {
     test(`Check is in view on arrival at a titration in a window of ${width} by ${height}`, async () => {
-        const page = await openPage(browser, "#practice/4821/9/molar-mass:1", { context: await browser.newContext({ viewport: { width, height } }) });
+        const page = await openPage(browser, "#practice/4821/9/molar-mass:1", {
+            context: await browser.newContext({ viewport: { width, height } }),
+        });
         for (const [level, number] of [1, 2, 3].flatMap((one) => numbers.map((other) => [one, other]))) {
             await go(page, `#practice/4821/${number}/titration:${level}`);
             await page.locator(".titration").waitFor();
@@ -136,7 +155,11 @@ test("beakers are to scale by area where both volumes are given, and else say th
         const [before, after] = await page.evaluate(areas);
         const what = `exercise ${number}, level ${level}: ${before} and ${after}`;
         assert.ok(isToScale ? Math.abs(after / before / (second / first) - 1) < 0.01 : after > before, what);
-        assert.equal(await page.locator(".dilution figcaption").textContent(), isToScale ? "The areas of liquid are to scale." : "Not to scale.", what);
+        assert.equal(
+            await page.locator(".dilution figcaption").textContent(),
+            isToScale ? "The areas of liquid are to scale." : "Not to scale.",
+            what,
+        );
         seen.add(isToScale);
         await leave(page);
     }
@@ -159,7 +182,10 @@ test("a sheet has the same drawings, and its burettes have the level of their ti
     await page.locator(".leaf .titration").first().waitFor();
     await page.locator(".size:not(:empty)").waitFor();
     const readings = await page.locator(".leaf .titration .reading").allTextContents();
-    assert.deepEqual(readings, ["titration:1", "titration:3"].map((kind) => titresOf(lesson.exercise(4821, 1, kind)).at(-1)));
+    assert.deepEqual(
+        readings,
+        ["titration:1", "titration:3"].map((kind) => titresOf(lesson.exercise(4821, 1, kind)).at(-1)),
+    );
     assert.equal(await page.locator(".leaf .titres th").count(), titresOf(lesson.exercise(4821, 1, "titration:3")).length);
     assert.equal(await page.locator(".leaf .dilution .liquid").count(), 2);
     await leave(page);

@@ -20,7 +20,11 @@ before(async () => {
     browser = await puppeteer.launch({ browser: "firefox", executablePath, headless: true });
     page = await browser.newPage();
     page.on("pageerror", (error) => problems.push(`error: ${error.message}`));
-    page.on("request", (request) => request.url().split("#")[0] !== address && !request.url().startsWith("data:") && problems.push(`request: ${request.url()}`));
+    page.on(
+        "request",
+        (request) =>
+            request.url().split("#")[0] !== address && !request.url().startsWith("data:") && problems.push(`request: ${request.url()}`),
+    );
 });
 after(() => browser?.close());
 
@@ -53,7 +57,8 @@ for (const { kind, title } of lesson.kinds()) {
 
 const sheets = {
     A4: "#sheet/4821/3*titration:3,2*dilution:3,3*molar-mass:3,2*ion-formula?versions=2&drawings=1&v=1",
-    "A4, with sides left blank, two columns and marks": "#sheet/4821/6*ion-formula,4*molar-mass:3,titration,dilution?versions=2&keys=apart&marks=1&v=1",
+    "A4, with sides left blank, two columns and marks":
+        "#sheet/4821/6*ion-formula,4*molar-mass:3,titration,dilution?versions=2&keys=apart&marks=1&v=1",
     Letter: "#sheet/4821/6*titration:3,6*concentration:3,6*neutralisation?versions=2&key=working&size=Letter&v=1",
 };
 
@@ -77,7 +82,10 @@ for (const [what, hash] of Object.entries(sheets)) {
         await page.waitForSelector(".size:not(:empty)");
         const preview = await page.evaluate(leafTexts);
         const pdf = Buffer.from(await page.pdf({ format, margin }));
-        assert.deepEqual(pagesOf(pdf).map((lines) => letters(lines.map((line) => line.text).join(""))), preview.map(letters));
+        assert.deepEqual(
+            pagesOf(pdf).map((lines) => letters(lines.map((line) => line.text).join(""))),
+            preview.map(letters),
+        );
         assert.equal(pageSize(pdf), { A4: "210 × 297", Letter: "216 × 279" }[format]);
         assert.equal(preview.length, await leavesInChromium(hash));
         assert.deepEqual(problems, []);

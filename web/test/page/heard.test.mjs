@@ -1,7 +1,7 @@
 // What is heard beside what the focus tells: each thing once, and nothing of another address.
 import assert from "node:assert/strict";
 import { after, test } from "node:test";
-import { announced, check, go, leave, openChromium, openLesson, opener, openPage, panel, type } from "./support.mjs";
+import { announced, check, go, leave, openChromium, opener, openLesson, openPage, panel, type } from "./support.mjs";
 
 const lesson = await openLesson();
 const browser = await openChromium();
@@ -72,7 +72,12 @@ for (const kind of ["titration:3", "compound-formula:3", "solubility:1", "neutra
         const page = await openPage(browser, `#practice/4821/3/${kind}`);
         await listen(page);
         await enter(page, "Show the answer");
-        const answer = (await page.locator(".key").ariaSnapshot()).replace(/^- paragraph:\s+/, "").replace(/- (strong|text): /g, "").replace(/["\n]/g, "").replace(/\s+/g, " ").trim();
+        const answer = (await page.locator(".key").ariaSnapshot())
+            .replace(/^- paragraph:\s+/, "")
+            .replace(/- (strong|text): /g, "")
+            .replace(/["\n]/g, "")
+            .replace(/\s+/g, " ")
+            .trim();
         const [said, ...more] = await heard(page);
         assert.deepEqual(more, []);
         assert.equal(said.replace(/\.$/, ""), answer);
@@ -99,7 +104,10 @@ test("New paper of a sheet tells the paper, and then the sheet's size", async ()
     await listen(page);
     await enter(page, "New paper");
     await page.waitForFunction(() => window.heard.length > 1);
-    assert.deepEqual(await heard(page), [`Paper\u00A0${await page.getByLabel("Paper", { exact: true }).inputValue()}`, await page.locator(".size").innerText()]);
+    assert.deepEqual(await heard(page), [
+        `Paper\u00A0${await page.getByLabel("Paper", { exact: true }).inputValue()}`,
+        await page.locator(".size").innerText(),
+    ]);
     await leave(page);
 });
 
@@ -115,7 +123,11 @@ test("of what is wrong in a choice, the field that gets the focus tells its own 
     assert.deepEqual(await heard(page), ["A paper is a number from 1 to 999999."]);
     assert.equal((await inTree(page)).description, "Choose at least one level of one kind.");
     await page.keyboard.press("Enter");
-    assert.deepEqual(await heard(page), ["Choose at least one level of one kind. A paper is a number from 1 to 999999."], "in the field itself");
+    assert.deepEqual(
+        await heard(page),
+        ["Choose at least one level of one kind. A paper is a number from 1 to 999999."],
+        "in the field itself",
+    );
     await leave(page);
 });
 
@@ -140,7 +152,10 @@ test("a question is told by its group as the focus comes in, and not announced a
     const page = await openPage(browser, "#practice/4821/4/molar-mass:1?set=4");
     await listen(page);
     await enter(page, "Finish");
-    assert.equal(await isFocused(page.getByRole("group", { name: "4 exercises are open." }).getByRole("button", { name: "Go to exercise 1" })), true);
+    assert.equal(
+        await isFocused(page.getByRole("group", { name: "4 exercises are open." }).getByRole("button", { name: "Go to exercise 1" })),
+        true,
+    );
     assert.deepEqual(await heard(page), []);
     await leave(page);
 });

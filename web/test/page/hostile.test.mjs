@@ -80,7 +80,7 @@ for (const hash of sheets) {
         assert.equal(await page.evaluate(() => window.hit), undefined);
         await page.getByRole("button", { name: "Make a new sheet" }).click();
         await page.getByRole("heading", { name: "Sheets to print" }).waitFor();
-        assert.ok(await page.locator(".leaf li").count() > 0);
+        assert.ok((await page.locator(".leaf li").count()) > 0);
         await leave(page);
     });
 }
@@ -139,7 +139,10 @@ test("the policy forbids every connection, and scripts and styles that were not 
         return [outcomes.every((outcome) => outcome.status === "rejected"), window.ran === undefined];
     });
     assert.deepEqual(refused, [true, true]);
-    assert.ok(page.problems.length > 0 && page.problems.every((problem) => /Content Security Policy|Failed to (load|fetch)/.test(problem)), page.problems.join("\n"));
+    assert.ok(
+        page.problems.length > 0 && page.problems.every((problem) => /Content Security Policy|Failed to (load|fetch)/.test(problem)),
+        page.problems.join("\n"),
+    );
     page.problems = [];
     await leave(page);
 });

@@ -1,7 +1,7 @@
 // Whole exercises without a mouse: from the first Tab after the page has loaded.
 import assert from "node:assert/strict";
 import { after, test } from "node:test";
-import { announced, leave, openChromium, openLesson, opener, openPage, panel } from "./support.mjs";
+import { announced, leave, openChromium, opener, openLesson, openPage, panel } from "./support.mjs";
 
 const lesson = await openLesson();
 const browser = await openChromium();
@@ -117,7 +117,10 @@ async function solutionIsRead(page) {
 
 for (const kind of ["titration:3", "ion-formula:3", "solubility:1", "neutralisation:3"]) {
     test(`${kind}: Show the answer leads to the solution's heading, and Tab from there to Next`, async () => {
-        const page = await openPage(browser, `#practice/4821/3/${kind}`, { reducedMotion: "reduce", viewport: { width: 360, height: 640 } });
+        const page = await openPage(browser, `#practice/4821/3/${kind}`, {
+            reducedMotion: "reduce",
+            viewport: { width: 360, height: 640 },
+        });
         await tabTo(page, button(page, "Show the answer"));
         await page.keyboard.press("Enter");
         await solutionIsRead(page);
@@ -265,7 +268,15 @@ test("the solubility grid is one stop; the arrow keys go from cell to cell, and 
     const columns = await page.locator(".solubility thead th").count();
     const at = () => cells.evaluateAll((all) => all.indexOf(document.activeElement));
     await tabTo(page, cells.first());
-    const walk = [["ArrowRight", 1], ["ArrowDown", columns + 1], ["ArrowLeft", columns], ["ArrowLeft", columns], ["ArrowUp", 0], ["ArrowUp", 0], ["ArrowRight", 1]];
+    const walk = [
+        ["ArrowRight", 1],
+        ["ArrowDown", columns + 1],
+        ["ArrowLeft", columns],
+        ["ArrowLeft", columns],
+        ["ArrowUp", 0],
+        ["ArrowUp", 0],
+        ["ArrowRight", 1],
+    ];
     for (const [key, expected] of walk) {
         await page.keyboard.press(key);
         assert.equal(await at(), expected, `${key} in ${columns} columns`);
@@ -309,7 +320,10 @@ test("a whole sheet: counts, layout, another version, and Print", async () => {
     await page.keyboard.press("Space");
     await tabTo(page, button(page, "Print"));
     await page.keyboard.press("Enter");
-    assert.equal(await page.evaluate(() => window.printed), "#sheet/4821/3*dilution:1,2*titration?versions=2&title=Monday&room=none&drawings=1&v=1");
+    assert.equal(
+        await page.evaluate(() => window.printed),
+        "#sheet/4821/3*dilution:1,2*titration?versions=2&title=Monday&room=none&drawings=1&v=1",
+    );
     await tabTo(page, page.getByRole("region", { name: "Pages" }));
     await leave(page);
 });

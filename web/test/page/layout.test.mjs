@@ -22,7 +22,12 @@ function sticksOut() {
     const ownBox = ".scrolling, .box, .leaves, .math, .preview, .spoken, .skip";
     const wide = [...document.querySelectorAll("body *")].filter((element) => {
         const { left, right } = element.getBoundingClientRect();
-        return element.parentElement.closest(ownBox) === null && !element.matches(".spoken, .skip") && element.checkVisibility() && (right > innerWidth + 0.5 || left < -0.5);
+        return (
+            element.parentElement.closest(ownBox) === null &&
+            !element.matches(".spoken, .skip") &&
+            element.checkVisibility() &&
+            (right > innerWidth + 0.5 || left < -0.5)
+        );
     });
     const page = document.documentElement;
     return [
@@ -40,14 +45,16 @@ function cutOff() {
 
 // Words of a heading or a fact that go on in the next line.
 function brokenWords() {
-    const words = [...document.querySelectorAll("h1, h2, .facts :is(dt, dd)")].filter((heading) => heading.checkVisibility()).flatMap((heading) => {
-        const walker = document.createTreeWalker(heading, NodeFilter.SHOW_TEXT);
-        const texts = [];
-        while (walker.nextNode()) {
-            texts.push(walker.currentNode);
-        }
-        return texts.flatMap((text) => [...text.data.matchAll(/[^\s]+/g)].map(({ 0: word, index }) => ({ text, word, index })));
-    });
+    const words = [...document.querySelectorAll("h1, h2, .facts :is(dt, dd)")]
+        .filter((heading) => heading.checkVisibility())
+        .flatMap((heading) => {
+            const walker = document.createTreeWalker(heading, NodeFilter.SHOW_TEXT);
+            const texts = [];
+            while (walker.nextNode()) {
+                texts.push(walker.currentNode);
+            }
+            return texts.flatMap((text) => [...text.data.matchAll(/[^\s]+/g)].map(({ 0: word, index }) => ({ text, word, index })));
+        });
     return words
         .filter(({ text, word, index }) => {
             const range = document.createRange();
@@ -91,7 +98,10 @@ test("what is wider than a narrow window scrolls in its own box, which the Tab k
 });
 
 test("the field is on the screen when it is zoomed to 400 % and has the focus", async () => {
-    const page = await openPage(browser, "#practice/4821/3/titration:3", { viewport: { width: 320, height: 256 }, reducedMotion: "reduce" });
+    const page = await openPage(browser, "#practice/4821/3/titration:3", {
+        viewport: { width: 320, height: 256 },
+        reducedMotion: "reduce",
+    });
     await page.locator("#answer").focus();
     const { top, bottom } = await page.locator("#answer").evaluate((field) => field.getBoundingClientRect().toJSON());
     assert.ok(top >= 0 && bottom <= 256, `from ${top} to ${bottom}`);
@@ -99,9 +109,17 @@ test("the field is on the screen when it is zoomed to 400 % and has the focus", 
 });
 
 // Half of the window is what a tablet's or a phone's keyboard leaves.
-for (const [what, viewport] of [["a tablet, upright", { width: 768, height: 1024 }], ["a tablet", { width: 1024, height: 768 }], ["a phone", { width: 360, height: 640 }]]) {
+for (const [what, viewport] of [
+    ["a tablet, upright", { width: 768, height: 1024 }],
+    ["a tablet", { width: 1024, height: 768 }],
+    ["a phone", { width: 360, height: 640 }],
+]) {
     test(`the field, its preview and Check stay in view while the keyboard of ${what} is open, and so does the mark`, async () => {
-        for (const [kind, typed] of [["titration:3", "7.7e-7"], ["neutralisation:3", "H2SO4 + NaOH -> Na2SO4 + H2O"], ["ion-formula:3", "SO4^3-"]]) {
+        for (const [kind, typed] of [
+            ["titration:3", "7.7e-7"],
+            ["neutralisation:3", "H2SO4 + NaOH -> Na2SO4 + H2O"],
+            ["ion-formula:3", "SO4^3-"],
+        ]) {
             const page = await openPage(browser, `#practice/4821/3/${kind}`, { viewport, reducedMotion: "reduce" });
             await page.locator("#answer").focus();
             await page.setViewportSize({ ...viewport, height: viewport.height / 2 });
@@ -140,7 +158,13 @@ function equationLines() {
     };
 }
 
-for (const [width, textSize, most] of [[1280, 1, 1], [768, 1, 1], [360, 1, 2], [320, 1, 2], [320, 2, 6]]) {
+for (const [width, textSize, most] of [
+    [1280, 1, 1],
+    [768, 1, 1],
+    [360, 1, 2],
+    [320, 1, 2],
+    [320, 2, 6],
+]) {
     test(`an equation in a question has its own lines, which begin with no sign, ${width} pixels wide, text ${textSize} times as large`, async () => {
         for (const kind of ["titration:1", "titration:2"]) {
             for (const number of [1, 2, 3, 4, 5, 6]) {
@@ -150,7 +174,10 @@ for (const [width, textSize, most] of [[1280, 1, 1], [768, 1, 1], [360, 1, 2], [
                 const where = `${kind}, exercise ${number}: ${firsts}`;
                 assert.ok(lines >= 1 && lines <= most, where);
                 assert.equal(shared, 0, where);
-                assert.ok(firsts.every((sign) => /[A-Z0-9(]/.test(sign)), where);
+                assert.ok(
+                    firsts.every((sign) => /[A-Z0-9(]/.test(sign)),
+                    where,
+                );
                 await leave(page);
             }
         }
@@ -158,14 +185,20 @@ for (const [width, textSize, most] of [[1280, 1, 1], [768, 1, 1], [360, 1, 2], [
 }
 
 // "Another like exercise 4" is wider by itself than a window of 360 pixels.
-const headings = [["Exercise 4", "#practice/4821/4/titration:2"], ["Exercise 12", "#practice/4821/12/titration:2"], ["Exercise 10 of 20", "#practice/4821/10/neutralisation:2?set=20"]];
+const headings = [
+    ["Exercise 4", "#practice/4821/4/titration:2"],
+    ["Exercise 12", "#practice/4821/12/titration:2"],
+    ["Exercise 10 of 20", "#practice/4821/10/neutralisation:2?set=20"],
+];
 
 for (const [name, hash] of [...headings, ["Another like exercise 4", "#practice/4821/500004/titration:2?back=4:titration:2"]]) {
     test(`${name}: the heading is on one line on a phone, and the choice below it covers nothing`, async () => {
         for (const width of [320, 360, 390, 412, 520, 576, 580]) {
             const page = await openPage(browser, hash, { viewport: { width, height: 740 } });
             const heading = page.getByRole("heading", { level: 1, name, exact: true });
-            const lines = await heading.evaluate((one) => one.getBoundingClientRect().height / parseFloat(getComputedStyle(one).lineHeight));
+            const lines = await heading.evaluate(
+                (one) => one.getBoundingClientRect().height / parseFloat(getComputedStyle(one).lineHeight),
+            );
             assert.ok(lines < (name.startsWith("Another") && width <= 360 ? 2.5 : 1.5), `${width} pixels: ${lines} lines`);
             const [kind, choose] = await Promise.all([page.locator(".which").boundingBox(), opener(page).boundingBox()]);
             const isApart = choose.x >= kind.x + kind.width || choose.y >= kind.y + kind.height || choose.y + choose.height <= kind.y;
@@ -181,7 +214,10 @@ test("a molar mass in brackets is not broken on a phone", async () => {
             const page = await openPage(browser, `#practice/4821/${number}/concentration:1`, { viewport: { width, height: 740 } });
             const mass = page.locator(".together");
             assert.match(await mass.innerText(), /^\(M\s=\s[\d.]+\sg\/mol\)/);
-            const { height, line } = await mass.evaluate((one) => ({ height: one.getBoundingClientRect().height, line: parseFloat(getComputedStyle(one).lineHeight) }));
+            const { height, line } = await mass.evaluate((one) => ({
+                height: one.getBoundingClientRect().height,
+                line: parseFloat(getComputedStyle(one).lineHeight),
+            }));
             assert.ok(height < 1.5 * line, `${width} pixels, exercise ${number}: ${height} high`);
             await leave(page);
         }
@@ -227,14 +263,33 @@ function placesInView() {
         return { top, bottom };
     };
     const seen = window.visualViewport;
-    return { line: { top: line.top, bottom: line.bottom }, field: edges("#answer"), preview: edges(".preview"), check: edges(".exercise form > button"), from: seen.offsetTop, to: seen.offsetTop + seen.height };
+    return {
+        line: { top: line.top, bottom: line.bottom },
+        field: edges("#answer"),
+        preview: edges(".preview"),
+        check: edges(".exercise form > button"),
+        from: seen.offsetTop,
+        to: seen.offsetTop + seen.height,
+    };
 }
 
-for (const kind of ["titration:3", "titration:1", "dilution:2", "concentration:3", "molar-mass:3", "compound-formula:3", "ion-formula:3", "solubility:3", "neutralisation:3"]) {
+for (const kind of [
+    "titration:3",
+    "titration:1",
+    "dilution:2",
+    "concentration:3",
+    "molar-mass:3",
+    "compound-formula:3",
+    "ion-formula:3",
+    "solubility:3",
+    "neutralisation:3",
+]) {
     test(`${kind}, on a phone: where the field is tapped, it and Check are in view above the keyboard, and the question's last line`, async () => {
         for (const order of ["focus, then keyboard", "keyboard, then focus"]) {
             const page = await openOnPhone(`#practice/4821/3/${kind}`);
-            const [first, second] = order.startsWith("focus") ? [() => page.locator("#answer").tap(), () => withKeyboard(page)] : [() => withKeyboard(page), () => page.locator("#answer").focus()];
+            const [first, second] = order.startsWith("focus")
+                ? [() => page.locator("#answer").tap(), () => withKeyboard(page)]
+                : [() => withKeyboard(page), () => page.locator("#answer").focus()];
             await first();
             await second();
             await page.waitForTimeout(100);
@@ -252,12 +307,18 @@ for (const kind of ["titration:3", "titration:1", "dilution:2", "concentration:3
     });
 }
 
-for (const [device, viewport] of [["a phone", { width: 360, height: 740 }], ["a tablet", { width: 1024, height: 700 }]]) {
+for (const [device, viewport] of [
+    ["a phone", { width: 360, height: 740 }],
+    ["a tablet", { width: 1024, height: 700 }],
+]) {
     test(`on ${device} the drawing is ${device === "a phone" ? "below" : "beside"} the field`, async () => {
         for (const kind of ["titration:3", "dilution:2"]) {
             const page = await openPage(browser, `#practice/4821/3/${kind}`, { viewport, hasTouch: true, isMobile: true });
             const [form, drawing] = await Promise.all([".exercise form", ".drawing"].map((one) => page.locator(one).boundingBox()));
-            const [isBelow, isBeside] = [drawing.y >= form.y + form.height, drawing.x >= form.x + form.width && drawing.y < form.y + form.height];
+            const [isBelow, isBeside] = [
+                drawing.y >= form.y + form.height,
+                drawing.x >= form.x + form.width && drawing.y < form.y + form.height,
+            ];
             assert.deepEqual([isBelow, isBeside], device === "a phone" ? [true, false] : [false, true], JSON.stringify({ form, drawing }));
             await leave(page);
         }
@@ -302,7 +363,10 @@ async function isInView(page, selectors) {
 }
 
 test("each step of a solution is brought into view, and in the end its beginning", async () => {
-    const page = await openPage(browser, "#practice/4821/3/titration:3", { viewport: { width: 360, height: 640 }, reducedMotion: "reduce" });
+    const page = await openPage(browser, "#practice/4821/3/titration:3", {
+        viewport: { width: 360, height: 640 },
+        reducedMotion: "reduce",
+    });
     await press(page, "Show a step");
     await isInView(page, [".solution"]);
     await press(page, "Show the answer");
@@ -313,7 +377,10 @@ test("each step of a solution is brought into view, and in the end its beginning
 test("the heads of the tables stay where the rest is scrolled", async () => {
     const page = await openPage(browser, "#tables", { viewport: { width: 360, height: 640 } });
     const corner = (selector) => page.locator(selector).evaluate((one) => one.getBoundingClientRect().toJSON());
-    for (const [name, head] of [["Relative atomic masses", ".periodic tbody tr:nth-child(4) th"], ["Solubility in water", ".solubility tbody tr:nth-child(9) th"]]) {
+    for (const [name, head] of [
+        ["Relative atomic masses", ".periodic tbody tr:nth-child(4) th"],
+        ["Solubility in water", ".solubility tbody tr:nth-child(9) th"],
+    ]) {
         const box = page.getByRole("region", { name });
         const { left } = await corner(head);
         await box.evaluate((one) => one.scrollTo(200, 0));
@@ -330,10 +397,18 @@ test("the heads of the tables stay where the rest is scrolled", async () => {
 // 44 pixels are a fingertip; and a field with smaller text than 16 is zoomed into by Safari on a phone.
 test("what is pressed on a phone is as large as a fingertip", async () => {
     for (const kind of ["compound-formula:3", "ion-formula:3", "neutralisation:3", "solubility:3", "titration:3"]) {
-        const page = await openPage(browser, `#practice/4821/3/${kind}`, { viewport: { width: 360, height: 740 }, hasTouch: true, isMobile: true });
-        const small = await page.locator(".top a:visible, main button:visible, main input:visible").evaluateAll((all) =>
-            all.filter((one) => one.offsetWidth < 44 || one.offsetHeight < 44).map((one) => `${one.outerHTML.slice(0, 80)} ${one.offsetWidth} × ${one.offsetHeight}`),
-        );
+        const page = await openPage(browser, `#practice/4821/3/${kind}`, {
+            viewport: { width: 360, height: 740 },
+            hasTouch: true,
+            isMobile: true,
+        });
+        const small = await page
+            .locator(".top a:visible, main button:visible, main input:visible")
+            .evaluateAll((all) =>
+                all
+                    .filter((one) => one.offsetWidth < 44 || one.offsetHeight < 44)
+                    .map((one) => `${one.outerHTML.slice(0, 80)} ${one.offsetWidth} × ${one.offsetHeight}`),
+            );
         assert.deepEqual(small, [], kind);
         assert.ok((await page.locator("#answer").evaluate((field) => parseFloat(getComputedStyle(field).fontSize))) >= 16, kind);
         await leave(page);
@@ -344,7 +419,10 @@ test("each choice is as high as a fingertip, the words beside it included", asyn
     const page = await openPage(browser, "#practice/4821/3/solubility:1", { viewport: { width: 360, height: 740 }, hasTouch: true });
     const heights = await page.locator("label.word:visible").evaluateAll((all) => all.map((one) => one.offsetHeight));
     assert.equal(heights.length, 2);
-    assert.deepEqual(heights.filter((height) => height < 44), []);
+    assert.deepEqual(
+        heights.filter((height) => height < 44),
+        [],
+    );
     await leave(page);
 });
 
@@ -368,7 +446,9 @@ for (const colorScheme of ["light", "dark"]) {
             const style = (selector) => getComputedStyle(document.querySelector(selector));
             return {
                 glass: style(".glass").stroke === text,
-                mark: style(".mark").borderInlineStartColor !== style("body").backgroundColor && style(".mark").borderInlineStartStyle !== "none",
+                mark:
+                    style(".mark").borderInlineStartColor !== style("body").backgroundColor &&
+                    style(".mark").borderInlineStartStyle !== "none",
                 fraction: [...document.querySelectorAll(".over")].every((over) => getComputedStyle(over).borderBlockEndColor === text),
                 button: parseFloat(style("form button").borderTopWidth) >= 1 && style("form button").color === buttonText,
                 field: parseFloat(style("#answer").borderTopWidth) >= 1,
@@ -425,7 +505,11 @@ test("a printed summary has the paper, when, how long, each exercise and the tot
     assert.match(text, /Begun +\d+ \w+ \d{4}, \d\d:\d\d/);
     assert.match(text, /Time worked +less than a minute/);
     assert.match(text, /Total +0 of 5 solved, none at the first try/);
-    assert.deepEqual(text.match(/(?<=Exercise \d +Molar mass, level 1 +)\d +.*$/gm)?.map((line) => line.replace(/ +/g, " ")), ["0 shown", "1 not solved", "0 not solved", "0 not solved", "0 not solved"], text);
+    assert.deepEqual(
+        text.match(/(?<=Exercise \d +Molar mass, level 1 +)\d +.*$/gm)?.map((line) => line.replace(/ +/g, " ")),
+        ["0 shown", "1 not solved", "0 not solved", "0 not solved", "0 not solved"],
+        text,
+    );
     assert.doesNotMatch(text, /Print|Save|New set|Skip|Clear|Copy|link/);
     await leave(page);
 });

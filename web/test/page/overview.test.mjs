@@ -32,7 +32,15 @@ test("the overview tells each exercise by a sign and in words, and leads to it",
     await check(page);
     await goTo(page, 3);
     await press(page, "Show the answer");
-    const links = await overview(page).getByRole("link").evaluateAll((all) => all.map((link) => [link.querySelector(".spoken").textContent, link.querySelector("[aria-hidden]").textContent, link.getAttribute("aria-current")]));
+    const links = await overview(page)
+        .getByRole("link")
+        .evaluateAll((all) =>
+            all.map((link) => [
+                link.querySelector(".spoken").textContent,
+                link.querySelector("[aria-hidden]").textContent,
+                link.getAttribute("aria-current"),
+            ]),
+        );
     assert.deepEqual(links, [
         ["Exercise 1: at the first try", "1✓", null],
         ["Exercise 2: wrong so far", "2×", null],
@@ -65,9 +73,14 @@ test("of a set of 99 the exercises are folded, and it tells how many are done", 
 
 test("twenty exercises stand in one row beside the question, and in three on a phone", async () => {
     const page = await openPage(browser, at(1, 20));
-    for (const [width, rows] of [[800, 1], [360, 3]]) {
+    for (const [width, rows] of [
+        [800, 1],
+        [360, 3],
+    ]) {
         await page.setViewportSize({ width, height: 740 });
-        const tops = await overview(page).getByRole("link").evaluateAll((all) => all.map((link) => link.getBoundingClientRect().top));
+        const tops = await overview(page)
+            .getByRole("link")
+            .evaluateAll((all) => all.map((link) => link.getBoundingClientRect().top));
         assert.ok(new Set(tops).size <= rows, `${new Set(tops).size} rows in ${width} px`);
         assert.equal(tops.length, 20);
     }
@@ -89,7 +102,15 @@ test("the row is one stop of the Tab key, and the arrow keys go along it", async
     const page = await openPage(browser, at(3));
     await overview(page).locator("[aria-current]").focus();
     const numberAt = () => page.evaluate(() => Number(document.activeElement.hash.split("/")[2]));
-    for (const [key, number] of [["ArrowLeft", 2], ["ArrowLeft", 1], ["ArrowLeft", 1], ["End", 5], ["ArrowRight", 5], ["Home", 1], ["ArrowRight", 2]]) {
+    for (const [key, number] of [
+        ["ArrowLeft", 2],
+        ["ArrowLeft", 1],
+        ["ArrowLeft", 1],
+        ["End", 5],
+        ["ArrowRight", 5],
+        ["Home", 1],
+        ["ArrowRight", 2],
+    ]) {
         await page.keyboard.press(key);
         assert.equal(await numberAt(), number, key);
     }
@@ -141,12 +162,22 @@ test("once nothing is open any exercise leads to the summary, without a question
 // In the place of the browser's own.
 const copies = () => Object.defineProperty(navigator, "clipboard", { value: { writeText: async (text) => void (window.copied = text) } });
 const lacksClipboard = () => Object.defineProperty(navigator, "clipboard", { value: undefined });
-const refusesToCopy = () => Object.defineProperty(navigator, "clipboard", { value: { writeText: () => Promise.reject(new DOMException("refused", "NotAllowedError")) } });
+const refusesToCopy = () =>
+    Object.defineProperty(navigator, "clipboard", {
+        value: { writeText: () => Promise.reject(new DOMException("refused", "NotAllowedError")) },
+    });
 
-for (const [where, number] of [["an exercise", 3], ["the summary", 6]]) {
+for (const [where, number] of [
+    ["an exercise", 3],
+    ["the summary", 6],
+]) {
     test(`the link of a set is copied from ${where}: its first exercise, without the way to this file`, async () => {
         const page = await openPage(browser, at(number), { before: copies });
-        await page.getByText("This link is the set: whoever opens it gets the same exercises. This page is a file: whoever has the same file opens it").waitFor();
+        await page
+            .getByText(
+                "This link is the set: whoever opens it gets the same exercises. This page is a file: whoever has the same file opens it",
+            )
+            .waitFor();
         await press(page, "Copy the link");
         assert.equal(await announced(page), "The link is copied.");
         assert.equal(await page.evaluate(() => window.copied), at(1));
@@ -154,14 +185,20 @@ for (const [where, number] of [["an exercise", 3], ["the summary", 6]]) {
     });
 }
 
-for (const [how, before] of [["is missing", lacksClipboard], ["is refused", refusesToCopy]]) {
+for (const [how, before] of [
+    ["is missing", lacksClipboard],
+    ["is refused", refusesToCopy],
+]) {
     test(`where the clipboard ${how} the link is selected to be copied`, async () => {
         const page = await openPage(browser, at(3), { before });
         await press(page, "Copy the link");
         assert.match(await announced(page), /^The browser did not let the page copy\. The link is selected/);
         const field = page.getByRole("textbox", { name: "The link" });
         assert.equal(await field.inputValue(), at(1));
-        assert.deepEqual(await field.evaluate((input) => [input === document.activeElement, input.readOnly, input.selectionStart, input.selectionEnd]), [true, true, 0, at(1).length]);
+        assert.deepEqual(
+            await field.evaluate((input) => [input === document.activeElement, input.readOnly, input.selectionStart, input.selectionEnd]),
+            [true, true, 0, at(1).length],
+        );
         await leave(page);
     });
 }
@@ -184,11 +221,20 @@ test("from a web server the link is the whole address", async () => {
     server.close();
 });
 
-const stored = (touched, ...solved) => JSON.stringify({ begun: touched, touched, worked: 0, exercises: Object.fromEntries(solved.map((number) => [number, { result: "first" }])) });
+const stored = (touched, ...solved) =>
+    JSON.stringify({
+        begun: touched,
+        touched,
+        worked: 0,
+        exercises: Object.fromEntries(solved.map((number) => [number, { result: "first" }])),
+    });
 
 async function openWithSets(hash) {
     const page = await openPage(browser, "#tables");
-    const kept = [[at(1, 3, 11), stored(Date.UTC(2026, 10, 20, 12), 1, 2, 3)], [at(1, 5, 12), stored(Date.UTC(2026, 10, 22, 12), 1, 3)]];
+    const kept = [
+        [at(1, 3, 11), stored(Date.UTC(2026, 10, 20, 12), 1, 2, 3)],
+        [at(1, 5, 12), stored(Date.UTC(2026, 10, 22, 12), 1, 3)],
+    ];
     await page.evaluate((all) => all.forEach(([hash, text]) => localStorage.setItem(`chempractice.set.${hash}`, text)), kept);
     await go(page, hash);
     await heading(page, "Exercise 1");

@@ -30,7 +30,11 @@ function questions() {
     };
     return [...document.querySelectorAll(".leaf:not(:has(.of-key)) li")].map((item) => {
         const before = item.parentElement.previousElementSibling;
-        return { own: seen(item.querySelector(".asks")), shared: before.matches(".frame") ? seen(before) : "", answer: seen(item.querySelector(".answer-line")) };
+        return {
+            own: seen(item.querySelector(".asks")),
+            shared: before.matches(".frame") ? seen(before) : "",
+            answer: seen(item.querySelector(".answer-line")),
+        };
     });
 }
 
@@ -42,16 +46,25 @@ async function questionsOf(hash, options) {
 }
 
 function exercisesOf(hash, paper) {
-    return hash.split("/")[2].split("?")[0].split(",").flatMap((entry) => {
-        const [count, kind] = entry.includes("*") ? entry.split("*") : [1, entry];
-        return Array.from({ length: Number(count) }, (_, at) => lesson.exercise(paper, at + 1, kind));
-    });
+    return hash
+        .split("/")[2]
+        .split("?")[0]
+        .split(",")
+        .flatMap((entry) => {
+            const [count, kind] = entry.includes("*") ? entry.split("*") : [1, entry];
+            return Array.from({ length: Number(count) }, (_, at) => lesson.exercise(paper, at + 1, kind));
+        });
 }
 
 // As they are counted by hand: without the zeros in front.
-const figuresIn = (number) => number.replace(/e.*/, "").replace(/^[0.]+/, "").replace(".", "").length;
+const figuresIn = (number) =>
+    number
+        .replace(/e.*/, "")
+        .replace(/^[0.]+/, "")
+        .replace(".", "").length;
 
-const every = "2*molar-mass:1,6*molar-mass:3,5*compound-formula,5*ion-formula:3,5*solubility:1,2*solubility:3,2*concentration,2*dilution:3,2*neutralisation,2*titration:3";
+const every =
+    "2*molar-mass:1,6*molar-mass:3,5*compound-formula,5*ion-formula:3,5*solubility:1,2*solubility:3,2*concentration,2*dilution:3,2*neutralisation,2*titration:3";
 
 test("where numbers want different figures, each question says how many its key has, and no other says any", async () => {
     const hash = `#sheet/4821/${every}?parts=sheet&v=1`;
@@ -76,7 +89,11 @@ test("where all numbers want the same figures, one line above says so", async ()
 test("how many figures are wanted is on one line", async () => {
     for (const hash of ["#sheet/4821/molar-mass:1,9*titration:1?v=1", "#sheet/77/molar-mass:1,9*titration:1?size=Letter&v=1"]) {
         const { sheet } = await printed(hash);
-        assert.deepEqual(sheet.filter((line) => /significant/.test(line) && !/\(\dsignificantfigures\)$/.test(line)), [], hash);
+        assert.deepEqual(
+            sheet.filter((line) => /significant/.test(line) && !/\(\dsignificantfigures\)$/.test(line)),
+            [],
+            hash,
+        );
         assert.equal(sheet.filter((line) => line.endsWith("significantfigures)")).length, 10, hash);
     }
 });
@@ -113,13 +130,19 @@ test("a sign in front of a fraction is on its line", async () => {
 test("the room to write ends with a line for the answer, with its symbol and unit", async () => {
     const answers = async (hash, options) => (await questionsOf(hash, options)).map(({ answer }) => answer);
     assert.deepEqual(await answers("#sheet/4821/titration,dilution:1,concentration,molar-mass:1,ion-formula,neutralisation?v=1"), [
-        "c(HNO3)=mol/L", "c2(KOH)=mol/L", "m(KI)=g", "M(Li3N)=g/mol", "Answer:", "Answer:",
+        "c(HNO3)=mol/L",
+        "c2(KOH)=mol/L",
+        "m(KI)=g",
+        "M(Li3N)=g/mol",
+        "Answer:",
+        "Answer:",
     ]);
     assert.deepEqual(await answers("#sheet/4821/titration,ion-formula?room=none&v=1"), ["", ""]);
 });
 
 test("the unit of the answer's line is the reader's", async () => {
-    const setUp = () => localStorage.setItem("chempractice.settings", JSON.stringify({ volume: "cm3", per: "power", decimal: ",", names: "british" }));
+    const setUp = () =>
+        localStorage.setItem("chempractice.settings", JSON.stringify({ volume: "cm3", per: "power", decimal: ",", names: "british" }));
     const { sheet } = await printed("#sheet/4821/titration,dilution:3?v=1", { before: setUp });
     assert.ok(sheet.includes("c(HNO3)=moldm−3"), sheet.join("\n"));
     assert.ok(sheet.includes("V(H2O)=cm3"), sheet.join("\n"));
@@ -132,13 +155,20 @@ test("thirty ions with a line for each are one page, and their numbers run acros
     const [lines, ...others] = pagesOf(await page.pdf({ preferCSSPageSize: true }));
     assert.ok(others.every((some) => numbered(some).length === 0 || some.some((line) => line.text.startsWith("Keyto"))));
     const items = numbered(lines);
-    assert.deepEqual(items.map((line) => parseInt(line.text, 10)), Array.from({ length: 30 }, (_, at) => at + 1));
+    assert.deepEqual(
+        items.map((line) => parseInt(line.text, 10)),
+        Array.from({ length: 30 }, (_, at) => at + 1),
+    );
     for (let at = 0; at < 30; at += 2) {
         const [left, right] = [items[at], items[at + 1]];
         assert.ok(left.top === right.top && left.right < 105 && right.left > 105, `${left.text} and ${right.text}`);
         assert.ok(at === 0 || left.top - items[at - 2].top > 8, `no room for a pen above ${left.text}`);
     }
-    const gaps = await page.locator(".leaf .half .gap").evaluateAll((all) => all.map((gap) => gap.getBoundingClientRect().width / document.querySelector(".leaf").getBoundingClientRect().width * 210));
+    const gaps = await page
+        .locator(".leaf .half .gap")
+        .evaluateAll((all) =>
+            all.map((gap) => (gap.getBoundingClientRect().width / document.querySelector(".leaf").getBoundingClientRect().width) * 210),
+        );
     assert.equal(gaps.length, 30);
     assert.ok(Math.min(...gaps) > 20, `${Math.min(...gaps)} mm`);
     await leave(page);
@@ -150,7 +180,10 @@ test("what short questions share stands above them once, and again on a further 
     for (const lines of pages) {
         assert.equal(lines.filter((line) => line.text === "Exercises1to70:Writetheformulaof…").length, 1);
     }
-    assert.deepEqual(pages.flatMap((lines) => numbered(lines)).map((line) => parseInt(line.text, 10)), Array.from({ length: 70 }, (_, at) => at + 1));
+    assert.deepEqual(
+        pages.flatMap((lines) => numbered(lines)).map((line) => parseInt(line.text, 10)),
+        Array.from({ length: 70 }, (_, at) => at + 1),
+    );
 });
 
 test("one below the other, each question has all its words", async () => {
@@ -176,20 +209,46 @@ test("answers of one short line stand beside each other in the key, and a longer
         return found ?? assert.fail(`${at + 1}. ${key.text} is not on one line`);
     });
     assert.ok(items[1].left > 105 && items[1].top === items[0].top);
-    assert.ok(items.some((line) => line.left < 60 && line.right > 105), "no equation is longer than a column");
+    assert.ok(
+        items.some((line) => line.left < 60 && line.right > 105),
+        "no equation is longer than a column",
+    );
     assert.ok(items.some((line) => line.left > 105));
 });
 
 // What a teacher gives: the equation, the mean, each amount, the result; not for converting or checking.
 const worth = {
-    "titration:3": 5, "titration": 3, "dilution:1": 2, "dilution:3": 3, "concentration:1": 2, "concentration": 3,
-    "molar-mass": 1, "neutralisation:3": 2, "compound-formula": 1, "ion-formula": 1, "solubility:1": 1, "solubility:3": 1,
+    "titration:3": 5,
+    "titration": 3,
+    "dilution:1": 2,
+    "dilution:3": 3,
+    "concentration:1": 2,
+    "concentration": 3,
+    "molar-mass": 1,
+    "neutralisation:3": 2,
+    "compound-formula": 1,
+    "ion-formula": 1,
+    "solubility:1": 1,
+    "solubility:3": 1,
 };
 
-for (const [room, atOneMark] of [["some", 3], ["much", 7], ["none", 0]]) {
+for (const [room, atOneMark] of [
+    ["some", 3],
+    ["much", 7],
+    ["none", 0],
+]) {
     test(`room to write, ${room}: ${room === "none" ? "no calculation has any" : "a calculation has a line more for each further mark"}`, async () => {
-        const page = await openSheet(`#sheet/4821/molar-mass:1,concentration:1,concentration:3,dilution:2,titration:1,titration:3?parts=sheet&marks=1&room=${room}&v=1`);
-        const found = await page.locator(".leaf li").evaluateAll((items) => items.map((item) => [parseInt(item.querySelector(".marks").textContent.replace("(", ""), 10), item.querySelectorAll(".rule").length]));
+        const page = await openSheet(
+            `#sheet/4821/molar-mass:1,concentration:1,concentration:3,dilution:2,titration:1,titration:3?parts=sheet&marks=1&room=${room}&v=1`,
+        );
+        const found = await page
+            .locator(".leaf li")
+            .evaluateAll((items) =>
+                items.map((item) => [
+                    parseInt(item.querySelector(".marks").textContent.replace("(", ""), 10),
+                    item.querySelectorAll(".rule").length,
+                ]),
+            );
         await leave(page);
         assert.ok(new Set(found.map(([marks]) => marks)).size >= 4, `${found}`);
         for (const [marks, rules] of found) {
@@ -200,7 +259,8 @@ for (const [room, atOneMark] of [["some", 3], ["much", 7], ["none", 0]]) {
 
 test("a key of worked answers tells once how its lines are rounded, another key does not", async () => {
     const told = "Valuesareshownrounded;thenextlineusesthemunrounded.";
-    const times = async (kinds, options) => (await printed(`#sheet/4821/${kinds}?versions=2&${options}v=1`)).key.filter((line) => line === told).length;
+    const times = async (kinds, options) =>
+        (await printed(`#sheet/4821/${kinds}?versions=2&${options}v=1`)).key.filter((line) => line === told).length;
     assert.equal(await times("2*titration:3", "key=working&"), 1);
     assert.equal(await times("2*titration:3", "key=working&keys=apart&"), 2, "of keys that are handed out apart, each");
     assert.equal(await times("2*titration:3", ""), 0);
@@ -222,22 +282,30 @@ test("where the masses come from a table, the key tells those that it has used",
 
 test("what of a worked line does not fit goes on further in", async () => {
     const page = await openSheet("#sheet/20417/2*concentration:3,2*titration:3?parts=key&key=working&v=1");
-    const edges = await page.locator(".leaf .step > [aria-hidden]").evaluateAll((steps) => steps.map((step) => {
-        const text = [...step.childNodes].filter((node) => node.nodeType === Node.TEXT_NODE);
-        const boxes = text.flatMap((node) => {
-            const range = document.createRange();
-            range.selectNodeContents(node);
-            return [...range.getClientRects()];
-        });
-        const { left } = step.closest("li").getBoundingClientRect();
-        const first = Math.min(...boxes.map((box) => box.top));
-        return { begins: boxes[0].left - left, further: boxes.filter((box) => box.top > first + 15).map((box) => box.left - left) };
-    }));
+    const edges = await page.locator(".leaf .step > [aria-hidden]").evaluateAll((steps) =>
+        steps.map((step) => {
+            const text = [...step.childNodes].filter((node) => node.nodeType === Node.TEXT_NODE);
+            const boxes = text.flatMap((node) => {
+                const range = document.createRange();
+                range.selectNodeContents(node);
+                return [...range.getClientRects()];
+            });
+            const { left } = step.closest("li").getBoundingClientRect();
+            const first = Math.min(...boxes.map((box) => box.top));
+            return { begins: boxes[0].left - left, further: boxes.filter((box) => box.top > first + 15).map((box) => box.left - left) };
+        }),
+    );
     await leave(page);
     const further = edges.flatMap((edge) => edge.further);
     assert.ok(further.length > 0, "no line goes on");
-    assert.ok(edges.every(({ begins }) => begins < 5), `the lines begin at ${edges.map(({ begins }) => begins)}`);
-    assert.ok(further.every((left) => left > 20), `they go on at ${further}`);
+    assert.ok(
+        edges.every(({ begins }) => begins < 5),
+        `the lines begin at ${edges.map(({ begins }) => begins)}`,
+    );
+    assert.ok(
+        further.every((left) => left > 20),
+        `they go on at ${further}`,
+    );
 });
 
 test("marks stand behind each question and in the key, and their total above", async () => {
@@ -245,17 +313,27 @@ test("marks stand behind each question and in the key, and their total above", a
     const hash = `#sheet/4821/${kinds.join(",")}?marks=1&v=1`;
     const found = await questionsOf(hash);
     const expected = Object.values(worth);
-    assert.deepEqual(found.map(({ own }) => /\((\d)marks?\)$/.exec(own)?.[0]), expected.map((marks) => (marks === 1 ? "(1mark)" : `(${marks}marks)`)));
+    assert.deepEqual(
+        found.map(({ own }) => /\((\d)marks?\)$/.exec(own)?.[0]),
+        expected.map((marks) => (marks === 1 ? "(1mark)" : `(${marks}marks)`)),
+    );
     const { sheet, key } = await printed(hash);
     assert.ok(sheet.includes("Total:25marks"), sheet.join("\n"));
-    assert.ok(sheet.some((line) => line.startsWith("Name") && line.endsWith("Mark/25")), sheet.join("\n"));
+    assert.ok(
+        sheet.some((line) => line.startsWith("Name") && line.endsWith("Mark/25")),
+        sheet.join("\n"),
+    );
     assert.deepEqual(key.flatMap((line) => /^\d+\..*\((\d)\)$/.exec(line)?.[1] ?? []).map(Number), expected);
 });
 
 test("questions with marks are in the letters of the others", async () => {
     const facesOf = async (hash) => {
         const page = await openSheet(hash);
-        const faces = await page.locator(".leaf :is(.asks, .frame)").evaluateAll((all) => all.map((one) => getComputedStyle(one)).map(({ fontFamily, fontSize, color }) => `${fontFamily} ${fontSize} ${color}`));
+        const faces = await page
+            .locator(".leaf :is(.asks, .frame)")
+            .evaluateAll((all) =>
+                all.map((one) => getComputedStyle(one)).map(({ fontFamily, fontSize, color }) => `${fontFamily} ${fontSize} ${color}`),
+            );
         await leave(page);
         return faces;
     };

@@ -16,7 +16,9 @@ export function pageSize(pdf) {
 // lowered words belong to the line that they are at; what stands in two columns is two lines.
 export function pagesOf(pdf) {
     const pages = read("pdftotext", ["-bbox", "-", "-"], pdf, "utf8").split("<page ").slice(1);
-    return pages.map((page) => linesOf([...page.matchAll(/xMin="([\d.-]+)" yMin="([\d.-]+)" xMax="([\d.-]+)" yMax="([\d.-]+)">(.*?)<\/word>/g)]));
+    return pages.map((page) =>
+        linesOf([...page.matchAll(/xMin="([\d.-]+)" yMin="([\d.-]+)" xMax="([\d.-]+)" yMax="([\d.-]+)">(.*?)<\/word>/g)]),
+    );
 }
 
 function linesOf(words) {
@@ -66,7 +68,10 @@ const entities = { "&lt;": "<", "&gt;": ">", "&quot;": '"', "&apos;": "'", "&amp
 
 // Without blanks, and with letters that were drawn as one taken apart.
 export function plain(text) {
-    return text.replace(/&\w+;/g, (entity) => entities[entity] ?? entity).replace(/\s/g, "").replace(/[\uFB00-\uFB06]/g, (letters) => letters.normalize("NFKC"));
+    return text
+        .replace(/&\w+;/g, (entity) => entities[entity] ?? entity)
+        .replace(/\s/g, "")
+        .replace(/[\uFB00-\uFB06]/g, (letters) => letters.normalize("NFKC"));
 }
 
 // Fractions are read in another order from paper, so letters are compared in theirs.

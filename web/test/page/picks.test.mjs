@@ -24,7 +24,11 @@ async function waitForList(page, list) {
 
 // What is asked of the first version, in the order of its pages.
 async function asksOf(page, count) {
-    const lines = await page.locator(".leaf ol > li .asks").evaluateAll((all) => all.map((one) => [...one.querySelectorAll("[aria-hidden]")].map((part) => part.textContent).join("") || one.textContent));
+    const lines = await page
+        .locator(".leaf ol > li .asks")
+        .evaluateAll((all) =>
+            all.map((one) => [...one.querySelectorAll("[aria-hidden]")].map((part) => part.textContent).join("") || one.textContent),
+        );
     return lines.slice(0, count).map(plain);
 }
 
@@ -32,7 +36,12 @@ async function asksOf(page, count) {
 const asked = (paper, places) =>
     places.map((place) => {
         const [kind, number] = place.split("@");
-        return plain(lesson.exercise(paper, Number(number), kind).prompt.map((span) => Object.values(span)[0]).join(""));
+        return plain(
+            lesson
+                .exercise(paper, Number(number), kind)
+                .prompt.map((span) => Object.values(span)[0])
+                .join(""),
+        );
     });
 
 async function isOnThePage(page, paper, places) {
@@ -75,7 +84,12 @@ test("Up and Down move an exercise, the focus goes with it, and at either end it
 
 test("Back takes back one pick after another, and before them what was changed in the form since", async () => {
     const page = await openSheet("#sheet/4821/2*ion-formula,dilution:1?v=1");
-    const lists = ["2*ion-formula,dilution:1", "ion-formula@3,ion-formula@2,dilution:1", "ion-formula@3,dilution:1,ion-formula@2", "ion-formula@3,dilution:1,ion-formula@2,ion-formula@4"];
+    const lists = [
+        "2*ion-formula,dilution:1",
+        "ion-formula@3,ion-formula@2,dilution:1",
+        "ion-formula@3,dilution:1,ion-formula@2",
+        "ion-formula@3,dilution:1,ion-formula@2,ion-formula@4",
+    ];
     await tool(page, "Another instead of exercise 1").press("Enter");
     await waitForList(page, lists[1]);
     await tool(page, "Up with exercise 3").press("Enter");
@@ -124,7 +138,10 @@ test("what is picked holds for all versions, in print, in the key and in the fil
     await waitForList(page, list);
     const preview = await page.evaluate(leafTexts);
     const pages = pagesOf(await page.pdf({ preferCSSPageSize: true }));
-    assert.deepEqual(pages.map((lines) => letters(lines.map((line) => line.text).join("\n"))), preview.map(letters));
+    assert.deepEqual(
+        pages.map((lines) => letters(lines.map((line) => line.text).join("\n"))),
+        preview.map(letters),
+    );
     const all = plain(preview.join(""));
     for (const paper of [4821, 4822]) {
         for (const text of asked(paper, ["ion-formula@3", "ion-formula@2", "compound-formula@1"])) {
@@ -151,9 +168,21 @@ test("the buttons come up over the exercise that is pointed at, and take no room
     const page = await openSheet("#sheet/4821/4*ion-formula?v=1");
     const places = () => page.locator(".leaf li").evaluateAll((all) => all.map((one) => one.offsetTop));
     const before = await places();
-    assert.equal(await page.locator(".picks").nth(1).evaluate((one) => getComputedStyle(one).opacity), "0");
+    assert.equal(
+        await page
+            .locator(".picks")
+            .nth(1)
+            .evaluate((one) => getComputedStyle(one).opacity),
+        "0",
+    );
     await page.locator(".leaf li").nth(1).hover();
-    assert.equal(await page.locator(".picks").nth(1).evaluate((one) => getComputedStyle(one).opacity), "1");
+    assert.equal(
+        await page
+            .locator(".picks")
+            .nth(1)
+            .evaluate((one) => getComputedStyle(one).opacity),
+        "1",
+    );
     await tool(page, "Down with exercise 2").click();
     await waitForList(page, "ion-formula,ion-formula@3,ion-formula@2,ion-formula@4");
     assert.deepEqual(await places(), before);
@@ -161,10 +190,19 @@ test("the buttons come up over the exercise that is pointed at, and take no room
 });
 
 test("on a touch screen they are always there, each as large as a fingertip", async () => {
-    const page = await openSheet("#sheet/4821/4*ion-formula?v=1", { viewport: { width: 360, height: 740 }, hasTouch: true, isMobile: true });
-    const sizes = await page.locator(".picks button").evaluateAll((all) => all.map((one) => [one.offsetWidth, one.offsetHeight, getComputedStyle(one.parentElement).opacity]));
+    const page = await openSheet("#sheet/4821/4*ion-formula?v=1", {
+        viewport: { width: 360, height: 740 },
+        hasTouch: true,
+        isMobile: true,
+    });
+    const sizes = await page
+        .locator(".picks button")
+        .evaluateAll((all) => all.map((one) => [one.offsetWidth, one.offsetHeight, getComputedStyle(one.parentElement).opacity]));
     assert.equal(sizes.length, 12);
-    assert.deepEqual(sizes.filter(([width, height, opacity]) => width < 44 || height < 44 || opacity !== "1"), []);
+    assert.deepEqual(
+        sizes.filter(([width, height, opacity]) => width < 44 || height < 44 || opacity !== "1"),
+        [],
+    );
     await tool(page, "Another instead of exercise 4").tap();
     await waitForList(page, "3*ion-formula,ion-formula@5");
     await leave(page);

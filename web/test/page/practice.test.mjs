@@ -26,7 +26,10 @@ for (const kind of samples) {
 
 test("a wrong answer keeps the focus in the field, and after two of them help is offered", async () => {
     const page = await openPage(browser, "#practice/4821/3/titration");
-    for (const [tries, offered] of [[1, false], [2, true]]) {
+    for (const [tries, offered] of [
+        [1, false],
+        [2, true],
+    ]) {
         await type(page, "777");
         await page.keyboard.press("Enter");
         await page.locator(".mark").waitFor();
@@ -161,7 +164,11 @@ test("Another like this goes off, one further each time, and comes back to the e
         const hash = new URL(page.url()).hash;
         await reload(page);
         assert.equal(await prompt(), seen.at(-1), hash);
-        assert.equal(await page.getByRole("link", { name: "Practice", exact: true }).getAttribute("href"), "#practice/4821/4/mixed?v=1", hash);
+        assert.equal(
+            await page.getByRole("link", { name: "Practice", exact: true }).getAttribute("href"),
+            "#practice/4821/4/mixed?v=1",
+            hash,
+        );
     }
     await page.goBack();
     await page.waitForFunction((text) => document.querySelector(".prompt").innerText === text, seen[1]);
@@ -260,7 +267,11 @@ test("a set of exercises ends in a summary of what was solved how", async () => 
 test("a tablet leaves alone what is typed", async () => {
     for (const kind of ["titration", "compound-formula", "ion-formula", "solubility:3", "neutralisation"]) {
         const page = await openPage(browser, `#practice/4821/1/${kind}`);
-        const given = await page.locator("#answer").evaluate((field) => ["autocapitalize", "autocorrect", "autocomplete", "spellcheck", "enterkeyhint"].map((name) => field.getAttribute(name)));
+        const given = await page
+            .locator("#answer")
+            .evaluate((field) =>
+                ["autocapitalize", "autocorrect", "autocomplete", "spellcheck", "enterkeyhint"].map((name) => field.getAttribute(name)),
+            );
         assert.deepEqual(given, ["off", "off", "off", "false", "go"], kind);
         await leave(page);
     }
@@ -342,9 +353,16 @@ test("American names stand in the question and in the tables", async () => {
     assert.ok((await page.locator(".prompt").innerText()).includes(american));
     await go(page, "#tables");
     await page.locator(".solubility").waitFor();
-    const names = await page.locator(".solubility").evaluate((table) => [...table.querySelectorAll("th, [aria-label]")].map((one) => one.getAttribute("aria-label") ?? one.textContent));
+    const names = await page
+        .locator(".solubility")
+        .evaluate((table) =>
+            [...table.querySelectorAll("th, [aria-label]")].map((one) => one.getAttribute("aria-label") ?? one.textContent),
+        );
     assert.ok(names.includes("lithium acetate: soluble") && names.includes("aluminum"), names.join("; "));
-    assert.deepEqual(names.filter((one) => /ethanoate|aluminium/.test(one)), []);
+    assert.deepEqual(
+        names.filter((one) => /ethanoate|aluminium/.test(one)),
+        [],
+    );
     await leave(page);
 });
 
@@ -401,7 +419,11 @@ test("a browser that cannot unpack the module by itself does it by script", asyn
 
 test("a number with a power of ten is shown as it is printed", async () => {
     const page = await openPage(browser, "#practice/4821/3/titration");
-    for (const [typed, shown] of [["3.42e-2", "3.42 × 10−2"], ["1.3e+2", "1.3 × 102"], [" 3,4x10^-5 mol/L", "3,4 × 10−5 mol/L"]]) {
+    for (const [typed, shown] of [
+        ["3.42e-2", "3.42 × 10−2"],
+        ["1.3e+2", "1.3 × 102"],
+        [" 3,4x10^-5 mol/L", "3,4 × 10−5 mol/L"],
+    ]) {
         await type(page, typed);
         const seen = await page.locator(".preview").evaluate((preview) => {
             const copy = preview.cloneNode(true);
@@ -454,7 +476,10 @@ for (const kind of weighed) {
         });
         const { ask, given } = lesson.exercise(4821, number, kind);
         const formula = ask.quantity === "M" ? ask.of : given.find((one) => one.quantity === "M").of;
-        const symbols = [...formula].filter((sign) => /[A-Za-z]/.test(sign)).join("").split(/(?=[A-Z])/);
+        const symbols = [...formula]
+            .filter((sign) => /[A-Za-z]/.test(sign))
+            .join("")
+            .split(/(?=[A-Z])/);
         const page = await openPage(browser, `#practice/4821/${number}/${kind}`);
         const line = page.locator(".prompt + .masses");
         const seen = (await line.locator("[aria-hidden]").innerText()).replace(/\s/g, " ");
@@ -511,11 +536,25 @@ for (const { kind, levels } of (await openLesson()).kinds()) {
 
 test("the field is as wide as answers of its form are, whatever the answer, with its unit beside it", async () => {
     const widths = new Map();
-    for (const [kind, numbers] of [["titration:3", [1, 2, 3]], ["molar-mass:2", [1, 2]], ["dilution:3", [1, 2]], ["compound-formula:2", [1, 2, 3]], ["ion-formula:2", [1, 2]], ["solubility:3", [1, 2]], ["neutralisation:2", [1, 2]]]) {
+    for (const [kind, numbers] of [
+        ["titration:3", [1, 2, 3]],
+        ["molar-mass:2", [1, 2]],
+        ["dilution:3", [1, 2]],
+        ["compound-formula:2", [1, 2, 3]],
+        ["ion-formula:2", [1, 2]],
+        ["solubility:3", [1, 2]],
+        ["neutralisation:2", [1, 2]],
+    ]) {
         for (const number of numbers) {
             const page = await openPage(browser, `#practice/4821/${number}/${kind}`);
             const { form, unit } = lesson.exercise(4821, number, kind).ask;
-            const field = await page.locator("#answer").evaluate((one) => ({ ...one.getBoundingClientRect().toJSON(), em: parseFloat(getComputedStyle(one).fontSize), room: one.closest("form").clientWidth }));
+            const field = await page
+                .locator("#answer")
+                .evaluate((one) => ({
+                    ...one.getBoundingClientRect().toJSON(),
+                    em: parseFloat(getComputedStyle(one).fontSize),
+                    room: one.closest("form").clientWidth,
+                }));
             widths.set(form, [...(widths.get(form) ?? []), form === "equation" ? field.width / field.room : field.width / field.em]);
             if (unit !== undefined) {
                 const beside = await page.locator(".asked").boundingBox();
@@ -524,8 +563,17 @@ test("the field is as wide as answers of its form are, whatever the answer, with
             await leave(page);
         }
     }
-    for (const [form, [least, most]] of Object.entries({ number: [8, 10], formula: [10, 12], ion: [10, 12], solubility: [10, 12], equation: [0.99, 1.01] })) {
+    for (const [form, [least, most]] of Object.entries({
+        number: [8, 10],
+        formula: [10, 12],
+        ion: [10, 12],
+        solubility: [10, 12],
+        equation: [0.99, 1.01],
+    })) {
         const found = widths.get(form);
-        assert.ok(found.every((width) => width >= least && width <= most), `${form}: ${found}`);
+        assert.ok(
+            found.every((width) => width >= least && width <= most),
+            `${form}: ${found}`,
+        );
     }
 });

@@ -8,7 +8,11 @@ const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
-const seen = (page, selector) => page.locator(selector).first().evaluate((one) => [...one.querySelectorAll("[aria-hidden]")].map((part) => part.textContent).join("") || one.textContent);
+const seen = (page, selector) =>
+    page
+        .locator(selector)
+        .first()
+        .evaluate((one) => [...one.querySelectorAll("[aria-hidden]")].map((part) => part.textContent).join("") || one.textContent);
 
 const promptOf = (exercise) => plain(exercise.prompt.map((span) => Object.values(span)[0]).join(""));
 
@@ -16,7 +20,11 @@ test("Practise this sheet gives the same exercises in the same order as a set, w
     const page = await openPage(browser, "#sheet/4821/ion-formula@7,compound-formula,ion-formula@3?v=1");
     await page.locator(".size:not(:empty)").waitFor();
     await page.getByRole("link", { name: "Practise this sheet" }).click();
-    const places = [["ion-formula", 7], ["compound-formula", 1], ["ion-formula", 3]];
+    const places = [
+        ["ion-formula", 7],
+        ["compound-formula", 1],
+        ["ion-formula", 3],
+    ];
     for (const [at, [kind, number]] of places.entries()) {
         await page.getByRole("heading", { name: `Exercise ${at + 1} of 3` }).waitFor();
         assert.equal(new URL(page.url()).hash, `#practice/4821/${at + 1}/1*ion-formula@7,1*compound-formula,1*ion-formula@3?set=3&v=1`);
@@ -40,7 +48,9 @@ test("the link is of the chosen version, and follows what changes on the sheet",
     await page.getByLabel("Version to save or practise").selectOption("1");
     assert.equal(await link.getAttribute("href"), "#practice/1/1/2*ion-formula?set=2&v=1");
     await page.getByRole("button", { name: "Down with exercise 1" }).press("Enter");
-    await page.waitForFunction(() => document.querySelector(".practise a").hash === "#practice/1/1/1*ion-formula@2,1*ion-formula?set=2&v=1");
+    await page.waitForFunction(
+        () => document.querySelector(".practise a").hash === "#practice/1/1/1*ion-formula@2,1*ion-formula?set=2&v=1",
+    );
     await leave(page);
 });
 

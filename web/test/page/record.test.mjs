@@ -35,7 +35,13 @@ test("each result has its column: the first try, a later one, with help, shown",
     await next(page, 4);
     await solve(page, 4);
     await panel(page, "My record").click();
-    assert.deepEqual(await page.locator(".record thead th").allInnerTexts(), ["Kind", "At the first try", "At a later try", "With help", "Shown"]);
+    assert.deepEqual(await page.locator(".record thead th").allInnerTexts(), [
+        "Kind",
+        "At the first try",
+        "At a later try",
+        "With help",
+        "Shown",
+    ]);
     assert.deepEqual(await row(page).locator("td").allInnerTexts(), ["1", "1", "1", "1"]);
     await leave(page);
 });

@@ -18,7 +18,9 @@ let page;
 let native;
 before(async () => {
     assert.ok(process.env.NATIVE, "NATIVE is to be the path of print_json");
-    native = execFileSync(process.env.NATIVE, ["exercises", all, paper, count], { encoding: "utf8", maxBuffer: 1 << 28 }).trimEnd().split("\n");
+    native = execFileSync(process.env.NATIVE, ["exercises", all, paper, count], { encoding: "utf8", maxBuffer: 1 << 28 })
+        .trimEnd()
+        .split("\n");
     browser = await openChromium();
     page = await openPage(browser, "", { before: listen });
 });

@@ -40,9 +40,18 @@ async function work(page) {
     await page.locator(".mark").waitFor();
 }
 
-const worked = [["1", "at the first try"], ["3", "at a later try"], ["1", "with help"], ["0", "shown"], ["1", "not solved"], ["0", "not solved"], ["0", "not solved"]];
+const worked = [
+    ["1", "at the first try"],
+    ["3", "at a later try"],
+    ["1", "with help"],
+    ["0", "shown"],
+    ["1", "not solved"],
+    ["0", "not solved"],
+    ["0", "not solved"],
+];
 
-const rowsOf = (page) => page.locator(".summary tbody tr").evaluateAll((rows) => rows.map((row) => [...row.cells].slice(2).map((cell) => cell.textContent)));
+const rowsOf = (page) =>
+    page.locator(".summary tbody tr").evaluateAll((rows) => rows.map((row) => [...row.cells].slice(2).map((cell) => cell.textContent)));
 const fact = (page, name) => page.locator("dt", { hasText: name }).locator("xpath=following-sibling::dd[1]").innerText();
 
 // In tabs of a window of its own, each with a session of its own.
@@ -53,7 +62,10 @@ async function inTabs(run) {
         pages.push(await openPage(browser, hash, { context }));
         return pages.at(-1);
     });
-    assert.deepEqual(pages.flatMap((page) => page.problems), []);
+    assert.deepEqual(
+        pages.flatMap((page) => page.problems),
+        [],
+    );
     await context.close();
 }
 
@@ -102,7 +114,10 @@ test("two tabs with one set lose none of each other's results, and keep apart wh
         assert.equal(await second.locator("#answer").inputValue(), "12");
         await answerWith(second, keyOf(1), "correct");
         await go(second, summary);
-        assert.deepEqual((await rowsOf(second)).slice(0, 2), [["2", "at a later try"], ["1", "at the first try"]]);
+        assert.deepEqual((await rowsOf(second)).slice(0, 2), [
+            ["2", "at a later try"],
+            ["1", "at the first try"],
+        ]);
     });
 });
 
@@ -187,7 +202,10 @@ function refuseToWrite() {
     };
 }
 
-for (const [what, refuse] of [["refused", refuseStorage], ["full", refuseToWrite]]) {
+for (const [what, refuse] of [
+    ["refused", refuseStorage],
+    ["full", refuseToWrite],
+]) {
     test(`where storage is ${what} the page keeps a set for as long as it is open`, async () => {
         const page = await openPage(browser, at(1), { before: refuse });
         await work(page);
@@ -202,7 +220,12 @@ for (const [what, refuse] of [["refused", refuseStorage], ["full", refuseToWrite
 
 test("a set that is damaged in the store is read as far as it can be", async () => {
     const page = await openPage(browser, "#tables");
-    const kept = { begun: "<b>", touched: -1, worked: {}, exercises: { 1: { result: "first" }, 2: "later", 3: { failed: 2, marked: "<img src=x>" }, 9: { result: "first" } } };
+    const kept = {
+        begun: "<b>",
+        touched: -1,
+        worked: {},
+        exercises: { 1: { result: "first" }, 2: "later", 3: { failed: 2, marked: "<img src=x>" }, 9: { result: "first" } },
+    };
     await page.evaluate(([hash, text]) => localStorage.setItem(`chempractice.set.${hash}`, text), [at(1), JSON.stringify(kept)]);
     await go(page, summary);
     const none = ["0", "not solved"];
@@ -218,10 +241,20 @@ test("the summary tells when the set was begun and for how long it was worked at
     const context = await browser.newContext({ locale: "de-DE", timezoneId: "UTC" });
     const page = await openPage(browser, "#tables", { context });
     const begun = Date.UTC(2026, 10, 22, 8, 40);
-    const kept = { begun, touched: begun + 100 * 60_000, worked: 72.4 * 60_000, exercises: { 2: { failed: 1, marked: "1", steps: 0, result: "later" } } };
+    const kept = {
+        begun,
+        touched: begun + 100 * 60_000,
+        worked: 72.4 * 60_000,
+        exercises: { 2: { failed: 1, marked: "1", steps: 0, result: "later" } },
+    };
     await page.evaluate(([hash, text]) => localStorage.setItem(`chempractice.set.${hash}`, text), [at(1), JSON.stringify(kept)]);
     await go(page, summary);
-    const expected = { Begun: "22 November 2026, 08:40", "Last worked at": "22 November 2026, 10:20", "Time worked": "1 h 12 min", Total: "1 of 7 solved, none at the first try" };
+    const expected = {
+        Begun: "22 November 2026, 08:40",
+        "Last worked at": "22 November 2026, 10:20",
+        "Time worked": "1 h 12 min",
+        Total: "1 of 7 solved, none at the first try",
+    };
     await page.emulateMedia({ media: "print" });
     for (const [name, text] of Object.entries(expected)) {
         assert.equal(await fact(page, name), text);
@@ -231,7 +264,12 @@ test("the summary tells when the set was begun and for how long it was worked at
     const download = page.waitForEvent("download");
     await press(page, "Save");
     const saved = (await readFile(await (await download).path(), "utf8")).replaceAll("\u00A0", " ");
-    for (const line of [...Object.entries(expected).map((entry) => entry.join(": ")), "2. Molar mass, level 1: at a later try, 2 tries", "3. Molar mass, level 1: not solved, no try", summary]) {
+    for (const line of [
+        ...Object.entries(expected).map((entry) => entry.join(": ")),
+        "2. Molar mass, level 1: at a later try, 2 tries",
+        "3. Molar mass, level 1: not solved, no try",
+        summary,
+    ]) {
         assert.ok(saved.split("\n").includes(line), `${line} in\n${saved}`);
     }
     assert.deepEqual(page.problems, []);

@@ -9,7 +9,8 @@ const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
-const everyKind = "3*titration:3,2*titration:1,3*dilution:3,2*dilution:1,3*concentration:3,2*concentration:1,3*molar-mass:3,3*neutralisation:3,3*compound-formula:3,3*ion-formula:3,2*solubility:1,3*solubility:3";
+const everyKind =
+    "3*titration:3,2*titration:1,3*dilution:3,2*dilution:1,3*concentration:3,2*concentration:1,3*molar-mass:3,3*neutralisation:3,3*compound-formula:3,3*ion-formula:3,2*solubility:1,3*solubility:3";
 
 const sheets = {
     "a few exercises": "#sheet/4821/2*concentration:1,2*dilution:1,2*titration?v=1",
@@ -44,15 +45,23 @@ const textOf = (lines) => lines.map((line) => line.text).join("\n");
 
 // The entries of an address as its exercises, in order.
 function exercisesOf(hash, paper) {
-    return hash.split("/")[2].split("?")[0].split(",").flatMap((entry) => {
-        const [count, kind] = entry.includes("*") ? entry.split("*") : [1, entry];
-        return Array.from({ length: Number(count) }, (_, at) => lesson.exercise(paper, at + 1, kind));
-    });
+    return hash
+        .split("/")[2]
+        .split("?")[0]
+        .split(",")
+        .flatMap((entry) => {
+            const [count, kind] = entry.includes("*") ? entry.split("*") : [1, entry];
+            return Array.from({ length: Number(count) }, (_, at) => lesson.exercise(paper, at + 1, kind));
+        });
 }
 
 // "Al2(SO4)3", "SO42−", "2HCl+…→…": as it is on paper, blanks aside.
 function answerOnPaper({ key }) {
-    return plain(key.text).replace("->", "→").replaceAll("^", "").replace(/-/g, "−").replace(/\./g, (dot, at, all) => (/\d/.test(all[at - 1] ?? "") && /\d/.test(all[at + 1] ?? "") ? dot : "·"));
+    return plain(key.text)
+        .replace("->", "→")
+        .replaceAll("^", "")
+        .replace(/-/g, "−")
+        .replace(/\./g, (dot, at, all) => (/\d/.test(all[at - 1] ?? "") && /\d/.test(all[at + 1] ?? "") ? dot : "·"));
 }
 
 // Each sheet once: what the preview shows, and what came out of the printer.
@@ -68,7 +77,9 @@ async function make(hash) {
     const page = await openSheet(hash);
     const preview = await previewTexts(page);
     const size = await page.locator(".size").textContent();
-    const overfull = await page.locator(".leaf").evaluateAll((leaves) => leaves.filter((leaf) => leaf.scrollHeight > leaf.clientHeight).length);
+    const overfull = await page
+        .locator(".leaf")
+        .evaluateAll((leaves) => leaves.filter((leaf) => leaf.scrollHeight > leaf.clientHeight).length);
     const pdf = await printed(page);
     await leave(page);
     return { preview, size, overfull, pdf, pages: pagesOf(pdf) };
@@ -100,7 +111,11 @@ function sideOf(lines) {
 
 // The lines of each version's key, without its headings.
 function keyLinesOf(hash, pages) {
-    const lines = pages.filter((page) => sideOf(page) === "key").flatMap((page) => page.slice(1)).map((line) => line.text).filter((line) => line.length < 5 || !titleOf(hash).includes(line));
+    const lines = pages
+        .filter((page) => sideOf(page) === "key")
+        .flatMap((page) => page.slice(1))
+        .map((line) => line.text)
+        .filter((line) => line.length < 5 || !titleOf(hash).includes(line));
     return labelsOf(hash).single.map((label) => {
         const title = `Keyto${label.replace("Paper", "paper")}`;
         const from = lines.indexOf(title);
@@ -112,7 +127,10 @@ function keyLinesOf(hash, pages) {
 for (const [name, hash] of Object.entries(sheets)) {
     test(`${name}: what is printed is the preview, page by page`, async () => {
         const { preview, size, pages } = await sheet(hash);
-        assert.deepEqual(pages.map((lines) => letters(textOf(lines))), preview.map(letters));
+        assert.deepEqual(
+            pages.map((lines) => letters(textOf(lines))),
+            preview.map(letters),
+        );
         const blank = pages.filter((lines) => sideOf(lines) === "blank").length;
         const [, all, ofThem] = /, (\d+) pages?(?:, (\d+) of them blank)?$/.exec(size) ?? assert.fail(size);
         assert.deepEqual([Number(all), ofThem], [pages.length, blank === 0 ? undefined : String(blank)], size);
@@ -132,23 +150,35 @@ for (const [name, hash] of Object.entries(sheets)) {
         const { pages } = await sheet(hash);
         const { single, all } = labelsOf(hash);
         const found = pages.map(labelOf);
-        assert.deepEqual(found.filter((label) => label !== all && !single.includes(label)), []);
-        assert.deepEqual(single.filter((label) => !found.includes(all) && !found.includes(label)), []);
+        assert.deepEqual(
+            found.filter((label) => label !== all && !single.includes(label)),
+            [],
+        );
+        assert.deepEqual(
+            single.filter((label) => !found.includes(all) && !found.includes(label)),
+            [],
+        );
     });
 
-    test(`${name}: no answer is missing from the key, and its numbers are those of the sheet`, { skip: hash.includes("parts=sheet") }, async () => {
+    test(`${name}: no answer is missing from the key, and its numbers are those of the sheet`, {
+        skip: hash.includes("parts=sheet"),
+    }, async () => {
         const { pages } = await sheet(hash);
         papersOf(hash).forEach((paper, at) => {
             const lines = keyLinesOf(hash, pages)[at];
             let from = 0;
             exercisesOf(hash, paper).forEach((exercise, index) => {
                 // Not a quantity, which may begin a line as well: "2.279 × 10−3".
-                const begins = (number, behind) => lines.findIndex((line, row) => row >= behind && new RegExp(`^${number}\\.(?!\\d)|^${number}\\.\\d[A-Z]`).test(line));
+                const begins = (number, behind) =>
+                    lines.findIndex((line, row) => row >= behind && new RegExp(`^${number}\\.(?!\\d)|^${number}\\.\\d[A-Z]`).test(line));
                 from = begins(index + 1, from);
                 const to = begins(index + 2, from + 1);
                 const item = from < 0 ? [] : lines.slice(from, to < 0 ? undefined : to);
                 const answer = answerOnPaper(exercise);
-                assert.ok(item.some((line) => line.endsWith(answer)), `paper ${paper}, ${index + 1}: no ${answer} in ${item.join(" | ")}`);
+                assert.ok(
+                    item.some((line) => line.endsWith(answer)),
+                    `paper ${paper}, ${index + 1}: no ${answer} in ${item.join(" | ")}`,
+                );
             });
         });
     });
@@ -157,7 +187,13 @@ for (const [name, hash] of Object.entries(sheets)) {
         const { pages } = await sheet(hash);
         const kinds = pages.map(sideOf).filter((kind) => kind !== "blank");
         assert.deepEqual(kinds, [...kinds].sort().reverse());
-        assert.equal(pages.filter((lines) => sideOf(lines) === "sheet").flat().filter((line) => line.text.startsWith("Keyto")).length, 0);
+        assert.equal(
+            pages
+                .filter((lines) => sideOf(lines) === "sheet")
+                .flat()
+                .filter((line) => line.text.startsWith("Keyto")).length,
+            0,
+        );
         assert.equal(kinds.includes("key"), !hash.includes("parts=sheet"));
     });
 
@@ -173,7 +209,11 @@ for (const [name, hash] of Object.entries(sheets)) {
         const { pages } = await sheet(hash);
         const first = pages.flatMap((lines, at) => (/Page1of\d+$/.test(lines[0].text) ? [at + 1] : []));
         assert.ok(first.length > 0);
-        assert.deepEqual(first.filter((page) => page % 2 === 0), [], `of ${first}`);
+        assert.deepEqual(
+            first.filter((page) => page % 2 === 0),
+            [],
+            `of ${first}`,
+        );
         pages.forEach((lines, at) => {
             if (sideOf(lines) === "blank") {
                 assert.equal(lines[0].text, labelOf(pages[at - 1]), `page ${at + 1}`);
@@ -184,7 +224,10 @@ for (const [name, hash] of Object.entries(sheets)) {
     test(`${name}: the key has the title of the sheet`, { skip: hash.includes("parts=sheet") || hash.includes("title=&") }, async () => {
         const { pages } = await sheet(hash);
         const key = pages.find((lines) => sideOf(lines) === "key");
-        const above = key.slice(1, key.findIndex((line) => line.text.startsWith("Keyto")));
+        const above = key.slice(
+            1,
+            key.findIndex((line) => line.text.startsWith("Keyto")),
+        );
         assert.equal(above.map((line) => line.text).join(""), titleOf(hash));
     });
 
@@ -210,10 +253,15 @@ test("the printed number is the one that made the sheet, whatever was chosen bef
     await change(page, () => page.getByRole("button", { name: "New paper" }).click());
     const paper = Number(await page.getByLabel("Paper", { exact: true }).inputValue());
     assert.match(page.url(), new RegExp(`#sheet/${paper}/`));
-    const lines = pagesOf(await printed(page)).flat().map((line) => line.text);
+    const lines = pagesOf(await printed(page))
+        .flat()
+        .map((line) => line.text);
     assert.ok(lines.includes(`Paper${paper}Page1of1`));
     for (const [at, exercise] of exercisesOf("#sheet/1/5*molar-mass", paper).entries()) {
-        assert.ok(lines.some((line) => line.startsWith(`${at + 1}.`) && line.endsWith(answerOnPaper(exercise))), answerOnPaper(exercise));
+        assert.ok(
+            lines.some((line) => line.startsWith(`${at + 1}.`) && line.endsWith(answerOnPaper(exercise))),
+            answerOnPaper(exercise),
+        );
     }
     await leave(page);
 });
@@ -229,7 +277,10 @@ test("the page-break option does something", async () => {
 
 test("keys that follow each other on a page have the title once", async () => {
     const { pages } = await sheet("#sheet/4821/5*titration?versions=3&v=1");
-    const lines = pages.filter((page) => sideOf(page) === "key").flat().map((line) => line.text);
+    const lines = pages
+        .filter((page) => sideOf(page) === "key")
+        .flat()
+        .map((line) => line.text);
     assert.equal(lines.filter((line) => line === "Chemicalcalculations").length, 1);
     assert.equal(lines.filter((line) => line.startsWith("Keyto")).length, 3);
 });
@@ -279,8 +330,11 @@ const effects = {
     "title=": ({ pages }) => pages[0][1].text === "NameDate",
     "room=none": ({ pages }, usual) => countOf("sheet", pages) < countOf("sheet", usual.pages),
     "room=much": ({ pages }, usual) => countOf("sheet", pages) > countOf("sheet", usual.pages),
-    "drawings=1": ({ pages }, usual) => textOf(pages.flat()).includes("conicalflask:") && !textOf(usual.pages.flat()).includes("conicalflask:"),
-    "masses=table": ({ pages }, usual) => textOf(pages.flat()).includes("Relativeatomicmasses:usetheperiodictable.") && textOf(usual.pages.flat()).includes("Relativeatomicmasses:H1.008;"),
+    "drawings=1": ({ pages }, usual) =>
+        textOf(pages.flat()).includes("conicalflask:") && !textOf(usual.pages.flat()).includes("conicalflask:"),
+    "masses=table": ({ pages }, usual) =>
+        textOf(pages.flat()).includes("Relativeatomicmasses:usetheperiodictable.") &&
+        textOf(usual.pages.flat()).includes("Relativeatomicmasses:H1.008;"),
     "leaf=0": ({ pages }, usual) => countOf("blank", pages) === 0 && countOf("blank", usual.pages) === 1,
     "parts=sheet": ({ pages }, usual) => countOf("key", pages) === 0 && countOf("sheet", pages) === countOf("sheet", usual.pages),
     "parts=key": ({ pages }) => pages.length === 1,
@@ -296,7 +350,9 @@ for (const [option, hasEffect] of Object.entries(effects)) {
 
 // As it may stand in a mail of years ago.
 test("a sheet opened from an old address is the same sheet", async () => {
-    const page = await openSheet("#sheet/4821/2*molar-mass:3,2*concentration:3,dilution,titration:3,neutralisation,ion-formula,solubility:3?versions=2&key=working&v=1");
+    const page = await openSheet(
+        "#sheet/4821/2*molar-mass:3,2*concentration:3,dilution,titration:3,neutralisation,ion-formula,solubility:3?versions=2&key=working&v=1",
+    );
     await compareWithApproved("sheet.txt", `${await transcript(page)}\n`);
     await leave(page);
 });
@@ -304,10 +360,15 @@ test("a sheet opened from an old address is the same sheet", async () => {
 // Its lines as they are seen; not where pages end, which depends on the fonts of the system.
 function transcript(page) {
     return page.locator(".leaf").evaluateAll((leaves) => {
-        const seen = (one) => [...one.childNodes].map((node) => (node.nodeType === Node.TEXT_NODE ? node.data : node.matches(".spoken") ? "" : seen(node))).join("");
+        const seen = (one) =>
+            [...one.childNodes]
+                .map((node) => (node.nodeType === Node.TEXT_NODE ? node.data : node.matches(".spoken") ? "" : seen(node)))
+                .join("");
         const numberOf = (line) => {
             const item = line.closest("li");
-            return item === null || item.querySelector("p") !== line ? "" : `${item.parentElement.start + [...item.parentElement.children].indexOf(item)}. `;
+            return item === null || item.querySelector("p") !== line
+                ? ""
+                : `${item.parentElement.start + [...item.parentElement.children].indexOf(item)}. `;
         };
         const lines = leaves.flatMap((leaf) => [...leaf.querySelectorAll("h2, p:not(.running, .blanks, .again)")]);
         return lines.map((line) => numberOf(line) + seen(line)).join("\n");
@@ -329,15 +390,22 @@ test("from a dark screen it prints black on white, the same as from a light one"
 
 test("the atomic masses that are needed stand on the sheet, and no line where none is", async () => {
     const { pages } = await sheet("#sheet/4821/2*molar-mass:3,concentration:3?v=1");
-    assert.equal(pages[0].find((line) => line.text.startsWith("Relative")).text, "Relativeatomicmasses:H1.008;O16.00;Mg24.31;S32.06;Cl35.45;Co58.93;Ba137.3");
+    assert.equal(
+        pages[0].find((line) => line.text.startsWith("Relative")).text,
+        "Relativeatomicmasses:H1.008;O16.00;Mg24.31;S32.06;Cl35.45;Co58.93;Ba137.3",
+    );
     const none = await sheet("#sheet/4821/2*concentration:1,titration?v=1");
     assert.doesNotMatch(textOf(none.pages.flat()), /Relative/);
 });
 
 test("units, the decimal sign and names are the reader's, on the sheet and in its key", async () => {
-    const before = () => localStorage.setItem("chempractice.settings", JSON.stringify({ volume: "cm3", per: "power", decimal: ",", names: "american" }));
+    const before = () =>
+        localStorage.setItem("chempractice.settings", JSON.stringify({ volume: "cm3", per: "power", decimal: ",", names: "american" }));
     const page = await openSheet("#sheet/2/4*titration,5*concentration:3,6*ion-formula,10*compound-formula?key=working&v=1", { before });
-    const text = pagesOf(await printed(page)).flat().map((line) => line.text.replace(/^\d+\./, "")).join("\n");
+    const text = pagesOf(await printed(page))
+        .flat()
+        .map((line) => line.text.replace(/^\d+\./, ""))
+        .join("\n");
     assert.match(text, /\d,\d+moldm−3/);
     assert.match(text, /\d,\dcm3/);
     assert.match(text, /H1,008;/);
@@ -362,7 +430,9 @@ test("thirty versions of twenty exercises are complete", async () => {
         const lines = keyLinesOf(hash, pages)[at];
         const expected = exercisesOf(hash, paper).map((exercise, index) => [`${index + 1}.`, answerOnPaper(exercise)]);
         assert.equal(lines.length, 20, `paper ${paper}`);
-        lines.forEach((line, index) => assert.ok(line.startsWith(expected[index][0]) && line.endsWith(expected[index][1]), `${line}: ${expected[index]}`));
+        lines.forEach((line, index) =>
+            assert.ok(line.startsWith(expected[index][0]) && line.endsWith(expected[index][1]), `${line}: ${expected[index]}`),
+        );
     });
 });
 
@@ -370,13 +440,15 @@ test("a sheet that is printed before it is made is whole", async () => {
     const page = await openSheet("#sheet/1/titration?v=1");
     const pages = await page.evaluate(() => {
         location.hash = "#sheet/1/20*titration?versions=30&v=1";
-        return new Promise((done) => window.addEventListener("hashchange", () => {
-            const atFirst = document.querySelectorAll(".leaf:not(.measuring)").length;
-            window.dispatchEvent(new Event("beforeprint"));
-            const all = [...document.querySelectorAll(".leaf")];
-            const blank = all.filter((leaf) => leaf.textContent.endsWith("This side is blank."));
-            done([atFirst, all.length, document.querySelector(".size").textContent, blank.length]);
-        }));
+        return new Promise((done) =>
+            window.addEventListener("hashchange", () => {
+                const atFirst = document.querySelectorAll(".leaf:not(.measuring)").length;
+                window.dispatchEvent(new Event("beforeprint"));
+                const all = [...document.querySelectorAll(".leaf")];
+                const blank = all.filter((leaf) => leaf.textContent.endsWith("This side is blank."));
+                done([atFirst, all.length, document.querySelector(".size").textContent, blank.length]);
+            }),
+        );
     });
     assert.ok(pages[0] < pages[1], "made at once, so this tests nothing");
     assert.equal(pages[2], `20 exercises, 30 versions, ${pages[1]} pages${pages[3] === 0 ? "" : `, ${pages[3]} of them blank`}`);
@@ -455,9 +527,14 @@ test("each thing that is wrong is told at its own field, and announced once", as
     const page = await openSheet("#sheet/4821/2*titration?v=1");
     await page.evaluate(() => {
         window.said = [];
-        new MutationObserver(() => window.said.push(document.getElementById("announcement").textContent)).observe(document.getElementById("announcement"), { childList: true });
+        new MutationObserver(() => window.said.push(document.getElementById("announcement").textContent)).observe(
+            document.getElementById("announcement"),
+            { childList: true },
+        );
     });
-    const [titration, dilution, versions] = [/^Acid-base titration, level 2/, /^Dilution, level 1/, "Versions"].map((name) => page.getByRole("spinbutton", { name }));
+    const [titration, dilution, versions] = [/^Acid-base titration, level 2/, /^Dilution, level 1/, "Versions"].map((name) =>
+        page.getByRole("spinbutton", { name }),
+    );
     await titration.fill("1.5");
     await page.locator(".problem").waitFor();
     await dilution.fill("-1");
@@ -466,7 +543,10 @@ test("each thing that is wrong is told at its own field, and announced once", as
     await page.waitForTimeout(100);
     const [count, ofVersions] = ["Each count is a whole number up to 1000.", "Versions are a number from 1 to 30."];
     assert.deepEqual([await told(titration), await told(dilution), await told(versions)], [count, count, ofVersions]);
-    assert.deepEqual(await page.evaluate(() => window.said.filter((text) => text !== "")), [count, `Dilution, level 1: ${count} ${ofVersions}`]);
+    assert.deepEqual(await page.evaluate(() => window.said.filter((text) => text !== "")), [
+        count,
+        `Dilution, level 1: ${count} ${ofVersions}`,
+    ]);
     await leave(page);
 });
 
@@ -475,7 +555,10 @@ test("printing while something is wrong prints what is shown, and the files are 
     const before = await previewTexts(page);
     await page.getByLabel("Versions", { exact: true }).fill("31");
     await page.locator(".stale:visible").waitFor();
-    assert.deepEqual(pagesOf(await printed(page)).map((lines) => letters(textOf(lines))), before.map(letters));
+    assert.deepEqual(
+        pagesOf(await printed(page)).map((lines) => letters(textOf(lines))),
+        before.map(letters),
+    );
     const [download] = await Promise.all([page.waitForEvent("download"), page.getByRole("button", { name: "Anki cards" }).click()]);
     assert.equal(await readFile(await download.path(), "utf8"), lesson.exportText(4821, "2*ion-formula", "anki"));
     await leave(page);
@@ -496,7 +579,13 @@ test("what each level of each kind asks for is read without going into a field",
     const page = await openSheet("#sheet/4821/2*titration?v=1");
     for (const { title, levels } of lesson.kinds()) {
         for (const [at, level] of levels.entries()) {
-            assert.ok(await page.locator(".meanings", { hasText: `${at + 1}\u00A0${level}` }).first().isVisible(), `${title}: ${level}`);
+            assert.ok(
+                await page
+                    .locator(".meanings", { hasText: `${at + 1}\u00A0${level}` })
+                    .first()
+                    .isVisible(),
+                `${title}: ${level}`,
+            );
         }
     }
     await leave(page);
@@ -505,7 +594,11 @@ test("what each level of each kind asks for is read without going into a field",
 for (const width of [1100, 1280, 1920]) {
     test(`at ${width} pixels the pages stand beside the form, and stay there while it is filled in`, async () => {
         const page = await openSheet("#sheet/4821/2*titration?v=1", { viewport: { width, height: 800 }, reducedMotion: "reduce" });
-        const box = (selector) => page.locator(selector).first().evaluate((one) => one.getBoundingClientRect().toJSON());
+        const box = (selector) =>
+            page
+                .locator(selector)
+                .first()
+                .evaluate((one) => one.getBoundingClientRect().toJSON());
         const [form, leaf] = [await box(".sheets"), await box(".leaf")];
         assert.ok(leaf.left >= form.right && leaf.right <= width && leaf.top < 400, JSON.stringify([form, leaf]));
         await page.getByLabel("Page size").focus();
@@ -563,14 +656,19 @@ test("cards of calculations are no file but the library's sentence, which goes w
 });
 
 test("Print prints", async () => {
-    const page = await openSheet("#sheet/4821/2*titration?v=1", { before: () => (window.print = () => (window.printed = document.querySelectorAll(".leaf").length)) });
+    const page = await openSheet("#sheet/4821/2*titration?v=1", {
+        before: () => (window.print = () => (window.printed = document.querySelectorAll(".leaf").length)),
+    });
     await page.getByRole("button", { name: "Print" }).click();
     assert.equal(await page.evaluate(() => window.printed), 3);
     await leave(page);
 });
 
 test("the last of the form is reached by turning the wheel over it", async () => {
-    for (const [width, height] of [[1366, 768], [1920, 1080]]) {
+    for (const [width, height] of [
+        [1366, 768],
+        [1920, 1080],
+    ]) {
         const page = await openSheet("#sheet/4821/20*titration?v=1", { viewport: { width, height }, reducedMotion: "reduce" });
         const last = page.locator("summary", { hasText: "How it is written" });
         await page.mouse.move(width / 4, height / 2);

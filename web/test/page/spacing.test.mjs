@@ -9,7 +9,8 @@ after(() => browser.close());
 
 // Controls with less than 4 pixels between them and what stands above them.
 function touching() {
-    const isSeen = (one) => one.checkVisibility() && one.closest(".spoken, .leaf, .solubility, .overview") === null && one.getClientRects().length > 0;
+    const isSeen = (one) =>
+        one.checkVisibility() && one.closest(".spoken, .leaf, .solubility, .overview") === null && one.getClientRects().length > 0;
     const seen = (selector) => [...document.querySelectorAll(`main ${selector}`)].filter(isSeen);
     const others = ["p", "table", "ul", "ol", "dl", "button", "input", "select", "summary", "h1", "h2"].flatMap(seen);
     const gap = (one, other) => {
@@ -17,9 +18,13 @@ function touching() {
         const isAbove = above.bottom < below.top + below.height / 2 && above.left < below.right && above.right > below.left;
         return isAbove ? below.top - above.bottom : Infinity;
     };
-    return ["button", "input[type=text]", "select"].flatMap(seen).flatMap((one) =>
-        others.filter((other) => other !== one && !one.contains(other) && gap(one, other) < 4)
-            .map((other) => `${one.outerHTML.slice(0, 60)} below ${other.outerHTML.slice(0, 60)}: ${gap(one, other)}`));
+    return ["button", "input[type=text]", "select"]
+        .flatMap(seen)
+        .flatMap((one) =>
+            others
+                .filter((other) => other !== one && !one.contains(other) && gap(one, other) < 4)
+                .map((other) => `${one.outerHTML.slice(0, 60)} below ${other.outerHTML.slice(0, 60)}: ${gap(one, other)}`),
+        );
 }
 
 for (const [name, hash, reach] of states.filter(([name]) => /record|sets|link|summary|side road|choice|verdict/.test(name))) {
@@ -61,12 +66,14 @@ test("what leads aside begins where the lines begin, in a row of its own", async
 
 test("the signs of charges stand in the middle of their keys", async () => {
     const page = await openPage(browser, "#practice/4821/3/ion-formula:3");
-    const off = await page.locator(".keys button").evaluateAll((keys) => keys.map((key) => {
-        const range = document.createRange();
-        range.selectNodeContents(key.querySelector("sup") ?? key);
-        const [text, whole] = [range.getBoundingClientRect(), key.getBoundingClientRect()];
-        return Math.abs((text.top + text.bottom - whole.top - whole.bottom) / 2);
-    }));
+    const off = await page.locator(".keys button").evaluateAll((keys) =>
+        keys.map((key) => {
+            const range = document.createRange();
+            range.selectNodeContents(key.querySelector("sup") ?? key);
+            const [text, whole] = [range.getBoundingClientRect(), key.getBoundingClientRect()];
+            return Math.abs((text.top + text.bottom - whole.top - whole.bottom) / 2);
+        }),
+    );
     assert.ok(off.length === 6 && off.every((distance) => distance <= 2), off.join(", "));
     await leave(page);
 });
@@ -75,19 +82,22 @@ test("no date of a set that is kept is broken", async () => {
     const [, hash, reach] = states.find(([name]) => name === "the sets on the device");
     const page = await openPage(browser, hash, { viewport: { width: 360, height: 800 } });
     await reach(page);
-    const lines = await page.locator(".kept-sets .hint").first().evaluate((hint) => {
-        const walker = document.createTreeWalker(hint, NodeFilter.SHOW_TEXT);
-        while (walker.nextNode()) {
-            const found = /\d+ \w+ \d{4}, \d\d:\d\d/.exec(walker.currentNode.data);
-            if (found !== null) {
-                const range = document.createRange();
-                range.setStart(walker.currentNode, found.index);
-                range.setEnd(walker.currentNode, found.index + found[0].length);
-                return range.getClientRects().length;
+    const lines = await page
+        .locator(".kept-sets .hint")
+        .first()
+        .evaluate((hint) => {
+            const walker = document.createTreeWalker(hint, NodeFilter.SHOW_TEXT);
+            while (walker.nextNode()) {
+                const found = /\d+ \w+ \d{4}, \d\d:\d\d/.exec(walker.currentNode.data);
+                if (found !== null) {
+                    const range = document.createRange();
+                    range.setStart(walker.currentNode, found.index);
+                    range.setEnd(walker.currentNode, found.index + found[0].length);
+                    return range.getClientRects().length;
+                }
             }
-        }
-        return 0;
-    });
+            return 0;
+        });
     assert.equal(lines, 1);
     await leave(page);
 });
@@ -124,11 +134,13 @@ test("the name of each fact of a summary is one line, and the fact begins beside
     for (const width of [360, 768]) {
         const page = await openPage(browser, hash, { viewport: { width, height: 800 } });
         await reach(page);
-        const places = await page.locator(".facts :is(dt, dd)").evaluateAll((all) => all.map((one) => {
-            const range = document.createRange();
-            range.selectNodeContents(one);
-            return { lines: range.getClientRects().length, top: one.getBoundingClientRect().top };
-        }));
+        const places = await page.locator(".facts :is(dt, dd)").evaluateAll((all) =>
+            all.map((one) => {
+                const range = document.createRange();
+                range.selectNodeContents(one);
+                return { lines: range.getClientRects().length, top: one.getBoundingClientRect().top };
+            }),
+        );
         for (let at = 0; at < places.length; at += 2) {
             assert.equal(places[at].lines, 1, `name ${at / 2}, ${width} pixels wide`);
             assert.ok(Math.abs(places[at].top - places[at + 1].top) < 4, `fact ${at / 2}, ${width} pixels wide`);
@@ -161,7 +173,9 @@ for (const name of ["the verdict correct", "the solution of dilution:1"]) {
         const page = await openPage(browser, hash, { viewport: { width: 360, height: 800 } });
         await reach(page);
         // Both at once, since the solution may still be scrolled into view.
-        const [next, aside] = await page.locator(".go-on button").evaluateAll((all) => all.map((one) => one.getBoundingClientRect().toJSON()));
+        const [next, aside] = await page
+            .locator(".go-on button")
+            .evaluateAll((all) => all.map((one) => one.getBoundingClientRect().toJSON()));
         assert.equal(next.top, aside.top);
         assert.ok(aside.left - next.right >= 12, `${aside.left} and ${next.right}`);
         await leave(page);

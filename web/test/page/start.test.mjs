@@ -81,7 +81,10 @@ test("who chooses first starts what is chosen", async () => {
     const page = await openPage(browser);
     await opener(page).click();
     await button(page, "None").click();
-    await page.getByRole("group", { name: "Dilution" }).getByRole("checkbox", { name: /^Level 3/ }).check();
+    await page
+        .getByRole("group", { name: "Dilution" })
+        .getByRole("checkbox", { name: /^Level 3/ })
+        .check();
     await page.getByLabel("How many").selectOption("5");
     await paperField(page).fill("12");
     await button(page, "Start").click();
@@ -97,8 +100,15 @@ test("a choice that was put away again is told, and started", async () => {
     await opener(page).click();
     await button(page, "Start").click();
     assert.equal(await opener(page).getAttribute("aria-expanded"), "true", "nothing is chosen, which is shown");
-    for (const [kind, level] of [["Molar mass", 1], ["Dilution", 2], ["Acid-base titration", 3]]) {
-        await page.getByRole("group", { name: kind }).getByRole("checkbox", { name: new RegExp(`^Level ${level}`) }).check();
+    for (const [kind, level] of [
+        ["Molar mass", 1],
+        ["Dilution", 2],
+        ["Acid-base titration", 3],
+    ]) {
+        await page
+            .getByRole("group", { name: kind })
+            .getByRole("checkbox", { name: new RegExp(`^Level ${level}`) })
+            .check();
     }
     await opener(page).click();
     assert.equal(await page.getByText("Starts with: Molar mass, level 1; Dilution, level 2; and 1 more.").isVisible(), true);
@@ -172,7 +182,10 @@ test("Practice leads to the start until something was practised; the page's name
 });
 
 test("the sheets and the tables are reached from the start", async () => {
-    for (const [link, heading] of [["sheets to print", "Sheets to print"], ["tables", "Tables"]]) {
+    for (const [link, heading] of [
+        ["sheets to print", "Sheets to print"],
+        ["tables", "Tables"],
+    ]) {
         const page = await openPage(browser);
         await page.getByRole("main").getByRole("link", { name: link, exact: true }).click();
         await page.getByRole("heading", { name: heading, exact: true }).waitFor();

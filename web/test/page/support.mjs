@@ -15,7 +15,13 @@ export function openChromium() {
     return chromium.launch({ executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium", args: quiet });
 }
 
-const usual = { viewport: { width: 800, height: 900 }, colorScheme: "light", reducedMotion: "no-preference", forcedColors: "none", media: null };
+const usual = {
+    viewport: { width: 800, height: 900 },
+    colorScheme: "light",
+    reducedMotion: "no-preference",
+    forcedColors: "none",
+    media: null,
+};
 const shared = new WeakMap();
 
 // An address of the page in a tab that remembers nothing, once it shows something. What goes wrong in it
@@ -54,11 +60,14 @@ async function openShared(browser, hash, { viewport, ...media }) {
     page.problems = [];
     await page.setViewportSize(viewport);
     await page.emulateMedia(media);
-    await page.evaluate((to) => {
-        localStorage.clear();
-        sessionStorage.clear();
-        history.replaceState(null, "", to);
-    }, hash === "" ? address : hash);
+    await page.evaluate(
+        (to) => {
+            localStorage.clear();
+            sessionStorage.clear();
+            history.replaceState(null, "", to);
+        },
+        hash === "" ? address : hash,
+    );
     await page.reload();
     await page.locator("h1").waitFor();
     return page;
@@ -172,7 +181,17 @@ export async function openLesson() {
 }
 
 // An exercise of each form of answer, and one with each drawing.
-export const samples = ["titration:3", "dilution:1", "concentration:3", "molar-mass:3", "compound-formula:3", "ion-formula:3", "solubility:1", "solubility:3", "neutralisation:3"];
+export const samples = [
+    "titration:3",
+    "dilution:1",
+    "concentration:3",
+    "molar-mass:3",
+    "compound-formula:3",
+    "ion-formula:3",
+    "solubility:1",
+    "solubility:3",
+    "neutralisation:3",
+];
 
 // Types an answer into whatever field there is, or chooses the word.
 export async function type(page, text) {

@@ -36,19 +36,34 @@ test("each element stands in its place with its mass", async () => {
 
 async function find(page, typed) {
     await page.getByRole("textbox", { name: "Find an element" }).fill(typed);
-    return page.locator(".results tbody tr").evaluateAll((rows) => rows.map((row) => [...row.cells].map((cell) => cell.textContent).join(" ")));
+    return page
+        .locator(".results tbody tr")
+        .evaluateAll((rows) => rows.map((row) => [...row.cells].map((cell) => cell.textContent).join(" ")));
 }
 
 const markedCells = (page) => page.locator(".periodic .found abbr").allTextContents();
 
 // What is typed, and the symbols of what is found.
-const searches = [["na", "Na"], ["Sodium", "Na"], ["cesium", "Cs"], ["17", "Cl"], ["Na Cl", "Na Cl"], ["CuSO4.5H2O", "Cu S O H"], ["Uuh", ""], ["", ""]];
+const searches = [
+    ["na", "Na"],
+    ["Sodium", "Na"],
+    ["cesium", "Cs"],
+    ["17", "Cl"],
+    ["Na Cl", "Na Cl"],
+    ["CuSO4.5H2O", "Cu S O H"],
+    ["Uuh", ""],
+    ["", ""],
+];
 
 for (const [typed, symbols] of searches) {
     test(`"${typed}" finds ${symbols || "nothing"}, a line each with the mass, and marks it in the table`, async () => {
         const page = await openPage(browser, "#tables");
         const wanted = symbols.split(" ").flatMap((symbol) => tables.elements.filter((one) => one.symbol === symbol));
-        assert.deepEqual(await find(page, typed), wanted.map(({ symbol, name, number, mass }) => `${symbol} ${name} ${number} ${mass}`), typed);
+        assert.deepEqual(
+            await find(page, typed),
+            wanted.map(({ symbol, name, number, mass }) => `${symbol} ${name} ${number} ${mass}`),
+            typed,
+        );
         assert.deepEqual((await markedCells(page)).sort(), wanted.map(({ symbol }) => symbol).sort(), typed);
         await leave(page);
     });
@@ -58,7 +73,10 @@ test("what is found is announced, and so is what there is none of", async () => 
     const page = await openPage(browser, "#tables");
     await find(page, "Na2O Uuh");
     const mass = (symbol) => tables.elements.find((one) => one.symbol === symbol).mass;
-    const found = [["N a, sodium, number 11", "Na"], ["O, oxygen, number 8", "O"]].map(([told, symbol]) => `${told}, relative atomic mass ${mass(symbol)}.`);
+    const found = [
+        ["N a, sodium, number 11", "Na"],
+        ["O, oxygen, number 8", "O"],
+    ].map(([told, symbol]) => `${told}, relative atomic mass ${mass(symbol)}.`);
     const none = "There is no such element: Uuh.";
     assert.equal(await announced(page), [...found, none].join(" "));
     assert.equal(await page.locator(".results .message").innerText(), none);
@@ -85,7 +103,10 @@ test("on a phone with its keyboard open, the field and the elements of a formula
 });
 
 test("the marked cell is in view beside the field: on a phone inside the box, on a wide window as a whole", async () => {
-    for (const viewport of [{ width: 360, height: 640 }, { width: 1280, height: 900 }]) {
+    for (const viewport of [
+        { width: 360, height: 640 },
+        { width: 1280, height: 900 },
+    ]) {
         const page = await openPage(browser, "#tables", { viewport, reducedMotion: "reduce" });
         await find(page, "Lr");
         const { left, right, bottom } = await page.locator(".periodic .found").evaluate((cell) => cell.getBoundingClientRect().toJSON());
@@ -98,9 +119,9 @@ test("the marked cell is in view beside the field: on a phone inside the box, on
 
 test("each ion has its name, formula and charge", async () => {
     const page = await openPage(browser, "#tables");
-    const shown = await page.locator(".halves tbody tr").evaluateAll((rows) =>
-        rows.map((row) => [row.querySelector("th").textContent, row.querySelector("[aria-hidden]").textContent]),
-    );
+    const shown = await page
+        .locator(".halves tbody tr")
+        .evaluateAll((rows) => rows.map((row) => [row.querySelector("th").textContent, row.querySelector("[aria-hidden]").textContent]));
     const signs = { 1: "+", 2: "2+", 3: "3+", "-1": "−", "-2": "2−", "-3": "3−" };
     const wanted = tables.ions.map(({ name, formula, charge }) => [name, formula + signs[charge]]);
     assert.deepEqual(shown.sort(), wanted.sort());
@@ -154,7 +175,8 @@ test("rows and columns of which nothing is asked are told in words, and in the g
     await leave(page);
 });
 
-const chosenCells = (page) => page.locator(".solubility [aria-current=true]").evaluateAll((cells) => cells.map((cell) => cell.getAttribute("aria-label")));
+const chosenCells = (page) =>
+    page.locator(".solubility [aria-current=true]").evaluateAll((cells) => cells.map((cell) => cell.getAttribute("aria-label")));
 
 test("the chosen cell stays chosen with more rows and columns, and goes with its own", async () => {
     const page = await openPage(browser, "#tables");
@@ -176,17 +198,35 @@ for (const media of [{}, { colorScheme: "dark" }, { forcedColors: "active" }]) {
         await page.getByRole("button", { name: "zinc sulfide: insoluble" }).click();
         await page.getByRole("button", { name: "barium sulfate: insoluble" }).click();
         const framed = await page.locator(".solubility button").evaluateAll((cells) => {
-            const frames = cells.map((cell) => getComputedStyle(cell)).map((style) => ({ width: parseFloat(style.borderTopWidth), color: style.borderTopColor, ground: style.backgroundColor }));
-            return cells.flatMap((cell, at) => (frames[at].width >= 2 && frames[at].color !== frames[at].ground ? [cell.getAttribute("aria-label")] : []));
+            const frames = cells
+                .map((cell) => getComputedStyle(cell))
+                .map((style) => ({ width: parseFloat(style.borderTopWidth), color: style.borderTopColor, ground: style.backgroundColor }));
+            return cells.flatMap((cell, at) =>
+                frames[at].width >= 2 && frames[at].color !== frames[at].ground ? [cell.getAttribute("aria-label")] : [],
+            );
         });
         assert.deepEqual(framed, ["barium sulfate: insoluble"]);
-        const underlined = await page.locator(".solubility th span").evaluateAll((heads) => heads.filter((head) => getComputedStyle(head).textDecorationLine === "underline").map((head) => head.textContent));
+        const underlined = await page
+            .locator(".solubility th span")
+            .evaluateAll((heads) =>
+                heads.filter((head) => getComputedStyle(head).textDecorationLine === "underline").map((head) => head.textContent),
+            );
         assert.deepEqual(underlined.sort(), ["barium", "sulfate"]);
         await leave(page);
     });
 }
 
-const windows = [[320, 640], [360, 640], [360, 740], [640, 360], [768, 1024], [1024, 768], [1280, 800], [1366, 650], [1920, 1080]];
+const windows = [
+    [320, 640],
+    [360, 640],
+    [360, 740],
+    [640, 360],
+    [768, 1024],
+    [1024, 768],
+    [1280, 800],
+    [1366, 650],
+    [1920, 1080],
+];
 const corners = ["lithium chloride", "iron(II) ethanoate", "calcium hydroxide", "iron(III) phosphate"];
 
 for (const [width, height] of windows) {
@@ -196,7 +236,9 @@ for (const [width, height] of windows) {
             const cell = page.getByRole("button", { name: `${name}: ` });
             await cell.focus();
             await page.keyboard.press("Enter");
-            const [one, reason, box] = await Promise.all([cell, page.locator(".reason"), page.locator(".grid")].map((part) => part.boundingBox()));
+            const [one, reason, box] = await Promise.all(
+                [cell, page.locator(".reason"), page.locator(".grid")].map((part) => part.boundingBox()),
+            );
             for (const part of [one, reason]) {
                 assert.ok(part.y >= 0 && part.y + part.height <= height + 0.5, `${name}: from ${part.y} to ${part.y + part.height}`);
             }
@@ -215,7 +257,10 @@ test("the rules are listed, as the library words them, in the reader's names", a
     const page = await openPage(browser, "#tables");
     const listed = () => page.locator(".rules li").allTextContents();
     assert.ok(tables.rules.length > 5);
-    assert.deepEqual(await listed(), tables.rules.map(({ sentence }) => sentence));
+    assert.deepEqual(
+        await listed(),
+        tables.rules.map(({ sentence }) => sentence),
+    );
     await go(page, "#practice/4821/3/titration");
     await panel(page, "How it is written").click();
     await page.getByLabel("American").check();
@@ -231,13 +276,18 @@ test("printed, the tables are whole: every element, every ion, every row and col
     const page = await openPage(browser, "#tables");
     const text = execFileSync("pdftotext", ["-layout", "-", "-"], { input: await page.pdf({ format: "A4" }), encoding: "utf8" });
     const words = new Set(text.split(/\s+/));
-    const missing = [...tables.elements.map(({ symbol }) => symbol), ...tables.ions.map(({ name }) => name)].filter((word) => !words.has(word));
+    const missing = [...tables.elements.map(({ symbol }) => symbol), ...tables.ions.map(({ name }) => name)].filter(
+        (word) => !words.has(word),
+    );
     assert.deepEqual(missing, []);
     const signs = { "soluble": "s", "insoluble": "i", "not asked": "–" };
     for (const cation of askedIons("cation").asked) {
         const row = tables.pairs.filter((pair) => pair.cation === cation && askedIons("anion").asked.includes(pair.anion));
         const line = [cation, ...row.map(({ verdict }) => signs[verdict])].join(" ");
-        assert.ok(text.split("\n").some((one) => one.trim().replace(/\s+/g, " ") === line), line);
+        assert.ok(
+            text.split("\n").some((one) => one.trim().replace(/\s+/g, " ") === line),
+            line,
+        );
     }
     assert.doesNotMatch(text, /Find an element|Choose a cell|never asked|Show them/);
     await leave(page);

@@ -93,7 +93,8 @@ const typeInto = async (selector, text) => request("POST", `${await find(selecto
 // From one address of the page to another it goes on, without loading anew.
 async function open(hash, heading, which) {
     await request("POST", `${session}/url`, { url: address + hash });
-    const isShown = "return document.querySelector('h1')?.textContent === arguments[0] && (document.querySelector('.which')?.textContent ?? '') === arguments[1]";
+    const isShown =
+        "return document.querySelector('h1')?.textContent === arguments[0] && (document.querySelector('.which')?.textContent ?? '') === arguments[1]";
     await until(() => run(isShown, heading, which), `${heading}, ${which}`);
 }
 
@@ -114,9 +115,15 @@ for (const { kind, title } of lesson.kinds()) {
 
 // The driver knows no command to print; what would be printed are these pages.
 test("a sheet: its pages with their paper, nothing cut", { skip }, async () => {
-    await open("#sheet/4821/3*titration:3,2*dilution:3,3*molar-mass:3,2*ion-formula?versions=2&drawings=1&leaf=0&v=1", "Sheets to print", "");
+    await open(
+        "#sheet/4821/3*titration:3,2*dilution:3,3*molar-mass:3,2*ion-formula?versions=2&drawings=1&leaf=0&v=1",
+        "Sheets to print",
+        "",
+    );
     await isThere(".size:not(:empty)");
-    const pages = await run("return [...document.querySelectorAll('.leaf')].map((leaf) => [leaf.querySelector('.running').textContent, leaf.scrollHeight <= leaf.clientHeight])");
+    const pages = await run(
+        "return [...document.querySelectorAll('.leaf')].map((leaf) => [leaf.querySelector('.running').textContent, leaf.scrollHeight <= leaf.clientHeight])",
+    );
     assert.equal(await textOf(".size"), `10 exercises, 2 versions, ${pages.length} pages`);
     for (const [line, isWhole] of pages) {
         assert.match(line, /^(Paper 482[12], version [12]|Papers 4821 to 4822)Page \d of \d$/);

@@ -6,7 +6,14 @@ import type { PracticeRoute } from "../../src/types";
 const route: PracticeRoute = { view: "practice", paper: 4821, number: 3, kinds: "titration:1,dilution", set: 0 };
 
 test("an address leads back to the route that it was made from", () => {
-    for (const made of [route, { ...route, set: 10 }, { ...route, kinds: "mixed" }, { ...route, back: { number: 4, kinds: "mixed" } }, { ...route, back: { number: 12, kinds: "titration:1,dilution" } }, atNumber(route, 999999)]) {
+    for (const made of [
+        route,
+        { ...route, set: 10 },
+        { ...route, kinds: "mixed" },
+        { ...route, back: { number: 4, kinds: "mixed" } },
+        { ...route, back: { number: 12, kinds: "titration:1,dilution" } },
+        atNumber(route, 999999),
+    ]) {
         assert.deepEqual(routeOf(addressOf(made)), made, addressOf(made));
     }
 });
@@ -46,7 +53,21 @@ test("a list is a set as long as it is, whatever else the address says", () => {
 });
 
 test("what is no list is no practice, and no side road leads out of one", () => {
-    const lists = ["4*", "*titration", "0*titration", "1001*titration", "titration@0", "titration@1000000", "2*titration,1*titration@2", "1*mixed:4", "1*<b>", "1*%3Cscript%3E", "1*titration,", "1*titration@1@2", "titration:1@x"];
+    const lists = [
+        "4*",
+        "*titration",
+        "0*titration",
+        "1001*titration",
+        "titration@0",
+        "titration@1000000",
+        "2*titration,1*titration@2",
+        "1*mixed:4",
+        "1*<b>",
+        "1*%3Cscript%3E",
+        "1*titration,",
+        "1*titration@1@2",
+        "titration:1@x",
+    ];
     for (const list of lists) {
         assert.equal(routeOf(`#practice/1/1/${list}`).view, "bad", list);
     }

@@ -3,13 +3,21 @@ import { test } from "node:test";
 import { changedTo, choiceIn, entriesOf, inWords, shortest } from "../../src/practice/chosen-kinds";
 import type { KindInfo } from "../../src/types";
 
-const all: KindInfo[] = ["dilution", "solubility", "titration"].map((kind) => ({ kind, title: kind.toUpperCase(), levels: ["one", "two", "three"] }));
+const all: KindInfo[] = ["dilution", "solubility", "titration"].map((kind) => ({
+    kind,
+    title: kind.toUpperCase(),
+    levels: ["one", "two", "three"],
+}));
 
 const cases = [
     { kinds: "mixed", entries: ["dilution:2", "solubility:2", "titration:2"], words: "every kind at level 2" },
     { kinds: "titration", entries: ["titration:2"], words: "TITRATION, level 2" },
     { kinds: "titration:3,dilution", entries: ["titration:3", "dilution:2"], words: "TITRATION, level 3; DILUTION, level 2" },
-    { kinds: "dilution:1,dilution,dilution:3,solubility:1", entries: ["dilution:1", "dilution:2", "dilution:3", "solubility:1"], words: "DILUTION, level 1; DILUTION, level 2; and 2 more" },
+    {
+        kinds: "dilution:1,dilution,dilution:3,solubility:1",
+        entries: ["dilution:1", "dilution:2", "dilution:3", "solubility:1"],
+        words: "DILUTION, level 1; DILUTION, level 2; and 2 more",
+    },
 ];
 
 for (const { kinds, entries, words } of cases) {

@@ -14,12 +14,61 @@ function after(...events: [number, "runs" | "stands" | "key"][]): Clock {
 }
 
 const cases: [string, number, Parameters<typeof after>][] = [
-    ["two keys a minute apart", 2, [[0, "runs"], [1, "key"], [2, "key"]]],
-    ["nothing to solve on the screen", 0, [[0, "stands"], [1, "key"], [2, "key"]]],
-    ["a part of the time", 3, [[0, "runs"], [2, "stands"], [20, "runs"], [21, "key"]]],
-    ["a pause of five minutes", 5, [[0, "runs"], [5, "key"]]],
-    ["lunch", 6, [[0, "runs"], [55, "key"], [56, "key"]]],
-    ["a clock that was set back by an hour", 2, [[0, "runs"], [1, "key"], [-59, "key"], [-58, "key"]]],
+    [
+        "two keys a minute apart",
+        2,
+        [
+            [0, "runs"],
+            [1, "key"],
+            [2, "key"],
+        ],
+    ],
+    [
+        "nothing to solve on the screen",
+        0,
+        [
+            [0, "stands"],
+            [1, "key"],
+            [2, "key"],
+        ],
+    ],
+    [
+        "a part of the time",
+        3,
+        [
+            [0, "runs"],
+            [2, "stands"],
+            [20, "runs"],
+            [21, "key"],
+        ],
+    ],
+    [
+        "a pause of five minutes",
+        5,
+        [
+            [0, "runs"],
+            [5, "key"],
+        ],
+    ],
+    [
+        "lunch",
+        6,
+        [
+            [0, "runs"],
+            [55, "key"],
+            [56, "key"],
+        ],
+    ],
+    [
+        "a clock that was set back by an hour",
+        2,
+        [
+            [0, "runs"],
+            [1, "key"],
+            [-59, "key"],
+            [-58, "key"],
+        ],
+    ],
 ];
 
 for (const [what, expected, events] of cases) {

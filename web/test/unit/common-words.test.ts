@@ -11,15 +11,29 @@ function exercise(ask: Ask, prompt: Span[]): Exercise {
 const ion = (name: string) => exercise({ form: "ion" }, [{ text: "Write the formula of the " }, { name }, { text: " ion." }]);
 const compound = (name: string) => exercise({ form: "formula" }, [{ text: "Write the formula of " }, { name }, { text: "." }]);
 const mass = (formula: string, figures = 4) =>
-    exercise({ form: "number", quantity: "M", figures }, [{ text: "Calculate the molar mass of " }, { name: "it" }, { text: ", " }, { formula }, { text: ", in " }, { unit: "g/mol" }, { text: "." }]);
-const titration = exercise({ form: "number", quantity: "c", figures: 3 }, [{ text: "20 mL of " }, { name: "it" }, { text: " is titrated." }]);
+    exercise({ form: "number", quantity: "M", figures }, [
+        { text: "Calculate the molar mass of " },
+        { name: "it" },
+        { text: ", " },
+        { formula },
+        { text: ", in " },
+        { unit: "g/mol" },
+        { text: "." },
+    ]);
+const titration = exercise({ form: "number", quantity: "c", figures: 3 }, [
+    { text: "20 mL of " },
+    { name: "it" },
+    { text: " is titrated." },
+]);
 
 const usual = { columns: "auto", room: "some" } as const;
 const times = (count: number, one: Exercise) => Array.from({ length: count }, () => one);
 
 // "0-4 framed" are the exercises 0 to 3 under words that they share.
 function groups(exercises: Exercise[], route: Parameters<typeof groupsOf>[1] = usual): string {
-    return groupsOf(exercises, route).map(({ from, to, frame }) => `${from}-${to}${frame === null ? "" : " framed"}`).join(", ");
+    return groupsOf(exercises, route)
+        .map(({ from, to, frame }) => `${from}-${to}${frame === null ? "" : " framed"}`)
+        .join(", ");
 }
 
 test("four short questions with the same words stand under them", () => {
@@ -29,7 +43,10 @@ test("four short questions with the same words stand under them", () => {
 
 test("only neighbours with the same words do, and what is between them keeps its own", () => {
     const four = times(4, compound("lime"));
-    assert.equal(groups([titration, ...times(4, ion("oxide")), ...four, titration, ion("oxide"), ...times(5, mass("HF"))]), "0-1, 1-5 framed, 5-9 framed, 9-11, 11-16 framed");
+    assert.equal(
+        groups([titration, ...times(4, ion("oxide")), ...four, titration, ion("oxide"), ...times(5, mass("HF"))]),
+        "0-1, 1-5 framed, 5-9 framed, 9-11, 11-16 framed",
+    );
     assert.equal(groups([...times(3, ion("oxide")), titration, ...times(3, ion("oxide"))]), "0-7");
 });
 
@@ -48,7 +65,10 @@ test("questions that want other figures have words of their own", () => {
 });
 
 test("the words leave a gap for what each question asks for", () => {
-    const frameOf = (one: Exercise) => groupsOf(times(4, one), usual)[0]!.frame!.map((span) => Object.values(span)[0]).join("");
+    const frameOf = (one: Exercise) =>
+        groupsOf(times(4, one), usual)[0]!
+            .frame!.map((span) => Object.values(span)[0])
+            .join("");
     assert.equal(frameOf(ion("oxide")), "Write the formula of the … ion.");
     assert.equal(frameOf(compound("lime")), "Write the formula of …");
     assert.equal(frameOf(mass("HF")), "Calculate the molar mass of … in g/mol.");

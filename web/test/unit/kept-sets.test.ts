@@ -12,7 +12,10 @@ function storeOf(): Storage {
         setItem: (key: string, text: string) => entries.set(key, text),
         removeItem: (key: string) => entries.delete(key),
     };
-    return new Proxy(store, { ownKeys: () => [...entries.keys()], getOwnPropertyDescriptor: () => ({ enumerable: true, configurable: true }) }) as unknown as Storage;
+    return new Proxy(store, {
+        ownKeys: () => [...entries.keys()],
+        getOwnPropertyDescriptor: () => ({ enumerable: true, configurable: true }),
+    }) as unknown as Storage;
 }
 
 beforeEach(() => {
@@ -38,7 +41,10 @@ for (const address of addresses) {
             assert.deepEqual([...(kept?.exercises ?? [])], [[at(address).number, first]]);
             assert.deepEqual([kept?.begun, kept?.touched, kept?.worked], [100, 5000, 1000]);
         }
-        assert.deepEqual(keptSets().map(({ route }) => route), [{ ...at(address), number: 1 }]);
+        assert.deepEqual(
+            keptSets().map(({ route }) => route),
+            [{ ...at(address), number: 1 }],
+        );
     });
 }
 
@@ -57,7 +63,10 @@ test("the oldest of fifty goes first, which is the one not worked at for longest
     keepInSet({ ...setOf(1), number: 2 }, first, spent(60));
     keepInSet(setOf(51), first, spent(61));
     const expected = [51, 1, ...Array.from({ length: 48 }, (_, at) => 50 - at)];
-    assert.deepEqual(keptSets().map(({ route }) => route.paper), expected);
+    assert.deepEqual(
+        keptSets().map(({ route }) => route.paper),
+        expected,
+    );
 });
 
 test("the time worked is never more than has passed", () => {
@@ -86,7 +95,10 @@ const damaged: [string, Done | null][] = [
     ['{"exercises":{"3":{"result":"best","failed":-2}}}', null],
     ['{"exercises":{"3":7,"4":{"result":"later"}}}', null],
     ['{"exercises":{"3":{"result":"later","failed":"2","marked":{}}}}', { failed: 0, marked: null, steps: 0, result: "later" }],
-    ['{"begun":"<b>","touched":null,"exercises":{"3":{"steps":2,"failed":1e99,"marked":"x"}}}', { failed: 0, marked: "x", steps: 2, result: null }],
+    [
+        '{"begun":"<b>","touched":null,"exercises":{"3":{"steps":2,"failed":1e99,"marked":"x"}}}',
+        { failed: 0, marked: "x", steps: 2, result: null },
+    ],
 ];
 
 for (const [text, expected] of damaged) {

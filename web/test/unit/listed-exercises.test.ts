@@ -1,7 +1,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { readList, spelt } from "../../src/shared/exercise-list";
 import { withLists } from "../../src/lesson/listed-exercises";
+import { readList, spelt } from "../../src/shared/exercise-list";
 import type { Exercise, Lesson } from "../../src/types";
 
 // Tells what it was asked for.
@@ -35,7 +35,13 @@ test("exercise n of a list is its n-th, and kinds are asked for as they are", ()
 });
 
 test("there is nothing behind the end of a list, nor in one that names a kind that is none", () => {
-    for (const [number, list] of [[3, "2*titration"], [1, "2*alchemy"], [1, "1*titration,1*alchemy"], [1, "0*titration"], [1, "1*"]] as const) {
+    for (const [number, list] of [
+        [3, "2*titration"],
+        [1, "2*alchemy"],
+        [1, "1*titration,1*alchemy"],
+        [1, "0*titration"],
+        [1, "1*"],
+    ] as const) {
         assert.deepEqual(ask(number, list), [null], `${number} of ${list}`);
     }
 });

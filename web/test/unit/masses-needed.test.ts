@@ -24,6 +24,11 @@ const cases: [string, Exercise[], string][] = [
 
 for (const [what, exercises, symbols] of cases) {
     test(`masses for ${what}`, () => {
-        assert.equal(massesNeeded(exercises, elements).map(({ symbol }) => symbol).join(" "), symbols);
+        assert.equal(
+            massesNeeded(exercises, elements)
+                .map(({ symbol }) => symbol)
+                .join(" "),
+            symbols,
+        );
     });
 }

@@ -34,7 +34,11 @@ test("every item comes once and in order, however high", () => {
     for (let seed = 1; seed <= 200; ++seed) {
         const items = Array.from({ length: 40 }, (_, at) => (seed * 7919 * (at + 1)) % 61);
         const parts = fill([run(13, 7, ...items)], 100).flat();
-        assert.deepEqual(parts.flatMap(({ from, to }) => items.slice(from, to)), items, `seed ${seed}`);
+        assert.deepEqual(
+            parts.flatMap(({ from, to }) => items.slice(from, to)),
+            items,
+            `seed ${seed}`,
+        );
     }
 });
 

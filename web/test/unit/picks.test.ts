@@ -7,7 +7,9 @@ import { usualSheet } from "../../src/sheet/sheet";
 
 // "titration@5 dilution:1@1", spelt out one by one.
 function spelt(list: string): string {
-    return oneByOne(readList(list)!).map(({ kind, level, number }) => `${kind}:${level}@${number}`).join(" ");
+    return oneByOne(readList(list)!)
+        .map(({ kind, level, number }) => `${kind}:${level}@${number}`)
+        .join(" ");
 }
 
 test("a list is read one by one, in its order, from 1 or from the number behind @", () => {
@@ -25,16 +27,42 @@ test("a list is read one by one, in its order, from 1 or from the number behind 
 });
 
 test("no list are numbers outside 1 to 999999, an exercise that is there twice, more than 1000", () => {
-    const bad = ["titration@0", "titration@1000000", "titration@05", "titration@", "titration@-1", "titration@x", "2*titration@999999", "titration@5:2", "@5", "titration@5@6"];
-    const twice = ["titration,titration", "titration,titration@1", "5*titration,titration:2@5", "3*titration@4,titration@6", "titration@7,dilution,titration@7"];
-    const many = ["1001*titration", "600*titration,401*titration@601", Array.from({ length: 1001 }, (_, at) => `titration@${at + 1}`).join(",")];
+    const bad = [
+        "titration@0",
+        "titration@1000000",
+        "titration@05",
+        "titration@",
+        "titration@-1",
+        "titration@x",
+        "2*titration@999999",
+        "titration@5:2",
+        "@5",
+        "titration@5@6",
+    ];
+    const twice = [
+        "titration,titration",
+        "titration,titration@1",
+        "5*titration,titration:2@5",
+        "3*titration@4,titration@6",
+        "titration@7,dilution,titration@7",
+    ];
+    const many = [
+        "1001*titration",
+        "600*titration,401*titration@601",
+        Array.from({ length: 1001 }, (_, at) => `titration@${at + 1}`).join(","),
+    ];
     for (const list of [...bad, ...twice, ...many, "", ",", "mixed,"]) {
         assert.equal(readList(list), null, list.slice(0, 60));
     }
 });
 
 test("what is written is read again as the same exercises", () => {
-    for (const list of ["4*titration,3*dilution:1", "titration@3,2*titration,dilution,titration@9", "2*titration@8,titration@7", "1000*solubility:3@999000"]) {
+    for (const list of [
+        "4*titration,3*dilution:1",
+        "titration@3,2*titration,dilution,titration@9",
+        "2*titration@8,titration@7",
+        "1000*solubility:3@999000",
+    ]) {
         const read = readList(list)!;
         assert.equal(listOf(read), list);
         assert.deepEqual(oneByOne(readList(listOf(entriesOf(oneByOne(read))))!), oneByOne(read), list);
@@ -66,7 +94,12 @@ const table = ["molar-mass", "dilution", "titration"].map((kind) => ({ kind, lev
 
 function counted(list: string, molarMass: number, dilution: number, titration: number): string {
     const counts = [molarMass, dilution, titration];
-    return listOf(withCounts(readList(list)!, table.map((one, at) => ({ ...one, count: counts[at]! }))));
+    return listOf(
+        withCounts(
+            readList(list)!,
+            table.map((one, at) => ({ ...one, count: counts[at]! })),
+        ),
+    );
 }
 
 test("another count adds or takes the last ones of that kind and level, and nothing else is lost", () => {

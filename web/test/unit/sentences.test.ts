@@ -1,7 +1,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { spansOf, spansOfFormulas, spokenSentence } from "../../src/text/sentences";
 import { speech } from "../../src/text/seen-and-spoken";
+import { spansOf, spansOfFormulas, spokenSentence } from "../../src/text/sentences";
 import type { Settings, Span } from "../../src/types";
 
 const usual: Settings = { volume: "mL", per: "slash", decimal: ".", names: "british" };
@@ -38,7 +38,10 @@ test("a sentence is said in the reader's units and names", () => {
 
 const written: [Span[], string][] = [
     [[{ name: "Sulfate" }, { text: "s are soluble." }], "Sulfates are soluble."],
-    [[{ text: "Some " }, { name: "aluminium", american: "aluminum" }, { text: " is left (" }, { name: "aluminium" }, { text: ")." }], "Some aluminium is left (aluminium)."],
+    [
+        [{ text: "Some " }, { name: "aluminium", american: "aluminum" }, { text: " is left (" }, { name: "aluminium" }, { text: ")." }],
+        "Some aluminium is left (aluminium).",
+    ],
     [[{ name: "silver" }, { text: " " }, { name: "chloride" }, { text: ", " }, { formula: "AgCl" }], "silver chloride, A g C l"],
 ];
 
@@ -64,8 +67,15 @@ const formulas: [string, Span[]][] = [
     [
         "2HCl + Mg(OH)2 -> MgCl2 + 2H2O",
         [
-            { number: "2" }, { formula: "HCl" }, { text: " + " }, { formula: "Mg(OH)2" }, { text: " → " },
-            { formula: "MgCl2" }, { text: " + " }, { number: "2" }, { formula: "H2O" },
+            { number: "2" },
+            { formula: "HCl" },
+            { text: " + " },
+            { formula: "Mg(OH)2" },
+            { text: " → " },
+            { formula: "MgCl2" },
+            { text: " + " },
+            { number: "2" },
+            { formula: "H2O" },
         ],
     ],
 ];
@@ -75,10 +85,38 @@ for (const [text, expected] of formulas) {
 }
 
 const said: [string, Span[]][] = [
-    ["M equals 2 times (22.99) plus 12.01 grams per mole", [{ quantity: "M" }, { text: " = " }, { number: "2" }, { text: "(" }, { number: "22.99" }, { text: ") + " }, { number: "12.01" }, { unit: "g/mol" }]],
+    [
+        "M equals 2 times (22.99) plus 12.01 grams per mole",
+        [
+            { quantity: "M" },
+            { text: " = " },
+            { number: "2" },
+            { text: "(" },
+            { number: "22.99" },
+            { text: ") + " },
+            { number: "12.01" },
+            { unit: "g/mol" },
+        ],
+    ],
     ["1 over 2 times n of H C l", [{ fraction: [[{ number: "1" }], [{ number: "2" }]] }, { text: " " }, { quantity: "n", of: "HCl" }]],
     ["c 1 is to be found", [{ quantity: "c", index: "1" }, { text: " = ?" }]],
-    ["4 O plus 7 times (2 H plus O)", [{ number: "4" }, { text: " " }, { formula: "O" }, { text: " + " }, { number: "7" }, { text: "(" }, { number: "2" }, { text: " " }, { formula: "H" }, { text: " + " }, { formula: "O" }, { text: ")" }]],
+    [
+        "4 O plus 7 times (2 H plus O)",
+        [
+            { number: "4" },
+            { text: " " },
+            { formula: "O" },
+            { text: " + " },
+            { number: "7" },
+            { text: "(" },
+            { number: "2" },
+            { text: " " },
+            { formula: "H" },
+            { text: " + " },
+            { formula: "O" },
+            { text: ")" },
+        ],
+    ],
     ["3.1 times 10 to the minus 3 moles.", [{ number: "3.1e-3" }, { unit: "mol" }, { text: "." }]],
 ];
 

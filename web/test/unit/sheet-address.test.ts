@@ -10,7 +10,12 @@ const sheet: SheetRoute = { ...usualSheet, paper: 4821 };
 const changes: Partial<SheetRoute>[] = [
     {},
     { paper: 999999 },
-    { entries: [{ kind: "titration", level: 3, count: 1 }, { kind: "dilution", level: 2, count: 12 }] },
+    {
+        entries: [
+            { kind: "titration", level: 3, count: 1 },
+            { kind: "dilution", level: 2, count: 12 },
+        ],
+    },
     { entries: [{ kind: "titration", level: 2, count: 1000 }] },
     { versions: 30 },
     { title: "" },

@@ -1,6 +1,15 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { afterAnswer, afterMark as afterMarkOf, afterStep, isMarkStale, isShownWhole, offersHelp, typed, type Progress } from "../../src/practice/tries";
+import {
+    afterAnswer,
+    afterMark as afterMarkOf,
+    afterStep,
+    isMarkStale,
+    isShownWhole,
+    offersHelp,
+    type Progress,
+    typed,
+} from "../../src/practice/tries";
 import type { Mark, Verdict } from "../../src/types";
 
 const fresh: Progress = { typed: "", failed: 0, marked: null, steps: 0, result: null };
@@ -64,7 +73,13 @@ test("the answer shown is shown, but not where it was solved before", () => {
 test("typing on keeps all else, and the mark is stale until its own text stands there again", () => {
     const marked = afterMark(fresh, mark("wrong"), "0.2");
     assert.deepEqual(typed(marked, "0.1"), { ...fresh, typed: "0.1", marked: "0.2", failed: 1 });
-    const stale: [string, boolean][] = [["0.2", false], ["0.21", true], ["", true], [" 0.2 ", false], ["0.20", true]];
+    const stale: [string, boolean][] = [
+        ["0.2", false],
+        ["0.21", true],
+        ["", true],
+        [" 0.2 ", false],
+        ["0.20", true],
+    ];
     for (const [text, expected] of stale) {
         assert.equal(isMarkStale(typed(marked, text)), expected, `"${text}"`);
     }

@@ -7,16 +7,51 @@ const number: Ask = { form: "number", quantity: "c", unit: "mol/L", figures: 3 }
 
 function exercise(ask: Ask, lines: Span[][], more: Partial<Exercise> = {}): Exercise {
     const solution = lines.map((math) => ({ say: [], math, hint: [] }));
-    return { version: 1, paper: 1, number: 1, kind: "", level: 1, prompt: [], ask, given: [], key: { text: "" }, solution, slips: [], ...more };
+    return {
+        version: 1,
+        paper: 1,
+        number: 1,
+        kind: "",
+        level: 1,
+        prompt: [],
+        ask,
+        given: [],
+        key: { text: "" },
+        solution,
+        slips: [],
+        ...more,
+    };
 }
 
 const is: Span = { text: " = " };
 const amount: Span[] = [{ quantity: "n", of: "KOH" }, is, { number: "0.0100" }, { unit: "mol" }];
 const other: Span[] = [{ quantity: "n", of: "HCl" }, is, { quantity: "n", of: "KOH" }, is, { number: "0.0100" }, { unit: "mol" }];
 const converted: Span[] = [{ quantity: "V" }, is, { number: "20.0" }, { unit: "mL" }, is, { number: "0.0200" }, { unit: "L" }];
-const result: Span[] = [{ quantity: "c" }, is, { fraction: [[{ number: "1" }, { unit: "mol" }], [{ number: "2" }]] }, is, { number: "0.500" }, { unit: "mol/L" }];
-const check: Span[] = [{ quantity: "c" }, is, { number: "5" }, { text: " × " }, { number: "0.100" }, is, { number: "0.500" }, { unit: "mol/L" }];
-const relation: Span[] = [{ quantity: "c", index: "1" }, { quantity: "V", index: "1" }, is, { quantity: "c", index: "2" }, { quantity: "V", index: "2" }];
+const result: Span[] = [
+    { quantity: "c" },
+    is,
+    { fraction: [[{ number: "1" }, { unit: "mol" }], [{ number: "2" }]] },
+    is,
+    { number: "0.500" },
+    { unit: "mol/L" },
+];
+const check: Span[] = [
+    { quantity: "c" },
+    is,
+    { number: "5" },
+    { text: " × " },
+    { number: "0.100" },
+    is,
+    { number: "0.500" },
+    { unit: "mol/L" },
+];
+const relation: Span[] = [
+    { quantity: "c", index: "1" },
+    { quantity: "V", index: "1" },
+    is,
+    { quantity: "c", index: "2" },
+    { quantity: "V", index: "2" },
+];
 const reaction: Span[] = [{ formula: "HCl" }, { text: " + " }, { formula: "KOH" }, { text: " → " }, { formula: "KCl" }];
 const counted: Span[] = [{ number: "3" }, { text: " " }, { formula: "Li" }, { text: " + " }, { formula: "N" }];
 
@@ -56,7 +91,20 @@ test("a formula, an ion and a word are worth one mark, however long their soluti
 test("an equation is worth two marks where there is something to balance, and else one", () => {
     const balanced = (...counts: [number, number, number]) => {
         const [acid, base, salt] = counts;
-        return marksOf(exercise({ form: "equation" }, [], { equation: { left: [[acid, "HCl"], [base, "KOH"]], right: [[salt, "KCl"], [1, "H2O"]] } }));
+        return marksOf(
+            exercise({ form: "equation" }, [], {
+                equation: {
+                    left: [
+                        [acid, "HCl"],
+                        [base, "KOH"],
+                    ],
+                    right: [
+                        [salt, "KCl"],
+                        [1, "H2O"],
+                    ],
+                },
+            }),
+        );
     };
     assert.deepEqual([balanced(1, 1, 1), balanced(2, 1, 1), balanced(1, 1, 2)], [1, 2, 2]);
 });
