@@ -2,6 +2,7 @@
 # What the scripts of this folder share; each of them sources it.
 #
 #   root                     the project's folder, set here
+#   page_tools               the folder of the page's tools, once they are installed, set here
 #   jobs                     how many jobs a build may run at once, set here
 #   need_packages NAME...    makes sure of these Debian packages: installs the missing ones where
 #                            there is apt-get, elsewhere says what is missing and fails
@@ -15,6 +16,8 @@
 #                            that run at the same time take turns, as by the next one
 #   build_tests [TARGET...]  configures and builds build/test, or some of it; checks that run at the same
 #                            time take turns
+#   install_page_tools       installs what the page is built, checked and tested with, as
+#                            web/package-lock.json has it; checks that run at the same time take turns
 #   own_files FOLDER PATTERN...
 #                            the files below a folder with such names but those that were built or
 #                            installed, each ended with a NUL; a tarball has no git that could tell
@@ -27,6 +30,7 @@
 # Everything that need_packages prints goes to standard error, and it leaves standard input alone.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+page_tools=$root/web/node_modules/.bin
 jobs=$(getconf _NPROCESSORS_ONLN)
 case ${CMAKE_GENERATOR-} in
 Ninja*) to_build=(c++:g++ cmake ninja:ninja-build) ;;
@@ -71,6 +75,18 @@ build_tests() {
     flock 8
     configure "$root/build/test" --preset test
     cmake --build "$root/build/test" --parallel "$jobs" ${1:+--target "$@"}
+    exec 8>&-
+}
+
+install_page_tools() {
+    need_packages node:nodejs npm
+    mkdir -p "$root/build"
+    exec 8>"$root/build/npm.lock"
+    flock 8
+    # npm writes this list last, so it tells that all of it is there.
+    if [ ! "$root/web/node_modules/.package-lock.json" -nt "$root/web/package-lock.json" ]; then
+        npm --prefix "$root/web" ci --ignore-scripts --no-progress >&2
+    fi
     exec 8>&-
 }
 

@@ -160,7 +160,7 @@ function showSheet(route: SheetRoute, page: Page): Focus | null {
 }
 
 function showViews(route: Route): void {
-    document.documentElement.dataset["view"] = route.view;
+    document.documentElement.dataset.view = route.view;
     const links = [
         { text: texts.practice, href: practised === null ? "#" : addressOf(practised), view: practised === null ? "start" : "practice" },
         { text: texts.sheets, href: printed === null ? "#sheet" : addressOf(printed), view: "sheet" },

@@ -42,12 +42,6 @@ function choiceField(words: string[], changed: () => void): AnswerField {
     };
 }
 
-// div.answer
-//   label
-//   div.field    as wide as answers of this form are; what is asked for =, input, unit
-//   p#hint
-//   div.keys
-//   p.preview
 function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerField {
     const input = inputOf(ask);
     const preview = typedPreview(ask, settings);
@@ -58,17 +52,8 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
     };
     input.addEventListener("input", update);
     input.addEventListener("focus", () => isTouched() && keepFieldInView());
-    const box = element(
-        "div",
-        { class: "answer" },
-        element("label", { for: "answer" }, ...labelOf(ask, settings)),
-        element("div", { class: `field ${ask.form}` }, input, unitOf(ask, settings)),
-        element("p", { id: hintId, class: "hint" }, hintOf(ask, settings)),
-        answerKeys(ask, input, update),
-        preview.element,
-    );
     return {
-        element: box,
+        element: typedBox(ask, settings, input, answerKeys(ask, input, update), preview.element),
         text: () => input.value,
         worded: (text) => text.trim(),
         set: (text) => {
@@ -78,6 +63,24 @@ function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerFi
         setWrong: wrongness(input, hintId),
         focus: () => input.focus({ preventScroll: true }),
     };
+}
+
+// div.answer
+//   label
+//   div.field    as wide as answers of this form are; what is asked for =, input, unit
+//   p#hint
+//   div.keys
+//   p.preview
+function typedBox(ask: Ask, settings: Settings, input: HTMLElement, keys: HTMLElement, preview: HTMLElement): HTMLElement {
+    return element(
+        "div",
+        { class: "answer" },
+        element("label", { for: "answer" }, ...labelOf(ask, settings)),
+        element("div", { class: `field ${ask.form}` }, input, unitOf(ask, settings)),
+        element("p", { id: hintId, class: "hint" }, hintOf(ask, settings)),
+        keys,
+        preview,
+    );
 }
 
 function inputOf(ask: Ask): HTMLInputElement {

@@ -31,7 +31,10 @@ export function fieldsOf({ kinds, set, paper }: Pick<PracticeRoute, "kinds" | "s
 export function beginWith(form: HTMLFormElement, fields: Fields, page: Page, whenWrong: () => void = () => {}): void {
     const mark = problemMarks();
     let told: Problem[] = [];
-    const tell = (problems: Problem[], aloud?: Problem[]) => mark((told = problems), aloud);
+    const tell = (problems: Problem[], aloud?: Problem[]) => {
+        told = problems;
+        mark(problems, aloud);
+    };
     form.addEventListener("input", () => tell(problemsIn(fields).filter(({ field }) => told.some((one) => one.field === field))));
     form.addEventListener("submit", (event) => {
         event.preventDefault();

@@ -36,7 +36,7 @@ export function dilution(exercise: Exercise, settings: Settings): HTMLElement | 
 function soughtAt(index: string, exercise: Exercise): Span[][] {
     const { quantity = "", of } = exercise.ask;
     if (quantity === "V") {
-        return index === "2" ? [[quantityOf("V", of), { text: " = " + texts.unknown }]] : [];
+        return index === "2" ? [[quantityOf("V", of), { text: ` = ${texts.unknown}` }]] : [];
     }
     return quantity.endsWith(index) ? [sought(exercise)] : [];
 }

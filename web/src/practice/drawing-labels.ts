@@ -14,7 +14,7 @@ export function lineOf(given: GivenQuantity): Span[] {
 }
 
 export function sought({ ask }: Exercise): Span[] {
-    return [quantityOf(ask.quantity ?? "c"), { text: " = " + texts.unknown }];
+    return [quantityOf(ask.quantity ?? "c"), { text: ` = ${texts.unknown}` }];
 }
 
 export function label(place: string, formula: string, lines: Span[][], settings: Settings, ...first: HTMLElement[]): HTMLElement {

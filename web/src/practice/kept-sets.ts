@@ -94,7 +94,7 @@ function writeSet(route: PracticeRoute, { begun, worked, exercises }: KeptSet, s
 
 function dropOldest(): void {
     const keys = keysBehind("localStorage", prefix).map((address) => prefix + address);
-    const touched = (key: string) => countOf(fieldsOf(read("localStorage", key))["touched"]);
+    const touched = (key: string) => countOf(fieldsOf(read("localStorage", key)).touched);
     const oldestFirst = keys.map((key) => [touched(key), key] as const).sort(([one], [other]) => one - other);
     oldestFirst.slice(0, Math.max(0, keys.length - most)).forEach(([, key]) => remove("localStorage", key));
 }

@@ -16,7 +16,7 @@ export function showMark(line: HTMLElement, mark: Mark | null, of: string | null
     if (mark === null) {
         return;
     }
-    line.dataset["verdict"] = mark.verdict;
+    line.dataset.verdict = mark.verdict;
     const word = element("strong", {}, texts.verdicts[mark.verdict] ?? "");
     const text = of === null ? [] : [element("span", { class: "marked" }, texts.markOf(of))];
     const seen = element("span", { "aria-hidden": "true" }, ...text, word, " ", seenSentence(mark.sentence, page.settings, page.names));

@@ -52,7 +52,7 @@ function linkTo(route: PracticeRoute, number: number): HTMLAnchorElement {
 function showState(link: HTMLElement, number: number, done: Done | undefined): void {
     const state = stateOf(done);
     const words = done?.result ? texts.results[done.result] : state === "wrong" ? texts.wrongSoFar : texts.open;
-    if (link.dataset["words"] === words) {
+    if (link.dataset.words === words) {
         return;
     }
     // Its title is for the eye alone: a link's own would be read behind its name, which ends with the same words.
@@ -62,8 +62,8 @@ function showState(link: HTMLElement, number: number, done: Done | undefined): v
         String(number),
         element("span", { class: "sign" }, texts.overviewSigns[state]),
     );
-    link.dataset["state"] = state;
-    link.dataset["words"] = words;
+    link.dataset.state = state;
+    link.dataset.words = words;
     show(link, seen, spoken(`${texts.exercise(number)}: ${words}`));
 }
 
@@ -83,7 +83,7 @@ const steps: Record<string, (at: number, last: number) => number> = {
 
 function walk(event: KeyboardEvent, links: HTMLElement[]): void {
     const step = steps[event.key];
-    const at = links.findIndex((link) => link === document.activeElement);
+    const at = links.indexOf(document.activeElement as HTMLElement);
     if (step !== undefined && at >= 0) {
         event.preventDefault();
         links[step(at, links.length - 1)]?.focus();

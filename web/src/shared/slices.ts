@@ -11,34 +11,36 @@ export interface Work {
 export function inSlices(steps: Iterator<unknown>, isWanted: () => boolean, done: () => void): Work {
     let timer = 0;
     let isOver = false;
-
     // Whether they are wanted can only change between slices.
-    function run(until: number): void {
-        if (!isWanted()) {
-            isOver = true;
-            return;
-        }
-        while (!isOver && performance.now() < until) {
-            isOver = steps.next().done === true;
-        }
-        if (isOver) {
-            done();
-        } else {
+    const run = (until: number) => {
+        const isStill = isWanted();
+        isOver = !isStill || areTaken(steps, until);
+        if (!isOver) {
             timer = window.setTimeout(() => run(performance.now() + slice));
+        } else if (isStill) {
+            done();
+        }
+    };
+    const stop = () => {
+        window.clearTimeout(timer);
+        isOver = true;
+    };
+    const finish = () => {
+        window.clearTimeout(timer);
+        if (!isOver) {
+            run(Infinity);
+        }
+    };
+    run(performance.now() + slice);
+    return { finish, stop };
+}
+
+// Takes steps until then; whether there are no more.
+function areTaken(steps: Iterator<unknown>, until: number): boolean {
+    while (performance.now() < until) {
+        if (steps.next().done === true) {
+            return true;
         }
     }
-
-    run(performance.now() + slice);
-    return {
-        finish() {
-            window.clearTimeout(timer);
-            if (!isOver) {
-                run(Infinity);
-            }
-        },
-        stop() {
-            window.clearTimeout(timer);
-            isOver = true;
-        },
-    };
+    return false;
 }

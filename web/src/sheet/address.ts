@@ -52,7 +52,7 @@ export function sheetAddress(route: SheetRoute, version: number): string {
     const options = new URLSearchParams();
     for (const key of written) {
         if (route[key] !== usualSheet[key]) {
-            options.set(key, valueOf(route[key]));
+            options.set(key, textOf(route[key]));
         }
     }
     options.set("v", String(version));
@@ -66,12 +66,12 @@ function choicesOf(options: URLSearchParams): Pick<SheetRoute, Choice> | null {
 }
 
 function flagsOf(options: URLSearchParams): Pick<SheetRoute, Flag> | null {
-    const set = flags.map((key) => [key, options.get(key) ?? valueOf(usualSheet[key])] as const);
+    const set = flags.map((key) => [key, options.get(key) ?? textOf(usualSheet[key])] as const);
     const isKnown = set.every(([, value]) => value === "1" || value === "0");
     return isKnown ? (Object.fromEntries(set.map(([key, value]) => [key, value === "1"])) as Pick<SheetRoute, Flag>) : null;
 }
 
 // As it stands in an address.
-function valueOf(value: string | number | boolean): string {
+function textOf(value: string | number | boolean): string {
     return typeof value === "boolean" ? (value ? "1" : "0") : String(value);
 }

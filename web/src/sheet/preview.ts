@@ -36,25 +36,31 @@ export function previewOf(page: Page): Preview {
             size.scrollIntoView();
         },
         show(route, shown) {
-            // As high as before until it is filled again, so that nothing on the screen moves.
-            box.style.setProperty("min-block-size", `${box.offsetHeight}px`);
             work?.stop();
             empty(box, size);
-            box.classList.remove("a4", "letter");
-            box.classList.add(route.size.toLowerCase());
-            const done = () => {
-                box.style.removeProperty("min-block-size");
+            work = fill(box, route, page, () => {
                 show(size, sizeOf(route, box));
                 shown(size.textContent ?? "");
-            };
-            // Who goes to another view takes the box away.
-            work = inSlices(leaves(box, route, page), () => box.isConnected, done);
+            });
         },
         finish: () => work?.finish(),
     };
 }
 
+// Who goes to another view takes the box away.
+function fill(box: HTMLElement, route: SheetRoute, page: Page, filled: () => void): Work {
+    box.classList.remove("a4", "letter");
+    box.classList.add(route.size.toLowerCase());
+    const done = () => {
+        box.style.removeProperty("min-block-size");
+        filled();
+    };
+    return inSlices(leaves(box, route, page), () => box.isConnected, done);
+}
+
+// As high as before until it is filled again, so that nothing on the screen moves.
 function empty(box: HTMLElement, size: HTMLElement): void {
+    box.style.setProperty("min-block-size", `${box.offsetHeight}px`);
     if (box.contains(document.activeElement)) {
         box.focus({ preventScroll: true }); // Not lost with what goes now.
     }

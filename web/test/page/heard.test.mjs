@@ -8,7 +8,7 @@ const browser = await openChromium();
 after(() => browser.close());
 
 const button = (page, name) => page.getByRole("button", { name, exact: true });
-const enter = async (page, name) => (await button(page, name).focus(), await page.keyboard.press("Enter"));
+const enter = (page, name) => button(page, name).press("Enter");
 const isFocused = (locator) => locator.evaluate((element) => element === document.activeElement);
 
 // All that live regions say from now on, in order.

@@ -160,7 +160,12 @@ test("once nothing is open any exercise leads to the summary, without a question
 });
 
 // In the place of the browser's own.
-const copies = () => Object.defineProperty(navigator, "clipboard", { value: { writeText: async (text) => void (window.copied = text) } });
+const copies = () => {
+    const writeText = async (text) => {
+        window.copied = text;
+    };
+    Object.defineProperty(navigator, "clipboard", { value: { writeText } });
+};
 const lacksClipboard = () => Object.defineProperty(navigator, "clipboard", { value: undefined });
 const refusesToCopy = () =>
     Object.defineProperty(navigator, "clipboard", {

@@ -237,24 +237,25 @@ test("a set that is damaged in the store is read as far as it can be", async () 
     await leave(page);
 });
 
+const begun = Date.UTC(2026, 10, 22, 8, 40);
+const workedAt = {
+    begun,
+    touched: begun + 100 * 60_000,
+    worked: 72.4 * 60_000,
+    exercises: { 2: { failed: 1, marked: "1", steps: 0, result: "later" } },
+};
+const expected = {
+    Begun: "22 November 2026, 08:40",
+    "Last worked at": "22 November 2026, 10:20",
+    "Time worked": "1 h 12 min",
+    Total: "1 of 7 solved, none at the first try",
+};
+
 test("the summary tells when the set was begun and for how long it was worked at, in print and in the saved text", async () => {
     const context = await browser.newContext({ locale: "de-DE", timezoneId: "UTC" });
     const page = await openPage(browser, "#tables", { context });
-    const begun = Date.UTC(2026, 10, 22, 8, 40);
-    const kept = {
-        begun,
-        touched: begun + 100 * 60_000,
-        worked: 72.4 * 60_000,
-        exercises: { 2: { failed: 1, marked: "1", steps: 0, result: "later" } },
-    };
-    await page.evaluate(([hash, text]) => localStorage.setItem(`chempractice.set.${hash}`, text), [at(1), JSON.stringify(kept)]);
+    await page.evaluate(([hash, text]) => localStorage.setItem(`chempractice.set.${hash}`, text), [at(1), JSON.stringify(workedAt)]);
     await go(page, summary);
-    const expected = {
-        Begun: "22 November 2026, 08:40",
-        "Last worked at": "22 November 2026, 10:20",
-        "Time worked": "1 h 12 min",
-        Total: "1 of 7 solved, none at the first try",
-    };
     await page.emulateMedia({ media: "print" });
     for (const [name, text] of Object.entries(expected)) {
         assert.equal(await fact(page, name), text);
