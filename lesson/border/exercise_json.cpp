@@ -137,7 +137,7 @@ void addMembers(Json& json, const GivenIon& given)
 {
     json.member("ion", given.ion->formula);
     json.member("charge", given.ion->charge);
-    json.member("name", given.ion->name);
+    json.member("name", nameInFull(*given.ion));
 }
 
 void addMembers(Json& json, const GivenCompound& given)

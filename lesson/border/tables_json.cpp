@@ -1,13 +1,13 @@
 #include "lesson/border/tables_json.hpp"
 
-#include <algorithm>
 #include <string_view>
 #include <vector>
 
 #include "lesson/border/json.hpp"
 #include "lesson/chemistry/elements.hpp"
 #include "lesson/chemistry/ions.hpp"
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
+#include "lesson/chemistry/solubility.hpp"
 #include "lesson/exercise.hpp"
 
 namespace lesson
@@ -39,7 +39,7 @@ void add(Json& json, const ElementRow& row)
 void add(Json& json, const IonRow& ion)
 {
     json.object([&] {
-        addName(json, ion.name, ion.american);
+        addName(json, nameInFull(ion), ion.american);
         json.member("formula", ion.formula);
         json.member("charge", ion.charge);
     });
@@ -50,13 +50,13 @@ std::string_view verdict(bool isSoluble)
     return isSoluble ? "soluble" : "insoluble";
 }
 
-void addWords(Json& json, std::string_view words)
+void addNames(Json& json, const IonSet& ofCations)
 {
     json.elements([&] {
-        while (!words.empty()) {
-            const std::size_t length = std::min(words.find(' '), words.size());
-            json.text(words.substr(0, length));
-            words.remove_prefix(std::min(length + 1, words.size()));
+        for (const IonRow* const cation : cations()) {
+            if (ofCations.has(cation->id)) {
+                json.text(nameInFull(*cation));
+            }
         }
     });
 }
@@ -64,10 +64,10 @@ void addWords(Json& json, std::string_view words)
 void add(Json& json, const SolubilityRule& rule)
 {
     json.object([&] {
-        json.member("anion", rule.anion);
+        json.member("anion", nameInFull(rowOf(rule.anion)));
         json.member("family", rule.family);
         json.member("verdict", verdict(rule.isSoluble));
-        addWords(json.key("exceptions"), rule.exceptions);
+        addNames(json.key("exceptions"), rule.exceptions);
         json.member("sentence", rule.sentence);
     });
 }
@@ -82,8 +82,8 @@ void addVerdict(Json& json, const Pair& pair)
 void add(Json& json, const Pair& pair)
 {
     json.object([&] {
-        json.member("cation", pair.cation->name);
-        json.member("anion", pair.anion->name);
+        json.member("cation", nameInFull(*pair.cation));
+        json.member("anion", nameInFull(*pair.anion));
         if (whyFormulaIsNotAsked(pair).empty()) {
             json.member("formula", compoundFormula(*pair.cation, *pair.anion));
         }

@@ -1,9 +1,9 @@
 #include "lesson/chemistry/ions.hpp"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <iterator>
-#include <numeric>
 
 namespace lesson
 {
@@ -19,189 +19,149 @@ constexpr bool atom = false;
 // laboratories: 6 where everyone meets it, 4 where most do, 2 where it stands for its like, 1 where
 // it is rare. Beside each is what it is known by.
 // clang-format off
-constexpr IonRow cationRows[] = {
-    {"lithium",      "",         "Li",  1, atom,  1}, // dear, and hardly in a school
-    {"sodium",       "",         "Na",  1, atom,  6}, // table salt, soda, lye
-    {"potassium",    "",         "K",   1, atom,  6}, // fertiliser, potash
-    {"ammonium",     "",         "NH4", 1, group, 6}, // the one cation that is a group
-    {"silver",       "",         "Ag",  1, atom,  3}, // the test for halides
-    {"magnesium",    "",         "Mg",  2, atom,  6}, // the ribbon that burns
-    {"calcium",      "",         "Ca",  2, atom,  6}, // limestone, slaked lime
-    {"barium",       "",         "Ba",  2, atom,  3}, // the test for sulfate
-    {"manganese(II)", "",        "Mn",  2, atom,  1}, // its dioxide is met, its salts are not
-    {"iron(II)",     "",         "Fe",  2, atom,  4}, // green vitriol
-    {"cobalt(II)",   "",         "Co",  2, atom,  1}, // the test for water, poisonous
-    {"nickel(II)",   "",         "Ni",  2, atom,  1}, // poisonous
-    {"copper(II)",   "",         "Cu",  2, atom,  6}, // blue vitriol, the black oxide
-    {"zinc",         "",         "Zn",  2, atom,  4}, // the metal of first experiments
-    {"tin(II)",      "",         "Sn",  2, atom,  1}, // hardly in a school
-    {"lead(II)",     "",         "Pb",  2, atom,  3}, // the yellow iodide; poisonous
-    {"aluminium",    "aluminum", "Al",  3, atom,  6}, // the one metal of 3+ without a numeral
-    {"chromium(III)", "",        "Cr",  3, atom,  1}, // hardly in a school
-    {"iron(III)",    "",         "Fe",  3, atom,  4}, // rust
-};
-static_assert(std::size(cationRows) == 19);
+constexpr IonRow rows[] = {
+    {Ion::lithium,             "Li",      1, atom,  1, 0, "lithium",             ""}, // dear, and hardly in a school
+    {Ion::sodium,              "Na",      1, atom,  6, 0, "sodium",              ""}, // table salt, soda, lye
+    {Ion::potassium,           "K",       1, atom,  6, 0, "potassium",           ""}, // fertiliser, potash
+    {Ion::ammonium,            "NH4",     1, group, 6, 0, "ammonium",            ""}, // the one cation that is a group
+    {Ion::silver,              "Ag",      1, atom,  3, 0, "silver",              ""}, // the test for halides
+    {Ion::magnesium,           "Mg",      2, atom,  6, 0, "magnesium",           ""}, // the ribbon that burns
+    {Ion::calcium,             "Ca",      2, atom,  6, 0, "calcium",             ""}, // limestone, slaked lime
+    {Ion::barium,              "Ba",      2, atom,  3, 0, "barium",              ""}, // the test for sulfate
+    {Ion::manganese2,          "Mn",      2, atom,  1, 2, "manganese",           ""}, // its dioxide is met, its salts are not
+    {Ion::iron2,               "Fe",      2, atom,  4, 2, "iron",                ""}, // green vitriol
+    {Ion::cobalt2,             "Co",      2, atom,  1, 2, "cobalt",              ""}, // the test for water, poisonous
+    {Ion::nickel2,             "Ni",      2, atom,  1, 2, "nickel",              ""}, // poisonous
+    {Ion::copper2,             "Cu",      2, atom,  6, 2, "copper",              ""}, // blue vitriol, the black oxide
+    {Ion::zinc,                "Zn",      2, atom,  4, 0, "zinc",                ""}, // the metal of first experiments
+    {Ion::tin2,                "Sn",      2, atom,  1, 2, "tin",                 ""}, // hardly in a school
+    {Ion::lead2,               "Pb",      2, atom,  3, 2, "lead",                ""}, // the yellow iodide; poisonous
+    {Ion::aluminium,           "Al",      3, atom,  6, 0, "aluminium",           "aluminum"}, // the one metal of 3+ without a numeral
+    {Ion::chromium3,           "Cr",      3, atom,  1, 3, "chromium",            ""}, // hardly in a school
+    {Ion::iron3,               "Fe",      3, atom,  4, 3, "iron",                ""}, // rust
 
-constexpr IonRow anionRows[] = {
-    {"fluoride",          "",                   "F",      -1, atom,  3}, // toothpaste
-    {"chloride",          "",                   "Cl",     -1, atom,  6}, // table salt
-    {"bromide",           "",                   "Br",     -1, atom,  4}, // like chloride
-    {"iodide",            "",                   "I",      -1, atom,  4}, // like chloride
-    {"hydroxide",         "",                   "OH",     -1, group, 6}, // of alkalis
-    {"nitrate",           "",                   "NO3",    -1, group, 6}, // fertiliser
-    {"hydrogencarbonate", "hydrogen carbonate", "HCO3",   -1, group, 4}, // baking soda
-    {"ethanoate",         "acetate",            "CH3COO", -1, group, 3}, // vinegar
-    {"oxide",             "",                   "O",      -2, atom,  6}, // of all that burns
-    {"sulfide",           "",                   "S",      -2, atom,  4}, // ores
-    {"sulfate",           "",                   "SO4",    -2, group, 6}, // the vitriols, gypsum
-    {"carbonate",         "",                   "CO3",    -2, group, 6}, // limestone, soda
-    {"nitride",           "",                   "N",      -3, atom,  1}, // a curiosity
-    {"phosphide",         "",                   "P",      -3, atom,  1}, // a curiosity
-    {"phosphate",         "",                   "PO4",    -3, group, 2}, // fertiliser, bones
-};
-static_assert(std::size(anionRows) == 15);
+    {Ion::fluoride,            "F",      -1, atom,  3, 0, "fluoride",            ""}, // toothpaste
+    {Ion::chloride,            "Cl",     -1, atom,  6, 0, "chloride",            ""}, // table salt
+    {Ion::bromide,             "Br",     -1, atom,  4, 0, "bromide",             ""}, // like chloride
+    {Ion::iodide,              "I",      -1, atom,  4, 0, "iodide",              ""}, // like chloride
+    {Ion::hydroxide,           "OH",     -1, group, 6, 0, "hydroxide",           ""}, // of alkalis
+    {Ion::nitrate,             "NO3",    -1, group, 6, 0, "nitrate",             ""}, // fertiliser
+    {Ion::hydrogencarbonate,   "HCO3",   -1, group, 4, 0, "hydrogencarbonate",   "hydrogen carbonate"}, // baking soda
+    {Ion::ethanoate,           "CH3COO", -1, group, 3, 0, "ethanoate",           "acetate"}, // vinegar
+    {Ion::oxide,               "O",      -2, atom,  6, 0, "oxide",               ""}, // of all that burns
+    {Ion::sulfide,             "S",      -2, atom,  4, 0, "sulfide",             ""}, // ores
+    {Ion::sulfate,             "SO4",    -2, group, 6, 0, "sulfate",             ""}, // the vitriols, gypsum
+    {Ion::carbonate,           "CO3",    -2, group, 6, 0, "carbonate",           ""}, // limestone, soda
+    {Ion::nitride,             "N",      -3, atom,  1, 0, "nitride",             ""}, // a curiosity
+    {Ion::phosphide,           "P",      -3, atom,  1, 0, "phosphide",           ""}, // a curiosity
+    {Ion::phosphate,           "PO4",    -3, group, 2, 0, "phosphate",           ""}, // fertiliser, bones
 
-// Too rare or too unlike the others for compounds, but worth knowing as ions.
-constexpr IonRow furtherRows[] = {
-    {"hydrogen",            "",                     "H",     1,  atom,  6}, // of all acids
-    {"nitrite",             "",                     "NO2",   -1, group, 3}, // the -ite of nitrate
-    {"sulfite",             "",                     "SO3",   -2, group, 4}, // the -ite of sulfate
-    {"hydrogensulfate",     "hydrogen sulfate",     "HSO4",  -1, group, 3}, // half of sulfuric acid
-    {"manganate(VII)",      "permanganate",         "MnO4",  -1, group, 4}, // the purple oxidant
-    {"dichromate",          "",                     "Cr2O7", -2, group, 4}, // the orange oxidant
-    {"chromate",            "",                     "CrO4",  -2, group, 3}, // its yellow partner
-    {"chlorate",            "",                     "ClO3",  -1, group, 3}, // weedkiller, matches
-    {"thiosulfate",         "",                     "S2O3",  -2, group, 4}, // the vanishing cross
-    {"hydrogensulfite",     "hydrogen sulfite",     "HSO3",  -1, group, 2}, // preservative
-    {"hydrogenphosphate",   "hydrogen phosphate",   "HPO4",  -2, group, 2}, // buffers
-    {"dihydrogenphosphate", "dihydrogen phosphate", "H2PO4", -1, group, 2}, // buffers
-    {"cyanide",             "",                     "CN",    -1, group, 2}, // the poison
+    // Too rare or too unlike the others for compounds, but worth knowing as ions.
+    {Ion::hydrogen,            "H",       1, atom,  6, 0, "hydrogen",            ""}, // of all acids
+    {Ion::nitrite,             "NO2",    -1, group, 3, 0, "nitrite",             ""}, // the -ite of nitrate
+    {Ion::sulfite,             "SO3",    -2, group, 4, 0, "sulfite",             ""}, // the -ite of sulfate
+    {Ion::hydrogensulfate,     "HSO4",   -1, group, 3, 0, "hydrogensulfate",     "hydrogen sulfate"}, // half of sulfuric acid
+    {Ion::manganate7,          "MnO4",   -1, group, 4, 7, "manganate",           "permanganate"}, // the purple oxidant
+    {Ion::dichromate,          "Cr2O7",  -2, group, 4, 0, "dichromate",          ""}, // the orange oxidant
+    {Ion::chromate,            "CrO4",   -2, group, 3, 0, "chromate",            ""}, // its yellow partner
+    {Ion::chlorate,            "ClO3",   -1, group, 3, 0, "chlorate",            ""}, // weedkiller, matches
+    {Ion::thiosulfate,         "S2O3",   -2, group, 4, 0, "thiosulfate",         ""}, // the vanishing cross
+    {Ion::hydrogensulfite,     "HSO3",   -1, group, 2, 0, "hydrogensulfite",     "hydrogen sulfite"}, // preservative
+    {Ion::hydrogenphosphate,   "HPO4",   -2, group, 2, 0, "hydrogenphosphate",   "hydrogen phosphate"}, // buffers
+    {Ion::dihydrogenphosphate, "H2PO4",  -1, group, 2, 0, "dihydrogenphosphate", "dihydrogen phosphate"}, // buffers
+    {Ion::cyanide,             "CN",     -1, group, 2, 0, "cyanide",             ""}, // the poison
+
+    {Ion::ethanedioate,        "C2O4",   -2, group, 1, 0, "ethanedioate",        "oxalate"}, // rust stains
 };
-static_assert(std::size(furtherRows) == 13);
 // clang-format on
 
-template <std::size_t N>
-std::vector<const IonRow*> pointersTo(const IonRow (&rows)[N])
+constexpr bool areAtTheirPlaces()
 {
-    std::vector<const IonRow*> pointers;
-    for (const IonRow& row : rows) {
-        pointers.push_back(&row);
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        if (rows[i].id != static_cast<Ion>(i)) {
+            return false;
+        }
     }
-    return pointers;
+    return std::size(rows) == ionCount;
+}
+static_assert(areAtTheirPlaces(), "every ion has its row, in the order of the ids");
+
+// Those from one to another, with both.
+std::vector<const IonRow*> ionsBetween(Ion first, Ion last)
+{
+    std::vector<const IonRow*> ions;
+    for (const IonRow* row = &rowOf(first); row <= &rowOf(last); ++row) {
+        ions.push_back(row);
+    }
+    return ions;
 }
 
 template <typename Wanted>
 const IonRow* findWhere(Wanted wanted)
 {
-    for (const auto* const list : {&cations(), &anions(), &furtherIons()}) {
-        const auto found = std::find_if(list->begin(), list->end(), wanted);
-        if (found != list->end()) {
-            return *found;
-        }
-    }
-    return nullptr;
+    const IonRow* const end = &rowOf(Ion::cyanide) + 1;
+    const IonRow* const found = std::find_if(std::begin(rows), end, wanted);
+    return found == end ? nullptr : found;
 }
 
-int sizeOfCharge(const IonRow& row)
+std::string romanNumeral(int number)
 {
-    return std::abs(row.charge);
-}
-
-// How often an ion stands in the neutral compound with a partner: as often as it takes to come to
-// the least charge that both can make up.
-int countOf(const IonRow& ion, const IonRow& partner)
-{
-    return std::lcm(sizeOfCharge(ion), sizeOfCharge(partner)) / sizeOfCharge(ion);
-}
-
-// An ion's share of a formula: brackets only around a group that comes more than once.
-std::string shareOf(const IonRow& ion, int count)
-{
-    const std::string formula(ion.formula);
-    if (count == 1) {
-        return formula;
-    }
-    return (ion.isGroup ? "(" + formula + ")" : formula) + std::to_string(count);
-}
-
-std::string_view americanNameOf(const IonRow& row)
-{
-    return row.american.empty() ? row.name : row.american;
+    constexpr const char* numerals[] = {"", "I", "II", "III", "IV", "V", "VI", "VII"};
+    return numerals[number];
 }
 
 } // namespace
 
+const IonRow& rowOf(Ion ion)
+{
+    return rows[static_cast<std::size_t>(ion)];
+}
+
 const std::vector<const IonRow*>& cations()
 {
-    static const std::vector<const IonRow*> rows = pointersTo(cationRows);
-    return rows;
+    static const std::vector<const IonRow*> ions = ionsBetween(Ion::lithium, Ion::iron3);
+    return ions;
 }
 
 const std::vector<const IonRow*>& anions()
 {
-    static const std::vector<const IonRow*> rows = pointersTo(anionRows);
-    return rows;
+    static const std::vector<const IonRow*> ions = ionsBetween(Ion::fluoride, Ion::phosphate);
+    return ions;
 }
 
 const std::vector<const IonRow*>& furtherIons()
 {
-    static const std::vector<const IonRow*> rows = pointersTo(furtherRows);
-    return rows;
+    static const std::vector<const IonRow*> ions = ionsBetween(Ion::hydrogen, Ion::cyanide);
+    return ions;
 }
 
 const IonRow* findIon(std::string_view formula, int charge)
 {
-    return findWhere([formula, charge](const IonRow* row) {
-        return row->formula == formula && row->charge == charge;
+    return findWhere([formula, charge](const IonRow& row) {
+        return row.formula == formula && row.charge == charge;
     });
 }
 
 const IonRow* findIon(std::string_view name)
 {
-    return findWhere([name](const IonRow* row) { return row->name == name; });
+    return findWhere([name](const IonRow& row) { return nameInFull(row) == name; });
+}
+
+std::string nameInFull(const IonRow& ion)
+{
+    const std::string name(ion.name);
+    return hasRomanNumeral(ion) ? name + "(" + romanNumeral(ion.oxidationNumber) + ")" : name;
 }
 
 bool hasRomanNumeral(const IonRow& ion)
 {
-    return ion.name.find('(') != std::string_view::npos;
+    return ion.oxidationNumber != 0;
 }
 
 std::string chargeText(const IonRow& ion)
 {
-    const std::string size = sizeOfCharge(ion) == 1 ? "" : std::to_string(sizeOfCharge(ion));
-    return size + (ion.charge < 0 ? "-" : "+");
-}
-
-// CH3COONa, as boards print an ethanoate that needs no number.
-std::string compoundFormula(const IonRow& cation, const IonRow& anion)
-{
-    if (anion.formula == "CH3COO" && cation.charge == 1) {
-        return std::string(anion.formula) + std::string(cation.formula);
-    }
-    return shareOf(cation, cationsIn(cation, anion)) + shareOf(anion, anionsIn(cation, anion));
-}
-
-std::string compoundName(const IonRow& cation, const IonRow& anion)
-{
-    return std::string(cation.name) + " " + std::string(anion.name);
-}
-
-std::string americanName(const IonRow& cation, const IonRow& anion)
-{
-    if (cation.american.empty() && anion.american.empty()) {
-        return "";
-    }
-    return std::string(americanNameOf(cation)) + " " + std::string(americanNameOf(anion));
-}
-
-int cationsIn(const IonRow& cation, const IonRow& anion)
-{
-    return countOf(cation, anion);
-}
-
-int anionsIn(const IonRow& cation, const IonRow& anion)
-{
-    return countOf(anion, cation);
+    const int size = std::abs(ion.charge);
+    return (size == 1 ? "" : std::to_string(size)) + (ion.charge < 0 ? "-" : "+");
 }
 
 } // namespace lesson

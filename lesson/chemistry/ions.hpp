@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,15 +10,75 @@
 namespace lesson
 {
 
-// An ion that exercises use.
+// The ions that exercises use, in the order of their table; a number tells the charges of a metal
+// that has several apart.
+enum class Ion : std::uint8_t {
+    // cations of compounds
+    lithium,
+    sodium,
+    potassium,
+    ammonium,
+    silver,
+    magnesium,
+    calcium,
+    barium,
+    manganese2,
+    iron2,
+    cobalt2,
+    nickel2,
+    copper2,
+    zinc,
+    tin2,
+    lead2,
+    aluminium,
+    chromium3,
+    iron3,
+    // anions of compounds
+    fluoride,
+    chloride,
+    bromide,
+    iodide,
+    hydroxide,
+    nitrate,
+    hydrogencarbonate,
+    ethanoate,
+    oxide,
+    sulfide,
+    sulfate,
+    carbonate,
+    nitride,
+    phosphide,
+    phosphate,
+    // that are asked for alone
+    hydrogen,
+    nitrite,
+    sulfite,
+    hydrogensulfate,
+    manganate7,
+    dichromate,
+    chromate,
+    chlorate,
+    thiosulfate,
+    hydrogensulfite,
+    hydrogenphosphate,
+    dihydrogenphosphate,
+    cyanide,
+    // met as the anion of an acid only
+    ethanedioate,
+};
+constexpr std::size_t ionCount = static_cast<std::size_t>(Ion::ethanedioate) + 1;
+
 struct IonRow {
-    std::string_view name;     // "copper(II)", "hydrogencarbonate"
-    std::string_view american; // its American name; empty where that is the same
+    Ion id;
     std::string_view formula;  // without the charge: "Cu", "HCO3"
     int charge;                // with its sign
     bool isGroup;              // of several atoms, which takes brackets where it occurs repeatedly
-    int weight = 1;            // how common it is in comparison with others, 1 to 6
+    int weight;                // how common it is in comparison with others, 1 to 6
+    int oxidationNumber;       // that the name tells: 2 of copper(II), 7 of manganate(VII); else 0
+    std::string_view name;     // without that: "copper", "hydrogencarbonate"
+    std::string_view american; // its American name; empty where that is the same
 };
+const IonRow& rowOf(Ion ion);
 
 // The 19 cations and 15 anions of which compounds are made, in the order of the table.
 const std::vector<const IonRow*>& cations();
@@ -23,25 +86,42 @@ const std::vector<const IonRow*>& anions();
 // Those that are asked for alone, as ions, besides these: hydrogen ion, nitrite, …, cyanide.
 const std::vector<const IonRow*>& furtherIons();
 
-// The ion with this formula and charge among all of them: "Cu", 2. Null where there is none.
+// The ion with this formula and charge among all of these: "Cu", 2. Null where there is none.
 const IonRow* findIon(std::string_view formula, int charge);
 // The one of that name: "copper(II)", "sulfate". Null where there is none.
 const IonRow* findIon(std::string_view name);
 
-// Whether the name tells the charge by a Roman numeral.
+// "copper(II)", "sulfate".
+std::string nameInFull(const IonRow& ion);
+// Whether this tells an oxidation number, by a Roman numeral; of a cation that is its charge.
 bool hasRomanNumeral(const IonRow& ion);
 
 // The charge as it stands behind a formula: "+", "2-".
 std::string chargeText(const IonRow& ion);
-// The name as the American one, "aluminum", where they differ; else empty.
-std::string americanName(const IonRow& cation, const IonRow& anion);
 
-// The neutral compound of two ions: "Al2(SO4)3", "aluminium sulfate". The cation comes first, but
-// in "CH3COONa" and its like.
-std::string compoundFormula(const IonRow& cation, const IonRow& anion);
-std::string compoundName(const IonRow& cation, const IonRow& anion);
-// How often each occurs in it.
-int cationsIn(const IonRow& cation, const IonRow& anion);
-int anionsIn(const IonRow& cation, const IonRow& anion);
+// Some of the ions.
+class IonSet
+{
+public:
+    constexpr IonSet(std::initializer_list<Ion> ions)
+    {
+        for (const Ion ion : ions) {
+            bits |= bitOf(ion);
+        }
+    }
+    constexpr bool has(Ion ion) const
+    {
+        return (bits & bitOf(ion)) != 0;
+    }
+
+private:
+    static_assert(ionCount <= 64, "each ion has a bit");
+    static constexpr std::uint64_t bitOf(Ion ion)
+    {
+        return std::uint64_t{1} << static_cast<unsigned>(ion);
+    }
+
+    std::uint64_t bits = 0;
+};
 
 } // namespace lesson

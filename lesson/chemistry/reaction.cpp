@@ -12,45 +12,47 @@ namespace
 
 // clang-format off
 constexpr AcidRow acidRows[] = {
-    {"HCl",     "hydrochloric acid", "",            1, 5, "chloride"},
-    {"HBr",     "hydrobromic acid",  "",            1, 1, "bromide"},
-    {"HNO3",    "nitric acid",       "",            1, 5, "nitrate"},
-    {"H2SO4",   "sulfuric acid",     "",            2, 5, "sulfate"},
-    {"H3PO4",   "phosphoric acid",   "",            3, 3, "phosphate"},
-    {"CH3COOH", "ethanoic acid",     "acetic acid", 1, 4, "ethanoate"},
-    {"H2C2O4",  "ethanedioic acid",  "oxalic acid", 2, 1, "ethanedioate"},
+    {"HCl",     "hydrochloric acid", "",            1, 5, Ion::chloride},
+    {"HBr",     "hydrobromic acid",  "",            1, 1, Ion::bromide},
+    {"HNO3",    "nitric acid",       "",            1, 5, Ion::nitrate},
+    {"H2SO4",   "sulfuric acid",     "",            2, 5, Ion::sulfate},
+    {"H3PO4",   "phosphoric acid",   "",            3, 3, Ion::phosphate},
+    {"CH3COOH", "ethanoic acid",     "acetic acid", 1, 4, Ion::ethanoate},
+    {"H2C2O4",  "ethanedioic acid",  "oxalic acid", 2, 1, Ion::ethanedioate},
 };
 
-// Met as the anion of an acid only, so it is not among the ions of the tables.
-constexpr IonRow ethanedioate = {"ethanedioate", "oxalate", "C2O4", -2, true};
-
-// What one anion of a base does.
-struct BaseRow {
-    std::string_view anion;
+// What a base does.
+struct Uptake {
     int protons; // that it takes
     int water;   // molecules that it becomes
     int carbonDioxide;
 };
-constexpr BaseRow baseRows[] = {
-    {"hydroxide",         1, 1, 0},
-    {"oxide",             2, 1, 0},
-    {"carbonate",         2, 1, 1},
-    {"hydrogencarbonate", 1, 1, 1},
+
+struct BaseRow {
+    Ion anion;
+    Uptake ofOne;
 };
-constexpr BaseRow ofAmmonia = {"", 1, 0, 0};
+constexpr BaseRow baseRows[] = {
+    {Ion::hydroxide,         {1, 1, 0}},
+    {Ion::oxide,             {2, 1, 0}},
+    {Ion::carbonate,         {2, 1, 1}},
+    {Ion::hydrogencarbonate, {1, 1, 1}},
+};
+constexpr Uptake ofAmmonia = {1, 0, 0};
 // clang-format on
 
-// The same of one formula unit of a base; null anions are those of ammonia.
-BaseRow unitOf(const Base& base)
+// Of one formula unit.
+Uptake uptakeOf(const Base& base)
 {
     if (base.anion == nullptr) {
         return ofAmmonia;
     }
     const auto* const row =
         std::find_if(std::begin(baseRows), std::end(baseRows),
-                     [&base](const BaseRow& r) { return r.anion == base.anion->name; });
+                     [&base](const BaseRow& r) { return r.anion == base.anion->id; });
     const int anions = anionsIn(*base.cation, *base.anion);
-    return {row->anion, anions * row->protons, anions * row->water, anions * row->carbonDioxide};
+    const Uptake& one = row->ofOne;
+    return {anions * one.protons, anions * one.water, anions * one.carbonDioxide};
 }
 
 std::string termOf(int coefficient, const std::string& formula)
@@ -108,12 +110,12 @@ const AcidRow* findAcid(std::string_view formula)
 
 const IonRow& anionOf(const AcidRow& acid)
 {
-    return acid.anion == ethanedioate.name ? ethanedioate : *findIon(acid.anion);
+    return rowOf(acid.anion);
 }
 
 Base ammonia()
 {
-    return {findIon("ammonium"), nullptr};
+    return {&rowOf(Ion::ammonium), nullptr};
 }
 
 std::string formulaOf(const Base& base)
@@ -156,7 +158,7 @@ Equation neutralisationOf(const AcidRow& acid, const Base& base)
 Equation equationOf(std::string_view acidFormula, int protons, const IonRow& anion,
                     const Base& base)
 {
-    const BaseRow unit = unitOf(base);
+    const Uptake unit = uptakeOf(base);
     const int given = std::lcm(protons, unit.protons);
     const int ofAcid = given / protons;
     const int ofBase = given / unit.protons;

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "lesson/chemistry/ions.hpp"
+#include "lesson/chemistry/compounds.hpp"
 #include "lesson/words/spans.hpp"
 
 namespace lesson
@@ -18,7 +18,7 @@ struct AcidRow {
     std::string_view american; // "acetic acid"; empty where that is the same
     int protons;               // of one molecule
     int weight;                // how common it is in comparison with others, as IonRow has it
-    std::string_view anion;    // name of what is left without them: "ethanoate"
+    Ion anion;                 // what is left without them
 };
 
 // Hydrochloric, hydrobromic, nitric, sulfuric, phosphoric, ethanoic and ethanedioic acid.

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/classified.hpp"
 #include "lesson/kinds/shared/salts.hpp"

@@ -44,16 +44,13 @@ bool isOneAtom(const IonRow& ion)
 }
 
 // Further groups that are as common as those of compounds.
-constexpr std::string_view commonGroups[] = {"nitrite", "sulfite", "hydrogensulfate",
-                                             "manganate(VII)"};
+constexpr IonSet commonGroups = {Ion::nitrite, Ion::sulfite, Ion::hydrogensulfate, Ion::manganate7};
 
 bool isCommonGroup(const IonRow& ion)
 {
-    const auto isIon = [&ion](std::string_view name) { return name == ion.name; };
     const bool isFurther =
         std::find(furtherIons().begin(), furtherIons().end(), &ion) != furtherIons().end();
-    return ion.isGroup &&
-           (!isFurther || std::any_of(std::begin(commonGroups), std::end(commonGroups), isIon));
+    return ion.isGroup && (!isFurther || commonGroups.has(ion.id));
 }
 
 Ions ionsOfLevel(int level)
@@ -118,7 +115,7 @@ std::string atomsInWords(const Atoms& atoms)
 // What helps to find the atoms of a group, and its charge. The charge follows from the acid of that
 // name, where there is one.
 struct GroupHint {
-    std::string_view ion;
+    Ion ion;
     const char* atoms;
     const char* acid;
     const char* charge;
@@ -133,35 +130,35 @@ constexpr const char* withHydrogen =
 
 // clang-format off
 constexpr GroupHint groupHints[] = {
-    {"ammonium", "It is a molecule of ammonia joined to a hydrogen ion.", "",
+    {Ion::ammonium, "It is a molecule of ammonia joined to a hydrogen ion.", "",
      "The hydrogen ion brings its charge along."},
-    {"hydroxide", "Its name is made of those of two elements.", "",
+    {Ion::hydroxide, "Its name is made of those of two elements.", "",
      "It is a water molecule that has given a hydrogen ion away."},
-    {"cyanide", "The ending -ide: there is no oxygen in it. It has two elements, one atom of each.",
+    {Ion::cyanide, "The ending -ide: there is no oxygen in it. It has two elements, one atom of each.",
      "", "Its charge is that of chloride."},
-    {"ethanoate", "Its acid is the one in vinegar, which has one hydrogen more.",
+    {Ion::ethanoate, "Its acid is the one in vinegar, which has one hydrogen more.",
      "the acid in vinegar", ""},
-    {"nitrate", endingAte, "nitric acid", ""},
-    {"sulfate", endingAte, "sulfuric acid", ""},
-    {"carbonate", endingAte, "carbonic acid", ""},
-    {"phosphate", endingAte, "phosphoric acid", ""},
-    {"chlorate", endingAte, "", "Its charge is that of chloride."},
-    {"nitrite", endingIte, "", "Its charge is that of nitrate."},
-    {"sulfite", endingIte, "", "Its charge is that of sulfate."},
-    {"hydrogencarbonate", hydrogenFirst, "", withHydrogen},
-    {"hydrogensulfate", hydrogenFirst, "", withHydrogen},
-    {"hydrogensulfite", hydrogenFirst, "", withHydrogen},
-    {"hydrogenphosphate", hydrogenFirst, "", withHydrogen},
-    {"dihydrogenphosphate",
+    {Ion::nitrate, endingAte, "nitric acid", ""},
+    {Ion::sulfate, endingAte, "sulfuric acid", ""},
+    {Ion::carbonate, endingAte, "carbonic acid", ""},
+    {Ion::phosphate, endingAte, "phosphoric acid", ""},
+    {Ion::chlorate, endingAte, "", "Its charge is that of chloride."},
+    {Ion::nitrite, endingIte, "", "Its charge is that of nitrate."},
+    {Ion::sulfite, endingIte, "", "Its charge is that of sulfate."},
+    {Ion::hydrogencarbonate, hydrogenFirst, "", withHydrogen},
+    {Ion::hydrogensulfate, hydrogenFirst, "", withHydrogen},
+    {Ion::hydrogensulfite, hydrogenFirst, "", withHydrogen},
+    {Ion::hydrogenphosphate, hydrogenFirst, "", withHydrogen},
+    {Ion::dihydrogenphosphate,
      "The beginning di- means two. Hydrogen comes first. What is the ion without it?", "",
      "What is the charge without the hydrogen, and what does each hydrogen ion add?"},
-    {"chromate", endingAte, "", "Its charge is that of sulfate."},
-    {"dichromate", "The beginning di- means two, the ending -ate tells of oxygen.", "",
+    {Ion::chromate, endingAte, "", "Its charge is that of sulfate."},
+    {Ion::dichromate, "The beginning di- means two, the ending -ate tells of oxygen.", "",
      "Its charge is that of chromate."},
-    {"thiosulfate",
+    {Ion::thiosulfate,
      "Thio- stands for a sulfur in the place of an oxygen. What is the ion without it?", "",
      "Its charge is that of sulfate."},
-    {"manganate(VII)", endingAte, "",
+    {Ion::manganate7, endingAte, "",
      "Manganese has the oxidation number +7, each oxygen −2. They add up to the charge."},
 };
 // clang-format on
@@ -169,7 +166,7 @@ constexpr GroupHint groupHints[] = {
 const GroupHint& hintFor(const IonRow& ion)
 {
     return *std::find_if(std::begin(groupHints), std::end(groupHints),
-                         [&ion](const GroupHint& row) { return row.ion == ion.name; });
+                         [&ion](const GroupHint& row) { return row.ion == ion.id; });
 }
 
 std::string chargeHint(const GroupHint& hint)
@@ -213,7 +210,7 @@ Spans chargeSentence(const IonRow& ion, const ElementRow& row)
     if (hasRomanNumeral(ion)) {
         return line("The Roman numeral tells the charge: " + chargeWords(ion) + ".");
     }
-    if (ion.formula == "H") {
+    if (ion.id == Ion::hydrogen) {
         return line("The atom loses its only electron.");
     }
     if (ion.charge < 0) {
@@ -265,7 +262,7 @@ std::string textOf(std::string_view formulaWithoutCharge, int charge)
 
 // Beside those that are taken for another in formulas too.
 struct Mistaken {
-    std::string_view of;   // name of the ion
+    Ion of;
     std::string_view text; // with the charge
     std::string_view sentence;
 };
@@ -278,30 +275,30 @@ constexpr std::string_view notItsCharge =
 
 // clang-format off
 constexpr Mistaken mistakes[] = {
-    {"hydrogen", "H3O^+", "That is a hydrogen ion joined to a water molecule."},
-    {"hydrogen", "OH^-", "That is the hydroxide ion, which bases have."},
-    {"ammonium", "NH3", sentences::ammonia},
-    {"ammonium", "NH2^+", hydrogens},
-    {"hydrogencarbonate", "HCO3^2-", ownCharge},
-    {"hydrogensulfate", "HSO4^2-", ownCharge},
-    {"oxide", "O2^2-", "That is the peroxide ion, which has two atoms."},
-    {"ethanoate", "HCOO^-", carbons},
-    {"ethanoate", "C2H5COO^-", carbons},
-    {"ethanoate", "CH3CH2COO^-", carbons},
-    {"ethanoate", "CH3COOH", "That is the acid, which is no ion."},
-    {"manganate(VII)", "MnO4^7+", notItsCharge},
-    {"manganate(VII)", "MnO4^7-", notItsCharge},
-    {"dichromate", "CrO4^2-", "That is chromate. What does di- tell you?"},
-    {"hydrogensulfite", "HSO3^2-", ownCharge},
-    {"hydrogenphosphate", "HPO4^3-", ownCharge},
-    {"dihydrogenphosphate", "H2PO4^3-", ownCharge},
+    {Ion::hydrogen, "H3O^+", "That is a hydrogen ion joined to a water molecule."},
+    {Ion::hydrogen, "OH^-", "That is the hydroxide ion, which bases have."},
+    {Ion::ammonium, "NH3", sentences::ammonia},
+    {Ion::ammonium, "NH2^+", hydrogens},
+    {Ion::hydrogencarbonate, "HCO3^2-", ownCharge},
+    {Ion::hydrogensulfate, "HSO4^2-", ownCharge},
+    {Ion::oxide, "O2^2-", "That is the peroxide ion, which has two atoms."},
+    {Ion::ethanoate, "HCOO^-", carbons},
+    {Ion::ethanoate, "C2H5COO^-", carbons},
+    {Ion::ethanoate, "CH3CH2COO^-", carbons},
+    {Ion::ethanoate, "CH3COOH", "That is the acid, which is no ion."},
+    {Ion::manganate7, "MnO4^7+", notItsCharge},
+    {Ion::manganate7, "MnO4^7-", notItsCharge},
+    {Ion::dichromate, "CrO4^2-", "That is chromate. What does di- tell you?"},
+    {Ion::hydrogensulfite, "HSO3^2-", ownCharge},
+    {Ion::hydrogenphosphate, "HPO4^3-", ownCharge},
+    {Ion::dihydrogenphosphate, "H2PO4^3-", ownCharge},
 };
 // clang-format on
 
 void addMistakes(Exercise& exercise, const IonRow& ion, const std::vector<std::string>& right)
 {
     for (const Mistaken& row : mistakes) {
-        if (row.of == ion.name) {
+        if (row.of == ion.id) {
             addSlip(exercise, right, std::string(row.text), row.sentence);
         }
     }

@@ -7,7 +7,7 @@
 
 #include "lesson/chemistry/composition.hpp"
 #include "lesson/chemistry/elements.hpp"
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/chemistry/substances.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/molar_mass_slips.hpp"

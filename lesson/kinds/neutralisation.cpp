@@ -106,7 +106,7 @@ int levelOf(const Reaction& reaction)
         return 3;
     }
     const IonRow* const anion = reaction.base.anion;
-    return anion != nullptr && anion->name == "hydroxide" ? 1 : 2;
+    return anion != nullptr && anion->id == Ion::hydroxide ? 1 : 2;
 }
 
 int weightOf(const Reaction& reaction)
@@ -190,7 +190,8 @@ Equation withSinglesBehindTheSalt(Equation equation)
 
 bool isCarbonate(const Base& base)
 {
-    return base.anion != nullptr && (base.anion->formula == "CO3" || base.anion->formula == "HCO3");
+    return base.anion != nullptr &&
+           (base.anion->id == Ion::carbonate || base.anion->id == Ion::hydrogencarbonate);
 }
 
 Step ionsOfTheSalt(const AcidRow& acid, const Base& base)
@@ -214,8 +215,8 @@ Spans productsHint(const Base& base)
     if (isCarbonate(base)) {
         return line("Each ", nameOf(anion), " gives carbon dioxide as well as water.");
     }
-    return line("What do the hydrogen of the acid and the ", anion.formula == "O" ? "oxygen" : "OH",
-                " of the base become?");
+    return line("What do the hydrogen of the acid and the ",
+                anion.id == Ion::oxide ? "oxygen" : "OH", " of the base become?");
 }
 
 Spans waterHint(const Base& base)
@@ -224,7 +225,7 @@ Spans waterHint(const Base& base)
     if (isCarbonate(base)) {
         return line("Each ", nameOf(anion), " gives one water and one carbon dioxide.");
     }
-    return anion.formula == "O"
+    return anion.id == Ion::oxide
                ? line("Each oxygen of the base makes one water with two hydrogens of the acid.")
                : line("Each OH of the base makes one water with one hydrogen of the acid.");
 }
@@ -235,7 +236,7 @@ Step writeFormulas(const Equation& equation, const Base& base)
         return {line("Write the formulas: an acid and ammonia give a salt alone."),
                 spansOf(skeletonOf(equation)), productsHint(base)};
     }
-    return {line("Write the formulas: an acid and ", base.anion->formula == "O" ? "an " : "a ",
+    return {line("Write the formulas: an acid and ", base.anion->id == Ion::oxide ? "an " : "a ",
                  nameOf(*base.anion),
                  isCarbonate(base) ? " give a salt, water and carbon dioxide."
                                    : " give a salt and water."),
@@ -249,7 +250,7 @@ Spans balanceFirst(const Equation& equation, const AcidRow& acid, const Base& ba
     const bool isAnion = equation.left[0].first > 1;
     const IonRow& anion = anionOf(acid);
     const Span metal = plainNameOf(*base.cation);
-    const Span group = name(anion.name, anion.american);
+    const Span group = nameOf(anion);
     if (isMetal && isAnion) {
         return line("Balance the ", metal, ", then the ", group, ".");
     }
@@ -318,12 +319,12 @@ struct AcidSaltRow {
     std::string_view acid;
     int cationCharge;
     int protons; // that it gives away
-    IonRow anion;
+    Ion anion;
 };
 constexpr AcidSaltRow acidSalts[] = {
-    {"H2SO4", 1, 1, {"hydrogensulfate", "", "HSO4", -1, true}},
-    {"H3PO4", 1, 1, {"dihydrogenphosphate", "", "H2PO4", -1, true}},
-    {"H3PO4", 2, 2, {"hydrogenphosphate", "", "HPO4", -2, true}},
+    {"H2SO4", 1, 1, Ion::hydrogensulfate},
+    {"H3PO4", 1, 1, Ion::dihydrogenphosphate},
+    {"H3PO4", 2, 2, Ion::hydrogenphosphate},
 };
 
 // With ions one to one where they do not stand so, and with both charges written as subscripts
@@ -386,7 +387,8 @@ void addAcidSalt(Slips& slips, const AcidRow& acid, const Base& base)
 {
     for (const AcidSaltRow& row : acidSalts) {
         if (row.acid == acid.formula && row.cationCharge == base.cation->charge) {
-            add(slips, equationOf(row.acid, row.protons, row.anion, base), sentences::lessBase);
+            add(slips, equationOf(row.acid, row.protons, rowOf(row.anion), base),
+                sentences::lessBase);
         }
     }
 }

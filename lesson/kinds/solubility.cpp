@@ -4,7 +4,8 @@
 #include <string>
 #include <utility>
 
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
+#include "lesson/chemistry/solubility.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/classified.hpp"
 #include "lesson/kinds/shared/salts.hpp"
@@ -134,7 +135,8 @@ bool hasPrecipitate(const Mixture& mixture)
 
 bool isAlwaysSoluble(const IonRow& cation)
 {
-    return cation.name == "sodium" || cation.name == "potassium" || cation.name == "ammonium";
+    constexpr IonSet ofSolubleSaltsOnly = {Ion::sodium, Ion::potassium, Ion::ammonium};
+    return ofSolubleSaltsOnly.has(cation.id);
 }
 
 // With a precipitate the class is its rule. Without one it is how many of the cations have soluble

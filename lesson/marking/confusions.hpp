@@ -10,7 +10,7 @@ namespace lesson
 
 // What learners write for an ion: another ion, whose name or formula is like it, or a molecule.
 struct Confusion {
-    std::string_view of;      // name of the ion
+    Ion of;
     std::string_view formula; // of the other one, without its charge
     int charge;               // of the other one; of a molecule that of the ion
     std::string_view sentence;

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/equation.hpp"
 #include "lesson/marking/formula.hpp"
@@ -81,8 +81,8 @@ bool isAcidSaltOf(const Atoms& atoms, const IonRow& cation, const IonRow& anion)
 
 bool isOfBase(const IonRow& anion)
 {
-    constexpr std::string_view anions[] = {"OH", "O", "CO3", "HCO3"};
-    return std::find(std::begin(anions), std::end(anions), anion.formula) != std::end(anions);
+    constexpr IonSet ofBases = {Ion::hydroxide, Ion::oxide, Ion::carbonate, Ion::hydrogencarbonate};
+    return ofBases.has(anion.id);
 }
 
 // A compound of the tables.
@@ -151,8 +151,8 @@ constexpr std::string_view checkIons = "Check the ions in it.";
 // "NaCO3" for sodium hydrogencarbonate
 bool isWithoutItsHydrogen(const TypedTerm& term, const Role& role)
 {
-    const bool isCarbonate = role.anion->formula == "HCO3";
-    return isCarbonate && ionsIn(term.formula.atoms, *role.cation, *findIon("carbonate")) &&
+    const bool isCarbonate = role.anion->id == Ion::hydrogencarbonate;
+    return isCarbonate && ionsIn(term.formula.atoms, *role.cation, rowOf(Ion::carbonate)) &&
            findSubstance(term.formula.atoms, role.noun) == nullptr;
 }
 
@@ -215,18 +215,20 @@ bool areSeveralMolecules(const Atoms& atoms, const Atoms& one)
 
 // Ions whose names are alike, which makes one base of the same metal the other.
 struct Twins {
-    std::string_view one;
-    std::string_view other;
+    Ion one;
+    Ion other;
     std::string_view sentence;
 };
-constexpr Twins twins[] = {{"O", "OH", sentences::oxides}, {"CO3", "HCO3", sentences::carbonates}};
+constexpr Twins twins[] = {
+    {Ion::oxide, Ion::hydroxide, sentences::oxides},
+    {Ion::carbonate, Ion::hydrogencarbonate, sentences::carbonates},
+};
 
 std::string_view twinsSentence(const IonRow& a, const IonRow& b)
 {
     const auto* const found =
         std::find_if(std::begin(twins), std::end(twins), [&](const Twins& two) {
-            return (two.one == a.formula && two.other == b.formula) ||
-                   (two.one == b.formula && two.other == a.formula);
+            return (two.one == a.id && two.other == b.id) || (two.one == b.id && two.other == a.id);
         });
     return found == std::end(twins) ? std::string_view() : found->sentence;
 }
@@ -319,7 +321,7 @@ std::optional<Extra> halfWay(const TermOnSide& typed, const Roles& roles)
         return Extra{typed, Mistake::acidSalt,
                      quotable(formula.text) + " is an acid salt. Neutralise completely.", &salt};
     }
-    const bool isCarbonate = base.anion != nullptr && base.anion->formula == "CO3";
+    const bool isCarbonate = base.anion != nullptr && base.anion->id == Ion::carbonate;
     if (isCarbonate && isAcidSaltOf(formula.atoms, *base.cation, *base.anion) &&
         findSubstance(formula.atoms, base.noun) != nullptr) {
         return Extra{typed, Mistake::halfCarbonate,

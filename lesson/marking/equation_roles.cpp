@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
+#include "lesson/chemistry/solubility.hpp"
 #include "lesson/marking/equation_spellings.hpp"
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/typed.hpp"
@@ -99,7 +100,7 @@ Roles rolesOf(const EquationAnswer& answer)
     const IonRow* const baseAnion = answer.base.anion;
     const States saltStates = statesOfSalt({cation, acidAnion});
     const Role inOrder[] = {
-        {"acid", {"aq"}, findIon("hydrogen"), acidAnion},
+        {"acid", {"aq"}, &rowOf(Ion::hydrogen), acidAnion},
         baseAnion == nullptr ? Role{"base", {"aq", "g"}, nullptr, nullptr}
                              : Role{"base", statesOfBase({cation, baseAnion}), cation, baseAnion},
         {"salt", saltStates, cation, acidAnion},

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "lesson/chemistry/composition.hpp"
+#include "lesson/chemistry/compounds.hpp"
 #include "lesson/chemistry/elements.hpp"
 #include "lesson/marking/spellings.hpp"
 
@@ -95,7 +96,7 @@ std::vector<std::string> spellingsInEquation(std::string_view formula, const Ion
     std::vector<std::string> spellings = spellingsOf(formula);
     if (cation != nullptr) {
         addOfIons(spellings, *cation, *anion);
-        if (anion->name == "ethanoate") {
+        if (anion->id == Ion::ethanoate) {
             spellings.push_back(formulaForLists(compositionOf(formula).atoms));
         }
     }

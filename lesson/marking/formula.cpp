@@ -421,10 +421,13 @@ std::string wrongSymbol(std::string_view text, const std::vector<std::string>& r
     return "";
 }
 
+// With the ending -ide, which tells of no oxygen in other names.
+constexpr IonSet namedAfterOxygen = {Ion::oxide, Ion::hydroxide};
+
 bool mistakesEnding(const IonRow& ion, const Atoms& typed, const Atoms& right)
 {
     const bool isDue = hasOxygen(right);
-    const bool isTold = ion.charge < 0 && (!isDue || !endsWith(ion.name, "ide"));
+    const bool isTold = ion.charge < 0 && (!isDue || !namedAfterOxygen.has(ion.id));
     return isTold && hasOxygen(typed) != isDue &&
            haveSameElements(withoutOxygen(typed), withoutOxygen(right));
 }

@@ -35,7 +35,7 @@ bool isNameOf(std::string_view plain, const IonRow& ion)
         const std::string known = lowerCase(name);
         return !known.empty() && (typed == known || typed == known + " ion");
     };
-    return isTyped(ion.name) || isTyped(ion.american);
+    return isTyped(nameInFull(ion)) || isTyped(ion.american);
 }
 
 // "SO4**2-" -> "SO4^2-", as programmers raise

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "lesson/chemistry/compounds.hpp"
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/reading/scan.hpp"

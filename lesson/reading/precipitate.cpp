@@ -5,6 +5,7 @@
 #include <iterator>
 #include <vector>
 
+#include "lesson/chemistry/compounds.hpp"
 #include "lesson/reading/equation.hpp"
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/scan.hpp"

@@ -13,45 +13,41 @@ namespace
 {
 
 struct WrongSymbol {
-    std::string_view of; // the ion's name without a Roman numeral
+    Ion of;
     std::string_view symbol;
 };
 
 // clang-format off
 constexpr WrongSymbol wrongSymbols[] = {
-    {"lithium", "L"},
-    {"sodium", "S"}, {"sodium", "So"},
-    {"potassium", "P"}, {"potassium", "Po"},
-    {"ammonium", "Am"},
-    {"silver", "S"}, {"silver", "Si"},
-    {"magnesium", "Mn"}, {"magnesium", "M"},
-    {"calcium", "C"},
-    {"barium", "B"},
-    {"manganese", "Mg"},
-    {"iron", "I"}, {"iron", "Ir"},
-    {"cobalt", "C"},
-    {"nickel", "N"},
-    {"copper", "C"}, {"copper", "Co"},
-    {"zinc", "Z"},
-    {"tin", "T"}, {"tin", "Ti"},
-    {"lead", "L"}, {"lead", "Le"},
-    {"aluminium", "A"},
-    {"chromium", "C"}, {"chromium", "Ch"},
-    {"fluoride", "Fl"},
-    {"chloride", "C"}, {"chloride", "Ch"},
-    {"bromide", "B"},
-    {"iodide", "Io"},
-    {"oxide", "Ox"},
-    {"sulfide", "Su"},
-    {"nitride", "Ni"},
-    {"phosphide", "Ph"},
+    {Ion::lithium, "L"},
+    {Ion::sodium, "S"}, {Ion::sodium, "So"},
+    {Ion::potassium, "P"}, {Ion::potassium, "Po"},
+    {Ion::ammonium, "Am"},
+    {Ion::silver, "S"}, {Ion::silver, "Si"},
+    {Ion::magnesium, "Mn"}, {Ion::magnesium, "M"},
+    {Ion::calcium, "C"},
+    {Ion::barium, "B"},
+    {Ion::manganese2, "Mg"},
+    {Ion::iron2, "I"}, {Ion::iron2, "Ir"},
+    {Ion::cobalt2, "C"},
+    {Ion::nickel2, "N"},
+    {Ion::copper2, "C"}, {Ion::copper2, "Co"},
+    {Ion::zinc, "Z"},
+    {Ion::tin2, "T"}, {Ion::tin2, "Ti"},
+    {Ion::lead2, "L"}, {Ion::lead2, "Le"},
+    {Ion::aluminium, "A"},
+    {Ion::chromium3, "C"}, {Ion::chromium3, "Ch"},
+    {Ion::iron3, "I"}, {Ion::iron3, "Ir"},
+    {Ion::fluoride, "Fl"},
+    {Ion::chloride, "C"}, {Ion::chloride, "Ch"},
+    {Ion::bromide, "B"},
+    {Ion::iodide, "Io"},
+    {Ion::oxide, "Ox"},
+    {Ion::sulfide, "Su"},
+    {Ion::nitride, "Ni"},
+    {Ion::phosphide, "Ph"},
 };
 // clang-format on
-
-std::string_view withoutNumeral(std::string_view name)
-{
-    return name.substr(0, name.find('('));
-}
 
 void capitalise(std::string& words)
 {
@@ -69,12 +65,12 @@ Span nameOf(const IonRow& cation, const IonRow& anion)
 
 Span nameOf(const IonRow& ion)
 {
-    return name(std::string(ion.name), std::string(ion.american));
+    return name(nameInFull(ion), std::string(ion.american));
 }
 
 Span plainNameOf(const IonRow& ion)
 {
-    return name(std::string(withoutNumeral(ion.name)), std::string(ion.american));
+    return name(std::string(ion.name), std::string(ion.american));
 }
 
 Span pluralOf(const IonRow& anion)
@@ -118,7 +114,7 @@ std::vector<std::string_view> wrongSymbolsOf(const IonRow& ion)
 {
     std::vector<std::string_view> symbols;
     for (const WrongSymbol& wrong : wrongSymbols) {
-        if (wrong.of == withoutNumeral(ion.name)) {
+        if (wrong.of == ion.id) {
             symbols.push_back(wrong.symbol);
         }
     }

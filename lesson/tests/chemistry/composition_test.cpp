@@ -5,8 +5,8 @@
 #include <map>
 #include <string>
 
+#include "lesson/chemistry/compounds.hpp"
 #include "lesson/chemistry/elements.hpp"
-#include "lesson/chemistry/ions.hpp"
 #include "support/atom_count.hpp"
 
 namespace lesson

@@ -5,6 +5,8 @@
 #include <set>
 #include <string>
 
+#include "lesson/chemistry/compounds.hpp"
+
 namespace lesson
 {
 
@@ -47,6 +49,23 @@ TEST(LessonIonsTest, NamesFormulasAndChargesAreThoseOfADataBooklet)
     EXPECT_EQ(std::size(booklet), cations().size() + anions().size() + furtherIons().size());
     EXPECT_EQ(findIon("Fe", 1), nullptr);
     EXPECT_EQ(findIon("unobtainium"), nullptr);
+}
+
+// An ion that nobody lists would stand for nothing.
+TEST(LessonIonsTest, EveryIdHasARowThatIsListedOnce)
+{
+    std::multiset<Ion> listed = {Ion::ethanedioate};
+    for (const auto* const list : {&cations(), &anions(), &furtherIons()}) {
+        for (const IonRow* const ion : *list) {
+            listed.insert(ion->id);
+        }
+    }
+    EXPECT_EQ(listed.size(), ionCount);
+    for (std::size_t i = 0; i < ionCount; ++i) {
+        const Ion id = static_cast<Ion>(i);
+        EXPECT_EQ(rowOf(id).id, id) << i;
+        EXPECT_EQ(listed.count(id), 1U) << rowOf(id).formula;
+    }
 }
 
 TEST(LessonIonsTest, GroupsAreWhatHasMoreThanOneAtom)
@@ -102,8 +121,11 @@ TEST(LessonIonsTest, EveryCompoundIsNeutralInLowestTerms)
 
 TEST(LessonIonsTest, ChargesOfFourAreCancelledToo)
 {
-    const IonRow lead = {"lead(IV)", "", "Pb", 4, false};
-    const IonRow silicate = {"silicate", "", "SiO4", -4, true};
+    IonRow lead = rowOf(Ion::lead2);
+    lead.charge = 4;
+    IonRow silicate = rowOf(Ion::sulfate);
+    silicate.formula = "SiO4";
+    silicate.charge = -4;
     EXPECT_EQ(compoundFormula(lead, *findIon("chloride")), "PbCl4");
     EXPECT_EQ(compoundFormula(lead, *findIon("oxide")), "PbO2");
     EXPECT_EQ(compoundFormula(lead, *findIon("nitride")), "Pb3N4");
@@ -117,8 +139,19 @@ TEST(LessonIonsTest, AmericanNamesStandWhereTheyDiffer)
     EXPECT_EQ(americanName(*findIon("aluminium"), *findIon("sulfate")), "aluminum sulfate");
     EXPECT_EQ(americanName(*findIon("lead(II)"), *findIon("ethanoate")), "lead(II) acetate");
     EXPECT_EQ(americanName(*findIon("sodium"), *findIon("sulfate")), "");
-    EXPECT_TRUE(hasRomanNumeral(*findIon("iron(II)")));
-    EXPECT_FALSE(hasRomanNumeral(*findIon("zinc")));
+}
+
+// That of a cation is its charge; of manganate it is what its oxygens and its charge leave.
+TEST(LessonIonsTest, ANumeralIsTheOxidationNumber)
+{
+    for (const IonRow* const cation : cations()) {
+        if (hasRomanNumeral(*cation)) {
+            EXPECT_EQ(cation->oxidationNumber, cation->charge) << cation->formula;
+        }
+    }
+    EXPECT_EQ(rowOf(Ion::manganate7).oxidationNumber, 4 * 2 - 1);
+    EXPECT_TRUE(hasRomanNumeral(rowOf(Ion::iron2)));
+    EXPECT_FALSE(hasRomanNumeral(rowOf(Ion::zinc)));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
+#include "lesson/chemistry/solubility.hpp"
 
 #include <gtest/gtest.h>
 

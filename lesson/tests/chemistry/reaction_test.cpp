@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
 #include "support/atom_count.hpp"
 
 namespace lesson

@@ -11,7 +11,8 @@
 
 #include "lesson/chemistry/composition.hpp"
 #include "lesson/chemistry/elements.hpp"
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
+#include "lesson/chemistry/solubility.hpp"
 
 namespace lesson
 {

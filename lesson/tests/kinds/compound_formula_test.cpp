@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/tests/support/salt_exercise.hpp"
 
 namespace lesson

@@ -169,7 +169,7 @@ bool contains(const std::string& text, const std::string& part)
 // ending is about the ending of the name.
 void expectTrueOfOxygen(const IonRow& ion, const std::string& hint)
 {
-    const std::string name(ion.name.substr(0, ion.name.find('(')));
+    const std::string name(ion.name);
     const bool hasOxygen = contains(std::string(ion.formula), "O");
     const std::string told = "ending -" + name.substr(name.size() - 3);
     EXPECT_EQ(contains(hint, "tells of oxygen"), contains(hint, told) && hasOxygen) << hint;

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "lesson/chemistry/elements.hpp"
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/chemistry/solutions.hpp"
 #include "lesson/tests/support/calculation.hpp"
 #include "support/atom_count.hpp"

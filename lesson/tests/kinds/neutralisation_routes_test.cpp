@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/marking/equation.hpp"
 
@@ -296,8 +296,7 @@ Typed acidSalt(const Question& q, bool isBalanced)
     if (!isSulfate && q.acid != "H3PO4") {
         return {};
     }
-    const IonRow anion =
-        isSulfate ? IonRow{"", "", "HSO4", -1, true} : IonRow{"", "", "H2PO4", -1, true};
+    const IonRow anion = rowOf(isSulfate ? Ion::hydrogensulfate : Ion::dihydrogenphosphate);
     Equation wrong = equationOf(q.acid, 1, anion, q.answer.base);
     if (isBalanced) {
         return {textOf(wrong), "True with less base. Neutralise completely.", ""};

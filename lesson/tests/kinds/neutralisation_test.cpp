@@ -9,7 +9,7 @@
 #include <variant>
 #include <vector>
 
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/marking/equation.hpp"
 #include "support/atom_count.hpp"
@@ -113,7 +113,7 @@ bool isAsked(std::string_view acid, std::string_view cation, std::string_view an
 std::string typeOf(const Exercise& exercise)
 {
     const IonRow* const anion = answerOf(exercise).base.anion;
-    return anion == nullptr ? "ammonia" : std::string(anion->name);
+    return anion == nullptr ? "ammonia" : nameInFull(*anion);
 }
 
 std::pair<int, int> ratioOf(const Exercise& exercise)
@@ -128,7 +128,7 @@ TEST(NeutralisationTest, ThePoolHasEveryAcidAndBaseThatReactPlainly)
         for (const IonRow* const cation : cations()) {
             for (const char* const anion :
                  {"hydroxide", "oxide", "carbonate", "hydrogencarbonate"}) {
-                if (isAsked(acid, cation->name, anion)) {
+                if (isAsked(acid, nameInFull(*cation), anion)) {
                     expected.insert(std::string(acid) + " + " +
                                     compoundFormula(*cation, *findIon(anion)));
                 }

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "lesson/chemistry/pairs.hpp"
+#include "lesson/chemistry/pairs_not_asked.hpp"
 
 namespace lesson
 {

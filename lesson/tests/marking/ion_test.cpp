@@ -116,7 +116,7 @@ TEST(IonMarkTest, EveryIonIsRightInEverySpelling)
         for (const std::string& typed : spellingsTyped(*ion)) {
             const Mark mark = markIon({ion}, {}, typed);
             EXPECT_EQ(mark.verdict, Verdict::correct)
-                << typed << " for " << ion->name << ": " << mark.sentence;
+                << typed << " for " << nameInFull(*ion) << ": " << mark.sentence;
         }
     }
 }
@@ -385,7 +385,7 @@ TEST(IonMarkTest, NoCationGetsTheSentenceOnEndings)
             const std::string typed = std::string(cation->formula) + with + "^+";
             EXPECT_NE(markIon({cation}, {}, typed).sentence,
                       "The ending tells you whether there is oxygen.")
-                << typed << " for " << cation->name;
+                << typed << " for " << nameInFull(*cation);
         }
     }
     EXPECT_NE(markFor("hydrogen", "OH-").sentence, "The ending tells you whether there is oxygen.");

@@ -153,10 +153,11 @@ TEST(IonPlacesTest, EveryDigitAndSignPlainLoweredOrRaisedInEachNotation)
                     const std::string text = written(typed, notation);
                     const Mark mark = markIon({ion}, {}, text);
                     if (countsBehindTheSign(typed)) {
-                        EXPECT_NE(mark.verdict, Verdict::correct) << text << " for " << ion->name;
+                        EXPECT_NE(mark.verdict, Verdict::correct)
+                            << text << " for " << nameInFull(*ion);
                         continue;
                     }
-                    EXPECT_EQ(mark.sentence, expected) << text << " for " << ion->name;
+                    EXPECT_EQ(mark.sentence, expected) << text << " for " << nameInFull(*ion);
                     (expected == rightSentence   ? right
                      : expected == loweredCharge ? lowered
                                                  : raised)++;
