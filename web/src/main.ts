@@ -1,9 +1,10 @@
 // Wires the page together; imported by none.
 import packed from "lesson.bin";
+import { instantiate } from "../../lesson/border/module.mjs";
 import { addressOf, mainRoad, routeOf } from "./address";
 import { lessonOf } from "./lesson/lesson";
 import { withLists } from "./lesson/listed-exercises";
-import { instantiate, unpacked } from "./lesson/memory";
+import { unpacked } from "./lesson/unpacked";
 import { choiceIn } from "./practice/chosen-kinds";
 import { keepFieldInView } from "./practice/field-in-view";
 import { nameOf } from "./practice/head";

@@ -1,54 +1,54 @@
 // The module makes the same exercises, marks and files, byte for byte, as the native library does: see
 // ../digest.hpp.
-import assert from 'node:assert/strict'
-import { readFileSync } from 'node:fs'
-import test from 'node:test'
-import { loadLesson } from './lesson.mjs'
+import assert from "node:assert/strict";
+import { readFileSync } from "node:fs";
+import test from "node:test";
+import { loadLesson } from "./lesson.mjs";
 
-const approved = readFileSync(new URL('../approved/digests.txt', import.meta.url), 'utf8')
-  .trimEnd()
-  .split('\n')
-const decoder = new TextDecoder()
+const approved = readFileSync(new URL("../approved/digests.txt", import.meta.url), "utf8")
+    .trimEnd()
+    .split("\n");
+const decoder = new TextDecoder();
 
 function add(digest, bytes) {
-  let value = digest
-  for (let i = 0; i < bytes.length; ++i) value = Math.imul(value ^ bytes[i], 16777619)
-  return Math.imul(value ^ 10, 16777619)
+    let value = digest;
+    for (let i = 0; i < bytes.length; ++i) value = Math.imul(value ^ bytes[i], 16777619);
+    return Math.imul(value ^ 10, 16777619);
 }
-const hexadecimal = (digest) => (digest >>> 0).toString(16).padStart(8, '0')
+const hexadecimal = (digest) => (digest >>> 0).toString(16).padStart(8, "0");
 
 function typedTexts(exercise) {
-  const others = ['', '42', 'Mg2O2', 'SO4^2-', 'no', 'HCl + NaOH -> NaCl + H2O']
-  return [exercise.key.text, ...others, ...exercise.slips.map((slip) => slip.text)]
+    const others = ["", "42", "Mg2O2", "SO4^2-", "no", "HCl + NaOH -> NaCl + H2O"];
+    return [exercise.key.text, ...others, ...exercise.slips.map((slip) => slip.text)];
 }
 
 function digestLine(lesson, kind) {
-  let exercises = 2166136261
-  let marks = 2166136261
-  let files = 2166136261
-  for (let paper = 1; paper <= 20; ++paper) {
-    for (const format of ['moodle', 'anki']) {
-      files = add(files, lesson.bytes('lesson_export', paper, `20*${kind}`, format))
+    let exercises = 2166136261;
+    let marks = 2166136261;
+    let files = 2166136261;
+    for (let paper = 1; paper <= 20; ++paper) {
+        for (const format of ["moodle", "anki"]) {
+            files = add(files, lesson.bytes("lesson_export", paper, `20*${kind}`, format));
+        }
     }
-  }
-  for (let paper = 1; paper <= 100; ++paper) {
-    for (let number = 1; number <= 100; ++number) {
-      const bytes = lesson.bytes('lesson_exercise', paper, number, kind)
-      exercises = add(exercises, bytes)
-      if (number > 5) continue
-      for (const typed of typedTexts(JSON.parse(decoder.decode(bytes)))) {
-        marks = add(marks, lesson.bytes('lesson_mark', paper, number, kind, typed))
-      }
+    for (let paper = 1; paper <= 100; ++paper) {
+        for (let number = 1; number <= 100; ++number) {
+            const bytes = lesson.bytes("lesson_exercise", paper, number, kind);
+            exercises = add(exercises, bytes);
+            if (number > 5) continue;
+            for (const typed of typedTexts(JSON.parse(decoder.decode(bytes)))) {
+                marks = add(marks, lesson.bytes("lesson_mark", paper, number, kind, typed));
+            }
+        }
     }
-  }
-  return `${kind} ${hexadecimal(exercises)} ${hexadecimal(marks)} ${hexadecimal(files)}`
+    return `${kind} ${hexadecimal(exercises)} ${hexadecimal(marks)} ${hexadecimal(files)}`;
 }
 
-test('there are three levels of eight kinds', () => assert.equal(approved.length, 24))
+test("there are three levels of eight kinds", () => assert.equal(approved.length, 24));
 
 for (const line of approved) {
-  const [kind] = line.split(' ')
-  test(`${kind} is the same as natively`, async () => {
-    assert.equal(digestLine(await loadLesson(), kind), line)
-  })
+    const [kind] = line.split(" ");
+    test(`${kind} is the same as natively`, async () => {
+        assert.equal(digestLine(await loadLesson(), kind), line);
+    });
 }

@@ -1,80 +1,116 @@
 // What a page relies on when it loads the module and calls it with anything.
-import assert from 'node:assert/strict'
-import test from 'node:test'
-import { loadLesson, moduleBytes } from './lesson.mjs'
+import assert from "node:assert/strict";
+import test from "node:test";
+import { loadLesson, moduleBytes } from "./lesson.mjs";
 
-test('the module imports nothing and exports the interface', async () => {
-  const module = await WebAssembly.compile(moduleBytes)
-  assert.deepEqual(WebAssembly.Module.imports(module), [])
-  assert.deepEqual(
-    WebAssembly.Module.exports(module).map((one) => one.name).sort(),
-    ['_initialize', 'free', 'lesson_exercise', 'lesson_export', 'lesson_kinds', 'lesson_mark', 'lesson_tables',
-      'malloc', 'memory'])
-})
+test("the module imports nothing and exports the interface", async () => {
+    const module = await WebAssembly.compile(moduleBytes);
+    assert.deepEqual(WebAssembly.Module.imports(module), []);
+    assert.deepEqual(
+        WebAssembly.Module.exports(module)
+            .map((one) => one.name)
+            .sort(),
+        ["_initialize", "free", "lesson_exercise", "lesson_export", "lesson_kinds", "lesson_mark", "lesson_tables", "malloc", "memory"],
+    );
+});
 
-test('the kinds are listed', async () => {
-  const kinds = (await loadLesson()).json('lesson_kinds')
-  assert.deepEqual(kinds.map((row) => row.kind), ['molar-mass', 'compound-formula', 'ion-formula',
-    'solubility', 'concentration', 'dilution', 'neutralisation', 'titration'])
-  for (const row of kinds) assert.equal(row.levels.length, 3)
-})
+test("the kinds are listed", async () => {
+    const kinds = (await loadLesson()).json("lesson_kinds");
+    assert.deepEqual(
+        kinds.map((row) => row.kind),
+        ["molar-mass", "compound-formula", "ion-formula", "solubility", "concentration", "dilution", "neutralisation", "titration"],
+    );
+    for (const row of kinds) assert.equal(row.levels.length, 3);
+});
 
-test('the tables are whole', async () => {
-  const tables = (await loadLesson()).json('lesson_tables')
-  assert.equal(tables.elements.length, 118)
-  assert.equal(tables.pairs.length, 19 * 15)
-})
+test("the tables are whole", async () => {
+    const tables = (await loadLesson()).json("lesson_tables");
+    assert.equal(tables.elements.length, 118);
+    assert.equal(tables.pairs.length, 19 * 15);
+});
 
-test('bad arguments are told', async () => {
-  const lesson = await loadLesson()
-  const cases = [[0, 1, 'mixed'], [1000000, 1, 'mixed'], [-1, 1, 'mixed'], [1, 0, 'mixed'],
-    [1, 1000000, 'mixed'], [1, 1, 'titration:4'], [1, 1, ''], [1, 1, null]]
-  for (const args of cases) {
-    assert.deepEqual(Object.keys(lesson.json('lesson_exercise', ...args)), ['error'], `${args}`)
-    assert.deepEqual(Object.keys(lesson.json('lesson_mark', ...args, '1')), ['error'], `${args}`)
-  }
-  assert.deepEqual(Object.keys(lesson.json('lesson_mark', 1, 1, 'mixed', null)), ['error'])
-})
-
-test('bad arguments of an export are told', async () => {
-  const lesson = await loadLesson()
-  const cases = [[0, 'titration', 'moodle'], [1, null, 'moodle'], [1, 'titration', null], [1, '', 'anki'],
-    [1, 'mixed', 'moodle'], [1, '1001*titration', 'moodle'], [1, 'titration', 'anki'],
-    [1, 'titration@0', 'moodle'], [1, 'titration@1000000', 'moodle'], [1, '3*titration,titration@3', 'moodle']]
-  for (const args of cases) {
-    assert.deepEqual(Object.keys(lesson.json('lesson_export', ...args)), ['error'], `${args}`)
-  }
-})
-
-test('exercises that are named by their numbers are the same in a file', async () => {
-  const lesson = await loadLesson()
-  const fileOf = (sheet) => Buffer.from(lesson.bytes('lesson_export', 4821, sheet, 'anki')).toString()
-  assert.equal(fileOf('ion-formula@1,ion-formula@2,ion-formula@3'), fileOf('3*ion-formula'))
-  assert.notEqual(fileOf('ion-formula@2,ion-formula@1,ion-formula@3'), fileOf('3*ion-formula'))
-})
-
-test('any typed text gets a mark', async () => {
-  const lesson = await loadLesson()
-  const texts = ['', '\u{10FFFF}', '('.repeat(10000), '1'.repeat(1000000), 'é'.repeat(500000),
-    '-> + '.repeat(200000), Uint8Array.of(0x80, 0xff, 0xc3), Uint8Array.of(1, 2, 31, 127)]
-  for (const { kind } of lesson.json('lesson_kinds')) {
-    for (const text of texts) {
-      const mark = lesson.json('lesson_mark', 1, 1, kind, text)
-      assert.deepEqual(Object.keys(mark), ['verdict', 'sentence'], kind)
+test("bad arguments are told", async () => {
+    const lesson = await loadLesson();
+    const cases = [
+        [0, 1, "mixed"],
+        [1000000, 1, "mixed"],
+        [-1, 1, "mixed"],
+        [1, 0, "mixed"],
+        [1, 1000000, "mixed"],
+        [1, 1, "titration:4"],
+        [1, 1, ""],
+        [1, 1, null],
+    ];
+    for (const args of cases) {
+        assert.deepEqual(Object.keys(lesson.json("lesson_exercise", ...args)), ["error"], `${args}`);
+        assert.deepEqual(Object.keys(lesson.json("lesson_mark", ...args, "1")), ["error"], `${args}`);
     }
-  }
-})
+    assert.deepEqual(Object.keys(lesson.json("lesson_mark", 1, 1, "mixed", null)), ["error"]);
+});
 
-test('the memory does not grow with the number of calls', async () => {
-  const lesson = await loadLesson()
-  const work = (papers) => {
-    for (let paper = 1; paper <= papers; ++paper) {
-      lesson.bytes('lesson_exercise', paper, paper, 'mixed')
-      lesson.bytes('lesson_mark', paper, paper, 'mixed', '0.0456 mol/L')
+test("bad arguments of an export are told", async () => {
+    const lesson = await loadLesson();
+    const cases = [
+        [0, "titration", "moodle"],
+        [1, null, "moodle"],
+        [1, "titration", null],
+        [1, "", "anki"],
+        [1, "mixed", "moodle"],
+        [1, "1001*titration", "moodle"],
+        [1, "titration", "anki"],
+        [1, "titration@0", "moodle"],
+        [1, "titration@1000000", "moodle"],
+        [1, "3*titration,titration@3", "moodle"],
+    ];
+    for (const args of cases) {
+        assert.deepEqual(Object.keys(lesson.json("lesson_export", ...args)), ["error"], `${args}`);
     }
-  }
-  work(5000)
-  const before = lesson.memorySize()
-  work(10000)
-  assert.equal(lesson.memorySize(), before)
-})
+});
+
+test("exercises that are named by their numbers are the same in a file", async () => {
+    const lesson = await loadLesson();
+    const fileOf = (sheet) => Buffer.from(lesson.bytes("lesson_export", 4821, sheet, "anki")).toString();
+    assert.equal(fileOf("ion-formula@1,ion-formula@2,ion-formula@3"), fileOf("3*ion-formula"));
+    assert.notEqual(fileOf("ion-formula@2,ion-formula@1,ion-formula@3"), fileOf("3*ion-formula"));
+});
+
+test("any typed text gets a mark", async () => {
+    const lesson = await loadLesson();
+    const texts = [
+        "",
+        "\u{10FFFF}",
+        "(".repeat(10000),
+        "1".repeat(1000000),
+        "é".repeat(500000),
+        "-> + ".repeat(200000),
+        Uint8Array.of(0x80, 0xff, 0xc3),
+        Uint8Array.of(1, 2, 31, 127),
+    ];
+    for (const { kind } of lesson.json("lesson_kinds")) {
+        for (const text of texts) {
+            const mark = lesson.json("lesson_mark", 1, 1, kind, text);
+            assert.deepEqual(Object.keys(mark), ["verdict", "sentence"], kind);
+        }
+    }
+});
+
+test("a zero is a character of what is typed, not its end", async () => {
+    const lesson = await loadLesson();
+    const { key } = lesson.json("lesson_exercise", 4821, 3, "titration:3");
+    const verdictOf = (typed) => lesson.json("lesson_mark", 4821, 3, "titration:3", typed).verdict;
+    assert.deepEqual([verdictOf(key.text), verdictOf(`${key.text}\0`)], ["correct", "unreadable"]);
+});
+
+test("the memory does not grow with the number of calls", async () => {
+    const lesson = await loadLesson();
+    const work = (papers) => {
+        for (let paper = 1; paper <= papers; ++paper) {
+            lesson.bytes("lesson_exercise", paper, paper, "mixed");
+            lesson.bytes("lesson_mark", paper, paper, "mixed", "0.0456 mol/L");
+        }
+    };
+    work(5000);
+    const before = lesson.memorySize();
+    work(10000);
+    assert.equal(lesson.memorySize(), before);
+});

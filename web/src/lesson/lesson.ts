@@ -1,23 +1,20 @@
+// The lesson library behind its functions.
+import { type Argument, type LessonFunction, type LessonModule, textOf } from "../../../lesson/border/module.mjs";
 import type { Exercise, KindInfo, Lesson, Mark, Tables } from "../types";
-import { type Exports, withTexts } from "./memory";
 
-// The lesson library behind its five functions.
-export function lessonOf(module: Exports): Lesson {
+export function lessonOf(module: LessonModule): Lesson {
     let tables: Tables | null = null; // takes longer than an exercise, so it is made once
+    const json = (name: LessonFunction, ...args: Argument[]): unknown => JSON.parse(textOf(module, name, ...args));
     return {
-        kinds: () => JSON.parse(withTexts(module, [], module.lesson_kinds)) as KindInfo[],
-        tables: () => (tables ??= JSON.parse(withTexts(module, [], module.lesson_tables)) as Tables),
+        kinds: () => json("lesson_kinds") as KindInfo[],
+        tables: () => (tables ??= json("lesson_tables") as Tables),
         exercise(paper, number, kinds) {
-            const json = withTexts(module, [kinds], (kind) => module.lesson_exercise(paper, number, kind!));
-            const result = JSON.parse(json) as Exercise | { error: string };
+            const result = json("lesson_exercise", paper, number, kinds) as Exercise | { error: string };
             return "error" in result ? null : result;
         },
-        mark(paper, number, kinds, typed) {
-            const json = withTexts(module, [kinds, typed], (kind, text) => module.lesson_mark(paper, number, kind!, text!));
-            return JSON.parse(json) as Mark;
-        },
+        mark: (paper, number, kinds, typed) => json("lesson_mark", paper, number, kinds, typed) as Mark,
         exported(paper, sheet, format) {
-            const text = withTexts(module, [sheet, format], (list, name) => module.lesson_export(paper, list!, name!));
+            const text = textOf(module, "lesson_export", paper, sheet, format);
             // No file of these formats begins with a brace.
             return text.startsWith("{") ? (JSON.parse(text) as { error: string }) : { file: text };
         },

@@ -5,6 +5,7 @@ import assert from "node:assert/strict";
 import { readFile, writeFile } from "node:fs/promises";
 import { fileURLToPath, pathToFileURL } from "node:url";
 import { chromium } from "playwright-core";
+import { instantiate, textOf } from "../../../lesson/border/module.mjs";
 
 export const address = pathToFileURL(process.env.PAGE).href;
 
@@ -146,37 +147,15 @@ export async function openMadeSheet(browser, hash, options = {}) {
 
 // The library in Node, for what a right answer is.
 export async function openLesson() {
-    const { instance } = await WebAssembly.instantiate(await readFile(process.env.LESSON), {});
-    const module = instance.exports;
-    module._initialize();
-    const put = (text) => {
-        const bytes = new TextEncoder().encode(`${text}\0`);
-        const at = module.malloc(bytes.length);
-        new Uint8Array(module.memory.buffer).set(bytes, at);
-        return at;
-    };
-    const take = (at) => {
-        const memory = new Uint8Array(module.memory.buffer);
-        return new TextDecoder().decode(memory.subarray(at, memory.indexOf(0, at)));
-    };
-    const exerciseText = (paper, number, kind) => {
-        const at = put(kind);
-        const text = take(module.lesson_exercise(paper, number, at));
-        module.free(at);
-        return text;
-    };
-    const exportText = (paper, sheet, format) => {
-        const [list, name] = [put(sheet), put(format)];
-        const text = take(module.lesson_export(paper, list, name));
-        [list, name].forEach(module.free);
-        return text;
-    };
+    const module = await instantiate(await readFile(process.env.LESSON));
+    const text = (...call) => textOf(module, ...call);
+    const exerciseText = (paper, number, kind) => text("lesson_exercise", paper, number, kind);
     return {
         exerciseText,
-        exportText,
+        exportText: (paper, sheet, format) => text("lesson_export", paper, sheet, format),
         exercise: (paper, number, kind) => JSON.parse(exerciseText(paper, number, kind)),
-        kinds: () => JSON.parse(take(module.lesson_kinds())),
-        tables: () => JSON.parse(take(module.lesson_tables())),
+        kinds: () => JSON.parse(text("lesson_kinds")),
+        tables: () => JSON.parse(text("lesson_tables")),
     };
 }
 
