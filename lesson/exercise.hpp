@@ -9,37 +9,11 @@
 #include "lesson/chemistry/ions.hpp"
 #include "lesson/chemistry/reaction.hpp"
 #include "lesson/numbers/ratio.hpp"
+#include "lesson/paper/place.hpp"
 #include "lesson/words/spans.hpp"
 
 namespace lesson
 {
-
-// Raised by every change of any exercise: a number of a paper stands for the same exercise only
-// within one version.
-constexpr unsigned lessonVersion = 1;
-
-// In the order in which they are listed everywhere.
-enum class Kind {
-    molarMass,
-    compoundFormula,
-    ionFormula,
-    solubility,
-    concentration,
-    dilution,
-    neutralisation,
-    titration,
-};
-
-constexpr unsigned greatestPaper = 999999;
-constexpr unsigned greatestNumber = 999999;
-
-// Which exercise: all that it depends on.
-struct Place {
-    unsigned paper;  // 1 to greatestPaper
-    unsigned number; // 1 to greatestNumber
-    Kind kind;
-    int level; // 1 to 3
-};
 
 // What kind of answer is typed.
 enum class Form {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "lesson/exercise.hpp"
-#include "lesson/kinds/list.hpp"
+#include "lesson/kinds/kinds.hpp"
 #include "lesson/lesson.h"
 
 namespace
@@ -36,10 +36,10 @@ void exercise(benchmark::State& state, const std::string& kind)
 }
 
 // The key is typed, which is the mark that a learner waits for most gladly.
-void mark(benchmark::State& state, const lesson::KindRow& row, int level)
+void mark(benchmark::State& state, const lesson::Kind* row, int level)
 {
-    const std::string kind = std::string(row.slug) + ":" + std::to_string(level);
-    const std::string key = lesson::makeExercise({1, 1, row.kind, level}).key;
+    const std::string kind = std::string(row->slug) + ":" + std::to_string(level);
+    const std::string key = lesson::makeExercise({1, 1, row, level}).key;
     for (auto _ : state) {
         benchmark::DoNotOptimize(lesson_mark(1, 1, kind.c_str(), key.c_str()));
     }
@@ -71,9 +71,9 @@ constexpr LongText longTexts[] = {
 
 void registerAll()
 {
-    for (const lesson::KindRow& row : lesson::kinds()) {
+    for (const lesson::Kind* const row : lesson::allKinds()) {
         for (int level = 1; level <= lesson::levelCount; ++level) {
-            const std::string kind = std::string(row.slug) + ":" + std::to_string(level);
+            const std::string kind = std::string(row->slug) + ":" + std::to_string(level);
             benchmark::RegisterBenchmark(("exercise/" + kind).c_str(), exercise, kind);
             benchmark::RegisterBenchmark(("mark/" + kind).c_str(), mark, row, level);
         }

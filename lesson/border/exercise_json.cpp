@@ -3,7 +3,7 @@
 #include <string_view>
 #include <utility>
 
-#include "lesson/kinds/list.hpp"
+#include "lesson/kinds/kinds.hpp"
 #include "lesson/numbers/decimal.hpp"
 
 namespace lesson
@@ -205,7 +205,7 @@ void addPlace(Json& json, Place place)
 {
     json.member("paper", static_cast<int>(place.paper));
     json.member("number", static_cast<int>(place.number));
-    json.member("kind", rowOf(place.kind).slug);
+    json.member("kind", place.kind->slug);
     json.member("level", place.level);
 }
 
@@ -221,7 +221,7 @@ std::string exerciseJson(const Exercise& exercise)
 {
     Json json;
     json.object([&] {
-        json.member("version", static_cast<int>(lessonVersion));
+        json.member("version", static_cast<int>(exercise.place.kind->version));
         addPlace(json, exercise.place);
         add(json.key("prompt"), exercise.prompt);
         add(json.key("ask"), exercise.ask);

@@ -13,8 +13,9 @@
 #include "lesson/exercise.hpp"
 #include "lesson/export/anki.hpp"
 #include "lesson/export/moodle.hpp"
-#include "lesson/kinds/list.hpp"
+#include "lesson/kinds/kinds.hpp"
 #include "lesson/paper/selection.hpp"
+#include "lesson/paper/sheet.hpp"
 
 namespace lesson
 {
@@ -32,11 +33,12 @@ std::string errorJson(std::string_view sentence)
 std::string kindsJson()
 {
     Json json;
-    json.array(kinds(), [&](const KindRow& row) {
+    json.array(allKinds(), [&](const Kind* kind) {
         json.object([&] {
-            json.member("kind", row.slug);
-            json.member("title", row.title);
-            json.key("levels").array(row.levels, [&](std::string_view level) { json.text(level); });
+            json.member("kind", kind->slug);
+            json.member("title", kind->title);
+            json.key("levels").array(kind->levels,
+                                     [&](std::string_view level) { json.text(level); });
         });
     });
     return json.take();
@@ -53,7 +55,7 @@ std::string errorOfPaper()
 }
 
 // What is wrong with the arguments; empty where nothing is.
-std::string errorIn(unsigned paper, unsigned number, const Choice& choice)
+std::string errorIn(unsigned paper, unsigned number, const Selection& selection)
 {
     if (!isWithin(paper, greatestPaper)) {
         return errorOfPaper();
@@ -62,7 +64,7 @@ std::string errorIn(unsigned paper, unsigned number, const Choice& choice)
         return "The number of the exercise has to be from 1 to " + std::to_string(greatestNumber) +
                ".";
     }
-    return choice.error;
+    return selection.error;
 }
 
 // What `answerTo` makes of the exercise that the arguments mean, or the error in them.
@@ -70,9 +72,9 @@ template <typename AnswerTo>
 std::string withExercise(unsigned paper, unsigned number, const char* kind,
                          const AnswerTo& answerTo)
 {
-    const Choice choice = readChoice(kind == nullptr ? "" : kind);
-    const std::string error = errorIn(paper, number, choice);
-    return error.empty() ? answerTo(makeExercise(placeOf(choice, paper, number)))
+    const Selection selection = readSelection(kind == nullptr ? "" : kind);
+    const std::string error = errorIn(paper, number, selection);
+    return error.empty() ? answerTo(makeExercise(placeOf(selection, paper, number)))
                          : errorJson(error);
 }
 

@@ -4,18 +4,13 @@
 #include <string_view>
 
 #include "lesson/export/html.hpp"
-#include "lesson/kinds/list.hpp"
+#include "lesson/kinds/kind.hpp"
 
 namespace lesson
 {
 
 namespace
 {
-
-bool fitsCard(Kind kind)
-{
-    return kind == Kind::compoundFormula || kind == Kind::ionFormula || kind == Kind::solubility;
-}
 
 std::string backOf(const Exercise& exercise)
 {
@@ -30,7 +25,7 @@ std::string backOf(const Exercise& exercise)
 void addCard(std::string& cards, const Exercise& exercise, std::string_view front)
 {
     const Place& place = exercise.place;
-    addAll(cards, {front, "\t", backOf(exercise), "\t", rowOf(place.kind).slug, " level-",
+    addAll(cards, {front, "\t", backOf(exercise), "\t", place.kind->slug, " level-",
                    std::to_string(place.level), " paper-", std::to_string(place.paper), "\n"});
 }
 
@@ -50,7 +45,7 @@ std::string ankiCards(const std::vector<Place>& places)
     std::set<std::string> fronts;
     std::size_t others = 0;
     for (const Place& place : places) {
-        if (!fitsCard(place.kind)) {
+        if (!place.kind->fitsCard) {
             ++others;
             continue;
         }

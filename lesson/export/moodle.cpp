@@ -7,7 +7,7 @@
 #include "lesson/export/expected.hpp"
 #include "lesson/export/html.hpp"
 #include "lesson/export/units.hpp"
-#include "lesson/kinds/list.hpp"
+#include "lesson/kinds/kind.hpp"
 #include "lesson/numbers/decimal.hpp"
 #include "lesson/reading/scan.hpp"
 
@@ -223,7 +223,7 @@ void addQuestion(std::string& xml, const Place& place)
 {
     const Exercise exercise = makeExercise(place);
     const Type type = typeOf(exercise.ask);
-    const std::string_view slug = rowOf(place.kind).slug;
+    const std::string_view slug = place.kind->slug;
     const std::string paper = std::to_string(place.paper);
     const std::string level = std::to_string(place.level);
     const std::string number = std::to_string(place.number);

@@ -265,9 +265,7 @@ private:
     Part second;
 };
 
-} // namespace
-
-Exercise compoundFormulaExercise(const Place& place)
+Exercise exerciseAt(const Place& place)
 {
     const Pair& pair = memberFor(place, pairsOfLevel(place.level));
     const IonRow& cation = *pair.cation;
@@ -283,5 +281,17 @@ Exercise compoundFormulaExercise(const Place& place)
     Slips(exercise, cation, anion).addAll();
     return exercise;
 }
+
+} // namespace
+
+const Kind compoundFormulaKind = {
+    1,
+    1,
+    "compound-formula",
+    "Formula of a compound",
+    {"Ions of one atom", "Ions that are groups of atoms", "Names with Roman numerals"},
+    true,
+    exerciseAt,
+};
 
 } // namespace lesson

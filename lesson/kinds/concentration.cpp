@@ -9,6 +9,7 @@
 #include "lesson/kinds/molar_mass.hpp"
 #include "lesson/kinds/shared/orders.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
+#include "lesson/paper/seeds.hpp"
 
 namespace lesson
 {
@@ -175,7 +176,10 @@ std::string_view withoutWater(std::string_view formula)
     return formula.substr(0, formula.find('.'));
 }
 
-Exercise concentrationExercise(const Place& place)
+namespace
+{
+
+Exercise exerciseAt(const Place& place)
 {
     const Preparation drawn = draw(place);
     const Quantities quantities = quantitiesOf(drawn);
@@ -189,5 +193,18 @@ Exercise concentrationExercise(const Place& place)
     addConcentrationSlips(exercise, drawn);
     return exercise;
 }
+
+} // namespace
+
+const Kind concentrationKind = {
+    4,
+    1,
+    "concentration",
+    "Mass and concentration",
+    {"The concentration of a solution", "The mass for a solution",
+     "Hydrates, molar mass not given"},
+    false,
+    exerciseAt,
+};
 
 } // namespace lesson

@@ -10,6 +10,7 @@
 #include "lesson/kinds/shared/orders.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
 #include "lesson/marking/number.hpp"
+#include "lesson/paper/seeds.hpp"
 
 namespace lesson
 {
@@ -226,9 +227,7 @@ Spans promptOf(const Dilution& drawn, const Quantities& quantities)
                 told(c2), ". Assume that the volumes add up.");
 }
 
-} // namespace
-
-Exercise dilutionExercise(const Place& place)
+Exercise exerciseAt(const Place& place)
 {
     const Dilution drawn = draw(place);
     const Quantities quantities = quantitiesOf(drawn);
@@ -239,5 +238,18 @@ Exercise dilutionExercise(const Place& place)
     addDilutionSlips(exercise, drawn);
     return exercise;
 }
+
+} // namespace
+
+const Kind dilutionKind = {
+    5,
+    1,
+    "dilution",
+    "Dilution",
+    {"The new concentration", "The volume to take or the original concentration",
+     "The water to add"},
+    false,
+    exerciseAt,
+};
 
 } // namespace lesson

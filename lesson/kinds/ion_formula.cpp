@@ -346,9 +346,7 @@ std::vector<std::string> rightTexts(const IonRow& ion)
     return texts;
 }
 
-} // namespace
-
-Exercise ionFormulaExercise(const Place& place)
+Exercise exerciseAt(const Place& place)
 {
     const IonRow& ion = *memberFor(place, poolOfLevel(place.level));
     Exercise exercise = {};
@@ -366,5 +364,17 @@ Exercise ionFormulaExercise(const Place& place)
     addFormulas(exercise, ion, right);
     return exercise;
 }
+
+} // namespace
+
+const Kind ionFormulaKind = {
+    2,
+    1,
+    "ion-formula",
+    "Formula of an ion",
+    {"Ions of one atom", "Common groups of atoms", "All ions, with -ite and -ate"},
+    true,
+    exerciseAt,
+};
 
 } // namespace lesson

@@ -1,30 +1,37 @@
 #include "lesson/kinds/kinds.hpp"
 
-#include <cstdint>
+#include <algorithm>
 
 namespace lesson
 {
 
-namespace
+const KindList& allKinds()
 {
-
-// Keeps the streams of draws apart.
-enum StreamOfDraws : std::uint32_t { quantities = 1, walk = 2 };
-
-} // namespace
-
-Draws drawsFor(const Place& place)
-{
-    return Draws({quantities, place.paper, static_cast<std::uint32_t>(place.kind),
-                  static_cast<std::uint32_t>(place.level), place.number});
+    // clang-format off
+    static const KindList kinds = {
+        &molarMassKind,
+        &compoundFormulaKind,
+        &ionFormulaKind,
+        &solubilityKind,
+        &concentrationKind,
+        &dilutionKind,
+        &neutralisationKind,
+        &titrationKind,
+    };
+    // clang-format on
+    return kinds;
 }
 
-int memberFor(const Place& place, const Pool& pool)
+const Kind* findKind(std::string_view slug, const KindList& kinds)
 {
-    return memberOnWalk(
-        pool,
-        {walk, static_cast<std::uint32_t>(place.kind), static_cast<std::uint32_t>(place.level)},
-        place.paper, place.number);
+    const auto found = std::find_if(kinds.begin(), kinds.end(),
+                                    [slug](const Kind* kind) { return kind->slug == slug; });
+    return found == kinds.end() ? nullptr : *found;
+}
+
+Exercise makeExercise(const Place& place)
+{
+    return place.kind->draw(place);
 }
 
 } // namespace lesson

@@ -1,26 +1,29 @@
 #pragma once
 
-#include "lesson/exercise.hpp"
-#include "lesson/paper/draws.hpp"
+#include <string_view>
+#include <vector>
+
+#include "lesson/kinds/kind.hpp"
 
 namespace lesson
 {
 
-// One function a kind, each in the file of its name: it draws an exercise, and writes its prompt,
-// its worked solution and its slips.
-Exercise molarMassExercise(const Place& place);
-Exercise compoundFormulaExercise(const Place& place);
-Exercise ionFormulaExercise(const Place& place);
-Exercise solubilityExercise(const Place& place);
-Exercise concentrationExercise(const Place& place);
-Exercise dilutionExercise(const Place& place);
-Exercise neutralisationExercise(const Place& place);
-Exercise titrationExercise(const Place& place);
+// One file a kind, and one line here and in `allKinds`.
+extern const Kind molarMassKind;
+extern const Kind compoundFormulaKind;
+extern const Kind ionFormulaKind;
+extern const Kind solubilityKind;
+extern const Kind concentrationKind;
+extern const Kind dilutionKind;
+extern const Kind neutralisationKind;
+extern const Kind titrationKind;
 
-// The draws of an exercise whose quantities are drawn freely.
-Draws drawsFor(const Place& place);
+using KindList = std::vector<const Kind*>;
 
-// The member of a finite pool that an exercise is about: the paper walks through the pool.
-int memberFor(const Place& place, const Pool& pool);
+// In the order in which they are listed everywhere. It may be changed: no draw depends on it.
+const KindList& allKinds();
+
+// The one with this slug; null where there is none.
+const Kind* findKind(std::string_view slug, const KindList& kinds = allKinds());
 
 } // namespace lesson

@@ -261,7 +261,10 @@ std::vector<Ratio> roundedMolarMasses(std::string_view formula)
     return masses;
 }
 
-Exercise molarMassExercise(const Place& place)
+namespace
+{
+
+Exercise exerciseAt(const Place& place)
 {
     const Substance& drawn = memberFor(place, poolOfLevel(place.level));
     const Ratio mass = massOf(drawn.composition.atoms);
@@ -275,5 +278,17 @@ Exercise molarMassExercise(const Place& place)
     addMolarMassSlips(exercise, drawn.formula);
     return exercise;
 }
+
+} // namespace
+
+const Kind molarMassKind = {
+    0,
+    1,
+    "molar-mass",
+    "Molar mass",
+    {"Formulas without brackets", "Formulas with brackets", "Hydrates"},
+    false,
+    exerciseAt,
+};
 
 } // namespace lesson

@@ -407,9 +407,7 @@ Slips slipsFor(const Equation& equation, const EquationAnswer& answer)
     return slips;
 }
 
-} // namespace
-
-Exercise neutralisationExercise(const Place& place)
+Exercise exerciseAt(const Place& place)
 {
     const Reaction& reaction = memberFor(place, poolFor(place.level));
     const AcidRow* const acid = reaction.acid;
@@ -431,5 +429,18 @@ Exercise neutralisationExercise(const Place& place)
     exercise.answer = EquationAnswer{acid, base};
     return exercise;
 }
+
+} // namespace
+
+const Kind neutralisationKind = {
+    6,
+    1,
+    "neutralisation",
+    "Equations of neutralisation",
+    {"Acids and hydroxides", "Oxides, carbonates, hydrogencarbonates and ammonia",
+     "Ratios with a 3 or a 6"},
+    false,
+    exerciseAt,
+};
 
 } // namespace lesson

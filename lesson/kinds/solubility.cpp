@@ -270,11 +270,21 @@ Exercise twoSolutions(const Place& place)
     return exercise;
 }
 
-} // namespace
-
-Exercise solubilityExercise(const Place& place)
+Exercise exerciseAt(const Place& place)
 {
     return place.level == 3 ? twoSolutions(place) : oneCompound(place);
 }
+
+} // namespace
+
+const Kind solubilityKind = {
+    3,
+    1,
+    "solubility",
+    "Solubility in water",
+    {"The rules", "The rules and their exceptions", "The precipitate of two solutions"},
+    true,
+    exerciseAt,
+};
 
 } // namespace lesson

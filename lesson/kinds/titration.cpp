@@ -134,9 +134,7 @@ std::vector<Given> givenOf(const Solutions& solutions, const Quantities& quantit
             quantities.inFlask, quantities.fromBurette, quantities.concentration};
 }
 
-} // namespace
-
-Exercise titrationExercise(const Place& place)
+Exercise exerciseAt(const Place& place)
 {
     const Titration drawn = drawTitration(place);
     const Solutions solutions = solutionsOf(drawn);
@@ -153,5 +151,17 @@ Exercise titrationExercise(const Place& place)
     addTitrationSlips(exercise, drawn);
     return exercise;
 }
+
+} // namespace
+
+const Kind titrationKind = {
+    7,
+    1,
+    "titration",
+    "Acid-base titration",
+    {"Ratio 1:1", "Other ratios", "Several titres, equation not given"},
+    false,
+    exerciseAt,
+};
 
 } // namespace lesson

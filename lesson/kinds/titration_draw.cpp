@@ -4,11 +4,11 @@
 #include <numeric>
 #include <vector>
 
-#include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/orders.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
 #include "lesson/kinds/titration.hpp"
 #include "lesson/marking/number.hpp"
+#include "lesson/paper/seeds.hpp"
 
 namespace lesson
 {

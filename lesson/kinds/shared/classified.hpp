@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "lesson/kinds/kinds.hpp"
+#include "lesson/paper/seeds.hpp"
 
 namespace lesson
 {

@@ -1,4 +1,5 @@
 #include "lesson/border/exercise_json.hpp"
+#include "lesson/kinds/kinds.hpp"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -16,7 +17,7 @@ using Json = nlohmann::ordered_json;
 Exercise titration()
 {
     Exercise exercise;
-    exercise.place = {4821, 3, Kind::titration, 2};
+    exercise.place = {4821, 3, &titrationKind, 2};
     exercise.prompt = line("Titrated with ", measure("0.105", "mol/L"), " ", formula("HCl"), ".");
     exercise.ask = {Form::number, "c", "Na2CO3", "mol/L", 3, {}};
     exercise.given = {
@@ -61,7 +62,7 @@ TEST(ExerciseJsonTest, ATitrationInItsOrder)
 TEST(ExerciseJsonTest, IonsCompoundsAndChoices)
 {
     Exercise exercise;
-    exercise.place = {1, 1, Kind::solubility, 1};
+    exercise.place = {1, 1, &solubilityKind, 1};
     exercise.ask = {Form::solubility, "", "", "", 0, {"yes", "no"}};
     exercise.given = {GivenIon{findIon("SO4", -2)}, GivenIon{findIon("aluminium")},
                       GivenCompound{"CuSO4.5H2O", "copper(II) sulfate pentahydrate"}};
@@ -103,7 +104,7 @@ TEST(ExerciseJsonTest, EverySpanHasTheMembersThatApply)
     };
     for (const Case& one : cases) {
         Exercise exercise;
-        exercise.place = {1, 1, Kind::molarMass, 1};
+        exercise.place = {1, 1, &molarMassKind, 1};
         exercise.prompt = {one.span};
         EXPECT_EQ(Json::parse(exerciseJson(exercise))["prompt"][0].dump(), one.text);
     }
@@ -122,7 +123,7 @@ TEST(ExerciseJsonTest, EveryForm)
                           {Form::solubility, "solubility"}};
     for (const Case& one : cases) {
         Exercise exercise;
-        exercise.place = {1, 1, Kind::molarMass, 1};
+        exercise.place = {1, 1, &molarMassKind, 1};
         exercise.ask.form = one.form;
         EXPECT_EQ(Json::parse(exerciseJson(exercise))["ask"]["form"], one.name);
     }

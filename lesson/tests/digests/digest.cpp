@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "lesson/exercise.hpp"
-#include "lesson/kinds/list.hpp"
+#include "lesson/kinds/kinds.hpp"
 #include "lesson/lesson.h"
 #include "lesson/paper/selection.hpp"
 
@@ -82,9 +82,9 @@ void addFiles(Digest& digest, const std::string& kind)
 std::vector<std::string> kindsAndLevels()
 {
     std::vector<std::string> names;
-    for (const KindRow& row : kinds()) {
+    for (const Kind* const row : allKinds()) {
         for (int level = 1; level <= levelCount; ++level) {
-            names.push_back(std::string(row.slug) + ":" + std::to_string(level));
+            names.push_back(std::string(row->slug) + ":" + std::to_string(level));
         }
     }
     return names;
@@ -92,7 +92,7 @@ std::vector<std::string> kindsAndLevels()
 
 std::string digestLine(const std::string& kind)
 {
-    const Choice choice = readChoice(kind);
+    const Selection choice = readSelection(kind);
     Digest exercises;
     Digest marks;
     Digest files;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "lesson/export/expected.hpp"
+#include "lesson/kinds/kinds.hpp"
 #include "lesson/marking/number.hpp"
 #include "lesson/numbers/decimal.hpp"
 
@@ -18,8 +19,8 @@ namespace lesson
 namespace
 {
 
-constexpr Kind numberKinds[] = {Kind::molarMass, Kind::concentration, Kind::dilution,
-                                Kind::titration};
+constexpr const Kind* numberKinds[] = {&molarMassKind, &concentrationKind, &dilutionKind,
+                                       &titrationKind};
 
 Exercise asking(Ratio value, int figures, bool isMolarMass)
 {
@@ -204,7 +205,7 @@ void checkTenths(const Exercise& exercise, const std::vector<Expected>& expected
 
 TEST(ExpectedNumbersTest, EveryNumberNearTheKeyGetsWhatItsMarkSays)
 {
-    for (const Kind kind : numberKinds) {
+    for (const Kind* const kind : numberKinds) {
         for (unsigned number = 1; number <= 120; ++number) {
             const int level = 1 + static_cast<int>(number % 3);
             const Exercise exercise = makeExercise({4821, number, kind, level});
@@ -238,7 +239,7 @@ bool mayBeClose(const Exercise& exercise, Ratio value)
 
 TEST(ExpectedNumbersTest, VeryCloseIsToldWhereverANumberCanBe)
 {
-    for (const Kind kind : numberKinds) {
+    for (const Kind* const kind : numberKinds) {
         for (unsigned number = 1; number <= 60; ++number) {
             const int level = 1 + static_cast<int>(number % 3);
             const Exercise exercise = makeExercise({9, number, kind, level});
@@ -259,7 +260,7 @@ TEST(ExpectedNumbersTest, AMistakeWithFewerFiguresIsNotPraised)
 
 TEST(ExpectedNumbersTest, SlipsKeepTheirOrderAndAreNeverRight)
 {
-    for (const Kind kind : numberKinds) {
+    for (const Kind* const kind : numberKinds) {
         for (unsigned number = 1; number <= 300; ++number) {
             const int level = 1 + static_cast<int>(number % 3);
             const Exercise exercise = makeExercise({77, number, kind, level});

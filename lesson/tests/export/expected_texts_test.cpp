@@ -6,6 +6,7 @@
 
 #include "lesson/chemistry/ions.hpp"
 #include "lesson/export/expected.hpp"
+#include "lesson/kinds/kinds.hpp"
 
 namespace lesson
 {
@@ -159,9 +160,9 @@ TEST(ExpectedTextsTest, AChargeThatStandsBelowIsTold)
 // it, nothing twice, nothing that Moodle would take for more than itself.
 TEST(ExpectedTextsTest, EveryExercise)
 {
-    for (const Kind kind : {Kind::compoundFormula, Kind::ionFormula, Kind::solubility}) {
+    for (const Kind* const kind : {&compoundFormulaKind, &ionFormulaKind, &solubilityKind}) {
         for (unsigned number = 1; number <= 300; ++number) {
-            const int level = kind == Kind::solubility ? 3 : 1 + static_cast<int>(number % 3);
+            const int level = kind == &solubilityKind ? 3 : 1 + static_cast<int>(number % 3);
             const Exercise exercise = makeExercise({5, number, kind, level});
             const std::vector<Expected> expected = expectedTexts(exercise);
             EXPECT_EQ(expected.front().text, exercise.key);

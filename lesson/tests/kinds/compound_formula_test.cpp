@@ -20,7 +20,7 @@ constexpr unsigned pool[] = {65, 66, 96};
 
 std::vector<Exercise> wholePool(int level)
 {
-    return saltExercises(12, Kind::compoundFormula, level, pool[level - 1]);
+    return saltExercises(12, &compoundFormulaKind, level, pool[level - 1]);
 }
 
 Exercise exerciseAbout(const std::string& compound)
@@ -133,7 +133,7 @@ TEST(CompoundFormulaTest, RatiosComeAsOftenAsTheirCommonCompoundsAllow)
         constexpr unsigned papers = 4000;
         std::map<std::string, int> counts;
         for (unsigned paper = 1; paper <= papers; ++paper) {
-            ++counts[ratioOf(saltExercise({2 * paper, 1, Kind::compoundFormula, level}))];
+            ++counts[ratioOf(makeExercise({2 * paper, 1, &compoundFormulaKind, level}))];
         }
         for (const auto& [ratio, weight] : weights) {
             EXPECT_NEAR(counts[ratio], papers * weight / sum, 120) << ratio << ", level " << level;

@@ -54,7 +54,7 @@ TEST(ConcentrationTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
     for (const int level : {1, 2, 3}) {
         RoundingOnTheWay amount;
         RoundingOnTheWay gramsInLitre;
-        forExercises(Kind::concentration, level, exercises, [&](const Exercise& exercise) {
+        forExercises(&concentrationKind, level, exercises, [&](const Exercise& exercise) {
             amount.check(exercise, byAmount);
             gramsInLitre.check(exercise, byGramsInLitre);
         });
@@ -66,7 +66,7 @@ TEST(ConcentrationTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
 TEST(ConcentrationTest, NothingIsStrongerThanItsCeilingOrOutOfRange)
 {
     for (const int level : {1, 2, 3}) {
-        forExercises(Kind::concentration, level, exercises, [&](const Exercise& exercise) {
+        forExercises(&concentrationKind, level, exercises, [&](const Exercise& exercise) {
             const long double answer = toFloat(answerOf(exercise).value);
             const bool isMass = asksForMass(exercise);
             const long double c = isMass ? givenValue(exercise, "c") : answer;
@@ -106,7 +106,7 @@ TEST(ConcentrationTest, EveryMassVolumeAndSubstanceIsDrawnForAConcentration)
     std::set<std::string> masses;
     std::set<std::string> volumes;
     std::set<std::string> substances;
-    forExercises(Kind::concentration, 1, 30000, [&](const Exercise& exercise) {
+    forExercises(&concentrationKind, 1, 30000, [&](const Exercise& exercise) {
         masses.insert(findGiven(exercise, "m")->shown);
         const GivenQuantity& volume = *findGiven(exercise, "V");
         volumes.insert(volume.shown + volume.shownUnit);
@@ -125,7 +125,7 @@ TEST(ConcentrationTest, EveryConcentrationFlaskAndSubstanceIsDrawnForAMass)
     std::set<std::string> concentrations;
     std::set<std::string> flasks;
     std::set<std::string> substances;
-    forExercises(Kind::concentration, 2, exercises, [&](const Exercise& exercise) {
+    forExercises(&concentrationKind, 2, exercises, [&](const Exercise& exercise) {
         concentrations.insert(findGiven(exercise, "c")->shown);
         const GivenQuantity& volume = *findGiven(exercise, "V");
         flasks.insert(volume.shown + volume.shownUnit);
@@ -141,7 +141,7 @@ TEST(ConcentrationTest, HydratesAreAskedBothWaysEquallyOftenAndWithoutTheirMolar
 {
     std::map<std::string, int> asked;
     std::set<std::string> substances;
-    forExercises(Kind::concentration, 3, exercises, [&](const Exercise& exercise) {
+    forExercises(&concentrationKind, 3, exercises, [&](const Exercise& exercise) {
         ++asked[exercise.ask.quantity];
         substances.emplace(substanceOf(exercise).formula);
         EXPECT_EQ(textOf(exercise.prompt).find("g/mol"), std::string::npos) << placeOf(exercise);
@@ -154,7 +154,7 @@ TEST(ConcentrationTest, HydratesAreAskedBothWaysEquallyOftenAndWithoutTheirMolar
 
 TEST(ConcentrationTest, AToldMolarMassHasTwoDecimalsAndLeavesNoChoiceOfMasses)
 {
-    forExercises(Kind::concentration, 1, 1000, [&](const Exercise& exercise) {
+    forExercises(&concentrationKind, 1, 1000, [&](const Exercise& exercise) {
         const GivenQuantity& given = *findGiven(exercise, "M");
         const long double sum = toFloat(molarMassOf(substanceOf(exercise).formula));
         EXPECT_EQ(given.shown.find('.') + 3, given.shown.size()) << placeOf(exercise);
@@ -177,7 +177,7 @@ TEST(ConcentrationTest, FromLevelTwoOnTheMolarMassIsAStepMore)
     const std::map<int, std::size_t> steps = {{1, 3}, {2, 4}, {3, 4}};
     for (const auto& [level, count] : steps) {
         const std::size_t expected = count;
-        forExercises(Kind::concentration, level, 1000, [&](const Exercise& exercise) {
+        forExercises(&concentrationKind, level, 1000, [&](const Exercise& exercise) {
             const std::size_t converted = isLitre(exercise) ? 0 : 1;
             EXPECT_EQ(exercise.solution.size(), expected - 1 + converted) << placeOf(exercise);
             EXPECT_EQ(findGiven(exercise, "M")->shown.empty(), exercise.place.level > 1)
@@ -195,7 +195,7 @@ TEST(ConcentrationTest, WhatIsSoldAsAHydrateIsCalledAnhydrousWithoutItsWater)
         "Cu(CH3COO)2", "Ca(CH3COO)2", "NaCH3COO",  "CH3COONa"};
     std::map<bool, int> counts;
     for (const int level : {1, 2, 3}) {
-        forExercises(Kind::concentration, level, 2000, [&](const Exercise& exercise) {
+        forExercises(&concentrationKind, level, 2000, [&](const Exercise& exercise) {
             const SoluteRow& substance = substanceOf(exercise);
             const bool isCalled =
                 textOf(exercise.prompt).find(" anhydrous " + std::string(substance.name) + ", ") !=
@@ -212,7 +212,7 @@ TEST(ConcentrationTest, WhatIsSoldAsAHydrateIsCalledAnhydrousWithoutItsWater)
 TEST(ConcentrationTest, EachStepHasAHintWithoutNumbers)
 {
     for (const int level : {1, 2, 3}) {
-        forExercises(Kind::concentration, level, 100, [](const Exercise& exercise) {
+        forExercises(&concentrationKind, level, 100, [](const Exercise& exercise) {
             for (const Step& step : exercise.solution) {
                 const std::string hint = textOf(step.hint);
                 EXPECT_FALSE(hint.empty()) << textOf(step.say);
@@ -225,7 +225,7 @@ TEST(ConcentrationTest, EachStepHasAHintWithoutNumbers)
 
 TEST(ConcentrationTest, RoundedMassesAreCorrectWhereTheMolarMassIsNotGiven)
 {
-    const Exercise exercise = concentrationExercise({1, 3, Kind::concentration, 3});
+    const Exercise exercise = makeExercise({1, 3, &concentrationKind, 3});
     ASSERT_EQ(exercise.key, "2.78 g"); // FeSO4.7H2O, 0.0100 mol
     // 55.9 + 32.1 + 4 x 16.0 + 7 x 18.0 = 278.0; with 56 and 32 the same, which stands there once.
     int found = 0;
@@ -238,7 +238,7 @@ TEST(ConcentrationTest, RoundedMassesAreCorrectWhereTheMolarMassIsNotGiven)
 TEST(ConcentrationTest, ALitreLeavesNoVolumeToMistake)
 {
     int litres = 0;
-    forExercises(Kind::concentration, 2, 1000, [&](const Exercise& exercise) {
+    forExercises(&concentrationKind, 2, 1000, [&](const Exercise& exercise) {
         if (!isLitre(exercise)) {
             return;
         }
@@ -254,7 +254,7 @@ TEST(ConcentrationTest, ALitreLeavesNoVolumeToMistake)
 TEST(ConcentrationTest, PagesWorkedByHand)
 {
     EXPECT_EQ(
-        pageOf(concentrationExercise({1, 4, Kind::concentration, 1})),
+        pageOf(makeExercise({1, 4, &concentrationKind, 1})),
         "4.44 g of ammonium chloride, NH4Cl (M = 53.49 g/mol), is dissolved in water and made up "
         "to 250 mL of solution. Calculate the concentration of the solution in mol/L.\n"
         "  Convert the volume. | V = 250 mL = 0.250 L\n"
@@ -274,7 +274,7 @@ TEST(ConcentrationTest, PagesWorkedByHand)
         "! 0.0178 mol/L  That is in g/mL. Turn the mass into moles first.\n"
         "! 20.8 mol/L  Check how amount, concentration and volume are related.\n"
         "! 3.01 mol/L  Check how amount, concentration and volume are related.\n");
-    EXPECT_EQ(pageOf(concentrationExercise({1, 3, Kind::concentration, 2})),
+    EXPECT_EQ(pageOf(makeExercise({1, 3, &concentrationKind, 2})),
               "Calculate the mass of sodium chloride, NaCl, in g, needed to prepare 50.0 mL of a "
               "0.250 mol/L solution.\n"
               "  Molar mass. | M = 22.99 + 35.45 = 58.44 g/mol\n"
@@ -293,7 +293,7 @@ TEST(ConcentrationTest, PagesWorkedByHand)
               "! 12.5 g  That is an amount. One step is left.\n"
               "! 2.92 g  That is for a concentration of 1 mol/L.\n"
               "! 11.7 g  Check how amount, concentration and volume are related.\n");
-    EXPECT_EQ(pageOf(concentrationExercise({1, 3, Kind::concentration, 3})),
+    EXPECT_EQ(pageOf(makeExercise({1, 3, &concentrationKind, 3})),
               "Calculate the mass of iron(II) sulfate heptahydrate, FeSO4.7H2O, in g, needed to "
               "prepare 50.0 mL of a 0.200 mol/L solution.\n"
               "  Molar mass; the water belongs to the crystal. | M = 55.85 + 32.06 + 4(16.00) + "

@@ -87,7 +87,7 @@ TEST(DilutionTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
     for (const int level : {1, 2, 3}) {
         RoundingOnTheWay amount;
         RoundingOnTheWay factor;
-        forExercises(Kind::dilution, level, exercises, [&](const Exercise& exercise) {
+        forExercises(&dilutionKind, level, exercises, [&](const Exercise& exercise) {
             amount.check(exercise, byAmount);
             factor.check(exercise, byFactor);
         });
@@ -99,7 +99,7 @@ TEST(DilutionTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
 TEST(DilutionTest, NothingIsStrongerThanItsCeilingOrOutOfRange)
 {
     for (const int level : {1, 2, 3}) {
-        forExercises(Kind::dilution, level, exercises, [&](const Exercise& exercise) {
+        forExercises(&dilutionKind, level, exercises, [&](const Exercise& exercise) {
             const auto [c1, V1, c2, V2] = workedFrom(exercise);
             const SoluteRow& solute = soluteOf(exercise);
             constexpr long double tiny = 1e-12L;
@@ -123,7 +123,7 @@ TEST(DilutionTest, NoWaterIsAddedToAStrongAcidAndStrongAcidsAreDilutedElsewhere)
     for (const int level : {1, 2, 3}) {
         long double strongest = 0;
         int acids = 0;
-        forExercises(Kind::dilution, level, exercises, [&](const Exercise& exercise) {
+        forExercises(&dilutionKind, level, exercises, [&](const Exercise& exercise) {
             if (findAcid(soluteOf(exercise).formula) == nullptr) {
                 return;
             }
@@ -140,7 +140,7 @@ TEST(DilutionTest, NoWaterIsAddedToAStrongAcidAndStrongAcidsAreDilutedElsewhere)
 TEST(DilutionTest, EveryVolumeConcentrationAndSoluteIsDrawn)
 {
     std::map<std::string, std::set<std::string>> drawn;
-    forExercises(Kind::dilution, 1, exercises, [&](const Exercise& exercise) {
+    forExercises(&dilutionKind, 1, exercises, [&](const Exercise& exercise) {
         for (const char* const symbol : {"V1", "V2", "c1"}) {
             const GivenQuantity& given = *findGiven(exercise, symbol);
             drawn[symbol].insert(given.shown + " " + given.shownUnit);
@@ -166,7 +166,7 @@ TEST(DilutionTest, ThinnestAndStrongestDilutionAreMet)
 {
     long double least = 100;
     long double greatest = 0;
-    forExercises(Kind::dilution, 1, exercises, [&](const Exercise& exercise) {
+    forExercises(&dilutionKind, 1, exercises, [&](const Exercise& exercise) {
         const Worked worked = workedFrom(exercise);
         least = std::min(least, worked.V2 / worked.V1);
         greatest = std::max(greatest, worked.V2 / worked.V1);
@@ -179,7 +179,7 @@ TEST(DilutionTest, EachLevelAsksForItsOwnInItsUnit)
 {
     std::map<std::string, int> second;
     for (const int level : {1, 2, 3}) {
-        forExercises(Kind::dilution, level, exercises, [&](const Exercise& exercise) {
+        forExercises(&dilutionKind, level, exercises, [&](const Exercise& exercise) {
             const Ask& ask = exercise.ask;
             const std::string asked = ask.quantity + " in " + ask.unit;
             if (level == 1) {
@@ -202,7 +202,7 @@ TEST(DilutionTest, WhatIsGivenAndWhatIsAskedHaveThreeFiguresExactly)
 {
     const auto hasThreeFigures = [](Ratio value) { return valueOf(roundedTo(value, 3)) == value; };
     for (const int level : {2, 3}) {
-        forExercises(Kind::dilution, level, exercises, [&](const Exercise& exercise) {
+        forExercises(&dilutionKind, level, exercises, [&](const Exercise& exercise) {
             EXPECT_TRUE(hasThreeFigures(findGiven(exercise, "c2")->value)) << placeOf(exercise);
             EXPECT_TRUE(hasThreeFigures(answerOf(exercise).value)) << placeOf(exercise);
         });
@@ -213,7 +213,7 @@ TEST(DilutionTest, FlasksAreThoseThatThereAre)
 {
     const std::set<double> flasks = {100, 200, 250, 500, 1000, 2000};
     for (const int level : {1, 2, 3}) {
-        forExercises(Kind::dilution, level, exercises, [&](const Exercise& exercise) {
+        forExercises(&dilutionKind, level, exercises, [&](const Exercise& exercise) {
             const long double V2 = workedFrom(exercise).V2 * 1000;
             EXPECT_EQ(flasks.count(static_cast<double>(std::round(V2 * 1000) / 1000)), 1U)
                 << placeOf(exercise);
@@ -224,7 +224,7 @@ TEST(DilutionTest, FlasksAreThoseThatThereAre)
 // The whole volume, typed for the water, passes neither for it nor for a rounded or close answer.
 TEST(DilutionTest, TheWholeVolumeIsToldFromTheWater)
 {
-    forExercises(Kind::dilution, 3, exercises, [&](const Exercise& exercise) {
+    forExercises(&dilutionKind, 3, exercises, [&](const Exercise& exercise) {
         const Mark mark = markOf(exercise, typedText(1000 * workedFrom(exercise).V2, 3));
         EXPECT_EQ(mark.sentence, "Read again which volume is asked for.") << placeOf(exercise);
     });
@@ -234,7 +234,7 @@ TEST(DilutionTest, QuantitiesAreOftenNewWhateverTheSolute)
 {
     for (const int level : {1, 2, 3}) {
         std::set<std::string> distinct;
-        forExercises(Kind::dilution, level, exercises, [&](const Exercise& exercise) {
+        forExercises(&dilutionKind, level, exercises, [&](const Exercise& exercise) {
             std::string all = exercise.ask.quantity;
             for (const char* const symbol : {"c1", "V1", "c2", "V2"}) {
                 const GivenQuantity* const given = findGiven(exercise, symbol);
@@ -250,7 +250,7 @@ TEST(DilutionTest, QuantitiesAreOftenNewWhateverTheSolute)
 TEST(DilutionTest, EachStepHasAHintWithoutNumbers)
 {
     for (const int level : {1, 2, 3}) {
-        forExercises(Kind::dilution, level, 100, [](const Exercise& exercise) {
+        forExercises(&dilutionKind, level, 100, [](const Exercise& exercise) {
             for (const Step& step : exercise.solution) {
                 const std::string hint = textOf(step.hint);
                 EXPECT_FALSE(hint.empty()) << textOf(step.say);
@@ -263,7 +263,7 @@ TEST(DilutionTest, EachStepHasAHintWithoutNumbers)
 
 TEST(DilutionTest, PagesWorkedByHand)
 {
-    EXPECT_EQ(pageOf(dilutionExercise({1, 8, Kind::dilution, 1})),
+    EXPECT_EQ(pageOf(makeExercise({1, 8, &dilutionKind, 1})),
               "10.0 mL of 0.0500 mol/L ammonium sulfate solution is diluted to 250 mL. Calculate "
               "the concentration of the diluted solution in mol/L.\n"
               "  The amount stays the same. | c1V1 = c2V2\n"
@@ -280,7 +280,7 @@ TEST(DilutionTest, PagesWorkedByHand)
               "! 25.0 mol/L  That is how many times the volume has grown. One step is left.\n"
               "! 0.0400 mol/L  That is the part of V2 that V1 is. One step is left.\n");
     EXPECT_EQ(
-        pageOf(dilutionExercise({2, 1, Kind::dilution, 2})),
+        pageOf(makeExercise({2, 1, &dilutionKind, 2})),
         "Calculate the volume, in mL, of 2.00 mol/L ethanoic acid needed to make 200 mL of a 0.400 "
         "mol/L solution.\n"
         "  The amount stays the same. | c1V1 = c2V2\n"
@@ -296,7 +296,7 @@ TEST(DilutionTest, PagesWorkedByHand)
         "! 80.0 mL  That is an amount. One step is left.\n"
         "! 5.00 mL  That is how many times the volume has grown. One step is left.\n"
         "! 0.200 mL  That is the part of V2 that V1 is. One step is left.\n");
-    EXPECT_EQ(pageOf(dilutionExercise({2, 3, Kind::dilution, 2})),
+    EXPECT_EQ(pageOf(makeExercise({2, 3, &dilutionKind, 2})),
               "50.0 mL of lead(II) nitrate solution is diluted to 2.00 L. The diluted solution has "
               "a concentration of 0.0125 mol/L. Calculate the original concentration in mol/L.\n"
               "  The amount stays the same. | c1V1 = c2V2\n"
@@ -312,7 +312,7 @@ TEST(DilutionTest, PagesWorkedByHand)
               "! 0.0250 mol/L  That is an amount. One step is left.\n"
               "! 25.0 mol/L  That is an amount. One step is left.\n"
               "! 40.0 mol/L  That is how many times the volume has grown. One step is left.\n");
-    EXPECT_EQ(pageOf(dilutionExercise({2, 1, Kind::dilution, 3})),
+    EXPECT_EQ(pageOf(makeExercise({2, 1, &dilutionKind, 3})),
               "Calculate the volume of water, in mL, that has to be added to 100 mL of 1.00 mol/L "
               "sodium hydroxide solution to bring its concentration down to 0.100 mol/L. Assume "
               "that the volumes add up.\n"

@@ -17,7 +17,7 @@ constexpr unsigned pool[] = {27, 12, 47};
 
 std::vector<Exercise> wholePool(int level)
 {
-    return saltExercises(12, Kind::ionFormula, level, pool[level - 1]);
+    return saltExercises(12, &ionFormulaKind, level, pool[level - 1]);
 }
 
 Exercise exerciseAbout(const std::string& key)
@@ -81,10 +81,10 @@ TEST(IonFormulaTest, NoSortOfIonsCrowdsOutTheOthers)
     std::map<std::string, int> groups;
     std::map<std::string, int> signs;
     for (unsigned paper = 1; paper <= 3000; ++paper) {
-        const Exercise three = saltExercise({paper, 1, Kind::ionFormula, 3});
+        const Exercise three = makeExercise({paper, 1, &ionFormulaKind, 3});
         const bool isNew = givenIon(three, 0).isGroup && levelTwo.count(three.key) == 0;
         ++groups[isNew ? "new group" : "known ion"];
-        const Exercise one = saltExercise({paper, 1, Kind::ionFormula, 1});
+        const Exercise one = makeExercise({paper, 1, &ionFormulaKind, 1});
         ++signs[givenIon(one, 0).charge < 0 ? "negative" : "positive"];
     }
     expectEqualShares(groups, 2);

@@ -51,7 +51,7 @@ const std::string& compoundOf(const Exercise& exercise)
 
 Exercise exerciseOf(unsigned number, int level)
 {
-    return molarMassExercise({4821, number, Kind::molarMass, level});
+    return makeExercise({4821, number, &molarMassKind, level});
 }
 
 // The exercise of a paper that is about a compound.

@@ -438,8 +438,7 @@ TEST(NeutralisationRoutesTest, EachWrongRouteGetsItsSentence)
             int told = 0;
             std::string missed;
             for (unsigned number = 1; number <= exercises; ++number) {
-                const Exercise exercise =
-                    neutralisationExercise({11, number, Kind::neutralisation, level});
+                const Exercise exercise = makeExercise({11, number, &neutralisationKind, level});
                 const Question question = questionOf(exercise);
                 const Typed typed = route.take(question);
                 if (typed.text.empty()) {

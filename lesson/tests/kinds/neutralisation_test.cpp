@@ -24,7 +24,7 @@ using Side = std::vector<std::pair<int, std::string>>;
 
 Exercise exerciseOf(unsigned paper, unsigned number, int level)
 {
-    return neutralisationExercise({paper, number, Kind::neutralisation, level});
+    return makeExercise({paper, number, &neutralisationKind, level});
 }
 
 // A walk of a paper through the pool of a level: all exercises until the first one comes again.

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "lesson/exercise.hpp"
+#include "lesson/kinds/kinds.hpp"
 
 // Molar masses as learners work them out with the tables that examination boards print, retyped
 // here: whatever table is at hand, the answer is right.
@@ -133,7 +134,7 @@ TEST(PrintedMassesTest, EveryMolarMassIsRightByTheTableOfAnyBoard)
     std::set<std::string> formulas;
     for (int level = 1; level <= 3; ++level) {
         for (unsigned number = 1; number <= 320; ++number) {
-            const Exercise exercise = makeExercise({1, number, Kind::molarMass, level});
+            const Exercise exercise = makeExercise({1, number, &molarMassKind, level});
             if (!formulas.insert(exercise.ask.of).second) {
                 continue;
             }

@@ -48,7 +48,7 @@ TEST(SolubilityTest, LevelsOneAndTwoHaveAllPairsThatAreAsked)
     }
     for (const int level : {1, 2}) {
         std::set<std::string> asked;
-        for (const Exercise& exercise : saltExercises(12, Kind::solubility, level, 153)) {
+        for (const Exercise& exercise : saltExercises(12, &solubilityKind, level, 153)) {
             const Pair pair = givenPair(exercise, 0, 1);
             const bool dissolves = isSoluble(pair);
             asked.insert(formulaOf(pair));
@@ -71,10 +71,10 @@ TEST(SolubilityTest, HalfOfTheAnswersAreYesAndRuleAndExceptionComeAsOften)
     std::map<std::string, int> second;
     std::map<std::string, int> third;
     for (unsigned paper = 1; paper <= 3000; ++paper) {
-        ++first[saltExercise({paper, 1, Kind::solubility, 1}).key];
-        const Exercise two = saltExercise({paper, 1, Kind::solubility, 2});
+        ++first[makeExercise({paper, 1, &solubilityKind, 1}).key];
+        const Exercise two = makeExercise({paper, 1, &solubilityKind, 2});
         ++second[two.key + (isException(givenPair(two, 0, 1)) ? " exception" : " rule")];
-        ++third[saltExercise({paper, 1, Kind::solubility, 3}).key == "none" ? "none" : "some"];
+        ++third[makeExercise({paper, 1, &solubilityKind, 3}).key == "none" ? "none" : "some"];
     }
     expectEqualShares(first, 2);
     expectEqualShares(second, 4);
@@ -86,11 +86,11 @@ TEST(SolubilityTest, FamiliesOfRulesAreDrawnEquallyOften)
     std::map<std::string, int> soluble;
     std::map<std::string, int> precipitates;
     for (unsigned paper = 1; paper <= 4000; ++paper) {
-        const Exercise one = saltExercise({paper, 1, Kind::solubility, 1});
+        const Exercise one = makeExercise({paper, 1, &solubilityKind, 1});
         if (one.key == "yes") {
             ++soluble[std::string(ruleFor(givenIon(one, 1))->family)];
         }
-        const Exercise three = saltExercise({paper, 1, Kind::solubility, 3});
+        const Exercise three = makeExercise({paper, 1, &solubilityKind, 3});
         if (three.key != "none") {
             const auto& answer = std::get<PrecipitateAnswer>(three.answer);
             ++precipitates[std::string(ruleFor(*answer.anion)->family)];
@@ -102,7 +102,7 @@ TEST(SolubilityTest, FamiliesOfRulesAreDrawnEquallyOften)
 
 TEST(SolubilityTest, TheSolutionQuotesTheRule)
 {
-    for (const Exercise& exercise : saltExercises(12, Kind::solubility, 2, 153)) {
+    for (const Exercise& exercise : saltExercises(12, &solubilityKind, 2, 153)) {
         const std::string rule(ruleFor(givenIon(exercise, 1))->sentence);
         EXPECT_EQ(textOf(exercise.solution.back().say), rule) << placeOf(exercise);
         EXPECT_EQ(markTyped(exercise, exercise.key).sentence, "Correct. " + rule);
@@ -114,7 +114,7 @@ TEST(SolubilityTest, EachStepHasAHintThatGivesNothingAway)
 {
     for (const int level : {1, 2, 3}) {
         for (unsigned number = 1; number <= 100; ++number) {
-            const Exercise exercise = saltExercise({3, number, Kind::solubility, level});
+            const Exercise exercise = makeExercise({3, number, &solubilityKind, level});
             for (const Step& step : exercise.solution) {
                 const std::string hint = textOf(step.hint);
                 EXPECT_GT(hint.size(), 30U) << textOf(step.say);
@@ -127,7 +127,7 @@ TEST(SolubilityTest, EachStepHasAHintThatGivesNothingAway)
             }
         }
     }
-    const Exercise one = saltExercise({3, 1, Kind::solubility, 1});
+    const Exercise one = makeExercise({3, 1, &solubilityKind, 1});
     const std::string cation(givenIon(one, 0).name);
     EXPECT_EQ(textOf(one.solution.back().hint), "What is the rule for " +
                                                     std::string(givenIon(one, 1).name) +
@@ -171,7 +171,7 @@ TEST(SolubilityTest, LevelThreeMixesEverythingThatCanBeMixed)
     const std::set<std::set<std::string>> expected = allMixtures();
     std::set<std::set<std::string>> mixed;
     for (const Exercise& exercise :
-         saltExercises(12, Kind::solubility, 3, static_cast<unsigned>(expected.size()))) {
+         saltExercises(12, &solubilityKind, 3, static_cast<unsigned>(expected.size()))) {
         ASSERT_EQ(exercise.given.size(), 4U);
         mixed.insert({formulaOf(givenPair(exercise, 0, 1)), formulaOf(givenPair(exercise, 2, 3))});
     }
@@ -180,7 +180,7 @@ TEST(SolubilityTest, LevelThreeMixesEverythingThatCanBeMixed)
 
 TEST(SolubilityTest, ThePrecipitateIsTheInsolubleNewPair)
 {
-    for (const Exercise& exercise : saltExercises(5, Kind::solubility, 3, 3271)) {
+    for (const Exercise& exercise : saltExercises(5, &solubilityKind, 3, 3271)) {
         std::string precipitate = "none";
         for (const Pair& pair : {givenPair(exercise, 0, 3), givenPair(exercise, 2, 1)}) {
             precipitate = isSoluble(pair) ? precipitate : formulaOf(pair);
@@ -197,7 +197,7 @@ TEST(SolubilityTest, EitherSaltMayBeNamedFirst)
 {
     int inOrderOfTheTable = 0;
     for (unsigned paper = 1; paper <= 1000; ++paper) {
-        const Exercise exercise = saltExercise({paper, 1, Kind::solubility, 3});
+        const Exercise exercise = makeExercise({paper, 1, &solubilityKind, 3});
         inOrderOfTheTable += &givenIon(exercise, 0) < &givenIon(exercise, 2) ? 1 : 0;
     }
     EXPECT_NEAR(inOrderOfTheTable, 500, 80);
@@ -208,7 +208,7 @@ TEST(SolubilityTest, APageOfMixedSolutions)
     const auto pageWith = [](const std::string& salts) {
         // A paper meets them in one order or in the other.
         for (const unsigned paper : {12U, 13U, 14U, 15U, 16U, 17U}) {
-            for (const Exercise& exercise : saltExercises(paper, Kind::solubility, 3, 3271)) {
+            for (const Exercise& exercise : saltExercises(paper, &solubilityKind, 3, 3271)) {
                 if (textOf(exercise.prompt).find("Solutions of " + salts + " are") == 0) {
                     return pageOf(exercise);
                 }
@@ -246,7 +246,7 @@ TEST(SolubilityTest, APageOfMixedSolutions)
 
 TEST(SolubilityTest, AmericanNamesStandInTheRules)
 {
-    for (const Exercise& exercise : saltExercises(12, Kind::solubility, 1, 134)) {
+    for (const Exercise& exercise : saltExercises(12, &solubilityKind, 1, 134)) {
         if (givenIon(exercise, 1).name == "ethanoate") {
             const Span& first = exercise.solution.back().say.front();
             EXPECT_EQ(first.text, "Ethanoate");

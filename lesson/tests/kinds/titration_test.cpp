@@ -75,7 +75,7 @@ TEST(TitrationTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
 {
     for (const int level : {1, 2, 3}) {
         RoundingOnTheWay rounding;
-        forExercises(Kind::titration, level, exercises,
+        forExercises(&titrationKind, level, exercises,
                      [&](const Exercise& exercise) { rounding.check(exercise, stepByStep); });
         rounding.expectFairness();
     }
@@ -83,7 +83,7 @@ TEST(TitrationTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
 
 TEST(TitrationTest, TheEquationConservesEveryAtom)
 {
-    forExercises(Kind::titration, 3, 1000, [&](const Exercise& exercise) {
+    forExercises(&titrationKind, 3, 1000, [&](const Exercise& exercise) {
         std::map<std::string, int> left;
         std::map<std::string, int> right;
         for (const auto& [coefficient, species] : exercise.equation->left) {
@@ -101,7 +101,7 @@ TEST(TitrationTest, RatiosOfALevelComeEquallyOften)
     const std::size_t classes[] = {1, 2, 3};
     for (const int level : {1, 2, 3}) {
         std::map<std::string, int> ratios;
-        forExercises(Kind::titration, level, exercises, [&](const Exercise& exercise) {
+        forExercises(&titrationKind, level, exercises, [&](const Exercise& exercise) {
             const auto& left = exercise.equation->left;
             ++ratios[std::to_string(left[0].first) + ":" + std::to_string(left[1].first)];
         });
@@ -121,7 +121,7 @@ struct Practice {
 TEST(TitrationTest, EveryPairIsTitratedAsAPracticalBookHasIt)
 {
     std::map<std::string, Practice> seen;
-    forExercises(Kind::titration, 3, exercises, [&](const Exercise& exercise) {
+    forExercises(&titrationKind, 3, exercises, [&](const Exercise& exercise) {
         const std::string pair =
             exercise.equation->left[0].second + " " + exercise.equation->left[1].second;
         const std::string prompt = textOf(exercise.prompt);
@@ -172,7 +172,7 @@ TEST(TitrationTest, AcidAndBaseAreAskedForEquallyOften)
 {
     for (const int level : {1, 2, 3}) {
         int acid = 0;
-        forExercises(Kind::titration, level, exercises, [&](const Exercise& exercise) {
+        forExercises(&titrationKind, level, exercises, [&](const Exercise& exercise) {
             acid += exercise.ask.of == exercise.equation->left[0].second ? 1 : 0;
             EXPECT_NE(exercise.ask.of, knownOf(exercise).of) << placeOf(exercise);
         });
@@ -186,7 +186,7 @@ TEST(TitrationTest, EveryConcentrationPipetteAndTitreIsDrawn)
     std::map<std::string, int> concentrations;
     std::set<std::string> pipettes;
     std::set<std::string> titres;
-    forExercises(Kind::titration, 1, 40000, [&](const Exercise& exercise) {
+    forExercises(&titrationKind, 1, 40000, [&](const Exercise& exercise) {
         ++concentrations[knownOf(exercise).shown];
         const auto [pipette, burette] = volumesOf(exercise);
         pipettes.insert(pipette->shown);
@@ -210,7 +210,7 @@ TEST(TitrationTest, TheAnswerIsInRangeFromEndToEnd)
     long double least = 2;
     long double greatest = 0;
     for (const int level : {1, 2, 3}) {
-        forExercises(Kind::titration, level, exercises, [&](const Exercise& exercise) {
+        forExercises(&titrationKind, level, exercises, [&](const Exercise& exercise) {
             const long double answer = toFloat(answerOf(exercise).value);
             least = std::min(least, answer);
             greatest = std::max(greatest, answer);
@@ -235,7 +235,7 @@ TEST(TitrationTest, SeveralTitresHaveARoughOneAndConcordantOnes)
     std::set<int> overLowest;
     std::set<int> spreads;
     std::set<int> all;
-    forExercises(Kind::titration, 3, exercises, [&](const Exercise& exercise) {
+    forExercises(&titrationKind, 3, exercises, [&](const Exercise& exercise) {
         const GivenQuantity& burette = *volumesOf(exercise).second;
         const std::vector<int>& titres = burette.titres;
         ASSERT_GE(titres.size(), 3U) << placeOf(exercise);
@@ -267,7 +267,7 @@ TEST(TitrationTest, SeveralTitresHaveARoughOneAndConcordantOnes)
 TEST(TitrationTest, TheFirstLevelsHaveOneTitreAndTheEquation)
 {
     for (const int level : {1, 2}) {
-        forExercises(Kind::titration, level, 1000, [&](const Exercise& exercise) {
+        forExercises(&titrationKind, level, 1000, [&](const Exercise& exercise) {
             EXPECT_TRUE(volumesOf(exercise).second->titres.empty()) << placeOf(exercise);
             EXPECT_NE(textOf(exercise.prompt).find("→"), std::string::npos) << placeOf(exercise);
         });
@@ -277,7 +277,7 @@ TEST(TitrationTest, TheFirstLevelsHaveOneTitreAndTheEquation)
 // But of sulfuric acid and a carbonate somebody may think that it is not one to one.
 TEST(TitrationTest, OneToOneLeavesNoRatioToForget)
 {
-    forExercises(Kind::titration, 1, 1000, [&](const Exercise& exercise) {
+    forExercises(&titrationKind, 1, 1000, [&](const Exercise& exercise) {
         const bool mayMislead = exercise.equation->left[0].second == "H2SO4";
         bool isTold = false;
         for (const Slip& slip : exercise.slips) {
@@ -289,7 +289,7 @@ TEST(TitrationTest, OneToOneLeavesNoRatioToForget)
 
 TEST(TitrationTest, PagesWorkedByHand)
 {
-    EXPECT_EQ(pageOf(titrationExercise({4821, 3, Kind::titration, 2})),
+    EXPECT_EQ(pageOf(makeExercise({4821, 3, &titrationKind, 2})),
               "25.0 mL of sodium carbonate solution is titrated with 0.204 mol/L nitric acid "
               "from the burette, with methyl orange as the indicator, until the carbonate "
               "has reacted completely. The titre is 30.70 mL. The equation is 2HNO3 + Na2CO3 "
@@ -330,7 +330,7 @@ TEST(TitrationTest, PagesWorkedByHand)
               "in the equation: how many moles react with one?\n"
               "! 0.000251 mol/L  Two things went wrong, first the ratio. Look at the numbers "
               "in the equation: how many moles react with one?\n");
-    EXPECT_EQ(pageOf(titrationExercise({4821, 4, Kind::titration, 3})),
+    EXPECT_EQ(pageOf(makeExercise({4821, 4, &titrationKind, 3})),
               "25.0 mL of 0.0590 mol/L sodium hydroxide solution is titrated with "
               "nitric acid from the burette, with phenolphthalein as the indicator. "
               "The rough titre is 11.70 mL, and the others are 10.90 mL, 10.85 mL and 10.85 "
@@ -364,7 +364,7 @@ TEST(TitrationTest, PagesWorkedByHand)
 TEST(TitrationTest, OnlyWhereItIsNotGivenTheEquationIsAStep)
 {
     for (const int level : {1, 2, 3}) {
-        forExercises(Kind::titration, level, 300, [&](const Exercise& exercise) {
+        forExercises(&titrationKind, level, 300, [&](const Exercise& exercise) {
             bool isWritten = false;
             for (const Step& step : exercise.solution) {
                 isWritten = isWritten || textOf(step.math).find("→") != std::string::npos;

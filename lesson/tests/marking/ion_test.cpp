@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "lesson/chemistry/ions.hpp"
+#include "lesson/kinds/kinds.hpp"
 
 namespace lesson
 {
@@ -305,7 +306,7 @@ TEST(IonMarkTest, ARaisedNumberIsAChargeWithoutItsSign)
 {
     int charges = 0;
     for (unsigned number = 1; number <= 60; ++number) {
-        const Exercise exercise = makeExercise({1, number, Kind::ionFormula, 2});
+        const Exercise exercise = makeExercise({1, number, &ionFormulaKind, 2});
         const IonRow& ion = *std::get<IonAnswer>(exercise.answer).ion;
         const std::string size = std::to_string(std::abs(ion.charge));
         charges += std::abs(ion.charge) > 1 ? 1 : 0;

@@ -3,9 +3,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -19,7 +23,7 @@ bool operator==(const KindAndLevel& a, const KindAndLevel& b)
 
 void PrintTo(const KindAndLevel& one, std::ostream* out)
 {
-    *out << "kind " << static_cast<int>(one.kind) << " level " << one.level;
+    *out << nameOf(one);
 }
 
 namespace
@@ -28,50 +32,50 @@ namespace
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 
-TEST(ChoiceTest, OneKind)
+TEST(SelectionTest, OneKind)
 {
     struct Case {
         const char* names;
         KindAndLevel expected;
     };
     const Case cases[] = {
-        {"molar-mass", {Kind::molarMass, 2}},
-        {"compound-formula", {Kind::compoundFormula, 2}},
-        {"ion-formula:1", {Kind::ionFormula, 1}},
-        {"solubility:2", {Kind::solubility, 2}},
-        {"concentration:3", {Kind::concentration, 3}},
-        {"dilution", {Kind::dilution, 2}},
-        {"neutralisation:1", {Kind::neutralisation, 1}},
-        {"titration:3", {Kind::titration, 3}},
+        {"molar-mass", {&molarMassKind, 2}},
+        {"compound-formula", {&compoundFormulaKind, 2}},
+        {"ion-formula:1", {&ionFormulaKind, 1}},
+        {"solubility:2", {&solubilityKind, 2}},
+        {"concentration:3", {&concentrationKind, 3}},
+        {"dilution", {&dilutionKind, 2}},
+        {"neutralisation:1", {&neutralisationKind, 1}},
+        {"titration:3", {&titrationKind, 3}},
     };
     for (const Case& one : cases) {
-        const Choice choice = readChoice(one.names);
-        EXPECT_THAT(choice.kinds, ElementsAre(one.expected)) << one.names;
-        EXPECT_EQ(choice.error, "") << one.names;
+        const Selection selection = readSelection(one.names);
+        EXPECT_THAT(selection.kinds, ElementsAre(one.expected)) << one.names;
+        EXPECT_EQ(selection.error, "") << one.names;
     }
 }
 
-TEST(ChoiceTest, SeveralKindsInAnyOrder)
+TEST(SelectionTest, SeveralKindsInAnyOrder)
 {
     for (const char* const names :
          {"titration:3,dilution,titration:1", "dilution:2,titration:1,titration:3"}) {
-        EXPECT_THAT(readChoice(names).kinds,
-                    ElementsAre(KindAndLevel{Kind::dilution, 2}, KindAndLevel{Kind::titration, 1},
-                                KindAndLevel{Kind::titration, 3}))
+        EXPECT_THAT(readSelection(names).kinds,
+                    ElementsAre(KindAndLevel{&dilutionKind, 2}, KindAndLevel{&titrationKind, 1},
+                                KindAndLevel{&titrationKind, 3}))
             << names;
     }
 }
 
-TEST(ChoiceTest, MixedIsAllEightAtLevelTwo)
+TEST(SelectionTest, MixedIsAllEightAtLevelTwo)
 {
     std::vector<KindAndLevel> expected;
-    for (int kind = 0; kind < 8; ++kind) {
-        expected.push_back({static_cast<Kind>(kind), 2});
+    for (const Kind* const kind : allKinds()) {
+        expected.push_back({kind, 2});
     }
-    EXPECT_THAT(readChoice("mixed").kinds, ElementsAreArray(expected));
+    EXPECT_THAT(readSelection("mixed").kinds, ElementsAreArray(expected));
 }
 
-TEST(ChoiceTest, WhatCannotBeReadIsToldInASentence)
+TEST(SelectionTest, WhatCannotBeReadIsToldInASentence)
 {
     struct Case {
         const char* names;
@@ -105,213 +109,54 @@ TEST(ChoiceTest, WhatCannotBeReadIsToldInASentence)
         {"mixed:1", mixedAlone},
     };
     for (const Case& one : cases) {
-        const Choice choice = readChoice(one.names);
-        EXPECT_EQ(choice.error, one.error) << one.names;
-        EXPECT_TRUE(choice.kinds.empty()) << one.names;
+        const Selection selection = readSelection(one.names);
+        EXPECT_EQ(selection.error, one.error) << one.names;
+        EXPECT_TRUE(selection.kinds.empty()) << one.names;
     }
 }
 
-TEST(ChoiceTest, ALongNameIsCutInTheSentence)
+TEST(SelectionTest, ALongNameIsCutInTheSentence)
 {
-    const std::string error = readChoice(std::string(1000000, 'x')).error;
+    const std::string error = readSelection(std::string(1000000, 'x')).error;
     EXPECT_LT(error.size(), 200U);
 }
 
-// "7:2*4 5:2*3@7 ", kinds by their numbers, or the error.
-std::string textOf(const Sheet& sheet)
+TEST(SelectionTest, OneKindKeepsPaperAndNumber)
 {
-    std::string text = sheet.error;
-    for (const SheetEntry& entry : sheet.entries) {
-        text += std::to_string(static_cast<int>(entry.kind.kind)) + ":" +
-                std::to_string(entry.kind.level) + "*" + std::to_string(entry.count) +
-                (entry.first == 1 ? "" : "@" + std::to_string(entry.first)) + " ";
-    }
-    return text;
-}
-
-TEST(SheetTest, KindsWithTheirCountsInTheOrderOfTheList)
-{
-    struct Case {
-        const char* list;
-        const char* expected;
-    };
-    const Case cases[] = {
-        {"titration", "7:2*1 "},
-        {"4*titration:2,3*dilution", "7:2*4 5:2*3 "},
-        {"dilution:1,molar-mass,dilution:3", "5:1*1 0:2*1 5:3*1 "},
-        {"1000*solubility", "3:2*1000 "},
-        {"999*solubility:1,solubility:3", "3:1*999 3:3*1 "},
-        {"0*titration,2*dilution", "7:2*0 5:2*2 "},
-        {"007*ion-formula:3", "2:3*7 "},
-        {"titration:1@5", "7:1*1@5 "},
-        {"1*titration@999999", "7:2*1@999999 "},
-        {"titration@1,titration@2", "7:2*1 7:2*1@2 "},
-        {"2*titration,titration:2@9,dilution,titration@3", "7:2*2 7:2*1@9 5:2*1 7:2*1@3 "},
-        {"5*dilution:3@007,6*dilution:3", "5:3*5@7 5:3*6 "},
-        {"999*titration@999001", "7:2*999@999001 "},
-        {"0*titration,titration", "7:2*0 7:2*1 "},
-    };
-    for (const Case& one : cases) {
-        EXPECT_EQ(textOf(readSheet(one.list)), one.expected) << one.list;
-    }
-}
-
-TEST(SheetTest, WhatCannotBeReadIsToldInASentence)
-{
-    struct Case {
-        std::string list;
-        std::string error;
-    };
-    const std::string none = "A sheet has at least one exercise.";
-    const std::string many = "A sheet has at most 1000 exercises.";
-    const std::string name = "Name a kind of exercise.";
-    const std::string mixed = "A sheet names each of its kinds, and mixed is none.";
-    const auto noCount = [](const std::string& text) {
-        return "The number of exercises has to be a whole number, not '" + text + "'.";
-    };
-    const auto noNumber = [](const std::string& text) {
-        return "The number behind @ has to be from 1 to 999999, not '" + text + "'.";
-    };
-    const auto twice = [](unsigned number) {
-        return "Exercise " + std::to_string(number) + " of titration:2 is there twice.";
-    };
-    const Case cases[] = {
-        {"", none},
-        {"0*titration", none},
-        {"0*titration,0*dilution", none},
-        {"1001*titration", many},
-        {"999999999999999999999*titration", many},
-        {"500*titration,501*dilution", many},
-        {"1000*titration,1*dilution:3", many},
-        {",", name},
-        {"titration,", name},
-        {"4*", name},
-        {"4*:2", name},
-        {"*titration", noCount("")},
-        {"x*titration", noCount("x")},
-        {"-1*titration", noCount("-1")},
-        {"+1*titration", noCount("+1")},
-        {"1.5*titration", noCount("1.5")},
-        {" 4*titration", noCount(" 4")},
-        {"4 *titration", noCount("4 ")},
-        {"4x*titration", noCount("4x")},
-        {"4* titration", "There is no kind of exercise called ' titration'."},
-        {"4**titration", "There is no kind of exercise called '*titration'."},
-        {"titration*4", noCount("titration")},
-        {"4titration", "There is no kind of exercise called '4titration'."},
-        {"Titration", "There is no kind of exercise called 'Titration'."},
-        {"4*titration:0", "The level of titration has to be 1, 2 or 3."},
-        {"4*titration:", "The level of titration has to be 1, 2 or 3."},
-        {"titration:4", "The level of titration has to be 1, 2 or 3."},
-        {"mixed", mixed},
-        {"4*mixed", mixed},
-        {"mixed:1,titration", mixed},
-        {"titration,titration", twice(1)},
-        {"titration,3*titration:2", twice(1)},
-        {"5*titration,dilution,titration@5", twice(5)},
-        {"titration@5,5*titration", twice(5)},
-        {"3*titration@7,3*titration:2@9", twice(9)},
-        {"titration@77,dilution@77,titration@77", twice(77)},
-        {"titration@0", noNumber("0")},
-        {"titration@", noNumber("")},
-        {"titration@1000000", noNumber("1000000")},
-        {"titration@99999999999999999999", noNumber("99999999999999999999")},
-        {"titration@-1", noNumber("-1")},
-        {"titration@5.5", noNumber("5.5")},
-        {"titration@ 5", noNumber(" 5")},
-        {"titration@5:2", noNumber("5:2")},
-        {"titration@5@6", noNumber("5@6")},
-        {"titration@5*2", noCount("titration@5")},
-        {"@5", name},
-        {"2*@5", name},
-        {"mixed@5", mixed},
-        {"5@titration", "There is no kind of exercise called '5'."},
-        {"titration:4@5", "The level of titration has to be 1, 2 or 3."},
-        {"2*titration@999999", "The exercises of titration:2 go beyond number 999999."},
-        {"1001*titration@999999", "The exercises of titration:2 go beyond number 999999."},
-        {"600*titration,401*titration@601", many},
-    };
-    for (const Case& one : cases) {
-        EXPECT_EQ(readSheet(one.list).error, one.error) << one.list;
-    }
-}
-
-TEST(SheetTest, ALongTextIsCutInTheSentence)
-{
-    for (const std::string& list :
-         {std::string(1000000, 'x'), std::string(1000000, 'x') + "*",
-          std::string(1000000, '9') + "*titration", "titration@" + std::string(1000000, '9')}) {
-        EXPECT_LT(readSheet(list).error.size(), 200U) << list.substr(0, 20);
-    }
-}
-
-TEST(SheetTest, ALongListIsReadToItsEnd)
-{
-    std::string list;
-    for (unsigned entry = 0; entry < 300000; ++entry) {
-        list += "1000*titration@5,";
-    }
-    EXPECT_EQ(readSheet(list + "titration").error, "A sheet has at most 1000 exercises.");
-}
-
-TEST(SheetTest, ExercisesNamedByTheirNumbersComeInTheOrderOfTheList)
-{
-    std::string text;
-    for (const Place& place :
-         placesOf(readSheet("titration@9,2*titration,dilution:3@4,2*titration@7"), 4821)) {
-        text += std::to_string(static_cast<int>(place.kind)) + ":" + std::to_string(place.level) +
-                "#" + std::to_string(place.number) + " ";
-    }
-    EXPECT_EQ(text, "7:2#9 7:2#1 7:2#2 5:3#4 7:2#7 7:2#8 ");
-}
-
-TEST(SheetTest, EachKindAndLevelIsNumberedFromOne)
-{
-    std::string text;
-    for (const Place& place : placesOf(readSheet("2*titration,dilution:3,2*titration:1"), 4821)) {
-        EXPECT_EQ(place.paper, 4821U);
-        text += std::to_string(static_cast<int>(place.kind)) + ":" + std::to_string(place.level) +
-                "#" + std::to_string(place.number) + " ";
-    }
-    EXPECT_EQ(text, "7:2#1 7:2#2 5:3#1 7:1#1 7:1#2 ");
-}
-
-TEST(PlaceTest, OneKindKeepsPaperAndNumber)
-{
-    const Choice choice = readChoice("titration:3");
+    const Selection selection = readSelection("titration:3");
     for (const unsigned number : {1U, 2U, 77U, 999999U}) {
-        const Place place = placeOf(choice, 4821, number);
+        const Place place = placeOf(selection, 4821, number);
         EXPECT_EQ(place.paper, 4821U);
         EXPECT_EQ(place.number, number);
-        EXPECT_EQ(place.kind, Kind::titration);
+        EXPECT_EQ(place.kind, &titrationKind);
         EXPECT_EQ(place.level, 3);
     }
 }
 
-using Order = std::vector<std::pair<Kind, int>>;
+using Order = std::vector<std::pair<const Kind*, int>>;
 
-Order block(const Choice& choice, unsigned paper, unsigned index)
+Order block(const Selection& selection, unsigned paper, unsigned index)
 {
-    const auto size = static_cast<unsigned>(choice.kinds.size());
+    const auto size = static_cast<unsigned>(selection.kinds.size());
     Order order;
     for (unsigned i = 0; i < size; ++i) {
-        const Place place = placeOf(choice, paper, index * size + i + 1);
+        const Place place = placeOf(selection, paper, index * size + i + 1);
         EXPECT_EQ(place.number, index * size + i + 1);
         order.emplace_back(place.kind, place.level);
     }
     return order;
 }
 
-TEST(PlaceTest, EveryBlockHasEachKindOnce)
+TEST(SelectionTest, EveryBlockHasEachKindOnce)
 {
     for (const char* const names :
          {"mixed", "dilution,titration", "dilution:1,dilution:2,dilution:3"}) {
-        const Choice choice = readChoice(names);
+        const Selection selection = readSelection(names);
         for (unsigned paper = 1; paper <= 100; ++paper) {
             for (unsigned index = 0; index < 5; ++index) {
-                const Order order = block(choice, paper, index);
-                const std::set<std::pair<Kind, int>> distinct(order.begin(), order.end());
-                EXPECT_EQ(distinct.size(), choice.kinds.size())
+                const Order order = block(selection, paper, index);
+                const std::set<std::pair<const Kind*, int>> distinct(order.begin(), order.end());
+                EXPECT_EQ(distinct.size(), selection.kinds.size())
                     << names << ", paper " << paper << ", block " << index;
             }
         }
@@ -319,13 +164,13 @@ TEST(PlaceTest, EveryBlockHasEachKindOnce)
 }
 
 // Three kinds have six orders: with 6,000 blocks each comes about 1,000 times.
-TEST(PlaceTest, EveryOrderComesAboutEquallyOften)
+TEST(SelectionTest, EveryOrderComesAboutEquallyOften)
 {
-    const Choice choice = readChoice("molar-mass,solubility,titration");
+    const Selection selection = readSelection("molar-mass,solubility,titration");
     std::map<Order, int> counts;
     for (unsigned paper = 1; paper <= 60; ++paper) {
         for (unsigned index = 0; index < 100; ++index) {
-            ++counts[block(choice, paper, index)];
+            ++counts[block(selection, paper, index)];
         }
     }
     ASSERT_EQ(counts.size(), 6U);
@@ -336,15 +181,95 @@ TEST(PlaceTest, EveryOrderComesAboutEquallyOften)
     EXPECT_LT(chiSquare, 20.5) << "5 degrees of freedom, one seed in a thousand is worse";
 }
 
-TEST(PlaceTest, TheOrderOfTheNamesDoesNotMatter)
+TEST(SelectionTest, TheOrderOfTheNamesDoesNotMatter)
 {
-    const Choice one = readChoice("titration,dilution:1,solubility:3");
-    const Choice other = readChoice("solubility:3,titration:2,dilution:1");
-    const Choice all = readChoice("titration,dilution,molar-mass,neutralisation,solubility,"
-                                  "concentration,ion-formula,compound-formula");
+    const Selection one = readSelection("titration,dilution:1,solubility:3");
+    const Selection other = readSelection("solubility:3,titration:2,dilution:1");
+    const Selection all = readSelection("titration,dilution,molar-mass,neutralisation,solubility,"
+                                        "concentration,ion-formula,compound-formula");
     for (unsigned index = 0; index < 50; ++index) {
         EXPECT_EQ(block(one, 7, index), block(other, 7, index)) << "block " << index;
-        EXPECT_EQ(block(all, 7, index), block(readChoice("mixed"), 7, index)) << "block " << index;
+        EXPECT_EQ(block(all, 7, index), block(readSelection("mixed"), 7, index))
+            << "block " << index;
+    }
+}
+
+// A kind that is none of the library's.
+const Kind toy = {8, 1, "toy", "Toy", {"One", "Two", "Three"}, false, nullptr};
+
+// "titration:2#3", and so for the first exercises of a paper.
+std::string placesOf(std::string_view names, const KindList& kinds)
+{
+    const Selection selection = readSelection(names, kinds);
+    std::string text = selection.error;
+    for (unsigned number = 1; number <= 40; ++number) {
+        const Place place = placeOf(selection, 4821, number);
+        text += nameOf({place.kind, place.level}) + "#" + std::to_string(place.number) + " ";
+    }
+    return text;
+}
+
+TEST(SelectionTest, AKindMoreAnywhereInTheListChangesNothingForTheOthers)
+{
+    for (std::size_t at = 0; at <= allKinds().size(); ++at) {
+        KindList kinds = allKinds();
+        kinds.insert(kinds.begin() + static_cast<std::ptrdiff_t>(at), &toy);
+        for (const char* const names : {"mixed", "dilution:1,titration", "solubility"}) {
+            EXPECT_EQ(placesOf(names, kinds), placesOf(names, allKinds()))
+                << names << ", toy at " << at;
+        }
+    }
+}
+
+TEST(SelectionTest, TheOrderOfTheListDoesNotMatter)
+{
+    const KindList backwards(allKinds().rbegin(), allKinds().rend());
+    for (const char* const names : {"mixed", "dilution:1,titration", "titration:3,solubility"}) {
+        EXPECT_EQ(placesOf(names, backwards), placesOf(names, allKinds())) << names;
+    }
+}
+
+TEST(SelectionTest, KindsBeyondTheFirstWordOfTheSetAreToldApart)
+{
+    const Kind far = {40, 1, "far", "Far", {"One", "Two", "Three"}, false, nullptr};
+    KindList kinds = allKinds();
+    kinds.push_back(&far);
+    kinds.push_back(&toy);
+    const auto orders = [&](const std::string& names) {
+        std::string text;
+        const Selection selection = readSelection(names, kinds);
+        for (unsigned number = 1; number <= 80; ++number) {
+            text += placeOf(selection, 7, number).kind == &titrationKind ? "t" : ".";
+        }
+        return text;
+    };
+    EXPECT_NE(orders("titration,far:1"), orders("titration,far:2"));
+    EXPECT_NE(orders("titration,far:3"), orders("titration,toy:3"));
+    EXPECT_EQ(orders("far:3,titration"), orders("titration,far:3"));
+}
+
+TEST(KindsTest, NoSeedSlugOrTitleIsThereTwice)
+{
+    std::set<std::uint32_t> seeds;
+    std::set<std::string_view> slugs;
+    std::set<std::string_view> titles;
+    for (const Kind* const kind : allKinds()) {
+        EXPECT_TRUE(seeds.insert(kind->seed).second) << kind->slug;
+        EXPECT_TRUE(slugs.insert(kind->slug).second) << kind->slug;
+        EXPECT_TRUE(titles.insert(kind->title).second) << kind->slug;
+        EXPECT_EQ(findKind(kind->slug), kind);
+    }
+}
+
+// Papers that are printed have the numbers that these seeds give.
+TEST(KindsTest, SeedsAreThoseThatPapersWerePrintedWith)
+{
+    const char* const slugs[] = {"molar-mass",     "compound-formula", "ion-formula",
+                                 "solubility",     "concentration",    "dilution",
+                                 "neutralisation", "titration"};
+    for (std::uint32_t seed = 0; seed < std::size(slugs); ++seed) {
+        ASSERT_NE(findKind(slugs[seed]), nullptr) << slugs[seed];
+        EXPECT_EQ(findKind(slugs[seed])->seed, seed) << slugs[seed];
     }
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "lesson/exercise.hpp"
+#include "lesson/kinds/kinds.hpp"
 
 namespace lesson
 {
@@ -53,8 +54,8 @@ TEST(MarkupTest, CommandsAndBracesBecomePlainText)
 // In whatever way the key of an exercise is wrapped, every form of answer is read.
 TEST(MarkupTest, EveryFormOfAnswerMayBeWrapped)
 {
-    for (const Kind kind : {Kind::compoundFormula, Kind::ionFormula, Kind::neutralisation,
-                            Kind::solubility, Kind::molarMass}) {
+    for (const Kind* const kind : {&compoundFormulaKind, &ionFormulaKind, &neutralisationKind,
+                                   &solubilityKind, &molarMassKind}) {
         for (unsigned number = 1; number <= 20; ++number) {
             const Exercise exercise = makeExercise({7, number, kind, 3});
             for (const char* const begin : {"\\ce{", "$\\ce{", "\\mathrm{"}) {
@@ -74,7 +75,7 @@ TEST(MarkupTest, LongTextsTakeLinearTime)
         while (typed.size() < 400000) {
             typed += piece;
         }
-        const Exercise exercise = makeExercise({7, 1, Kind::neutralisation, 1});
+        const Exercise exercise = makeExercise({7, 1, &neutralisationKind, 1});
         EXPECT_NE(markAnswer(exercise, typed).verdict, Verdict::correct) << piece;
     }
 }

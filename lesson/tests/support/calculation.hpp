@@ -18,26 +18,12 @@
 namespace lesson
 {
 
-inline Exercise calculationOf(const Place& place)
-{
-    switch (place.kind) {
-    case Kind::molarMass:
-        return molarMassExercise(place);
-    case Kind::concentration:
-        return concentrationExercise(place);
-    case Kind::dilution:
-        return dilutionExercise(place);
-    default:
-        return titrationExercise(place);
-    }
-}
-
 // So many exercises of a kind and level, ten of each paper.
 template <typename Check>
-void forExercises(Kind kind, int level, unsigned count, Check check)
+void forExercises(const Kind* kind, int level, unsigned count, Check check)
 {
     for (unsigned i = 0; i < count; ++i) {
-        check(calculationOf({i / 10 + 1, i % 10 + 1, kind, level}));
+        check(makeExercise({i / 10 + 1, i % 10 + 1, kind, level}));
     }
 }
 

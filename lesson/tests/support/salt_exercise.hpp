@@ -14,24 +14,13 @@
 namespace lesson
 {
 
-inline Exercise saltExercise(const Place& place)
-{
-    switch (place.kind) {
-    case Kind::compoundFormula:
-        return compoundFormulaExercise(place);
-    case Kind::ionFormula:
-        return ionFormulaExercise(place);
-    default:
-        return solubilityExercise(place);
-    }
-}
-
 // The first exercises of a paper.
-inline std::vector<Exercise> saltExercises(unsigned paper, Kind kind, int level, unsigned count)
+inline std::vector<Exercise> saltExercises(unsigned paper, const Kind* kind, int level,
+                                           unsigned count)
 {
     std::vector<Exercise> exercises;
     for (unsigned number = 1; number <= count; ++number) {
-        exercises.push_back(saltExercise({paper, number, kind, level}));
+        exercises.push_back(makeExercise({paper, number, kind, level}));
     }
     return exercises;
 }

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace lesson
+{
+
+// Hands the parts of a list, which commas separate, to `read` up to the first with an error, which
+// it gives; empty where there is none. An empty list has one empty part.
+template <typename Read>
+std::string readParts(std::string_view list, const Read& read)
+{
+    for (std::size_t comma = 0; comma != std::string_view::npos;) {
+        comma = list.find(',');
+        std::string problem = read(list.substr(0, comma));
+        if (!problem.empty()) {
+            return problem;
+        }
+        list.remove_prefix(comma == std::string_view::npos ? list.size() : comma + 1);
+    }
+    return {};
+}
+
+} // namespace lesson
