@@ -1,5 +1,5 @@
 // The signs to insert into an answer, as buttons.
-import { button, element, show, spoken } from "../shared/dom";
+import { button, element, spoken } from "../shared/dom";
 import type { Ask } from "../types";
 import { texts } from "../words/texts";
 import { previewOf } from "./typed-preview";
@@ -24,7 +24,7 @@ function keyOf(sign: string, input: HTMLInputElement, update: () => void): HTMLE
         update();
     };
     const made = button("", press);
-    show(made, element("span", { "aria-hidden": "true" }, ...previewOf(sign)), spoken(texts.keyNames[sign] ?? sign));
+    made.replaceChildren(element("span", { "aria-hidden": "true" }, ...previewOf(sign)), spoken(texts.keyNames[sign] ?? sign));
     // The field keeps the focus, and a tablet its keyboard.
     made.addEventListener("pointerdown", (event) => event.preventDefault());
     return made;

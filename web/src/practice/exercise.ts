@@ -64,7 +64,7 @@ export function showExercise(article: HTMLElement, place: Place): () => void {
         work.mark = markOf(work, work.progress.marked);
     }
     update(work, parts);
-    show(article, ...contentsOf(work, parts));
+    article.replaceChildren(...contentsOf(work, parts));
     if (place.route.set > 0) {
         workAt(place.route, work.progress.result === null);
     }

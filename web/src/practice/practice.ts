@@ -1,7 +1,7 @@
 // Practice: one exercise at a time with the choice of others, and around it the display and the record.
 import { mainRoad } from "../address";
 import { displayPanel, massesChoice } from "../shared/display";
-import { element, show } from "../shared/dom";
+import { element } from "../shared/dom";
 import type { Page } from "../shared/page";
 import type { Exercise, PracticeRoute } from "../types";
 import { texts } from "../words/texts";
@@ -21,8 +21,7 @@ export function showPractice(main: HTMLElement, route: PracticeRoute, exercise: 
     const draw = (): (() => void) => showExercise(article, { route, exercise, page, choice, solved: record.update });
     const focus = draw();
     const display = displayPanel(page, draw, () => [massesChoice(page, draw)]);
-    show(
-        main,
+    main.replaceChildren(
         article,
         element("aside", { "aria-label": texts.around }, ...(route.set > 0 ? [linkPanel(route)] : []), display, record.element),
     );

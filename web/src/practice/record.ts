@@ -1,5 +1,5 @@
 // What the reader has solved on this device, by kind.
-import { announce, button, disclosure, element, scrollBox, show } from "../shared/dom";
+import { announce, button, disclosure, element, scrollBox } from "../shared/dom";
 import type { Page } from "../shared/page";
 import { ask } from "../shared/question";
 import type { KindInfo } from "../types";
@@ -25,7 +25,7 @@ export function recordPanel(page: Page, setsCleared: () => void): { element: HTM
     });
     const update = () => {
         clear.hidden = false;
-        show(tallies, ...contents(page, clear));
+        tallies.replaceChildren(...contents(page, clear));
     };
     const cleared = () => {
         clearRecord();
@@ -36,7 +36,7 @@ export function recordPanel(page: Page, setsCleared: () => void): { element: HTM
     const fill = () => {
         update();
         sets.update();
-        show(body, element("p", { class: "hint" }, texts.recordNote), tallies, sets.element);
+        body.replaceChildren(element("p", { class: "hint" }, texts.recordNote), tallies, sets.element);
     };
     return { element: disclosure(summary, body, fill), update: () => body.hasChildNodes() && update() };
 }

@@ -1,6 +1,6 @@
 // The sets that are kept on this device: where each leads on, and what clears them all.
 import { addressOf, atNumber } from "../address";
-import { announce, button, element, show } from "../shared/dom";
+import { announce, button, element } from "../shared/dom";
 import type { Page } from "../shared/page";
 import { ask } from "../shared/question";
 import type { PracticeRoute } from "../types";
@@ -21,7 +21,7 @@ export function keptSetsPanel(page: Page, cleared: () => void): { element: HTMLE
     const update = () => {
         const items = keptSets().map(({ route, kept }) => itemOf(route, kept, page));
         clear.hidden = false;
-        show(box, ...(items.length === 0 ? [] : [element("h2", {}, texts.keptSets), element("ul", {}, ...items), clear]));
+        box.replaceChildren(...(items.length === 0 ? [] : [element("h2", {}, texts.keptSets), element("ul", {}, ...items), clear]));
     };
     const clearAll = () => {
         forgetSets();

@@ -22,8 +22,7 @@ export interface Past {
 //   p …           for whom the other views are
 export function showStart(main: HTMLElement, past: Past, page: Page): () => void {
     const heading = element("h1", { tabindex: -1 }, texts.title);
-    show(
-        main,
+    main.replaceChildren(
         element(
             "article",
             { class: "start" },

@@ -1,6 +1,6 @@
 // What a set of exercises has come to, as the device keeps it: to print or to save, for a teacher.
 import { addressOfSet } from "../address";
-import { announce, button, element, save, show } from "../shared/dom";
+import { announce, button, element, save } from "../shared/dom";
 import { type Page, titleOf } from "../shared/page";
 import { randomPaper } from "../shared/paper";
 import { ask } from "../shared/question";
@@ -17,7 +17,7 @@ export function showSummary(main: HTMLElement, route: PracticeRoute, page: Page)
     const kept = keptSet(route);
     const heading = element("h1", { tabindex: -1 }, texts.summaryOf(route.paper));
     const contents = kept === null ? nothingKept(route, page) : keptContents(route, kept, page, () => showSummary(main, route, page)());
-    show(main, element("article", { class: "summary" }, heading, ...contents));
+    main.replaceChildren(element("article", { class: "summary" }, heading, ...contents));
     return () => heading.focus();
 }
 

@@ -2,7 +2,7 @@
 
 import type { Settings } from "../types";
 import { texts } from "../words/texts";
-import { disclosure, element, show } from "./dom";
+import { disclosure, element } from "./dom";
 import type { Page } from "./page";
 import * as storage from "./storage";
 
@@ -14,7 +14,7 @@ type Choices<Key extends keyof Settings> = { value: Settings[Key]; label: string
 // `more` is asked for once the panel is opened.
 export function displayPanel(page: Page, changed: () => void, more: () => HTMLElement[] = () => []): HTMLElement {
     const body = element("div");
-    return disclosure(element("summary", {}, texts.display), body, () => show(body, ...groupsOf(page, changed), ...more()));
+    return disclosure(element("summary", {}, texts.display), body, () => body.replaceChildren(...groupsOf(page, changed), ...more()));
 }
 
 function groupsOf(page: Page, changed: () => void): HTMLElement[] {

@@ -47,9 +47,20 @@ export function spoken(text: string): HTMLElement {
     return element("span", { class: "spoken" }, text);
 }
 
-// Changes an element's content only where it differs, so that nothing is announced twice.
+// Changes an element's content only where it differs, so that nothing is announced twice and the focus stays.
+// For what is new and has nothing to press but links: of equal nodes the one that is there stays.
 export function show(target: Element, ...children: Child[]): void {
-    target.replaceChildren(...children);
+    const made = document.createDocumentFragment();
+    made.append(...children);
+    const [present, wanted] = [[...target.childNodes], [...made.childNodes]];
+    present.slice(wanted.length).forEach((node) => node.remove());
+    target.append(...wanted.slice(present.length));
+    present.forEach((node, at) => {
+        const other = wanted[at];
+        if (other !== undefined && !node.isEqualNode(other)) {
+            node.replaceWith(other);
+        }
+    });
 }
 
 export function byId(id: string): HTMLElement {

@@ -1,7 +1,7 @@
 // The exercises of a sheet elsewhere, a version at a time: as files for other programs, and as a set to practise.
 import { addressOf } from "../address";
 import { linkPanel } from "../practice/link";
-import { button, element, save, show } from "../shared/dom";
+import { button, element, save } from "../shared/dom";
 import { listOf } from "../shared/exercise-list";
 import type { Page } from "../shared/page";
 import type { ExportFormat, SheetRoute } from "../types";
@@ -29,7 +29,7 @@ export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: 
     function link(): void {
         const set = practiceOf(present, Number(version.value));
         const panel = linkPanel(set, texts.copyPractice, "");
-        show(practise, element("a", { href: addressOf(set) }, texts.practiseSheet), panel);
+        practise.replaceChildren(element("a", { href: addressOf(set) }, texts.practiseSheet), panel);
     }
 
     function update(route: SheetRoute): void {
@@ -38,7 +38,7 @@ export function filesPanel(page: Page, opened: SheetRoute, complain: (sentence: 
         const options = papers.map((paper, at) =>
             element("option", { value: paper, selected: String(paper) === chosen }, texts.paperAndVersion(paper, at + 1)),
         );
-        show(version, ...options);
+        version.replaceChildren(...options);
         which.hidden = papers.length === 1;
         present = route;
         link();

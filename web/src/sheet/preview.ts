@@ -64,7 +64,7 @@ function empty(box: HTMLElement, size: HTMLElement): void {
     if (box.contains(document.activeElement)) {
         box.focus({ preventScroll: true }); // Not lost with what goes now.
     }
-    show(box);
+    box.replaceChildren();
     show(size);
 }
 

@@ -47,7 +47,7 @@ export function showSheets(main: HTMLElement, opened: SheetRoute, page: Page): (
     const heading = element("h1", { tabindex: -1 }, texts.sheetsTitle);
     // Set, not added, so that no listener outlives its view by more than one.
     window.onbeforeprint = () => finish(work);
-    show(main, chosenOf(work, heading), outcomeOf(work));
+    main.replaceChildren(chosenOf(work, heading), outcomeOf(work));
     work.preview.show(opened, () => putTools(work));
     return () => heading.focus();
 }

@@ -83,7 +83,7 @@ function draw(grid: Grid): void {
     const columns = anions.map((anion) => headOf(grid, anion, "col"));
     const rows = cations.map((cation) => rowOf(grid, cation, anions));
     const head = element("thead", {}, element("tr", {}, element("td", {}), ...columns));
-    show(grid.box, element("table", { class: "solubility" }, head, element("tbody", {}, ...rows)));
+    grid.box.replaceChildren(element("table", { class: "solubility" }, head, element("tbody", {}, ...rows)));
     walkWithArrows([...grid.cells.values()], anions.length);
     mark(grid, grid.chosen !== null && grid.cells.has(grid.chosen) ? grid.chosen : null);
     if (grid.chosen === null) {

@@ -1,5 +1,5 @@
 // The data that the exercises use, read from the library.
-import { element, show } from "../shared/dom";
+import { element } from "../shared/dom";
 import type { Page } from "../shared/page";
 import { texts } from "../words/texts";
 import { elementsWithSearch } from "./elements";
@@ -10,8 +10,7 @@ import { solubility } from "./solubility";
 export function showTables(main: HTMLElement, page: Page): () => void {
     const tables = page.lesson.tables();
     const heading = element("h1", { tabindex: -1 }, texts.tablesTitle);
-    show(
-        main,
+    main.replaceChildren(
         element(
             "article",
             { class: "tables" },

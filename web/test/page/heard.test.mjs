@@ -202,6 +202,30 @@ test("folding the grid does not tell the chosen cell's reason again", async () =
     await leave(page);
 });
 
+test("the reason of a pair is told once, however often it is asked for, and that of another one anew", async () => {
+    const page = await openPage(browser, "#tables");
+    await enter(page, "silver chloride: insoluble");
+    await listen(page);
+    await enter(page, "silver chloride: insoluble");
+    assert.deepEqual(await heard(page), []);
+    await enter(page, "silver bromide: insoluble");
+    assert.match((await heard(page)).join("|"), /^AgBr A g B r: insoluble\. [^|]+$/);
+    await leave(page);
+});
+
+test("of the links among the views those stay that lead where they led", async () => {
+    const page = await openPage(browser, "#practice/4821/3/titration:3");
+    await page.evaluate(() => {
+        window.links = [...document.querySelectorAll("#views a")];
+    });
+    await go(page, "#tables");
+    const stayed = () => page.evaluate(() => window.links.map((link) => `${link.textContent} ${link.isConnected}`));
+    assert.deepEqual(await stayed(), ["Practice false", "Sheets true", "Tables false"]);
+    await go(page, "#practice/4821/3/titration:3");
+    assert.deepEqual(await stayed(), ["Practice false", "Sheets true", "Tables false"]);
+    await leave(page);
+});
+
 test("Enter in the search tells at once what is found, and each further one tells it again", async () => {
     const page = await openPage(browser, "#tables");
     await listen(page);
