@@ -1,5 +1,5 @@
-// Makes the one file: the scripts bundled, the module inside them as compressed bytes, the styles, and
-// a policy that allows these by their hashes and forbids every connection.
+// Makes the one file: the scripts bundled, the module and the notices inside them as compressed bytes, the
+// styles, and a policy that allows these by their hashes and forbids every connection.
 //   node build.mjs LESSON.WASM PRACTICE.HTML
 import { createHash } from "node:crypto";
 import { mkdir, readFile, writeFile } from "node:fs/promises";
@@ -12,9 +12,7 @@ const here = dirname(fileURLToPath(import.meta.url));
 const [wasm, target] = process.argv.slice(2);
 
 await mkdir(dirname(target), { recursive: true });
-// By fflate, whose bytes are the same with every version of Node.
-const compressed = resolve(dirname(target), "lesson.bin");
-await writeFile(compressed, zlibSync(await readFile(wasm), { level: 9 }));
+const inside = Object.fromEntries([await packed("lesson.bin", wasm), await packed("notices.bin", join(here, "../NOTICES.md"))]);
 
 const script = await bundle("src/main.ts");
 const style = await bundle("style/page.css");
@@ -33,6 +31,14 @@ const page = Object.entries({ POLICY: policy, STYLE: style, SCRIPT: script }).re
 );
 await writeFile(target, page);
 
+// By fflate, whose bytes are the same with every version of Node. Under which name a script imports them, and
+// where they are.
+async function packed(name, file) {
+    const path = resolve(dirname(target), name);
+    await writeFile(path, zlibSync(await readFile(file), { level: 9 }));
+    return [name, path];
+}
+
 async function bundle(entry) {
     const result = await build({
         entryPoints: [join(here, entry)],
@@ -42,7 +48,7 @@ async function bundle(entry) {
         charset: "utf8",
         target: ["safari15", "chrome90", "firefox90"],
         loader: { ".bin": "base64" },
-        alias: { "lesson.bin": compressed },
+        alias: inside,
     });
     return result.outputFiles[0].text.trim().replaceAll("</script", "<\\/script").replaceAll("<!--", "<\\!--");
 }

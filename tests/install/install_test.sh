@@ -17,6 +17,7 @@ expected() {
 bin/chempractice
 share/doc/chempractice/CHANGELOG.md
 share/doc/chempractice/LICENSE
+share/doc/chempractice/NOTICES.md
 share/doc/chempractice/README.md
 share/doc/chempractice/docs/dialogue.svg
 share/doc/chempractice/docs/lesson.md

@@ -27,6 +27,8 @@ export function routeOf(hash: string): Route {
             return sheet(parts, options);
         case "tables":
             return parts.length === 0 ? { view: "tables" } : bad();
+        case "notices":
+            return parts.length === 0 ? { view: "notices" } : bad();
         default:
             return bad();
     }

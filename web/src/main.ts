@@ -4,7 +4,7 @@ import { instantiate } from "../../lesson/border/module.mjs";
 import { addressOf, mainRoad, routeOf } from "./address";
 import { lessonOf } from "./lesson/lesson";
 import { withLists } from "./lesson/listed-exercises";
-import { unpacked } from "./lesson/unpacked";
+import { showNotices } from "./notices";
 import { choiceIn } from "./practice/chosen-kinds";
 import { keepFieldInView } from "./practice/field-in-view";
 import { nameOf } from "./practice/head";
@@ -17,6 +17,7 @@ import { showMessage } from "./shared/message";
 import type { Page } from "./shared/page";
 import { randomPaper } from "./shared/paper";
 import * as storage from "./shared/storage";
+import { unpacked } from "./shared/unpacked";
 import { usualSheet } from "./sheet/sheet";
 import { showSheets } from "./sheet/sheets";
 import { showTables } from "./tables/tables";
@@ -123,6 +124,8 @@ function showView(route: Exclude<Route, { view: "none" }>, page: Page): Focus {
             return showExercise(route, page) ?? showBad("practice", texts.badAddress, page);
         case "tables":
             return showTables(main, page);
+        case "notices":
+            return showNotices(main);
         case "sheet":
             return showSheet(route, page) ?? showBad("sheet", texts.badSheet, page);
         case "bad":
@@ -171,6 +174,7 @@ function showViews(route: Route): void {
         element("a", { href, "aria-current": route.view === view ? "page" : undefined }, text),
     );
     show(byId("views"), ...items);
+    show(byId("foot"), element("a", { href: "#notices", "aria-current": route.view === "notices" ? "page" : undefined }, texts.notices));
     keepPlaces();
     document.title = route.view === "start" ? texts.title : `${titleOf(route)} – ${texts.title}`;
 }
@@ -185,6 +189,8 @@ function titleOf(route: Route): string {
             return texts.sheetOf(route.paper);
         case "tables":
             return texts.tables;
+        case "notices":
+            return texts.notices;
         default:
             return texts.practice;
     }

@@ -162,6 +162,7 @@ export type Route =
     | PracticeRoute
     | SheetRoute
     | { view: "tables" }
+    | { view: "notices" }
     | { view: "start" } // nothing is asked for: the reader chooses
     | { view: "none"; of: "sheet" } // no sheet is named: the page chooses
     | { view: "bad"; of: "practice" | "sheet"; message: string };

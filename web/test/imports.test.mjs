@@ -14,14 +14,15 @@ const border = "../../lesson/border/module.mjs";
 const allowed = {
     types: [],
     words: [],
-    shared: ["types", "words"],
+    shared: ["types", "words", "fflate"],
     text: ["types", "shared"],
-    lesson: ["types", "shared", "fflate", border],
+    lesson: ["types", "shared", border],
     address: ["types", "words", "shared", "sheet/address"],
     practice: ["types", "words", "shared", "text", "address"],
     sheet: ["types", "words", "shared", "text", "address", "practice"],
+    notices: ["words", "shared", "notices.bin"],
     tables: ["types", "words", "shared", "text"],
-    main: ["types", "words", "shared", "text", "address", "practice", "sheet", "tables", "lesson", "lesson.bin", border],
+    main: ["types", "words", "shared", "text", "address", "practice", "sheet", "tables", "notices", "lesson", "lesson.bin", border],
 };
 
 function modules(folder = "") {

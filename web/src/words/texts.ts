@@ -4,6 +4,7 @@ export const texts = {
     practice: "Practice",
     sheets: "Sheets",
     tables: "Tables",
+    notices: "Notices",
 
     lead: "Exercises in school chemistry, each marked when you answer and solved step by step when you ask.",
     goOn: (number: number, paper: number) => `Go on with exercise ${number} of paper\u00A0${paper}`,

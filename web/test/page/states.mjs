@@ -180,6 +180,7 @@ export const states = [
     ],
     ["a bad address of a sheet", "#sheet/4821/4*alchemy", async () => {}],
     ["the tables", "#tables", async () => {}],
+    ["the notices", "#notices", (page) => page.getByRole("heading", { name: "libc++" }).waitFor()],
     [
         "elements found",
         "#tables",

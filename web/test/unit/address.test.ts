@@ -109,6 +109,7 @@ const bad = [
     "#practice/1/1/mixed?back=1000000:mixed",
     "#practice/1/1/mixed?set=5&back=4:mixed",
     "#tables/more",
+    "#notices/more",
     "#elsewhere",
     "#%",
     "#%E0%A4%A",
@@ -121,6 +122,6 @@ test("what names no exercise is a bad address", () => {
     }
 });
 
-test("the tables have an address of their own", () => {
-    assert.equal(routeOf("#tables").view, "tables");
+test("the tables and the notices have an address of their own", () => {
+    assert.deepEqual([routeOf("#tables").view, routeOf("#notices").view], ["tables", "notices"]);
 });
