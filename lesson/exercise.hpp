@@ -11,6 +11,7 @@
 #include "lesson/numbers/ratio.hpp"
 #include "lesson/paper/place.hpp"
 #include "lesson/words/spans.hpp"
+#include "lesson/words/writing.hpp"
 
 namespace lesson
 {
@@ -143,7 +144,8 @@ struct Mark {
     std::string sentence;
 };
 
-// Marks what was typed, whatever bytes it holds, in time proportional to its length.
-Mark markAnswer(const Exercise& exercise, std::string_view typed);
+// Marks what was typed, whatever bytes it holds, in time proportional to its length; its numbers
+// are read as the reader writes them.
+Mark markAnswer(const Exercise& exercise, std::string_view typed, const Writing& writing = {});
 
 } // namespace lesson

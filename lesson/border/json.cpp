@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "lesson/numbers/decimal.hpp"
-#include "lesson/reading/utf8.hpp"
+#include "lesson/text/utf8.hpp"
 
 namespace lesson
 {

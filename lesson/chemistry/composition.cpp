@@ -6,6 +6,7 @@
 
 #include "lesson/chemistry/elements.hpp"
 #include "lesson/numbers/decimal.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {
@@ -20,37 +21,15 @@ namespace
 //
 // Each function below takes one of these off the front of `rest`.
 
-bool isCapital(char c)
-{
-    return c >= 'A' && c <= 'Z';
-}
-
-bool isSmall(char c)
-{
-    return c >= 'a' && c <= 'z';
-}
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 int takeCount(std::string_view& rest)
 {
-    int count = 0;
-    while (!rest.empty() && isDigit(rest.front())) {
-        count = 10 * count + (rest.front() - '0');
-        rest.remove_prefix(1);
-    }
-    return std::max(count, 1);
+    return std::max(static_cast<int>(wholeNumber(takeDigits(rest))), 1);
 }
 
 int takeSymbol(std::string_view& rest)
 {
     const std::size_t length = rest.size() > 1 && isSmall(rest[1]) ? 2 : 1;
-    const ElementRow* const row = findElement(rest.substr(0, length));
-    rest.remove_prefix(length);
-    return row->number;
+    return findElement(takeLength(rest, length))->number;
 }
 
 void add(Atoms& atoms, AtomCount more)
@@ -79,15 +58,12 @@ FormulaPart takePart(std::string_view& rest)
 {
     FormulaPart part = {{}, 1, rest.front() == '.'};
     const bool isBracket = rest.front() == '(';
-    if (isBracket || part.isWater) {
-        rest.remove_prefix(1);
-    }
+    takeLength(rest, isBracket || part.isWater ? 1 : 0);
     if (part.isWater) {
         part.times = takeCount(rest);
     }
     part.atoms = takeAtoms(rest);
-    if (isBracket) {
-        rest.remove_prefix(1);
+    if (take(rest, ")")) {
         part.times = takeCount(rest);
     }
     return part;

@@ -7,7 +7,7 @@
 #include "lesson/export/expected.hpp"
 #include "lesson/export/spelt.hpp"
 #include "lesson/marking/spellings.hpp"
-#include "lesson/reading/typed.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "lesson/text/scan.hpp"
+
 namespace lesson
 {
 
@@ -11,11 +13,6 @@ namespace
 // Thin, and keeps together what it stands between.
 constexpr std::string_view thinBlank = "\u202F";
 constexpr std::string_view minus = "\u2212";
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
 
 std::string raised(std::string_view text)
 {

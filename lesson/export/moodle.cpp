@@ -9,7 +9,7 @@
 #include "lesson/export/units.hpp"
 #include "lesson/kinds/kind.hpp"
 #include "lesson/numbers/decimal.hpp"
-#include "lesson/reading/scan.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <iterator>
 
+#include "lesson/text/scan.hpp"
+
 namespace lesson
 {
 
@@ -13,11 +15,6 @@ using Texts = std::vector<std::string>;
 
 constexpr std::string_view lowDigits[] = {"₀", "₁", "₂", "₃", "₄", "₅", "₆", "₇", "₈", "₉"};
 constexpr std::string_view highDigits[] = {"⁰", "¹", "²", "³", "⁴", "⁵", "⁶", "⁷", "⁸", "⁹"};
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
 
 // "SO4" -> "SO₄"
 std::string withLowDigits(std::string_view formula)

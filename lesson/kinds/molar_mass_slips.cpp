@@ -9,7 +9,7 @@
 #include "lesson/chemistry/composition.hpp"
 #include "lesson/chemistry/elements.hpp"
 #include "lesson/marking/number.hpp"
-#include "lesson/reading/scan.hpp"
+#include "lesson/text/scan.hpp"
 
 // A learner who miscounts works out the mass of another formula, so most slips are that formula:
 // of Al2(SO4)3, AlSO by who leaves out all small numbers.
@@ -66,11 +66,6 @@ std::string withoutBrackets(std::string formula)
 std::string countingAll(const std::string& formula, const Run& run)
 {
     return "(" + withoutBrackets(formula.substr(0, run.begin)) + ")" + formula.substr(run.begin);
-}
-
-bool isSmall(char c)
-{
-    return c >= 'a' && c <= 'z';
 }
 
 // The symbols of a formula in their order, with what stands behind each: "O4" of SO4.

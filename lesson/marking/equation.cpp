@@ -16,6 +16,7 @@
 #include "lesson/reading/lookalikes.hpp"
 #include "lesson/reading/names.hpp"
 #include "lesson/reading/typed.hpp"
+#include "lesson/text/quotable.hpp"
 
 namespace lesson
 {
@@ -290,7 +291,7 @@ Mark markUnread(const TypedEquation& typed, const std::string& plain, const Role
         const Assignment assignment = assigned(meant, roles, false);
         if (meant.unread.empty() && hasRightSubstances(assignment)) {
             return markOf(isRight(meant, assignment, roles) ? Verdict::slip : Verdict::unreadable,
-                          other.sentence);
+                          sentences::of(other.mixup));
         }
     }
     if (hasRightSubstances(assigned(typed, roles, true))) {

@@ -13,6 +13,7 @@
 #include "lesson/marking/spellings.hpp"
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/lookalikes.hpp"
+#include "lesson/text/quotable.hpp"
 
 namespace lesson
 {
@@ -194,7 +195,7 @@ std::string_view misspelling(const TypedTerm& term, const Role& role)
     }
     for (const Lookalike& other : lookalikesOf(term.text)) {
         if (readFormula(other.meant).text == role.formula) {
-            return other.sentence;
+            return sentences::of(other.mixup);
         }
     }
     return {};

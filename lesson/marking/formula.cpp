@@ -14,8 +14,8 @@
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/group_braces.hpp"
 #include "lesson/reading/lookalikes.hpp"
-#include "lesson/reading/scan.hpp"
 #include "lesson/reading/typed.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {
@@ -147,7 +147,7 @@ std::optional<Mark> lookalikes(const Attempt& attempt)
 {
     for (const Lookalike& other : lookalikesOf(attempt.plain)) {
         if (isAmong(attempt.right, readFormula(other.meant).text)) {
-            return markOf(Verdict::slip, other.sentence);
+            return markOf(Verdict::slip, sentences::of(other.mixup));
         }
     }
     return std::nullopt;

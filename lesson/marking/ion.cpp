@@ -13,8 +13,8 @@
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/ion.hpp"
 #include "lesson/reading/lookalikes.hpp"
-#include "lesson/reading/scan.hpp"
 #include "lesson/reading/typed.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {
@@ -221,7 +221,7 @@ std::optional<Mark> lookalikes(const Attempt& attempt)
         Attempt mended = attempt;
         mended.read = readIon(other.meant);
         if (right(mended).has_value()) {
-            return markOf(Verdict::slip, other.sentence);
+            return markOf(Verdict::slip, sentences::of(other.mixup));
         }
     }
     return std::nullopt;

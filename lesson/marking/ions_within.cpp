@@ -6,7 +6,7 @@
 #include "lesson/chemistry/compounds.hpp"
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/spellings.hpp"
-#include "lesson/reading/scan.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
+#include <limits>
 #include <optional>
 #include <utility>
 #include <variant>
@@ -9,8 +11,8 @@
 #include "lesson/chemistry/composition.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/reading/measure.hpp"
-#include "lesson/reading/number.hpp"
 #include "lesson/reading/typed.hpp"
+#include "lesson/reading/typed_number.hpp"
 #include "lesson/reading/units.hpp"
 
 namespace lesson
@@ -227,7 +229,7 @@ Mark figuresMark(const TypedNumber& number, const Target& key, const std::string
 Mark powerMark(int power, const NumberAnswer& answer, const Ask& ask)
 {
     const std::optional<Unit> unit = unitOf(ask.unit);
-    const bool isMass = unit && unit->measure == Measure::mass;
+    const bool isMass = unit && unit->dimension == Dimension::mass;
     const bool mayBeVolume = answer.hasGivenVolumes && !isMass && (power == 3 || power == -3);
     return {Verdict::powerOfTen, mayBeVolume
                                      ? "Right digits, wrong size. Check each volume: mL or L?"
@@ -265,17 +267,84 @@ Mark closeMark(const TypedNumber& number, const NumberAnswer& answer, const Ask&
                                 : "Very close. Check the atomic masses."};
 }
 
+// ---- What could not be read
+
+struct Misread {
+    std::string_view letter;
+    std::string_view sentence;
+};
+constexpr Misread misreads[] = {
+    {"l", "There is a small letter l where the digit 1 should be."},
+    {"I", "There is a large letter I where the digit 1 should be."},
+    {"i", "There is a small letter i where the digit 1 should be."},
+    {"|", "There is a stroke where the digit 1 should be."},
+    {"O", "There is a letter O where a zero should be."},
+    {"o", "There is a letter o where a zero should be."},
+};
+
+std::string_view misreadSentence(std::string_view letter)
+{
+    return std::find_if(std::begin(misreads), std::end(misreads),
+                        [letter](const Misread& misread) { return misread.letter == letter; })
+        ->sentence;
+}
+
+// "Do you mean 1250 or 1.250?", in the reader's writing
+std::string pointOrComma(const std::string& number, const Writing& writing)
+{
+    const std::size_t point = number.find('.');
+    std::string thousands = number;
+    std::string decimals = number;
+    thousands.erase(point, 1);
+    decimals[point] = writing.decimal;
+    return "Do you mean " + thousands + " or " + decimals + "?";
+}
+
+Mark markUnread(const TypedMeasure& measure, const Ask& ask, const Writing& writing)
+{
+    constexpr std::string_view typeNumber = "Type a number, such as 0.125.";
+    switch (measure.problem) {
+    case NumberProblem::unread:
+        return unreadable(measure.part, typeNumber);
+    case NumberProblem::pointOrComma:
+        return {Verdict::unreadable, pointOrComma(measure.part, writing)};
+    case NumberProblem::otherUnit:
+        return {Verdict::unreadable, "The answer should be in " + ask.unit + "."};
+    case NumberProblem::minus:
+        return markOf(Verdict::unreadable, "Leave out the minus sign.");
+    case NumberProblem::letterForDigit:
+        return markOf(Verdict::unreadable, misreadSentence(measure.part));
+    case NumberProblem::none:
+    case NumberProblem::nothingTyped:
+        break;
+    }
+    return markOf(Verdict::unreadable, typeNumber);
+}
+
+// ---- What was read
+
+// A quotient has as many figures as are asked for, or more.
+TypedNumber numberOf(const TypedMeasure& measure, int figures)
+{
+    TypedNumber number = measure.number;
+    if (measure.text.isQuotient()) {
+        number.fewestFigures = figures;
+        number.mostFigures = std::numeric_limits<std::int64_t>::max();
+    }
+    return number;
+}
+
 // The answer as the sentences tell it: in the unit that was typed, where that is not the asked one.
-std::string roundedAsTyped(const Target& key, const NumberReading& reading)
+std::string roundedAsTyped(const Target& key, const TypedMeasure& reading)
 {
     const std::string rounded = shown(key.value * powerOfTen(-reading.power), key.figures);
     return reading.power == 0 ? rounded : rounded + " " + std::string(reading.unit);
 }
 
-Mark markRead(const NumberReading& reading, const NumberAnswer& answer,
+Mark markRead(const TypedMeasure& reading, const NumberAnswer& answer,
               const std::vector<Slip>& slips, const Ask& ask)
 {
-    const TypedNumber& number = reading.number;
+    const TypedNumber number = numberOf(reading, ask.figures);
     const Target key = {answer.value, ask.figures, answer.isMolarMass};
     const std::string rounded = roundedAsTyped(key, reading);
     const Fit fit = fitOf(number, key);
@@ -340,11 +409,11 @@ void addSlip(Exercise& exercise, Ratio value, std::string sentence)
 }
 
 Mark markNumber(const NumberAnswer& answer, const Ask& ask, const std::vector<Slip>& slips,
-                std::string_view typed)
+                std::string_view typed, const Writing& writing)
 {
-    const NumberReading reading = readNumber(plainTyped(typed), ask);
-    return reading.problem.empty() ? markRead(reading, answer, slips, ask)
-                                   : Mark{Verdict::unreadable, reading.problem};
+    const TypedMeasure measure = readMeasure(plainTyped(typed), {ask.unit, ask.of}, writing);
+    return measure.problem == NumberProblem::none ? markRead(measure, answer, slips, ask)
+                                                  : markUnread(measure, ask, writing);
 }
 
 } // namespace lesson

@@ -11,7 +11,7 @@ namespace lesson
 
 // Marks a typed number with its unit, if there is one, in time proportional to the length.
 Mark markNumber(const NumberAnswer& answer, const Ask& ask, const std::vector<Slip>& slips,
-                std::string_view typed);
+                std::string_view typed, const Writing& writing = {});
 
 // For those who make exercises: whether a number with the figures asked for agrees with the exact
 // value: within one unit of the last figure of the rounded value, or, but for molar masses, within

@@ -4,7 +4,8 @@
 #include <string_view>
 
 #include "lesson/exercise.hpp"
-#include "lesson/reading/typed.hpp"
+#include "lesson/reading/lookalikes.hpp"
+#include "lesson/text/quotable.hpp"
 
 namespace lesson
 {
@@ -17,6 +18,21 @@ constexpr std::string_view correct = "Correct.";
 constexpr std::string_view notYet =
     "Not right yet. Write down what you know, or press Show a step.";
 constexpr std::string_view capitals = "Check the capitals: first letter large, second small.";
+
+constexpr std::string_view of(Mixup mixup)
+{
+    switch (mixup) {
+    case Mixup::largeIForSmallL:
+        return "There is a large I where the small letter l should be.";
+    case Mixup::oneForSmallL:
+        return "There is a 1 where the small letter l should be.";
+    case Mixup::zeroForLargeO:
+        return "There is a zero where the letter O should be.";
+    case Mixup::smallLForLargeI:
+        break;
+    }
+    return "There is a small l where the letter I should be.";
+}
 
 // Of a symbol or a short formula.
 inline std::string checkSymbol(std::string_view symbol)

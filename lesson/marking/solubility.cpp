@@ -11,6 +11,8 @@
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/precipitate.hpp"
 #include "lesson/reading/typed.hpp"
+#include "lesson/text/quotable.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {

@@ -8,7 +8,7 @@
 
 #include "lesson/paper/draws.hpp"
 #include "lesson/paper/list.hpp"
-#include "lesson/reading/typed.hpp"
+#include "lesson/text/quotable.hpp"
 
 namespace lesson
 {

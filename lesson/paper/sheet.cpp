@@ -6,7 +6,7 @@
 #include <tuple>
 
 #include "lesson/paper/list.hpp"
-#include "lesson/reading/typed.hpp"
+#include "lesson/text/quotable.hpp"
 
 namespace lesson
 {

@@ -8,8 +8,7 @@
 #include <utility>
 
 #include "lesson/reading/equation_signs.hpp"
-#include "lesson/reading/scan.hpp"
-#include "lesson/reading/typed.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {
@@ -32,26 +31,6 @@ namespace
 {
 
 constexpr std::size_t mostTerms = 50;
-
-std::string_view trimmed(std::string_view text)
-{
-    takeBlanks(text);
-    while (!text.empty() && text.back() == ' ') {
-        text.remove_suffix(1);
-    }
-    return text;
-}
-
-// Removes the end if it is there, and the blanks before it.
-bool removeEnd(std::string_view& text, std::string_view end)
-{
-    if (!endsWith(text, end)) {
-        return false;
-    }
-    text.remove_suffix(end.size());
-    text = trimmed(text);
-    return true;
-}
 
 // ---- Arrows
 
@@ -106,7 +85,7 @@ constexpr StateSpelling stateSpellings[] = {
 std::string_view stateIn(std::string_view brackets)
 {
     brackets = trimmed(brackets);
-    if (startsWith(brackets, "(") && removeEnd(brackets, ")")) { // "_{(aq)}"
+    if (startsWith(brackets, "(") && takeEnd(brackets, ")")) { // "_{(aq)}"
         brackets = trimmed(brackets.substr(1));
     }
     const std::string lower = lowerCase(brackets);
@@ -134,7 +113,7 @@ std::string_view takeStateIn(std::string_view& term, std::string_view opening,
         opening == " " && typed != lowerCase(typed) ? "" : stateIn(typed);
     if (!state.empty()) {
         term = trimmed(term.substr(0, begin));
-        removeEnd(term, "_");
+        takeEnd(term, "_");
     }
     return state;
 }
@@ -160,11 +139,7 @@ Number takeWhole(std::string_view& text)
     if (!startsWithDigit(text)) {
         return std::nullopt;
     }
-    std::int64_t value = 0;
-    for (; startsWithDigit(text); text.remove_prefix(1)) {
-        value = std::min(value * 10 + (text.front() - '0'), tooLarge);
-    }
-    return ratio(value);
+    return ratio(wholeNumber(takeDigits(text), tooLarge));
 }
 
 Number takeDecimal(std::string_view& text)
@@ -271,7 +246,7 @@ std::string withoutBonds(std::string_view formula)
     std::string plain;
     for (std::size_t i = 0; i < formula.size(); ++i) {
         const char next = i + 1 < formula.size() ? formula[i + 1] : ' ';
-        const bool isBond = formula[i] == '-' && !plain.empty() && next >= 'A' && next <= 'Z';
+        const bool isBond = formula[i] == '-' && !plain.empty() && isCapital(next);
         if (!isBond) {
             plain += formula[i];
         }
@@ -385,10 +360,10 @@ std::vector<TypedTerm> readSide(std::string_view side, std::string& unread)
 
 std::string_view takeState(std::string_view& term)
 {
-    if (removeEnd(term, "↓")) {
+    if (takeEnd(term, "↓")) {
         return "s";
     }
-    if (removeEnd(term, "↑") || removeEnd(term, " ^")) {
+    if (takeEnd(term, "↑") || takeEnd(term, " ^")) {
         return "g";
     }
     struct Brackets {
@@ -415,7 +390,7 @@ TypedEquation readEquation(std::string_view typed)
     const std::string text = withPlainSigns(typed);
     std::string_view plain = text;
     TypedEquation equation;
-    removeEnd(plain, ".");
+    takeEnd(plain, ".");
     const std::optional<Run> arrow = firstArrow(plain);
     // Without an arrow, a dash may be meant as one, and what stands at its sides can be read.
     const std::optional<Run> split = arrow.has_value() ? arrow : runFrom(plain, 0);

@@ -4,8 +4,7 @@
 #include <cstddef>
 #include <iterator>
 
-#include "lesson/reading/scan.hpp"
-#include "lesson/reading/typed.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {

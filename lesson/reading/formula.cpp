@@ -9,8 +9,7 @@
 
 #include "lesson/chemistry/elements.hpp"
 #include "lesson/reading/group_braces.hpp"
-#include "lesson/reading/scan.hpp"
-#include "lesson/reading/typed.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {
@@ -34,28 +33,9 @@ namespace
 constexpr std::int64_t greatestNumber = 999999;
 constexpr std::int64_t greatestCount = 1000000000;
 
-bool isLarge(char c)
-{
-    return c >= 'A' && c <= 'Z';
-}
-
-bool isSmall(char c)
-{
-    return c >= 'a' && c <= 'z';
-}
-
-bool isSign(char c)
-{
-    return c == '+' || c == '-';
-}
-
 std::string_view withoutEnd(std::string_view text, std::size_t length)
 {
-    text.remove_suffix(length);
-    while (!text.empty() && text.back() == ' ') {
-        text.remove_suffix(1);
-    }
-    return text;
+    return withoutAtTheEnd(text.substr(0, text.size() - length), " ");
 }
 
 struct StateSpelling {
@@ -150,7 +130,7 @@ public:
         if (left.empty()) {
             return all;
         }
-        const bool isSymbol = left.size() > 1 && isLarge(left[0]) && isSmall(left[1]);
+        const bool isSymbol = left.size() > 1 && isCapital(left[0]) && isSmall(left[1]);
         return isSymbol ? left.substr(0, 2) : left;
     }
 
@@ -161,19 +141,13 @@ public:
 private:
     void skipBlanks()
     {
-        while (!left.empty() && left.front() == ' ') {
-            left.remove_prefix(1);
-        }
+        takeBlanks(left);
     }
 
     bool skip(char wanted)
     {
         skipBlanks();
-        if (left.empty() || left.front() != wanted) {
-            return false;
-        }
-        left.remove_prefix(1);
-        return true;
+        return take(left, {&wanted, 1});
     }
 
     bool readPart()
@@ -207,7 +181,7 @@ private:
         if (first == ')' || first == ']') {
             return readClosing();
         }
-        return isLarge(first) && readSymbol();
+        return isCapital(first) && readSymbol();
     }
 
     bool fail()
@@ -297,16 +271,12 @@ private:
     bool readNumber(std::int64_t& number)
     {
         skipBlanks();
-        std::int64_t value = 0;
-        std::size_t digits = 0;
-        while (digits < left.size() && isDigit(left[digits])) {
-            value = std::min(value * 10 + (left[digits] - '0'), greatestNumber + 1);
-            ++digits;
-        }
-        if (digits == 0 || left.front() == '0' || value > greatestNumber) {
+        std::string_view behind = left;
+        const std::int64_t value = wholeNumber(takeDigits(behind), greatestNumber + 1);
+        if (value == 0 || left.front() == '0' || value > greatestNumber) {
             return false;
         }
-        left.remove_prefix(digits);
+        left = behind;
         number = value;
         return true;
     }
@@ -353,12 +323,8 @@ private:
             return false;
         }
         hasCharge = true;
-        while (!left.empty() && (isSign(left.front()) || left.front() == ' ')) {
-            left.remove_prefix(1);
-        }
-        while (!left.empty() && isDigit(left.front())) {
-            left.remove_prefix(1);
-        }
+        takeAll(left, [](char c) { return isSign(c) || c == ' '; });
+        takeDigits(left);
         return true;
     }
 

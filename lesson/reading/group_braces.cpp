@@ -4,7 +4,7 @@
 #include <initializer_list>
 #include <vector>
 
-#include "lesson/reading/scan.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {
@@ -14,7 +14,7 @@ namespace
 
 bool isOneSymbol(std::string_view text)
 {
-    return text.size() == 1 || (text.size() == 2 && text[1] >= 'a' && text[1] <= 'z');
+    return text.size() == 1 || (text.size() == 2 && isSmall(text[1]));
 }
 
 // What may stand before the number that counts a group.

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "lesson/reading/scan.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {
@@ -197,11 +197,7 @@ int sizeOf(std::string_view typedDigits)
     if (typedDigits.substr(0, 1) == "0") {
         return beyond;
     }
-    int size = typedDigits.empty() ? 1 : 0;
-    for (const char digit : typedDigits) {
-        size = std::min(size * 10 + (digit - '0'), beyond);
-    }
-    return size;
+    return typedDigits.empty() ? 1 : static_cast<int>(wholeNumber(typedDigits, beyond));
 }
 
 // Signs of one kind: "-", "+++".

@@ -40,17 +40,14 @@ std::string withLettersOAndI(std::string_view plain)
 std::vector<Lookalike> lookalikesOf(std::string_view plain)
 {
     const bool hasZero = plain.find('0') != std::string_view::npos;
-    constexpr std::string_view largeI = "There is a large I where the small letter l should be.";
-    constexpr std::string_view one = "There is a 1 where the small letter l should be.";
     const std::string withoutLargeI = withLetterL(plain, 'I');
     const std::string withoutOne = withLetterL(plain, '1');
     std::vector<Lookalike> all = {
-        {withoutLargeI, largeI},
-        {withoutOne, one},
-        {withLettersOAndI(plain), hasZero ? "There is a zero where the letter O should be."
-                                          : "There is a small l where the letter I should be."},
-        {withLettersOAndI(withoutLargeI), largeI},
-        {withLettersOAndI(withoutOne), one},
+        {withoutLargeI, Mixup::largeIForSmallL},
+        {withoutOne, Mixup::oneForSmallL},
+        {withLettersOAndI(plain), hasZero ? Mixup::zeroForLargeO : Mixup::smallLForLargeI},
+        {withLettersOAndI(withoutLargeI), Mixup::largeIForSmallL},
+        {withLettersOAndI(withoutOne), Mixup::oneForSmallL},
     };
     const auto isTyped = [plain](const Lookalike& other) { return other.meant == plain; };
     all.erase(std::remove_if(all.begin(), all.end(), isTyped), all.end());

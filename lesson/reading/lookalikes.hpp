@@ -7,10 +7,18 @@
 namespace lesson
 {
 
-// A text as it was meant where a letter was taken for another sign by its looks.
+// Which sign was taken for which letter by its looks.
+enum class Mixup {
+    largeIForSmallL,
+    oneForSmallL,
+    zeroForLargeO,
+    smallLForLargeI,
+};
+
+// A text as it was meant.
 struct Lookalike {
     std::string meant;
-    std::string_view sentence; // tells the learner which sign stands for which letter
+    Mixup mixup;
 };
 
 // The texts that may have been meant, but for the typed one itself:

@@ -5,7 +5,7 @@
 #include <iterator>
 #include <vector>
 
-#include "lesson/reading/scan.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {
@@ -44,13 +44,6 @@ constexpr std::string_view fractions[] = {"\\frac{", "\\dfrac{", "\\tfrac{"};
 
 // What the next closing brace belongs to.
 enum class Open { group, wrapper, numerator };
-
-template <std::size_t N>
-bool takeOneOf(std::string_view& rest, const std::string_view (&expected)[N])
-{
-    return std::any_of(std::begin(expected), std::end(expected),
-                       [&rest](std::string_view one) { return take(rest, one); });
-}
 
 class Reader
 {
@@ -119,7 +112,7 @@ private:
     // A "\" is gone but before a small letter, with which it is a command that is not known here.
     void readOther()
     {
-        const bool isCommand = rest.size() > 1 && rest[1] >= 'a' && rest[1] <= 'z';
+        const bool isCommand = rest.size() > 1 && isSmall(rest[1]);
         if (rest.front() != '\\' || isCommand) {
             plain += rest.front();
         }
@@ -134,10 +127,7 @@ private:
 // "\( … \)" and "\[ … \]" around the whole are signs of a formula, not brackets of it.
 std::string_view withoutDelimiters(std::string_view typed)
 {
-    takeBlanks(typed);
-    while (!typed.empty() && typed.back() == ' ') {
-        typed.remove_suffix(1);
-    }
+    typed = trimmed(typed);
     constexpr std::size_t length = 2;
     const std::string_view begin = typed.substr(0, length);
     const std::string_view end = typed.substr(typed.size() - std::min(typed.size(), length));

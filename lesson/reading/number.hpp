@@ -1,46 +1,36 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
+#include <string_view>
 
-#include "lesson/numbers/decimal.hpp"
-#include "lesson/numbers/ratio.hpp"
+#include "lesson/reading/typed_number.hpp"
+#include "lesson/words/writing.hpp"
 
 namespace lesson
 {
 
-// A number above 0, or 0, as it was typed: exact, with any number of digits, of any size.
-//
-// Its significant figures are a range, since the zeros at the end of a whole number without a point
-// may count or not: "250" has 2 or 3, "250." and "0.250" have 3.
-struct TypedNumber {
-    std::string digits;     // from the first that is not 0 to the last that is not 0; empty for 0
-    bool goesOn = false;    // whether more follow without an end, as in 7/60
-    std::int64_t place = 0; // the power of ten that the first of them counts
-    std::int64_t fewestFigures = 1;
-    std::int64_t mostFigures = 1;
+// A number as it was read, or two of which one was divided by the other.
+struct NumberText {
+    TypedNumber number;
+    // As spans show it, with a point: "1250.5", "3.42e-2". Of a quotient the dividend.
+    std::string text;
+    std::string divisor = {};
+    // Its comma can mean two things: `text` takes it for a point, without which it stands before
+    // thousands.
+    bool isAmbiguous = false;
+
+    // Worked out here, so that its figures have no end.
+    bool isQuotient() const
+    {
+        return !divisor.empty();
+    }
 };
 
-// A decimal above 0 as its plain text is read.
-//   200 x 10^1 -> 2000 with 1 to 4 figures    200 x 10^-3 -> 0.200 with 3
-TypedNumber typedNumber(Decimal decimal);
-
-// One whole number divided by another, both from 1 to 999 999 999, times 10 to a power; of the
-// digits of a quotient without an end so many that no other one and no bound has the same. The
-// figures are left to the caller.
-//   7, 60, 0 -> 0.11666…
-TypedNumber quotient(std::int64_t dividend, std::int64_t divisor, std::int64_t power);
-
-// Below 0, 0 or above 0 where the number is less than, equal to or greater than a bound that is not
-// below 0; its denominator is below 10^17. In time proportional to the digits.
-int compare(const TypedNumber& number, Ratio bound);
-
-// Rounded to so many figures, 1 to 17; where that is exactly a half, to the lower and to the upper
-// neighbour, otherwise twice the same.
-struct Neighbours {
-    TypedNumber lower;
-    TypedNumber upper;
-};
-Neighbours roundedTo(const TypedNumber& number, int figures);
+// Takes the number without a sign at the front of a text in the spelling of `plainTyped`, which
+// begins with a digit, or with a point or comma and a digit.
+//   "4.56 x 10^-2 M" -> 0.0456 with 3 figures, " M" is left
+//   "1,250" -> ambiguous; with a decimal comma 1.250, and "1.250" is ambiguous
+//   "7/60 mol" -> 0.11666… worked out, " mol" is left
+NumberText takeNumber(std::string_view& rest, const Writing& writing);
 
 } // namespace lesson

@@ -8,8 +8,7 @@
 #include "lesson/chemistry/compounds.hpp"
 #include "lesson/reading/equation.hpp"
 #include "lesson/reading/formula.hpp"
-#include "lesson/reading/scan.hpp"
-#include "lesson/reading/typed.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {
@@ -132,11 +131,6 @@ const std::vector<std::string>& namesOfSalts()
 {
     static const std::vector<std::string> names = makeNamesOfSalts();
     return names;
-}
-
-bool isSmall(char letter)
-{
-    return isLetter(letter) && smallLetter(letter) == letter;
 }
 
 // Small letters, but perhaps the first one, and more of them than a symbol has.

@@ -4,8 +4,7 @@
 #include <cstddef>
 
 #include "lesson/reading/markup.hpp"
-#include "lesson/reading/scan.hpp"
-#include "lesson/reading/utf8.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {
@@ -84,6 +83,7 @@ constexpr Spelling superscripts[] = {
 };
 // clang-format on
 
+// What has no other spelling: of ASCII, all that can be printed.
 bool isOrdinary(char character)
 {
     return character >= ' ' && character <= '~';
@@ -97,9 +97,8 @@ const Spelling* spellingAt(const Spelling (&table)[N], std::string_view text)
         return nullptr;
     }
     const auto* const found =
-        std::find_if(std::begin(table), std::end(table), [text](const Spelling& spelling) {
-            return text.substr(0, spelling.typed.size()) == spelling.typed;
-        });
+        std::find_if(std::begin(table), std::end(table),
+                     [text](const Spelling& spelling) { return startsWith(text, spelling.typed); });
     return found == std::end(table) ? nullptr : found;
 }
 
@@ -139,7 +138,7 @@ OtherDigit otherDigitAt(std::string_view text)
 
 bool isAround(char character)
 {
-    return character == '\'' || character == '"' || character == '`' || character == '$';
+    return isOneOf(character, "'\"`$");
 }
 
 // Without blanks at the ends, what ends a sentence but changes no answer, and what some put around
@@ -148,12 +147,8 @@ std::string_view withoutWrapping(std::string_view text)
 {
     for (;;) {
         const std::size_t before = text.size();
-        while (!text.empty() && text.front() == ' ') {
-            text.remove_prefix(1);
-        }
-        while (!text.empty() && isOneOf(text.back(), " ,;!")) {
-            text.remove_suffix(1);
-        }
+        takeBlanks(text);
+        text = withoutAtTheEnd(text, " ,;!");
         if (text.size() > 2 && isAround(text.front()) && text.back() == text.front()) {
             text = text.substr(1, text.size() - 2);
         }
@@ -161,13 +156,6 @@ std::string_view withoutWrapping(std::string_view text)
             return text;
         }
     }
-}
-
-// How many characters at the front have no other spelling: of ASCII, all that can be printed.
-std::size_t ordinaryLength(std::string_view text)
-{
-    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isOrdinary) -
-                                    text.begin());
 }
 
 // `lowered` stands before each subscript.
@@ -178,10 +166,9 @@ std::string inOneSpelling(std::string_view typed, std::string_view lowered)
     std::string plain;
     bool inSuperscript = false;
     while (!typed.empty()) {
-        const std::size_t ordinary = ordinaryLength(typed);
-        if (ordinary > 0) {
-            plain += typed.substr(0, ordinary);
-            typed.remove_prefix(ordinary);
+        const std::string_view ordinary = takeAll(typed, isOrdinary);
+        if (!ordinary.empty()) {
+            plain += ordinary;
             inSuperscript = false;
             continue;
         }
@@ -223,34 +210,6 @@ std::string plainTyped(std::string_view typed)
 std::string markedTyped(std::string_view typed)
 {
     return inOneSpelling(typed, "_");
-}
-
-std::string quotable(std::string_view typed)
-{
-    constexpr int most = 40;
-    std::string quoted;
-    for (int characters = 0; !typed.empty(); ++characters) {
-        if (characters == most) {
-            return quoted + "…";
-        }
-        const std::size_t length = characterLength(typed);
-        const auto first = static_cast<unsigned char>(typed.front());
-        const bool isControl = first < 0x20U || first == 0x7FU;
-        quoted += length == 0 || isControl ? "\uFFFD" : typed.substr(0, length);
-        typed.remove_prefix(length == 0 ? 1 : length);
-    }
-    return quoted;
-}
-
-std::string lowerCase(std::string_view text)
-{
-    std::string lower(text);
-    for (char& letter : lower) {
-        if (letter >= 'A' && letter <= 'Z') {
-            letter = static_cast<char>(letter - 'A' + 'a');
-        }
-    }
-    return lower;
 }
 
 } // namespace lesson

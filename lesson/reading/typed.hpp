@@ -19,11 +19,4 @@ std::string plainTyped(std::string_view typed);
 //   "SO₄²⁻" -> "SO_4^2-"    "N₃⁻" -> "N_3^-"
 std::string markedTyped(std::string_view typed);
 
-// The text for a sentence to the learner: at most 40 characters of it and then "…", with a
-// replacement character for every byte that is no UTF-8 and for control characters.
-std::string quotable(std::string_view typed);
-
-// 'A' to 'Z' in lower case, everything else as it is.
-std::string lowerCase(std::string_view text);
-
 } // namespace lesson

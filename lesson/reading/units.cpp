@@ -5,8 +5,7 @@
 #include <iterator>
 #include <string>
 
-#include "lesson/reading/scan.hpp"
-#include "lesson/reading/typed.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {
@@ -42,32 +41,32 @@ constexpr Word words[] = {
 };
 
 constexpr UnitRow units[] = {
-    {"mol/l",      {Measure::concentration,  0, "mol/L"}},
-    {"moll-1",     {Measure::concentration,  0, "mol/L"}},
-    {"mol/dm3",    {Measure::concentration,  0, "mol/dm³"}},
-    {"moldm-3",    {Measure::concentration,  0, "mol dm⁻³"}},
-    {"mmol/l",     {Measure::concentration, -3, "mmol/L"}},
-    {"mmoll-1",    {Measure::concentration, -3, "mmol/L"}},
-    {"mmol/dm3",   {Measure::concentration, -3, "mmol/dm³"}},
-    {"mmoldm-3",   {Measure::concentration, -3, "mmol dm⁻³"}},
-    {"mmol/ml",    {Measure::concentration,  0, "mmol/mL"}},
-    {"mmolml-1",   {Measure::concentration,  0, "mmol/mL"}},
-    {"mmol/cm3",   {Measure::concentration,  0, "mmol/cm³"}},
-    {"mmolcm-3",   {Measure::concentration,  0, "mmol cm⁻³"}},
-    {"mol/cubicdm", {Measure::concentration, 0, "mol/dm³"}},
-    {"g/mol",      {Measure::molarMass,      0, "g/mol"}},
-    {"gmol-1",     {Measure::molarMass,      0, "g mol⁻¹"}},
-    {"kg/mol",     {Measure::molarMass,      3, "kg/mol"}},
-    {"kgmol-1",    {Measure::molarMass,      3, "kg mol⁻¹"}},
-    {"kg",         {Measure::mass,           3, "kg"}},
-    {"g",          {Measure::mass,           0, "g"}},
-    {"mg",         {Measure::mass,          -3, "mg"}},
-    {"l",          {Measure::volume,         0, "L"}},
-    {"dm3",        {Measure::volume,         0, "dm³"}},
-    {"cubicdm",    {Measure::volume,         0, "dm³"}},
-    {"cubiccm",    {Measure::volume,        -3, "cm³"}},
-    {"ml",         {Measure::volume,        -3, "mL"}},
-    {"cm3",        {Measure::volume,        -3, "cm³"}},
+    {"mol/l",      {Dimension::concentration,  0, "mol/L"}},
+    {"moll-1",     {Dimension::concentration,  0, "mol/L"}},
+    {"mol/dm3",    {Dimension::concentration,  0, "mol/dm³"}},
+    {"moldm-3",    {Dimension::concentration,  0, "mol dm⁻³"}},
+    {"mmol/l",     {Dimension::concentration, -3, "mmol/L"}},
+    {"mmoll-1",    {Dimension::concentration, -3, "mmol/L"}},
+    {"mmol/dm3",   {Dimension::concentration, -3, "mmol/dm³"}},
+    {"mmoldm-3",   {Dimension::concentration, -3, "mmol dm⁻³"}},
+    {"mmol/ml",    {Dimension::concentration,  0, "mmol/mL"}},
+    {"mmolml-1",   {Dimension::concentration,  0, "mmol/mL"}},
+    {"mmol/cm3",   {Dimension::concentration,  0, "mmol/cm³"}},
+    {"mmolcm-3",   {Dimension::concentration,  0, "mmol cm⁻³"}},
+    {"mol/cubicdm", {Dimension::concentration, 0, "mol/dm³"}},
+    {"g/mol",      {Dimension::molarMass,      0, "g/mol"}},
+    {"gmol-1",     {Dimension::molarMass,      0, "g mol⁻¹"}},
+    {"kg/mol",     {Dimension::molarMass,      3, "kg/mol"}},
+    {"kgmol-1",    {Dimension::molarMass,      3, "kg mol⁻¹"}},
+    {"kg",         {Dimension::mass,           3, "kg"}},
+    {"g",          {Dimension::mass,           0, "g"}},
+    {"mg",         {Dimension::mass,          -3, "mg"}},
+    {"l",          {Dimension::volume,         0, "L"}},
+    {"dm3",        {Dimension::volume,         0, "dm³"}},
+    {"cubicdm",    {Dimension::volume,         0, "dm³"}},
+    {"cubiccm",    {Dimension::volume,        -3, "cm³"}},
+    {"ml",         {Dimension::volume,        -3, "mL"}},
+    {"cm3",        {Dimension::volume,        -3, "cm³"}},
 };
 // clang-format on
 
@@ -86,15 +85,6 @@ std::string withoutJoins(std::string text)
     return text;
 }
 
-std::size_t lettersAtFront(std::string_view text)
-{
-    std::size_t length = 0;
-    while (length < text.size() && isLetter(text[length])) {
-        ++length;
-    }
-    return length;
-}
-
 std::string plainWord(std::string_view typed)
 {
     std::string small = lowerCase(typed);
@@ -107,9 +97,8 @@ std::string withPlainWords(std::string_view text)
 {
     std::string plain;
     while (!text.empty()) {
-        const std::size_t length = lettersAtFront(text);
-        plain += length == 0 ? std::string(1, text.front()) : plainWord(text.substr(0, length));
-        text.remove_prefix(length == 0 ? 1 : length);
+        const std::string_view word = takeLetters(text);
+        plain += word.empty() ? takeLength(text, 1) : plainWord(word);
     }
     return plain;
 }
@@ -132,10 +121,10 @@ std::optional<Unit> unitOf(std::string_view typed)
     // Only here capitals matter: m is the metre, and milli.
     const std::string symbol = withoutJoins(std::string(typed));
     if (symbol == "M") {
-        return Unit{Measure::concentration, 0, "M"};
+        return Unit{Dimension::concentration, 0, "M"};
     }
     if (symbol == "mM") {
-        return Unit{Measure::concentration, -3, "mM"};
+        return Unit{Dimension::concentration, -3, "mM"};
     }
     const std::string plain = withoutDoubleDivision(withoutJoins(withPlainWords(typed)));
     const auto* const row = std::find_if(std::begin(units), std::end(units),
@@ -150,9 +139,7 @@ std::string_view withoutEnding(std::string_view typed, std::string_view ending)
         if (isJoin(ending.back())) {
             continue;
         }
-        while (!rest.empty() && isJoin(rest.back())) {
-            rest.remove_suffix(1);
-        }
+        rest = withoutAtTheEnd(rest, joins);
         if (rest.empty() || smallLetter(rest.back()) != smallLetter(ending.back())) {
             return typed;
         }

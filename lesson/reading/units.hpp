@@ -8,14 +8,14 @@ namespace lesson
 
 // What a unit measures, the power of ten that it is of mol/L, g/mol, g or L, and how it is printed,
 // in litres or in cubic decimetres as it was typed.
-enum class Measure {
+enum class Dimension {
     concentration,
     molarMass,
     mass,
     volume,
 };
 struct Unit {
-    Measure measure;
+    Dimension dimension;
     int power;
     std::string_view printed;
 };

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <iterator>
 
-#include "lesson/reading/typed.hpp"
+#include "lesson/text/scan.hpp"
 
 namespace lesson
 {

@@ -686,6 +686,54 @@ TEST(MarkNumberTest, AnyLengthIsMarked)
     }
 }
 
+// A test for each sentence about what is no number.
+TEST(MarkNumberTest, TellsWhyItReadsNoNumber)
+{
+    const Ask ask = {Form::number, "c", "NaOH", "mol/L", 3, {}};
+    struct Case {
+        const char* typed;
+        const char* sentence;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"", "Type a number, such as 0.125."},
+        {"I don't know", "I can't read this part: 'I don't know'. Type a number, such as 0.125."},
+        {"0.0456 or 0.182", "I can't read this part: 'or 0.182'. Type a number, such as 0.125."},
+        {"0.0456\x01", "I can't read this part: '\uFFFD'. Type a number, such as 0.125."},
+        {"0.0456\xFF", "I can't read this part: '\uFFFD'. Type a number, such as 0.125."},
+        {"0.0456 = 0123456789012345678901234567890123456789",
+         "I can't read this part: '= 01234567890123456789012345678901234567…'. "
+         "Type a number, such as 0.125."},
+        {"12,500", "Do you mean 12500 or 12.500?"},
+        {"0.0456 g", "The answer should be in mol/L."},
+        {"-0.0456", "Leave out the minus sign."},
+        {"0.l17", "There is a small letter l where the digit 1 should be."},
+        {"0.I17", "There is a large letter I where the digit 1 should be."},
+        {"0.i17", "There is a small letter i where the digit 1 should be."},
+        {"0.|17", "There is a stroke where the digit 1 should be."},
+        {"0.O17", "There is a letter O where a zero should be."},
+        {"0.o17", "There is a letter o where a zero should be."},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        const Mark mark = markNumber({ratio(1)}, ask, {}, c.typed);
+        EXPECT_EQ(mark.verdict, Verdict::unreadable) << c.typed;
+        EXPECT_EQ(mark.sentence, c.sentence) << c.typed;
+    }
+}
+
+TEST(MarkNumberTest, MarksAsTheReaderWrites)
+{
+    const Ask ask = {Form::number, "M", "NaCl", "g/mol", 5, {}};
+    const NumberAnswer answer = {ratio(58443, 1000), {}, true};
+    const Writing comma = {','};
+    EXPECT_EQ(markNumber(answer, ask, {}, "58,443", comma).verdict, Verdict::correct);
+    EXPECT_EQ(markNumber(answer, ask, {}, "58,443").sentence, "Do you mean 58443 or 58.443?");
+    EXPECT_EQ(markNumber(answer, ask, {}, "58.443", comma).sentence,
+              "Do you mean 58443 or 58,443?");
+    EXPECT_EQ(markNumber(answer, ask, {}, "58.443").verdict, Verdict::correct);
+}
+
 } // namespace
 
 } // namespace lesson

@@ -1,4 +1,4 @@
-#include "lesson/reading/utf8.hpp"
+#include "lesson/text/utf8.hpp"
 
 namespace lesson
 {

@@ -1,4 +1,4 @@
-#include "lesson/reading/number.hpp"
+#include "lesson/reading/typed_number.hpp"
 
 #include <gtest/gtest.h>
 
