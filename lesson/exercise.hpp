@@ -6,8 +6,9 @@
 #include <variant>
 #include <vector>
 
+#include "lesson/chemistry/acids_and_bases.hpp"
+#include "lesson/chemistry/equation.hpp"
 #include "lesson/chemistry/ions.hpp"
-#include "lesson/chemistry/reaction.hpp"
 #include "lesson/numbers/ratio.hpp"
 #include "lesson/paper/place.hpp"
 #include "lesson/words/spans.hpp"

@@ -75,16 +75,7 @@ constexpr IonRow rows[] = {
 };
 // clang-format on
 
-constexpr bool areAtTheirPlaces()
-{
-    for (std::size_t i = 0; i < std::size(rows); ++i) {
-        if (rows[i].id != static_cast<Ion>(i)) {
-            return false;
-        }
-    }
-    return std::size(rows) == ionCount;
-}
-static_assert(areAtTheirPlaces(), "every ion has its row, in the order of the ids");
+static_assert(areAtTheirPlaces(rows, &IonRow::id, Ion::ethanedioate), "every ion has its row");
 
 // Those from one to another, with both.
 std::vector<const IonRow*> ionsBetween(Ion first, Ion last)

@@ -2,10 +2,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "lesson/chemistry/ids.hpp"
 
 namespace lesson
 {
@@ -99,29 +100,7 @@ bool hasRomanNumeral(const IonRow& ion);
 // The charge as it stands behind a formula: "+", "2-".
 std::string chargeText(const IonRow& ion);
 
-// Some of the ions.
-class IonSet
-{
-public:
-    constexpr IonSet(std::initializer_list<Ion> ions)
-    {
-        for (const Ion ion : ions) {
-            bits |= bitOf(ion);
-        }
-    }
-    constexpr bool has(Ion ion) const
-    {
-        return (bits & bitOf(ion)) != 0;
-    }
-
-private:
-    static_assert(ionCount <= 64, "each ion has a bit");
-    static constexpr std::uint64_t bitOf(Ion ion)
-    {
-        return std::uint64_t{1} << static_cast<unsigned>(ion);
-    }
-
-    std::uint64_t bits = 0;
-};
+static_assert(ionCount <= 64, "a set has room for all");
+using IonSet = IdSet<Ion>;
 
 } // namespace lesson

@@ -88,40 +88,6 @@ constexpr SoluteRow furtherTitrantRows[] = {
     {"H2C2O4", "ethanedioic acid", "oxalic acid", 0, Weighed::never},
 };
 static_assert(std::size(furtherTitrantRows) == 2);
-
-// A strong acid and an alkali may stand in either place with either indicator. Of a weak acid, a
-// weak base or a carbonate only one indicator shows the end, and the strong one is added to it, for
-// a sharp change of colour. Lithium hydroxide is rare at school.
-constexpr TitrationRow titrationRows[] = {
-    {"HCl", "LiOH", 1, 1, Indicator::either, InBurette::either, 1},
-    {"HCl", "NaOH", 1, 1, Indicator::either, InBurette::either},
-    {"HCl", "KOH", 1, 1, Indicator::either, InBurette::either},
-    {"HNO3", "LiOH", 1, 1, Indicator::either, InBurette::either, 1},
-    {"HNO3", "NaOH", 1, 1, Indicator::either, InBurette::either},
-    {"HNO3", "KOH", 1, 1, Indicator::either, InBurette::either},
-    {"H2SO4", "LiOH", 2, 1, Indicator::either, InBurette::either, 1},
-    {"H2SO4", "NaOH", 2, 1, Indicator::either, InBurette::either},
-    {"H2SO4", "KOH", 2, 1, Indicator::either, InBurette::either},
-    {"HCl", "Na2CO3", 1, 2, Indicator::methylOrange, InBurette::acid},
-    {"HCl", "K2CO3", 1, 2, Indicator::methylOrange, InBurette::acid},
-    {"HCl", "NaHCO3", 1, 1, Indicator::methylOrange, InBurette::acid},
-    {"HCl", "KHCO3", 1, 1, Indicator::methylOrange, InBurette::acid},
-    {"HNO3", "Na2CO3", 1, 2, Indicator::methylOrange, InBurette::acid},
-    {"HNO3", "K2CO3", 1, 2, Indicator::methylOrange, InBurette::acid},
-    {"HNO3", "NaHCO3", 1, 1, Indicator::methylOrange, InBurette::acid},
-    {"HNO3", "KHCO3", 1, 1, Indicator::methylOrange, InBurette::acid},
-    {"H2SO4", "Na2CO3", 2, 2, Indicator::methylOrange, InBurette::acid},
-    {"H2SO4", "K2CO3", 2, 2, Indicator::methylOrange, InBurette::acid},
-    {"H2SO4", "NaHCO3", 2, 1, Indicator::methylOrange, InBurette::acid},
-    {"H2SO4", "KHCO3", 2, 1, Indicator::methylOrange, InBurette::acid},
-    {"CH3COOH", "LiOH", 1, 1, Indicator::phenolphthalein, InBurette::base, 1},
-    {"CH3COOH", "NaOH", 1, 1, Indicator::phenolphthalein, InBurette::base},
-    {"CH3COOH", "KOH", 1, 1, Indicator::phenolphthalein, InBurette::base},
-    {"HCl", "NH3", 1, 1, Indicator::methylOrange, InBurette::acid},
-    {"H2SO4", "NH3", 2, 1, Indicator::methylOrange, InBurette::acid},
-    {"H2C2O4", "NaOH", 2, 1, Indicator::phenolphthalein, InBurette::base},
-};
-static_assert(std::size(titrationRows) == 27);
 // clang-format on
 
 template <typename Row, std::size_t N>
@@ -177,12 +143,6 @@ const SoluteRow* findSolute(std::string_view formula)
         }
     }
     return nullptr;
-}
-
-const std::vector<TitrationRow>& titrations()
-{
-    static const std::vector<TitrationRow> rows = listOf(titrationRows);
-    return rows;
 }
 
 } // namespace lesson

@@ -41,30 +41,4 @@ const std::vector<SoluteRow>& furtherTitrants();
 // The row of a formula in any of these; null where there is none.
 const SoluteRow* findSolute(std::string_view formula);
 
-enum class Indicator {
-    phenolphthalein,
-    methylOrange,
-    either,
-};
-
-// What runs out of the burette; the other one is pipetted.
-enum class InBurette {
-    acid,
-    base,
-    either,
-};
-
-// An acid and a base that are titrated. They react as many moles with so many that the protons are
-// as many: HCl, 1, with Na2CO3, 2, is 2 to 1.
-struct TitrationRow {
-    std::string_view acid; // formulas
-    std::string_view base;
-    int protonsGiven; // by one acid
-    int protonsTaken; // by one base
-    Indicator indicator;
-    InBurette inBurette;
-    int times = 3; // how often it comes, beside the others of its ratio
-};
-const std::vector<TitrationRow>& titrations();
-
 } // namespace lesson

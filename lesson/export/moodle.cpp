@@ -3,7 +3,7 @@
 #include <string_view>
 #include <utility>
 
-#include "lesson/chemistry/reaction.hpp"
+#include "lesson/chemistry/neutralisation.hpp"
 #include "lesson/export/expected.hpp"
 #include "lesson/export/html.hpp"
 #include "lesson/export/units.hpp"

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "lesson/chemistry/acids_and_bases.hpp"
 #include "lesson/chemistry/composition.hpp"
-#include "lesson/chemistry/reaction.hpp"
 #include "lesson/kinds/dilution_parts.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/orders.hpp"

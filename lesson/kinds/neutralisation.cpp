@@ -8,7 +8,7 @@
 
 #include "lesson/chemistry/composition.hpp"
 #include "lesson/chemistry/elements.hpp"
-#include "lesson/chemistry/reaction.hpp"
+#include "lesson/chemistry/neutralisation.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/classified.hpp"
 #include "lesson/kinds/shared/salts.hpp"
@@ -23,38 +23,42 @@ namespace
 
 // ---- The pool
 
-// Acids, the anions of their bases, and the cations of these; blanks between the names. Ammonia is
-// the base of a cation alone. What every class does, the acid on limestone, is commoner than its
-// ions tell.
+// Acids, their bases, and the cations of these. What every class does, the acid on limestone, is
+// commoner than its ions tell.
 //
 // Left out is what does not neutralise plainly: silver and lead, whose chlorides, bromides and
 // sulfates coat the solid, as calcium and barium sulfate do; chromium(III) oxide, which acids leave
 // alone; iron(II) with nitric acid, which oxidises it; and what can hardly be had in a bottle.
 struct PoolRow {
-    std::string_view acids;
-    std::string_view anions;
-    std::string_view cations;
+    AcidSet acids;
+    BaseKindSet bases;
+    IonSet cations;
     int times = 1; // commoner
 };
 
+constexpr IonSet alkaliMetals = {Ion::lithium, Ion::sodium, Ion::potassium};
+constexpr IonSet earthMetals = {Ion::magnesium, Ion::calcium, Ion::barium};
+constexpr IonSet laterMetals = {Ion::manganese2, Ion::cobalt2, Ion::nickel2, Ion::copper2,
+                                Ion::zinc};
+
 // clang-format off
 constexpr PoolRow poolRows[] = {
-    {"HCl HBr", "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium chromium(III) iron(III)"},
-    {"HCl HBr", "oxide",     "lithium sodium potassium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium iron(III)"},
-    {"HCl HBr", "carbonate", "lithium sodium potassium ammonium magnesium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc"},
-    {"HNO3",    "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II) aluminium chromium(III) iron(III)"},
-    {"HNO3",    "oxide",     "lithium sodium potassium silver magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II) aluminium iron(III)"},
-    {"HNO3",    "carbonate", "lithium sodium potassium ammonium silver magnesium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II)"},
-    {"H2SO4",   "hydroxide", "lithium sodium potassium magnesium calcium barium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium chromium(III) iron(III)"},
-    {"H2SO4",   "oxide",     "lithium sodium potassium magnesium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc aluminium iron(III)"},
-    {"H2SO4",   "carbonate", "lithium sodium potassium ammonium magnesium manganese(II) iron(II) cobalt(II) nickel(II) copper(II) zinc"},
-    {"H3PO4",   "hydroxide", "sodium potassium magnesium calcium aluminium"},
-    {"H3PO4",   "oxide",     "magnesium calcium"},
-    {"CH3COOH", "hydroxide oxide carbonate", "lithium sodium potassium magnesium calcium barium manganese(II) cobalt(II) nickel(II) copper(II) zinc lead(II)"},
-    {"HCl HNO3 H2SO4", "hydrogencarbonate", "sodium potassium"},
-    {"HCl HNO3", "carbonate", "calcium", 3},
-    {"HBr", "carbonate", "calcium"},
-    {"HCl HBr HNO3 H2SO4", "ammonia", "ammonium"},
+    {{Acid::hydrochloric, Acid::hydrobromic}, {BaseKind::hydroxide}, alkaliMetals | earthMetals | laterMetals | IonSet{Ion::iron2, Ion::aluminium, Ion::chromium3, Ion::iron3}},
+    {{Acid::hydrochloric, Acid::hydrobromic}, {BaseKind::oxide},     alkaliMetals | earthMetals | laterMetals | IonSet{Ion::iron2, Ion::aluminium, Ion::iron3}},
+    {{Acid::hydrochloric, Acid::hydrobromic}, {BaseKind::carbonate}, alkaliMetals | laterMetals | IonSet{Ion::ammonium, Ion::magnesium, Ion::barium, Ion::iron2}},
+    {{Acid::nitric},     {BaseKind::hydroxide}, alkaliMetals | earthMetals | laterMetals | IonSet{Ion::lead2, Ion::aluminium, Ion::chromium3, Ion::iron3}},
+    {{Acid::nitric},     {BaseKind::oxide},     alkaliMetals | earthMetals | laterMetals | IonSet{Ion::silver, Ion::lead2, Ion::aluminium, Ion::iron3}},
+    {{Acid::nitric},     {BaseKind::carbonate}, alkaliMetals | laterMetals | IonSet{Ion::ammonium, Ion::silver, Ion::magnesium, Ion::barium, Ion::lead2}},
+    {{Acid::sulfuric},   {BaseKind::hydroxide}, alkaliMetals | earthMetals | laterMetals | IonSet{Ion::iron2, Ion::aluminium, Ion::chromium3, Ion::iron3}},
+    {{Acid::sulfuric},   {BaseKind::oxide},     alkaliMetals | laterMetals | IonSet{Ion::magnesium, Ion::iron2, Ion::aluminium, Ion::iron3}},
+    {{Acid::sulfuric},   {BaseKind::carbonate}, alkaliMetals | laterMetals | IonSet{Ion::ammonium, Ion::magnesium, Ion::iron2}},
+    {{Acid::phosphoric}, {BaseKind::hydroxide}, {Ion::sodium, Ion::potassium, Ion::magnesium, Ion::calcium, Ion::aluminium}},
+    {{Acid::phosphoric}, {BaseKind::oxide},     {Ion::magnesium, Ion::calcium}},
+    {{Acid::ethanoic},   {BaseKind::hydroxide, BaseKind::oxide, BaseKind::carbonate}, alkaliMetals | earthMetals | laterMetals | IonSet{Ion::lead2}},
+    {{Acid::hydrochloric, Acid::nitric, Acid::sulfuric}, {BaseKind::hydrogencarbonate}, {Ion::sodium, Ion::potassium}},
+    {{Acid::hydrochloric, Acid::nitric}, {BaseKind::carbonate}, {Ion::calcium}, 3},
+    {{Acid::hydrobromic}, {BaseKind::carbonate}, {Ion::calcium}},
+    {{Acid::hydrochloric, Acid::hydrobromic, Acid::nitric, Acid::sulfuric}, {BaseKind::ammonia}, {Ion::ammonium}},
 };
 // clang-format on
 
@@ -64,25 +68,27 @@ struct Reaction {
     int times; // commoner than acid and ions tell
 };
 
-std::vector<std::string_view> wordsOf(std::string_view text)
+std::vector<Base> basesOf(const PoolRow& row)
 {
-    std::vector<std::string_view> words;
-    while (!text.empty()) {
-        words.push_back(text.substr(0, text.find(' ')));
-        text.remove_prefix(std::min(text.size(), words.back().size() + 1));
+    std::vector<Base> bases;
+    for (const BaseKind kind : baseKinds) {
+        for (const IonRow* const cation : cations()) {
+            if (row.bases.has(kind) && row.cations.has(cation->id)) {
+                bases.push_back(baseOf(kind, cation->id));
+            }
+        }
     }
-    return words;
+    return bases;
 }
 
 std::vector<Reaction> everyReaction()
 {
     std::vector<Reaction> all;
     for (const PoolRow& row : poolRows) {
-        for (const std::string_view acid : wordsOf(row.acids)) {
-            for (const std::string_view anion : wordsOf(row.anions)) {
-                for (const std::string_view cation : wordsOf(row.cations)) {
-                    const IonRow* const ofBase = anion == "ammonia" ? nullptr : findIon(anion);
-                    all.push_back({findAcid(acid), {findIon(cation), ofBase}, row.times});
+        for (const AcidRow* const acid : acids()) {
+            if (row.acids.has(acid->id)) {
+                for (const Base& base : basesOf(row)) {
+                    all.push_back({acid, base, row.times});
                 }
             }
         }
@@ -105,8 +111,7 @@ int levelOf(const Reaction& reaction)
     if (std::max(acid, base) > 2) {
         return 3;
     }
-    const IonRow* const anion = reaction.base.anion;
-    return anion != nullptr && anion->id == Ion::hydroxide ? 1 : 2;
+    return kindOf(reaction.base) == BaseKind::hydroxide ? 1 : 2;
 }
 
 int weightOf(const Reaction& reaction)
@@ -188,12 +193,6 @@ Equation withSinglesBehindTheSalt(Equation equation)
     return equation;
 }
 
-bool isCarbonate(const Base& base)
-{
-    return base.anion != nullptr &&
-           (base.anion->id == Ion::carbonate || base.anion->id == Ion::hydrogencarbonate);
-}
-
 Step ionsOfTheSalt(const AcidRow& acid, const Base& base)
 {
     return {
@@ -208,39 +207,59 @@ Step ionsOfTheSalt(const AcidRow& acid, const Base& base)
 
 Spans productsHint(const Base& base)
 {
-    if (base.anion == nullptr) {
+    switch (kindOf(base)) {
+    case BaseKind::ammonia:
         return line("All the hydrogen of the acid goes to the ammonia. What is left over?");
+    case BaseKind::hydroxide:
+        return line("What do the hydrogen of the acid and the OH of the base become?");
+    case BaseKind::oxide:
+        return line("What do the hydrogen of the acid and the oxygen of the base become?");
+    case BaseKind::carbonate:
+    case BaseKind::hydrogencarbonate:
+        break;
     }
-    const IonRow& anion = *base.anion;
-    if (isCarbonate(base)) {
-        return line("Each ", nameOf(anion), " gives carbon dioxide as well as water.");
-    }
-    return line("What do the hydrogen of the acid and the ",
-                anion.id == Ion::oxide ? "oxygen" : "OH", " of the base become?");
+    return line("Each ", nameOf(*base.anion), " gives carbon dioxide as well as water.");
 }
 
+// Of a base that becomes water.
 Spans waterHint(const Base& base)
 {
-    const IonRow& anion = *base.anion;
-    if (isCarbonate(base)) {
-        return line("Each ", nameOf(anion), " gives one water and one carbon dioxide.");
+    switch (kindOf(base)) {
+    case BaseKind::ammonia:
+        return {};
+    case BaseKind::hydroxide:
+        return line("Each OH of the base makes one water with one hydrogen of the acid.");
+    case BaseKind::oxide:
+        return line("Each oxygen of the base makes one water with two hydrogens of the acid.");
+    case BaseKind::carbonate:
+    case BaseKind::hydrogencarbonate:
+        break;
     }
-    return anion.id == Ion::oxide
-               ? line("Each oxygen of the base makes one water with two hydrogens of the acid.")
-               : line("Each OH of the base makes one water with one hydrogen of the acid.");
+    return line("Each ", nameOf(*base.anion), " gives one water and one carbon dioxide.");
+}
+
+Spans productsOf(const Base& base)
+{
+    switch (kindOf(base)) {
+    case BaseKind::ammonia:
+        return line("Write the formulas: an acid and ammonia give a salt alone.");
+    case BaseKind::hydroxide:
+        return line("Write the formulas: an acid and a ", nameOf(*base.anion),
+                    " give a salt and water.");
+    case BaseKind::oxide:
+        return line("Write the formulas: an acid and an ", nameOf(*base.anion),
+                    " give a salt and water.");
+    case BaseKind::carbonate:
+    case BaseKind::hydrogencarbonate:
+        break;
+    }
+    return line("Write the formulas: an acid and a ", nameOf(*base.anion),
+                " give a salt, water and carbon dioxide.");
 }
 
 Step writeFormulas(const Equation& equation, const Base& base)
 {
-    if (base.anion == nullptr) {
-        return {line("Write the formulas: an acid and ammonia give a salt alone."),
-                spansOf(skeletonOf(equation)), productsHint(base)};
-    }
-    return {line("Write the formulas: an acid and ", base.anion->id == Ion::oxide ? "an " : "a ",
-                 nameOf(*base.anion),
-                 isCarbonate(base) ? " give a salt, water and carbon dioxide."
-                                   : " give a salt and water."),
-            spansOf(skeletonOf(equation)), productsHint(base)};
+    return {productsOf(base), spansOf(skeletonOf(equation)), productsHint(base)};
 }
 
 // What of metal and anion takes a coefficient to balance; empty where neither does.
@@ -291,7 +310,8 @@ Spans countsOf(const Equation& equation)
 
 Step balanceWater(const Equation& equation, const Base& base, bool isFirst)
 {
-    const std::string what = isCarbonate(base) ? "the water and the carbon dioxide." : "the water.";
+    const std::string what =
+        givesCarbonDioxide(kindOf(base)) ? "the water and the carbon dioxide." : "the water.";
     return {line((isFirst ? "Balance " : "Then ") + what), spansOf(equation), waterHint(base)};
 }
 
@@ -316,15 +336,14 @@ std::vector<Step> solutionFor(const Equation& equation, const AcidRow& acid, con
 
 // What is left of an acid that keeps some of its protons, with cations of a charge.
 struct AcidSaltRow {
-    std::string_view acid;
+    Acid acid;
     int cationCharge;
-    int protons; // that it gives away
     Ion anion;
 };
 constexpr AcidSaltRow acidSalts[] = {
-    {"H2SO4", 1, 1, Ion::hydrogensulfate},
-    {"H3PO4", 1, 1, Ion::dihydrogenphosphate},
-    {"H3PO4", 2, 2, Ion::hydrogenphosphate},
+    {Acid::sulfuric, 1, Ion::hydrogensulfate},
+    {Acid::phosphoric, 1, Ion::dihydrogenphosphate},
+    {Acid::phosphoric, 2, Ion::hydrogenphosphate},
 };
 
 // With ions one to one where they do not stand so, and with both charges written as subscripts
@@ -386,9 +405,8 @@ void addWrongProduct(Slips& slips, Equation equation, bool isCarbonicAcid)
 void addAcidSalt(Slips& slips, const AcidRow& acid, const Base& base)
 {
     for (const AcidSaltRow& row : acidSalts) {
-        if (row.acid == acid.formula && row.cationCharge == base.cation->charge) {
-            add(slips, equationOf(row.acid, row.protons, rowOf(row.anion), base),
-                sentences::lessBase);
+        if (row.acid == acid.id && row.cationCharge == base.cation->charge) {
+            add(slips, neutralisationTo(rowOf(row.anion), acid, base), sentences::lessBase);
         }
     }
 }
@@ -399,7 +417,7 @@ Slips slipsFor(const Equation& equation, const EquationAnswer& answer)
     addUnbalanced(slips, equation, answer);
     if (equation.right.size() > 1) {
         addForgotten(slips, equation);
-        addWrongProduct(slips, equation, isCarbonate(answer.base));
+        addWrongProduct(slips, equation, givesCarbonDioxide(kindOf(answer.base)));
     }
     addWrongSalt(slips, equation, *answer.base.cation, anionOf(*answer.acid));
     add(slips, doubled(equation), sentences::smallestNumbers);

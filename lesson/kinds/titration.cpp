@@ -4,9 +4,10 @@
 #include <string_view>
 #include <vector>
 
-#include "lesson/chemistry/reaction.hpp"
+#include "lesson/chemistry/neutralisation.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
+#include "lesson/kinds/shared/salts.hpp"
 
 namespace lesson
 {
@@ -16,28 +17,15 @@ namespace
 
 // ----------------------------------------------------------------------- what it is about
 
-Base baseOf(std::string_view formula)
-{
-    for (const char* const anion : {"hydroxide", "carbonate", "hydrogencarbonate"}) {
-        for (const char* const cation : {"lithium", "sodium", "potassium"}) {
-            const Base base = {findIon(cation), findIon(anion)};
-            if (formulaOf(base) == formula) {
-                return base;
-            }
-        }
-    }
-    return ammonia();
-}
-
 Equation equationOf(const Titration& drawn)
 {
-    return neutralisationOf(*findAcid(drawn.pair->acid), baseOf(drawn.pair->base));
+    return neutralisationOf(rowOf(drawn.pair->acid), baseOf(*drawn.pair));
 }
 
 Solutions solutionsOf(const Titration& drawn)
 {
-    const SoluteRow* const acid = findSolute(drawn.pair->acid);
-    const SoluteRow* const base = findSolute(drawn.pair->base);
+    const SoluteRow* const acid = findSolute(rowOf(drawn.pair->acid).formula);
+    const SoluteRow* const base = findSolute(formulaOf(baseOf(*drawn.pair)));
     return {drawn.isAcidInBurette ? base : acid, drawn.isAcidInBurette ? acid : base,
             drawn.isAcidKnown ? acid : base, drawn.isAcidKnown ? base : acid};
 }
@@ -81,15 +69,10 @@ const char* nameOf(Indicator indicator)
 // Halfway a carbonate has become a hydrogencarbonate, which other indicators show.
 Spans endOf(const Titration& drawn)
 {
-    const std::string_view base = drawn.pair->base;
-    if (base.find("CO3") == std::string_view::npos) {
-        return {};
-    }
-    const bool isHydrogencarbonate = base.find("HCO3") != std::string_view::npos;
-    return line(", until the ",
-                isHydrogencarbonate ? name("hydrogencarbonate", "hydrogen carbonate")
-                                    : name("carbonate"),
-                " has reacted completely");
+    const Base base = baseOf(*drawn.pair);
+    return givesCarbonDioxide(drawn.pair->base)
+               ? line(", until the ", nameOf(*base.anion), " has reacted completely")
+               : Spans();
 }
 
 Spans measureOfTitre(int hundredths)

@@ -2,8 +2,9 @@
 
 #include <vector>
 
-#include "lesson/chemistry/reaction.hpp"
+#include "lesson/chemistry/equation.hpp"
 #include "lesson/chemistry/solutions.hpp"
+#include "lesson/chemistry/titrations.hpp"
 #include "lesson/exercise.hpp"
 #include "lesson/numbers/ratio.hpp"
 #include "lesson/words/spans.hpp"

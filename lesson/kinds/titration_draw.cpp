@@ -33,7 +33,7 @@ Ratio litresOf(int hundredths)
 
 Ratio acidForOneBase(const TitrationRow& pair)
 {
-    return ratio(pair.protonsTaken, pair.protonsGiven);
+    return ratio(uptakeOf(baseOf(pair)).protons, protonsOf(rowOf(pair.acid)));
 }
 
 // What is drawn once, so that no draw that is drawn again makes it rarer: every ratio of a level as

@@ -51,7 +51,7 @@ void addRatioSlips(Exercise& exercise, const Titration& drawn)
     const Ratio moles = ratioOf(drawn);
     addSlip(exercise, answer / moles, aboutRatio);
     addSlip(exercise, answer / moles / moles, aboutRatio);
-    if (moles == ratio(1) && drawn.pair->protonsGiven > 1) {
+    if (moles == ratio(1) && protonsOf(rowOf(drawn.pair->acid)) > 1) {
         addSlip(exercise, answer * ratio(2), aboutRatio);
         addSlip(exercise, answer / ratio(2), aboutRatio);
     }

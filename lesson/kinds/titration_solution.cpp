@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "lesson/kinds/shared/quantities.hpp"
+#include "lesson/kinds/shared/salts.hpp"
 #include "lesson/kinds/titration.hpp"
 
 namespace lesson
@@ -17,30 +18,27 @@ Span soluteOf(const SoluteRow& solution)
     return solution.formula == "NH3" ? name("ammonia") : nameOf(solution);
 }
 
-bool isIn(std::string_view part, std::string_view formula)
-{
-    return formula.find(part) != std::string_view::npos;
-}
-
 // What an acid and such a base make.
-Spans productsOf(std::string_view base)
+Spans productsOf(const Base& base)
 {
-    if (base == "NH3") {
+    switch (kindOf(base)) {
+    case BaseKind::ammonia:
         return line("An acid and ammonia make an ammonium salt and nothing else.");
-    }
-    if (!isIn("CO3", base)) {
+    case BaseKind::hydroxide:
         return line("An acid and a hydroxide make a salt and water.");
+    case BaseKind::oxide:
+        return line("An acid and an oxide make a salt and water.");
+    case BaseKind::carbonate:
+    case BaseKind::hydrogencarbonate:
+        break;
     }
-    return line("An acid and a ",
-                isIn("HCO3", base) ? name("hydrogencarbonate", "hydrogen carbonate")
-                                   : name("carbonate"),
-                " make a salt, water and carbon dioxide.");
+    return line("An acid and a ", nameOf(*base.anion), " make a salt, water and carbon dioxide.");
 }
 
 Step equationStep(const Titration& drawn, const Equation& equation)
 {
     return {line("Write the balanced equation."), spansOf(equation),
-            line(productsOf(drawn.pair->base), " How many of each does it take?")};
+            line(productsOf(baseOf(*drawn.pair)), " How many of each does it take?")};
 }
 
 Step meanStep(const Titration& drawn, const SoluteRow& inBurette)

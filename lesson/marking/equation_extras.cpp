@@ -80,12 +80,6 @@ bool isAcidSaltOf(const Atoms& atoms, const IonRow& cation, const IonRow& anion)
 
 // ---- Substances that another question asks for
 
-bool isOfBase(const IonRow& anion)
-{
-    constexpr IonSet ofBases = {Ion::hydroxide, Ion::oxide, Ion::carbonate, Ion::hydrogencarbonate};
-    return ofBases.has(anion.id);
-}
-
 // A compound of the tables.
 struct Substance {
     Atoms atoms;
@@ -104,7 +98,7 @@ std::vector<Substance> everySubstance()
     for (const Pair& pair : pairsForFormulas()) {
         all.push_back({atomsOf(compoundFormula(*pair.cation, *pair.anion)),
                        compoundName(*pair.cation, *pair.anion),
-                       isOfBase(*pair.anion) ? "base" : "salt", pair.cation, pair.anion});
+                       isOfBases(*pair.anion) ? "base" : "salt", pair.cation, pair.anion});
     }
     return all;
 }
@@ -322,8 +316,8 @@ std::optional<Extra> halfWay(const TermOnSide& typed, const Roles& roles)
         return Extra{typed, Mistake::acidSalt,
                      quotable(formula.text) + " is an acid salt. Neutralise completely.", &salt};
     }
-    const bool isCarbonate = base.anion != nullptr && base.anion->id == Ion::carbonate;
-    if (isCarbonate && isAcidSaltOf(formula.atoms, *base.cation, *base.anion) &&
+    if (kindOfBase(roles) == BaseKind::carbonate &&
+        isAcidSaltOf(formula.atoms, *base.cation, *base.anion) &&
         findSubstance(formula.atoms, base.noun) != nullptr) {
         return Extra{typed, Mistake::halfCarbonate,
                      quotable(formula.text) +
@@ -337,7 +331,7 @@ std::optional<Extra> product(const TermOnSide& typed, const Roles& roles)
     static const Atoms carbonicAcid = atomsOf("H2CO3");
     static const Atoms hydrogenGas = atomsOf("H2");
     const Atoms& atoms = typed.term->formula.atoms;
-    const bool hasCarbonDioxide = roles.back().formula == "CO2";
+    const bool hasCarbonDioxide = givesCarbonDioxide(kindOfBase(roles));
     if (hasCarbonDioxide && atoms == carbonicAcid) {
         return Extra{typed, Mistake::carbonicAcid, std::string(sentences::carbonicAcid)};
     }
@@ -348,10 +342,10 @@ std::optional<Extra> product(const TermOnSide& typed, const Roles& roles)
 }
 
 // "NH4OH", "NH3.H2O"
-bool isAmmoniaAndWater(const TermOnSide& typed, const Role& base)
+bool isAmmoniaAndWater(const TermOnSide& typed, BaseKind kind)
 {
     static const Atoms both = atomsOf("NH4OH");
-    return typed.isOnTheLeft && base.formula == "NH3" && typed.term->formula.atoms == both;
+    return typed.isOnTheLeft && kind == BaseKind::ammonia && typed.term->formula.atoms == both;
 }
 
 // "NaNaSO4", "ClCaCl"
@@ -403,7 +397,7 @@ std::vector<const Role*> missingBeside(const TermOnSide& typed, const Roles& rol
 
 Extra explained(const TermOnSide& typed, const Roles& roles, const Assignment& assignment)
 {
-    if (isAmmoniaAndWater(typed, baseOf(roles))) {
+    if (isAmmoniaAndWater(typed, kindOfBase(roles))) {
         return {typed, Mistake::ammoniaAndWater,
                 quotable(typed.term->formula.text) + " is ammonia and water: write NH3.",
                 &baseOf(roles)};

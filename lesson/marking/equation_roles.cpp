@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "lesson/chemistry/neutralisation.hpp"
 #include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/chemistry/solubility.hpp"
 #include "lesson/marking/equation_spellings.hpp"

@@ -38,6 +38,10 @@ inline const Role& baseOf(const Roles& roles)
 {
     return roles[1];
 }
+inline BaseKind kindOfBase(const Roles& roles)
+{
+    return kindOf({baseOf(roles).cation, baseOf(roles).anion});
+}
 inline const Role& saltOf(const Roles& roles)
 {
     return roles[2];

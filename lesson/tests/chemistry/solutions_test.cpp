@@ -2,15 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <map>
-#include <set>
 #include <sstream>
 #include <string>
-#include <tuple>
 
 #include "lesson/chemistry/composition.hpp"
-#include "lesson/chemistry/elements.hpp"
 #include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/chemistry/solubility.hpp"
 
@@ -148,69 +144,6 @@ TEST(SolutionsTest, OthersAreNotFound)
 {
     for (const char* formula : {"", "AgCl", "CuSO4.7H2O", "H3PO4", "nacl", "NH4OH", "NaCl "}) {
         EXPECT_EQ(findSolute(formula), nullptr) << "'" << formula << "'";
-    }
-}
-
-using Titration = std::tuple<std::string, std::string, Indicator, InBurette>;
-
-// The titrations of a school laboratory, family by family.
-std::set<Titration> expectedTitrations()
-{
-    std::set<Titration> expected;
-    for (const char* acid : {"HCl", "HNO3", "H2SO4"}) {
-        for (const char* alkali : {"NaOH", "KOH", "LiOH"}) {
-            expected.insert({acid, alkali, Indicator::either, InBurette::either});
-        }
-        for (const char* carbonate : {"NaHCO3", "KHCO3", "Na2CO3", "K2CO3"}) {
-            expected.insert({acid, carbonate, Indicator::methylOrange, InBurette::acid});
-        }
-    }
-    for (const char* alkali : {"NaOH", "KOH", "LiOH"}) {
-        expected.insert({"CH3COOH", alkali, Indicator::phenolphthalein, InBurette::base});
-    }
-    expected.insert({"H2SO4", "NH3", Indicator::methylOrange, InBurette::acid});
-    expected.insert({"HCl", "NH3", Indicator::methylOrange, InBurette::acid});
-    expected.insert({"H2C2O4", "NaOH", Indicator::phenolphthalein, InBurette::base});
-    return expected;
-}
-
-TEST(SolutionsTest, TitrationsAreThoseTypedOnceMore)
-{
-    std::set<Titration> listed;
-    for (const TitrationRow& row : titrations()) {
-        listed.insert({text(row.acid), text(row.base), row.indicator, row.inBurette});
-    }
-    EXPECT_EQ(listed.size(), titrations().size());
-    EXPECT_EQ(listed, expectedTitrations());
-}
-
-int countOf(std::string_view symbol, std::string_view formula)
-{
-    const Atoms atoms = compositionOf(formula).atoms;
-    const int wanted = findElement(symbol)->number;
-    const auto found = std::find_if(atoms.begin(), atoms.end(),
-                                    [wanted](AtomCount atom) { return atom.element == wanted; });
-    return found == atoms.end() ? 0 : found->count;
-}
-
-// A base takes as many protons as it has metal ions, for each is left over with one charge; ammonia
-// takes one. An acid gives its hydrogen but that of CH3.
-TEST(SolutionsTest, ProtonsAreThoseOfTheFormulas)
-{
-    for (const TitrationRow& row : titrations()) {
-        const int metals =
-            countOf("Li", row.base) + countOf("Na", row.base) + countOf("K", row.base);
-        EXPECT_EQ(row.protonsTaken, row.base == "NH3" ? 1 : metals) << row.base;
-        const int fixed = row.acid == "CH3COOH" ? 3 : 0;
-        EXPECT_EQ(row.protonsGiven, countOf("H", row.acid) - fixed) << row.acid;
-    }
-}
-
-TEST(SolutionsTest, WhatIsTitratedHasAName)
-{
-    for (const TitrationRow& row : titrations()) {
-        EXPECT_NE(findSolute(row.acid), nullptr) << row.acid;
-        EXPECT_NE(findSolute(row.base), nullptr) << row.base;
     }
 }
 

@@ -6,8 +6,8 @@
 #include <set>
 #include <string>
 
+#include "lesson/chemistry/acids_and_bases.hpp"
 #include "lesson/chemistry/composition.hpp"
-#include "lesson/chemistry/reaction.hpp"
 #include "lesson/chemistry/solutions.hpp"
 #include "lesson/tests/support/calculation.hpp"
 

@@ -7,6 +7,7 @@
 #include <variant>
 #include <vector>
 
+#include "lesson/chemistry/neutralisation.hpp"
 #include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/marking/equation.hpp"
@@ -296,8 +297,8 @@ Typed acidSalt(const Question& q, bool isBalanced)
     if (!isSulfate && q.acid != "H3PO4") {
         return {};
     }
-    const IonRow anion = rowOf(isSulfate ? Ion::hydrogensulfate : Ion::dihydrogenphosphate);
-    Equation wrong = equationOf(q.acid, 1, anion, q.answer.base);
+    const IonRow& anion = rowOf(isSulfate ? Ion::hydrogensulfate : Ion::dihydrogenphosphate);
+    Equation wrong = neutralisationTo(anion, *q.answer.acid, q.answer.base);
     if (isBalanced) {
         return {textOf(wrong), "True with less base. Neutralise completely.", ""};
     }

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "lesson/chemistry/neutralisation.hpp"
+
 namespace lesson
 {
 

@@ -1,4 +1,4 @@
-#include "lesson/chemistry/reaction.hpp"
+#include "lesson/chemistry/acids_and_bases.hpp"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "lesson/chemistry/neutralisation.hpp"
 #include "lesson/chemistry/pairs_not_asked.hpp"
 #include "support/atom_count.hpp"
 
@@ -59,7 +60,7 @@ int commonDivisor(const Equation& equation)
     return divisor;
 }
 
-TEST(ReactionTest, EquationsOfTheTextbook)
+TEST(AcidsAndBasesTest, EquationsOfTheTextbook)
 {
     const struct {
         const char* acid;
@@ -90,7 +91,7 @@ TEST(ReactionTest, EquationsOfTheTextbook)
     }
 }
 
-TEST(ReactionTest, EveryAcidAndBaseConserveTheirAtomsInLowestTerms)
+TEST(AcidsAndBasesTest, EveryAcidAndBaseConserveTheirAtomsInLowestTerms)
 {
     for (const AcidRow* const acid : acids()) {
         for (const Base& base : everyBase()) {
@@ -107,7 +108,7 @@ TEST(ReactionTest, EveryAcidAndBaseConserveTheirAtomsInLowestTerms)
 }
 
 // The protons of the acids and the ions that they leave, typed anew.
-TEST(ReactionTest, AcidsLoseTheirProtonsToBecomeTheirIons)
+TEST(AcidsAndBasesTest, AcidsLoseTheirProtonsToBecomeTheirIons)
 {
     const struct {
         const char* acid;
@@ -125,7 +126,7 @@ TEST(ReactionTest, AcidsLoseTheirProtonsToBecomeTheirIons)
         const AcidRow* const acid = findAcid(row.acid);
         ASSERT_NE(acid, nullptr) << row.acid;
         EXPECT_EQ(acid->name, row.name);
-        EXPECT_EQ(acid->protons, -row.charge) << row.acid;
+        EXPECT_EQ(protonsOf(*acid), -row.charge) << row.acid;
         EXPECT_EQ(anionOf(*acid).formula, row.anion);
         EXPECT_EQ(anionOf(*acid).charge, row.charge) << row.acid;
         std::map<std::string, int> atoms = countAtoms(row.anion);
@@ -135,7 +136,45 @@ TEST(ReactionTest, AcidsLoseTheirProtonsToBecomeTheirIons)
     EXPECT_EQ(findAcid("H2CO3"), nullptr);
 }
 
-TEST(ReactionTest, NamesOfBasesAndSalts)
+TEST(AcidsAndBasesTest, EveryIdHasARowThatIsListedOnce)
+{
+    const Acid ids[] = {Acid::hydrochloric, Acid::hydrobromic, Acid::nitric,     Acid::sulfuric,
+                        Acid::phosphoric,   Acid::ethanoic,    Acid::ethanedioic};
+    ASSERT_EQ(acids().size(), std::size(ids));
+    for (std::size_t i = 0; i < std::size(ids); ++i) {
+        EXPECT_EQ(rowOf(ids[i]).id, ids[i]) << i;
+        EXPECT_EQ(acids()[i], &rowOf(ids[i])) << i;
+    }
+}
+
+TEST(AcidsAndBasesTest, ABaseIsFoundByWhatItIsMadeOf)
+{
+    const struct {
+        BaseKind kind;
+        const char* formula;
+    } rows[] = {
+        {BaseKind::hydroxide, "Ca(OH)2"}, {BaseKind::oxide, "CaO"},
+        {BaseKind::carbonate, "CaCO3"},   {BaseKind::hydrogencarbonate, "Ca(HCO3)2"},
+        {BaseKind::ammonia, "NH3"},
+    };
+    ASSERT_EQ(std::size(baseKinds), std::size(rows));
+    for (const auto& row : rows) {
+        const Base base = baseOf(row.kind, Ion::calcium);
+        EXPECT_EQ(formulaOf(base), row.formula);
+        EXPECT_EQ(kindOf(base), row.kind) << row.formula;
+    }
+}
+
+TEST(AcidsAndBasesTest, OnlyFourAnionsMakeBases)
+{
+    std::string formulas;
+    for (const IonRow* const anion : anions()) {
+        formulas += isOfBases(*anion) ? std::string(anion->formula) + " " : "";
+    }
+    EXPECT_EQ(formulas, "OH HCO3 O CO3 ");
+}
+
+TEST(AcidsAndBasesTest, NamesOfBasesAndSalts)
 {
     const AcidRow& ethanoic = *findAcid("CH3COOH");
     const AcidRow& ethanedioic = *findAcid("H2C2O4");
@@ -154,7 +193,7 @@ TEST(ReactionTest, NamesOfBasesAndSalts)
     EXPECT_EQ(americanNameOf(baseOf("aluminium", "oxide")), "aluminum oxide");
 }
 
-TEST(ReactionTest, AnEquationIsTypesetAsItIsTyped)
+TEST(AcidsAndBasesTest, AnEquationIsTypesetAsItIsTyped)
 {
     const Equation equation = neutralisationOf(*findAcid("HCl"), baseOf("sodium", "carbonate"));
     std::string text;
