@@ -5,34 +5,30 @@ import type { Page } from "../shared/page";
 import type { Exercise, SheetRoute } from "../types";
 import { texts } from "../words/texts";
 import { fill, type Part } from "./page-breaks";
+import { paperMeasures } from "./paper-measures";
 import { labelOf, type Version } from "./printed-heads";
 import { atOnce, measureIn, type Run, runsOf } from "./runs";
 import { exercisesOf, papersOf } from "./sheet";
-
-// In millimetres, as in sheet.css: the page without its margins and its running line, less what a line
-// that breaks otherwise in print than on the screen may need.
-const spare = 5;
-const widths: Record<SheetRoute["size"], number> = { A4: 210, Letter: 215.9 };
-const capacities: Record<SheetRoute["size"], number> = { A4: 297 - 2 * 15 - 8 - spare, Letter: 279.4 - 2 * 15 - 8 - spare };
 
 // Fills the box step by step: the sheets of all versions first, then the keys.
 export function* leaves(box: HTMLElement, route: SheetRoute, page: Page): Generator<void> {
     const measuring = element("div", { class: "leaf measuring", "aria-hidden": "true" });
     box.append(measuring);
-    const measure = measureIn(measuring, widths[route.size]);
+    const paper = paperMeasures(measuring);
+    const measure = measureIn(measuring, paper.across);
     const elements = page.lesson.tables().elements;
     const places = exercisesOf(route.entries);
     const keys: { label: string; run: Run }[] = [];
     const put = putInto(box, route);
-    for (const [at, paper] of papersOf(route).entries()) {
-        const version: Version = { paper, number: at + 1, exercises: yield* exercisesOfPaper(paper, places, page) };
+    for (const [at, number] of papersOf(route).entries()) {
+        const version: Version = { paper: number, number: at + 1, exercises: yield* exercisesOfPaper(number, places, page) };
         const { sheet, key } = yield* runsOf(version, route, elements, measure, page);
         const label = labelOf(version, route);
-        put(label, leavesOf(label, sheet, route));
+        put(label, leavesOf(label, sheet, paper.room));
         keys.push({ label, run: key });
     }
     measuring.remove();
-    keysApart(keys, route).forEach(({ label, runs }) => put(label, leavesOf(label, runs, route)));
+    keysApart(keys, route).forEach(({ label, runs }) => put(label, leavesOf(label, runs, paper.room)));
 }
 
 // What is handed out apart, one after another: each from a front side on, where that is wanted.
@@ -76,10 +72,10 @@ function keysApart(keys: { label: string; run: Run }[], route: SheetRoute): { la
 // div.leaf
 //   p.running
 //   div.head, p.frame, ol   for each part
-function leavesOf(label: string, runs: Run[], route: SheetRoute): HTMLElement[] {
+function leavesOf(label: string, runs: Run[], room: number): HTMLElement[] {
     const pages = fill(
         runs.map(({ head, again, rows }) => ({ head: heightOf(head), again: heightOf(again), items: heightsOf(rows) })),
-        capacities[route.size],
+        room,
     );
     return pages.map((parts, at) => {
         const running = element(

@@ -21,6 +21,32 @@ async function printed(hash, options) {
     return { pages, sheet: textsOf(pages.filter((lines) => !isKey(lines))), key: textsOf(pages.filter(isKey)) };
 }
 
+// In millimetres, on the named page and around the page of the preview: above, right, below, left.
+function margins(name) {
+    const rules = [...document.styleSheets].flatMap(({ cssRules }) => [...cssRules]);
+    const { style } = rules.find((rule) => rule instanceof CSSPageRule && rule.selectorText === name);
+    const leaf = getComputedStyle(document.querySelector(".leaf"));
+    const millimetre = Number.parseFloat(leaf.width) / Number(leaf.getPropertyValue("--across"));
+    const sides = ["top", "right", "bottom", "left"];
+    return {
+        onPaper: sides.map((side) => Number.parseFloat(style.getPropertyValue(`margin-${side}`))),
+        inPreview: sides.map((side) => Math.round((10 * Number.parseFloat(leaf.getPropertyValue(`padding-${side}`))) / millimetre) / 10),
+    };
+}
+
+for (const [size, name] of [
+    ["A4", "a4"],
+    ["Letter", "letter"],
+]) {
+    test(`a page of ${size} has the margins of the preview, but for half a millimetre at the right`, async () => {
+        const page = await openSheet(`#sheet/4821/2*ion-formula?size=${size}`);
+        const { onPaper, inPreview } = await page.evaluate(margins, name);
+        assert.deepEqual(onPaper, [15, 18, 15, 18]);
+        assert.deepEqual(inPreview, [15, 18.5, 15, 18]);
+        await leave(page);
+    });
+}
+
 // Of each question: its own words, those above it that it shares, its line for the answer.
 function questions() {
     const seen = (one) => {
