@@ -33,7 +33,7 @@ void add(Json& json, const ElementRow& row)
         json.member("number", row.number);
         json.member("symbol", row.symbol);
         addName(json, row.name, row.american);
-        json.member("mass", row.shown);
+        json.member("mass", shownMass(row));
         json.member("period", row.period);
         json.member("group", row.group);
     });

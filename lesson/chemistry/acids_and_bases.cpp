@@ -54,6 +54,13 @@ const BaseRow* findBase(std::optional<Ion> anion)
     return row == std::end(baseRows) ? nullptr : row;
 }
 
+template <typename Wanted>
+const AcidRow* findWhere(Wanted wanted)
+{
+    const auto* const row = std::find_if(std::begin(acidRows), std::end(acidRows), wanted);
+    return row == std::end(acidRows) ? nullptr : row;
+}
+
 } // namespace
 
 const AcidRow& rowOf(Acid acid)
@@ -75,10 +82,12 @@ const std::vector<const AcidRow*>& acids()
 
 const AcidRow* findAcid(std::string_view formula)
 {
-    const auto* const row =
-        std::find_if(std::begin(acidRows), std::end(acidRows),
-                     [formula](const AcidRow& r) { return r.formula == formula; });
-    return row == std::end(acidRows) ? nullptr : row;
+    return findWhere([formula](const AcidRow& row) { return row.formula == formula; });
+}
+
+const AcidRow* findAcid(Ion anion)
+{
+    return findWhere([anion](const AcidRow& row) { return row.anion == anion; });
 }
 
 const IonRow& anionOf(const AcidRow& acid)

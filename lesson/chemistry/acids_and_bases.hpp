@@ -35,8 +35,9 @@ struct AcidRow {
 const AcidRow& rowOf(Acid acid);
 const std::vector<const AcidRow*>& acids();
 
-// The one with this formula, "H2SO4"; null where there is none.
+// The one with this formula, "H2SO4", or that becomes this ion; null where there is none.
 const AcidRow* findAcid(std::string_view formula);
+const AcidRow* findAcid(Ion anion);
 
 const IonRow& anionOf(const AcidRow& acid);
 // As many as one molecule gives away.

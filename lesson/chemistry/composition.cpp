@@ -89,6 +89,14 @@ Composition compositionOf(std::string_view formula)
     return composition;
 }
 
+int countOf(const Atoms& atoms, int element)
+{
+    const auto found = std::find_if(atoms.begin(), atoms.end(), [element](const AtomCount& atom) {
+        return atom.element == element;
+    });
+    return found == atoms.end() ? 0 : found->count;
+}
+
 Ratio massOf(const Atoms& atoms)
 {
     std::int64_t thousandths = 0;

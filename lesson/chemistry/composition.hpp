@@ -39,6 +39,9 @@ struct Composition {
 // others, so what a learner types has to be read elsewhere.
 Composition compositionOf(std::string_view formula);
 
+// How many of one element, 0 where there are none.
+int countOf(const Atoms& atoms, int element);
+
 // The sum of the masses in the table, exactly, in g/mol; the formula as above.
 Ratio massOf(const Atoms& atoms);
 Ratio molarMassOf(std::string_view formula);

@@ -65,6 +65,18 @@ std::string americanName(const IonRow& cation, const IonRow& anion)
     return americanNameOf(cation) + " " + americanNameOf(anion);
 }
 
+std::string hydrateFormula(const std::string& formula, int water)
+{
+    return formula + "." + (water == 1 ? "" : std::to_string(water)) + "H2O";
+}
+
+std::string hydrateName(const std::string& name, int water)
+{
+    constexpr const char* numbers[] = {"mono", "di",    "tri",  "tetra", "penta",
+                                       "hexa", "hepta", "octa", "nona",  "deca"};
+    return name + " " + numbers[water - 1] + "hydrate";
+}
+
 int cationsIn(const IonRow& cation, const IonRow& anion)
 {
     return countOf(cation, anion);

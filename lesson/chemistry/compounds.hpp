@@ -24,6 +24,11 @@ std::string compoundName(const IonRow& cation, const IonRow& anion);
 // The name as the American one, "aluminum sulfate", where they differ; else empty.
 std::string americanName(const IonRow& cation, const IonRow& anion);
 
+// The same with so many molecules of water of crystallisation, 1 to 10:
+// "CuSO4" -> "CuSO4.5H2O", "copper(II) sulfate" -> "copper(II) sulfate pentahydrate".
+std::string hydrateFormula(const std::string& formula, int water);
+std::string hydrateName(const std::string& name, int water);
+
 // How often each occurs in it.
 int cationsIn(const IonRow& cation, const IonRow& anion);
 int anionsIn(const IonRow& cation, const IonRow& anion);

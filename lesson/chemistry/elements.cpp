@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <iterator>
 
+#include "lesson/numbers/decimal.hpp"
+
 namespace lesson
 {
 
@@ -23,126 +25,129 @@ namespace
 //     on change with each discovery.
 //   - La or Lu, Ac or Lr in group 3 is open; here, as on IUPAC's table, all fifteen of a row stand
 //     below it.
+constexpr bool mean = false;
+constexpr bool massNumber = true;
+
 // clang-format off
 constexpr ElementRow rows[] = {
-    {1, 1008, "H", "hydrogen", "", "1.008", 1, 1},
-    {2, 4003, "He", "helium", "", "4.003", 1, 18},
-    {3, 6940, "Li", "lithium", "", "6.940", 2, 1},
-    {4, 9012, "Be", "beryllium", "", "9.012", 2, 2},
-    {5, 10810, "B", "boron", "", "10.81", 2, 13},
-    {6, 12010, "C", "carbon", "", "12.01", 2, 14},
-    {7, 14010, "N", "nitrogen", "", "14.01", 2, 15},
-    {8, 16000, "O", "oxygen", "", "16.00", 2, 16},
-    {9, 19000, "F", "fluorine", "", "19.00", 2, 17},
-    {10, 20180, "Ne", "neon", "", "20.18", 2, 18},
-    {11, 22990, "Na", "sodium", "", "22.99", 3, 1},
-    {12, 24310, "Mg", "magnesium", "", "24.31", 3, 2},
-    {13, 26980, "Al", "aluminium", "aluminum", "26.98", 3, 13},
-    {14, 28090, "Si", "silicon", "", "28.09", 3, 14},
-    {15, 30970, "P", "phosphorus", "", "30.97", 3, 15},
-    {16, 32060, "S", "sulfur", "", "32.06", 3, 16},
-    {17, 35450, "Cl", "chlorine", "", "35.45", 3, 17},
-    {18, 39950, "Ar", "argon", "", "39.95", 3, 18},
-    {19, 39100, "K", "potassium", "", "39.10", 4, 1},
-    {20, 40080, "Ca", "calcium", "", "40.08", 4, 2},
-    {21, 44960, "Sc", "scandium", "", "44.96", 4, 3},
-    {22, 47870, "Ti", "titanium", "", "47.87", 4, 4},
-    {23, 50940, "V", "vanadium", "", "50.94", 4, 5},
-    {24, 52000, "Cr", "chromium", "", "52.00", 4, 6},
-    {25, 54940, "Mn", "manganese", "", "54.94", 4, 7},
-    {26, 55850, "Fe", "iron", "", "55.85", 4, 8},
-    {27, 58930, "Co", "cobalt", "", "58.93", 4, 9},
-    {28, 58690, "Ni", "nickel", "", "58.69", 4, 10},
-    {29, 63550, "Cu", "copper", "", "63.55", 4, 11},
-    {30, 65380, "Zn", "zinc", "", "65.38", 4, 12},
-    {31, 69720, "Ga", "gallium", "", "69.72", 4, 13},
-    {32, 72630, "Ge", "germanium", "", "72.63", 4, 14},
-    {33, 74920, "As", "arsenic", "", "74.92", 4, 15},
-    {34, 78970, "Se", "selenium", "", "78.97", 4, 16},
-    {35, 79900, "Br", "bromine", "", "79.90", 4, 17},
-    {36, 83800, "Kr", "krypton", "", "83.80", 4, 18},
-    {37, 85470, "Rb", "rubidium", "", "85.47", 5, 1},
-    {38, 87620, "Sr", "strontium", "", "87.62", 5, 2},
-    {39, 88910, "Y", "yttrium", "", "88.91", 5, 3},
-    {40, 91220, "Zr", "zirconium", "", "91.22", 5, 4},
-    {41, 92910, "Nb", "niobium", "", "92.91", 5, 5},
-    {42, 95950, "Mo", "molybdenum", "", "95.95", 5, 6},
-    {43, 97000, "Tc", "technetium", "", "[97]", 5, 7},
-    {44, 101100, "Ru", "ruthenium", "", "101.1", 5, 8},
-    {45, 102900, "Rh", "rhodium", "", "102.9", 5, 9},
-    {46, 106400, "Pd", "palladium", "", "106.4", 5, 10},
-    {47, 107900, "Ag", "silver", "", "107.9", 5, 11},
-    {48, 112400, "Cd", "cadmium", "", "112.4", 5, 12},
-    {49, 114800, "In", "indium", "", "114.8", 5, 13},
-    {50, 118700, "Sn", "tin", "", "118.7", 5, 14},
-    {51, 121800, "Sb", "antimony", "", "121.8", 5, 15},
-    {52, 127600, "Te", "tellurium", "", "127.6", 5, 16},
-    {53, 126900, "I", "iodine", "", "126.9", 5, 17},
-    {54, 131300, "Xe", "xenon", "", "131.3", 5, 18},
-    {55, 132900, "Cs", "caesium", "cesium", "132.9", 6, 1},
-    {56, 137300, "Ba", "barium", "", "137.3", 6, 2},
-    {57, 138900, "La", "lanthanum", "", "138.9", 6, 0},
-    {58, 140100, "Ce", "cerium", "", "140.1", 6, 0},
-    {59, 140900, "Pr", "praseodymium", "", "140.9", 6, 0},
-    {60, 144200, "Nd", "neodymium", "", "144.2", 6, 0},
-    {61, 145000, "Pm", "promethium", "", "[145]", 6, 0},
-    {62, 150400, "Sm", "samarium", "", "150.4", 6, 0},
-    {63, 152000, "Eu", "europium", "", "152.0", 6, 0},
-    {64, 157300, "Gd", "gadolinium", "", "157.3", 6, 0},
-    {65, 158900, "Tb", "terbium", "", "158.9", 6, 0},
-    {66, 162500, "Dy", "dysprosium", "", "162.5", 6, 0},
-    {67, 164900, "Ho", "holmium", "", "164.9", 6, 0},
-    {68, 167300, "Er", "erbium", "", "167.3", 6, 0},
-    {69, 168900, "Tm", "thulium", "", "168.9", 6, 0},
-    {70, 173000, "Yb", "ytterbium", "", "173.0", 6, 0},
-    {71, 175000, "Lu", "lutetium", "", "175.0", 6, 0},
-    {72, 178500, "Hf", "hafnium", "", "178.5", 6, 4},
-    {73, 180900, "Ta", "tantalum", "", "180.9", 6, 5},
-    {74, 183800, "W", "tungsten", "", "183.8", 6, 6},
-    {75, 186200, "Re", "rhenium", "", "186.2", 6, 7},
-    {76, 190200, "Os", "osmium", "", "190.2", 6, 8},
-    {77, 192200, "Ir", "iridium", "", "192.2", 6, 9},
-    {78, 195100, "Pt", "platinum", "", "195.1", 6, 10},
-    {79, 197000, "Au", "gold", "", "197.0", 6, 11},
-    {80, 200600, "Hg", "mercury", "", "200.6", 6, 12},
-    {81, 204400, "Tl", "thallium", "", "204.4", 6, 13},
-    {82, 207200, "Pb", "lead", "", "207.2", 6, 14},
-    {83, 209000, "Bi", "bismuth", "", "209.0", 6, 15},
-    {84, 209000, "Po", "polonium", "", "[209]", 6, 16},
-    {85, 210000, "At", "astatine", "", "[210]", 6, 17},
-    {86, 222000, "Rn", "radon", "", "[222]", 6, 18},
-    {87, 223000, "Fr", "francium", "", "[223]", 7, 1},
-    {88, 226000, "Ra", "radium", "", "[226]", 7, 2},
-    {89, 227000, "Ac", "actinium", "", "[227]", 7, 0},
-    {90, 232000, "Th", "thorium", "", "232.0", 7, 0},
-    {91, 231000, "Pa", "protactinium", "", "231.0", 7, 0},
-    {92, 238000, "U", "uranium", "", "238.0", 7, 0},
-    {93, 237000, "Np", "neptunium", "", "[237]", 7, 0},
-    {94, 244000, "Pu", "plutonium", "", "[244]", 7, 0},
-    {95, 243000, "Am", "americium", "", "[243]", 7, 0},
-    {96, 247000, "Cm", "curium", "", "[247]", 7, 0},
-    {97, 247000, "Bk", "berkelium", "", "[247]", 7, 0},
-    {98, 251000, "Cf", "californium", "", "[251]", 7, 0},
-    {99, 252000, "Es", "einsteinium", "", "[252]", 7, 0},
-    {100, 257000, "Fm", "fermium", "", "[257]", 7, 0},
-    {101, 258000, "Md", "mendelevium", "", "[258]", 7, 0},
-    {102, 259000, "No", "nobelium", "", "[259]", 7, 0},
-    {103, 262000, "Lr", "lawrencium", "", "[262]", 7, 0},
-    {104, 267000, "Rf", "rutherfordium", "", "[267]", 7, 4},
-    {105, 268000, "Db", "dubnium", "", "[268]", 7, 5},
-    {106, 269000, "Sg", "seaborgium", "", "[269]", 7, 6},
-    {107, 270000, "Bh", "bohrium", "", "[270]", 7, 7},
-    {108, 269000, "Hs", "hassium", "", "[269]", 7, 8},
-    {109, 277000, "Mt", "meitnerium", "", "[277]", 7, 9},
-    {110, 281000, "Ds", "darmstadtium", "", "[281]", 7, 10},
-    {111, 282000, "Rg", "roentgenium", "", "[282]", 7, 11},
-    {112, 285000, "Cn", "copernicium", "", "[285]", 7, 12},
-    {113, 286000, "Nh", "nihonium", "", "[286]", 7, 13},
-    {114, 290000, "Fl", "flerovium", "", "[290]", 7, 14},
-    {115, 290000, "Mc", "moscovium", "", "[290]", 7, 15},
-    {116, 293000, "Lv", "livermorium", "", "[293]", 7, 16},
-    {117, 294000, "Ts", "tennessine", "", "[294]", 7, 17},
-    {118, 294000, "Og", "oganesson", "", "[294]", 7, 18},
+    {1,   1008,   mean,       "H",  1, 1,  "hydrogen", ""},
+    {2,   4003,   mean,       "He", 1, 18, "helium", ""},
+    {3,   6940,   mean,       "Li", 2, 1,  "lithium", ""},
+    {4,   9012,   mean,       "Be", 2, 2,  "beryllium", ""},
+    {5,   10810,  mean,       "B",  2, 13, "boron", ""},
+    {6,   12010,  mean,       "C",  2, 14, "carbon", ""},
+    {7,   14010,  mean,       "N",  2, 15, "nitrogen", ""},
+    {8,   16000,  mean,       "O",  2, 16, "oxygen", ""},
+    {9,   19000,  mean,       "F",  2, 17, "fluorine", ""},
+    {10,  20180,  mean,       "Ne", 2, 18, "neon", ""},
+    {11,  22990,  mean,       "Na", 3, 1,  "sodium", ""},
+    {12,  24310,  mean,       "Mg", 3, 2,  "magnesium", ""},
+    {13,  26980,  mean,       "Al", 3, 13, "aluminium", "aluminum"},
+    {14,  28090,  mean,       "Si", 3, 14, "silicon", ""},
+    {15,  30970,  mean,       "P",  3, 15, "phosphorus", ""},
+    {16,  32060,  mean,       "S",  3, 16, "sulfur", ""},
+    {17,  35450,  mean,       "Cl", 3, 17, "chlorine", ""},
+    {18,  39950,  mean,       "Ar", 3, 18, "argon", ""},
+    {19,  39100,  mean,       "K",  4, 1,  "potassium", ""},
+    {20,  40080,  mean,       "Ca", 4, 2,  "calcium", ""},
+    {21,  44960,  mean,       "Sc", 4, 3,  "scandium", ""},
+    {22,  47870,  mean,       "Ti", 4, 4,  "titanium", ""},
+    {23,  50940,  mean,       "V",  4, 5,  "vanadium", ""},
+    {24,  52000,  mean,       "Cr", 4, 6,  "chromium", ""},
+    {25,  54940,  mean,       "Mn", 4, 7,  "manganese", ""},
+    {26,  55850,  mean,       "Fe", 4, 8,  "iron", ""},
+    {27,  58930,  mean,       "Co", 4, 9,  "cobalt", ""},
+    {28,  58690,  mean,       "Ni", 4, 10, "nickel", ""},
+    {29,  63550,  mean,       "Cu", 4, 11, "copper", ""},
+    {30,  65380,  mean,       "Zn", 4, 12, "zinc", ""},
+    {31,  69720,  mean,       "Ga", 4, 13, "gallium", ""},
+    {32,  72630,  mean,       "Ge", 4, 14, "germanium", ""},
+    {33,  74920,  mean,       "As", 4, 15, "arsenic", ""},
+    {34,  78970,  mean,       "Se", 4, 16, "selenium", ""},
+    {35,  79900,  mean,       "Br", 4, 17, "bromine", ""},
+    {36,  83800,  mean,       "Kr", 4, 18, "krypton", ""},
+    {37,  85470,  mean,       "Rb", 5, 1,  "rubidium", ""},
+    {38,  87620,  mean,       "Sr", 5, 2,  "strontium", ""},
+    {39,  88910,  mean,       "Y",  5, 3,  "yttrium", ""},
+    {40,  91220,  mean,       "Zr", 5, 4,  "zirconium", ""},
+    {41,  92910,  mean,       "Nb", 5, 5,  "niobium", ""},
+    {42,  95950,  mean,       "Mo", 5, 6,  "molybdenum", ""},
+    {43,  97000,  massNumber, "Tc", 5, 7,  "technetium", ""},
+    {44,  101100, mean,       "Ru", 5, 8,  "ruthenium", ""},
+    {45,  102900, mean,       "Rh", 5, 9,  "rhodium", ""},
+    {46,  106400, mean,       "Pd", 5, 10, "palladium", ""},
+    {47,  107900, mean,       "Ag", 5, 11, "silver", ""},
+    {48,  112400, mean,       "Cd", 5, 12, "cadmium", ""},
+    {49,  114800, mean,       "In", 5, 13, "indium", ""},
+    {50,  118700, mean,       "Sn", 5, 14, "tin", ""},
+    {51,  121800, mean,       "Sb", 5, 15, "antimony", ""},
+    {52,  127600, mean,       "Te", 5, 16, "tellurium", ""},
+    {53,  126900, mean,       "I",  5, 17, "iodine", ""},
+    {54,  131300, mean,       "Xe", 5, 18, "xenon", ""},
+    {55,  132900, mean,       "Cs", 6, 1,  "caesium", "cesium"},
+    {56,  137300, mean,       "Ba", 6, 2,  "barium", ""},
+    {57,  138900, mean,       "La", 6, 0,  "lanthanum", ""},
+    {58,  140100, mean,       "Ce", 6, 0,  "cerium", ""},
+    {59,  140900, mean,       "Pr", 6, 0,  "praseodymium", ""},
+    {60,  144200, mean,       "Nd", 6, 0,  "neodymium", ""},
+    {61,  145000, massNumber, "Pm", 6, 0,  "promethium", ""},
+    {62,  150400, mean,       "Sm", 6, 0,  "samarium", ""},
+    {63,  152000, mean,       "Eu", 6, 0,  "europium", ""},
+    {64,  157300, mean,       "Gd", 6, 0,  "gadolinium", ""},
+    {65,  158900, mean,       "Tb", 6, 0,  "terbium", ""},
+    {66,  162500, mean,       "Dy", 6, 0,  "dysprosium", ""},
+    {67,  164900, mean,       "Ho", 6, 0,  "holmium", ""},
+    {68,  167300, mean,       "Er", 6, 0,  "erbium", ""},
+    {69,  168900, mean,       "Tm", 6, 0,  "thulium", ""},
+    {70,  173000, mean,       "Yb", 6, 0,  "ytterbium", ""},
+    {71,  175000, mean,       "Lu", 6, 0,  "lutetium", ""},
+    {72,  178500, mean,       "Hf", 6, 4,  "hafnium", ""},
+    {73,  180900, mean,       "Ta", 6, 5,  "tantalum", ""},
+    {74,  183800, mean,       "W",  6, 6,  "tungsten", ""},
+    {75,  186200, mean,       "Re", 6, 7,  "rhenium", ""},
+    {76,  190200, mean,       "Os", 6, 8,  "osmium", ""},
+    {77,  192200, mean,       "Ir", 6, 9,  "iridium", ""},
+    {78,  195100, mean,       "Pt", 6, 10, "platinum", ""},
+    {79,  197000, mean,       "Au", 6, 11, "gold", ""},
+    {80,  200600, mean,       "Hg", 6, 12, "mercury", ""},
+    {81,  204400, mean,       "Tl", 6, 13, "thallium", ""},
+    {82,  207200, mean,       "Pb", 6, 14, "lead", ""},
+    {83,  209000, mean,       "Bi", 6, 15, "bismuth", ""},
+    {84,  209000, massNumber, "Po", 6, 16, "polonium", ""},
+    {85,  210000, massNumber, "At", 6, 17, "astatine", ""},
+    {86,  222000, massNumber, "Rn", 6, 18, "radon", ""},
+    {87,  223000, massNumber, "Fr", 7, 1,  "francium", ""},
+    {88,  226000, massNumber, "Ra", 7, 2,  "radium", ""},
+    {89,  227000, massNumber, "Ac", 7, 0,  "actinium", ""},
+    {90,  232000, mean,       "Th", 7, 0,  "thorium", ""},
+    {91,  231000, mean,       "Pa", 7, 0,  "protactinium", ""},
+    {92,  238000, mean,       "U",  7, 0,  "uranium", ""},
+    {93,  237000, massNumber, "Np", 7, 0,  "neptunium", ""},
+    {94,  244000, massNumber, "Pu", 7, 0,  "plutonium", ""},
+    {95,  243000, massNumber, "Am", 7, 0,  "americium", ""},
+    {96,  247000, massNumber, "Cm", 7, 0,  "curium", ""},
+    {97,  247000, massNumber, "Bk", 7, 0,  "berkelium", ""},
+    {98,  251000, massNumber, "Cf", 7, 0,  "californium", ""},
+    {99,  252000, massNumber, "Es", 7, 0,  "einsteinium", ""},
+    {100, 257000, massNumber, "Fm", 7, 0,  "fermium", ""},
+    {101, 258000, massNumber, "Md", 7, 0,  "mendelevium", ""},
+    {102, 259000, massNumber, "No", 7, 0,  "nobelium", ""},
+    {103, 262000, massNumber, "Lr", 7, 0,  "lawrencium", ""},
+    {104, 267000, massNumber, "Rf", 7, 4,  "rutherfordium", ""},
+    {105, 268000, massNumber, "Db", 7, 5,  "dubnium", ""},
+    {106, 269000, massNumber, "Sg", 7, 6,  "seaborgium", ""},
+    {107, 270000, massNumber, "Bh", 7, 7,  "bohrium", ""},
+    {108, 269000, massNumber, "Hs", 7, 8,  "hassium", ""},
+    {109, 277000, massNumber, "Mt", 7, 9,  "meitnerium", ""},
+    {110, 281000, massNumber, "Ds", 7, 10, "darmstadtium", ""},
+    {111, 282000, massNumber, "Rg", 7, 11, "roentgenium", ""},
+    {112, 285000, massNumber, "Cn", 7, 12, "copernicium", ""},
+    {113, 286000, massNumber, "Nh", 7, 13, "nihonium", ""},
+    {114, 290000, massNumber, "Fl", 7, 14, "flerovium", ""},
+    {115, 290000, massNumber, "Mc", 7, 15, "moscovium", ""},
+    {116, 293000, massNumber, "Lv", 7, 16, "livermorium", ""},
+    {117, 294000, massNumber, "Ts", 7, 17, "tennessine", ""},
+    {118, 294000, massNumber, "Og", 7, 18, "oganesson", ""},
 };
 // clang-format on
 
@@ -158,6 +163,30 @@ constexpr bool areInOrder()
 
 static_assert(std::size(rows) == elementCount, "every element up to oganesson has a row");
 static_assert(areInOrder(), "the row of an element is found by its atomic number");
+
+struct Named {
+    int element;
+    std::string_view symbol;
+};
+constexpr Named named[] = {
+    {elements::hydrogen, "H"},  {elements::carbon, "C"},    {elements::nitrogen, "N"},
+    {elements::oxygen, "O"},    {elements::fluorine, "F"},  {elements::sulfur, "S"},
+    {elements::chlorine, "Cl"}, {elements::chromium, "Cr"}, {elements::manganese, "Mn"},
+    {elements::iron, "Fe"},     {elements::cobalt, "Co"},   {elements::nickel, "Ni"},
+    {elements::copper, "Cu"},   {elements::bromine, "Br"},  {elements::tin, "Sn"},
+    {elements::iodine, "I"},    {elements::lead, "Pb"},
+};
+
+constexpr bool areNamedRight()
+{
+    for (const Named& one : named) {
+        if (rows[one.element - 1].symbol != one.symbol) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(areNamedRight(), "a name stands for its element");
 
 // A symbol is a capital letter and, but for the shortest, a small one.
 constexpr std::size_t letters = 26;
@@ -198,6 +227,14 @@ static_assert(indexOfSymbols[noPlace] == 0, "every symbol has a place of its own
 const ElementRow& element(int atomicNumber)
 {
     return rows[atomicNumber - 1];
+}
+
+std::string shownMass(const ElementRow& row)
+{
+    if (row.isMassNumber) {
+        return "[" + std::to_string(row.thousandths / 1000) + "]";
+    }
+    return plainText(roundedTo(ratio(row.thousandths, 1000), 4));
 }
 
 const ElementRow* findElement(std::string_view symbol)

@@ -149,6 +149,11 @@ bool hasRomanNumeral(const IonRow& ion)
     return ion.oxidationNumber != 0;
 }
 
+const ElementRow* elementOf(const IonRow& ion)
+{
+    return ion.isGroup ? nullptr : findElement(ion.formula);
+}
+
 std::string chargeText(const IonRow& ion)
 {
     const int size = std::abs(ion.charge);

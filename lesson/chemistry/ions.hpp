@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "lesson/chemistry/elements.hpp"
 #include "lesson/chemistry/ids.hpp"
 
 namespace lesson
@@ -96,6 +97,9 @@ const IonRow* findIon(std::string_view name);
 std::string nameInFull(const IonRow& ion);
 // Whether this tells an oxidation number, by a Roman numeral; of a cation that is its charge.
 bool hasRomanNumeral(const IonRow& ion);
+
+// The element of an ion of one atom; null for a group.
+const ElementRow* elementOf(const IonRow& ion);
 
 // The charge as it stands behind a formula: "+", "2-".
 std::string chargeText(const IonRow& ion);

@@ -1,6 +1,9 @@
 #include "lesson/chemistry/substances.hpp"
 
 #include <iterator>
+#include <string_view>
+
+#include "lesson/chemistry/acids_and_bases.hpp"
 
 namespace lesson
 {
@@ -8,59 +11,113 @@ namespace lesson
 namespace
 {
 
-// clang-format off
 constexpr int everyday = 36; // as of sodium chloride
 
-constexpr SubstanceRow moleculeRows[] = {
-    {"H2O",     "water",             "", everyday},
-    {"CO2",     "carbon dioxide",    "", everyday},
-    {"NH3",     "ammonia",           "", everyday},
-    {"CH4",     "methane",           "", everyday},
-    {"SO2",     "sulfur dioxide",    "", everyday},
-    {"C2H5OH",  "ethanol",           "", everyday},
-    {"C6H12O6", "glucose",           "", everyday},
-    {"H2O2",    "hydrogen peroxide", "", everyday},
-    {"HNO3",    "nitric acid",       "", everyday},
-    {"H2SO4",   "sulfuric acid",     "", everyday},
+struct MoleculeRow {
+    std::string_view formula;
+    std::string_view name;
 };
-static_assert(std::size(moleculeRows) == 10);
+
+struct CrystalRow {
+    Ion cation; // hydrogen of an acid
+    Ion anion;
+    int water;
+    int weight;
+};
+
+// clang-format off
+constexpr MoleculeRow moleculeRows[] = {
+    {"H2O",     "water"},
+    {"CO2",     "carbon dioxide"},
+    {"NH3",     "ammonia"},
+    {"CH4",     "methane"},
+    {"SO2",     "sulfur dioxide"},
+    {"C2H5OH",  "ethanol"},
+    {"C6H12O6", "glucose"},
+    {"H2O2",    "hydrogen peroxide"},
+};
+constexpr Acid acidsOfMolecules[] = {Acid::nitric, Acid::sulfuric};
 
 // 6 where many have grown or heated the crystals, 4 where they are weighed for a solution that is
 // often made, 2 or 3 where they are met now and then, 1 where they are rare.
-constexpr SubstanceRow crystalRows[] = {
-    {"CuSO4.5H2O",     "copper(II) sulfate pentahydrate",   "", 6}, // grown, and heated white
-    {"MgSO4.7H2O",     "magnesium sulfate heptahydrate",    "", 6}, // Epsom salt, heated to constant mass
-    {"Na2CO3.10H2O",   "sodium carbonate decahydrate",      "", 6}, // washing soda
-    {"CaSO4.2H2O",     "calcium sulfate dihydrate",         "", 6}, // gypsum
-    {"FeSO4.7H2O",     "iron(II) sulfate heptahydrate",     "", 4}, // iron tablets
-    {"ZnSO4.7H2O",     "zinc sulfate heptahydrate",         "", 4}, // for cells
-    {"Na2S2O3.5H2O",   "sodium thiosulfate pentahydrate",   "", 4}, // for iodine
-    {"H2C2O4.2H2O",    "ethanedioic acid dihydrate", "oxalic acid dihydrate", 4}, // for titrations
-    {"Na2SO4.10H2O",   "sodium sulfate decahydrate",        "", 3}, // Glauber's salt
-    {"BaCl2.2H2O",     "barium chloride dihydrate",         "", 3}, // the test for sulfate
-    {"CoCl2.6H2O",     "cobalt(II) chloride hexahydrate",   "", 3}, // the test for water
-    {"CaCl2.2H2O",     "calcium chloride dihydrate",        "", 3}, // for drying
-    {"FeCl3.6H2O",     "iron(III) chloride hexahydrate",    "", 3}, // for etching
-    {"MgCl2.6H2O",     "magnesium chloride hexahydrate",    "", 2}, // of the sea
-    {"CuCl2.2H2O",     "copper(II) chloride dihydrate",     "", 2}, // for electrolysis
-    {"Cu(NO3)2.3H2O",  "copper(II) nitrate trihydrate",     "", 2},
-    {"Ca(NO3)2.4H2O",  "calcium nitrate tetrahydrate",      "", 1},
-    {"NiSO4.6H2O",     "nickel(II) sulfate hexahydrate",    "", 1},
+constexpr CrystalRow crystalRows[] = {
+    {Ion::copper2,   Ion::sulfate,       5, 6}, // grown, and heated white
+    {Ion::magnesium, Ion::sulfate,       7, 6}, // Epsom salt, heated to constant mass
+    {Ion::sodium,    Ion::carbonate,    10, 6}, // washing soda
+    {Ion::calcium,   Ion::sulfate,       2, 6}, // gypsum
+    {Ion::iron2,     Ion::sulfate,       7, 4}, // iron tablets
+    {Ion::zinc,      Ion::sulfate,       7, 4}, // for cells
+    {Ion::sodium,    Ion::thiosulfate,   5, 4}, // for iodine
+    {Ion::hydrogen,  Ion::ethanedioate,  2, 4}, // for titrations
+    {Ion::sodium,    Ion::sulfate,      10, 3}, // Glauber's salt
+    {Ion::barium,    Ion::chloride,      2, 3}, // the test for sulfate
+    {Ion::cobalt2,   Ion::chloride,      6, 3}, // the test for water
+    {Ion::calcium,   Ion::chloride,      2, 3}, // for drying
+    {Ion::iron3,     Ion::chloride,      6, 3}, // for etching
+    {Ion::magnesium, Ion::chloride,      6, 2}, // of the sea
+    {Ion::copper2,   Ion::chloride,      2, 2}, // for electrolysis
+    {Ion::copper2,   Ion::nitrate,       3, 2},
+    {Ion::calcium,   Ion::nitrate,       4, 1},
+    {Ion::nickel2,   Ion::sulfate,       6, 1},
 };
 static_assert(std::size(crystalRows) == 18);
 // clang-format on
+
+SubstanceRow withWater(const SubstanceRow& dry, int water)
+{
+    return {hydrateFormula(dry.formula, water), hydrateName(dry.name, water),
+            dry.american.empty() ? "" : hydrateName(dry.american, water), dry.weight};
+}
+
+SubstanceRow substanceOf(const AcidRow& acid, int weight)
+{
+    return {std::string(acid.formula), std::string(acid.name), std::string(acid.american), weight};
+}
+
+SubstanceRow substanceOf(const CrystalRow& row)
+{
+    const IonRow& cation = rowOf(row.cation);
+    const IonRow& anion = rowOf(row.anion);
+    if (row.cation == Ion::hydrogen) {
+        return withWater(substanceOf(*findAcid(row.anion), row.weight), row.water);
+    }
+    return withWater({compoundFormula(cation, anion), compoundName(cation, anion),
+                      americanName(cation, anion), row.weight},
+                     row.water);
+}
+
+std::vector<SubstanceRow> everyMolecule()
+{
+    std::vector<SubstanceRow> all;
+    for (const MoleculeRow& row : moleculeRows) {
+        all.push_back({std::string(row.formula), std::string(row.name), "", everyday});
+    }
+    for (const Acid acid : acidsOfMolecules) {
+        all.push_back(substanceOf(rowOf(acid), everyday));
+    }
+    return all;
+}
+
+std::vector<SubstanceRow> everyCrystal()
+{
+    std::vector<SubstanceRow> all;
+    for (const CrystalRow& row : crystalRows) {
+        all.push_back(substanceOf(row));
+    }
+    return all;
+}
 
 } // namespace
 
 const std::vector<SubstanceRow>& molecules()
 {
-    static const std::vector<SubstanceRow> rows(std::begin(moleculeRows), std::end(moleculeRows));
+    static const std::vector<SubstanceRow> rows = everyMolecule();
     return rows;
 }
 
 const std::vector<SubstanceRow>& crystals()
 {
-    static const std::vector<SubstanceRow> rows(std::begin(crystalRows), std::end(crystalRows));
+    static const std::vector<SubstanceRow> rows = everyCrystal();
     return rows;
 }
 

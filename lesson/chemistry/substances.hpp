@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string_view>
+#include <string>
 #include <vector>
 
 namespace lesson
@@ -8,10 +8,10 @@ namespace lesson
 
 // A substance whose molar mass is asked for, besides the compounds of two ions.
 struct SubstanceRow {
-    std::string_view formula;
-    std::string_view name;
-    std::string_view american; // "oxalic acid dihydrate"; empty where that is the same
-    int weight;                // how common it is in comparison with others of its list
+    std::string formula;
+    std::string name;
+    std::string american; // "oxalic acid dihydrate"; empty where that is the same
+    int weight;           // how common it is in comparison with others of its list
 };
 
 // What is made of molecules. The weights compare with those of pairs of ions.

@@ -34,15 +34,28 @@ bool isNone(const Exercise& exercise)
     return answer != nullptr && answer->cation == nullptr;
 }
 
-// The key, and its formula in other orders: "CH3COO^-", "CH3CO2^-".
-Texts rightFormulas(std::string_view key)
+Texts rightIons(const IonRow& ion)
 {
-    const std::size_t place = std::min(key.find('^'), key.size());
-    Texts texts;
-    for (const std::string& spelling : spellingsOf(key.substr(0, place))) {
-        texts.push_back(spelling + std::string(key.substr(place)));
+    Texts texts = spellingsOf(ion);
+    for (std::string& text : texts) {
+        text += "^" + chargeText(ion);
     }
     return texts;
+}
+
+// The key, and its formula in other orders: "CH3COO^-", "CH3CO2^-".
+Texts rightFormulas(const Exercise& exercise)
+{
+    if (const auto* const ion = std::get_if<IonAnswer>(&exercise.answer)) {
+        return rightIons(*ion->ion);
+    }
+    if (const auto* const salt = std::get_if<FormulaAnswer>(&exercise.answer)) {
+        return spellingsOf(*salt->cation, *salt->anion);
+    }
+    if (const auto* const solid = std::get_if<PrecipitateAnswer>(&exercise.answer)) {
+        return spellingsOf(*solid->cation, *solid->anion);
+    }
+    return {exercise.key};
 }
 
 // What is said of a solid may be said of a precipitate.
@@ -66,7 +79,7 @@ Texts rightTexts(const Exercise& exercise)
         return {std::begin(noneWords), std::end(noneWords)};
     }
     Texts texts;
-    for (const std::string& right : rightFormulas(exercise.key)) {
+    for (const std::string& right : rightFormulas(exercise)) {
         addAll(texts, usualSpellings(right));
     }
     addAll(texts, rareSpellings(exercise.key));

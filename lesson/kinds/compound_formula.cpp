@@ -139,8 +139,8 @@ class Slips
 public:
     Slips(Exercise& target, const IonRow& positive, const IonRow& negative)
         : exercise(target), cation(positive), anion(negative),
-          right(spellingsOf(compoundFormula(positive, negative))),
-          first{std::string(cation.formula), cation.isGroup, cationsIn(cation, anion)},
+          right(spellingsOf(positive, negative)), first{std::string(cation.formula), cation.isGroup,
+                                                        cationsIn(cation, anion)},
           second{std::string(anion.formula), anion.isGroup, anionsIn(cation, anion)}
     {
     }
@@ -217,7 +217,7 @@ private:
         for (const Confusion* const other : confusionsOf(anion)) {
             const int common = std::gcd(cation.charge, other->charge);
             add({first.ion, first.isGroup, -other->charge / common},
-                {std::string(other->formula), isGroup(other->formula), cation.charge / common},
+                {std::string(other->formula), other->isGroup, cation.charge / common},
                 other->sentence);
         }
     }
@@ -225,7 +225,7 @@ private:
     void addOtherCations()
     {
         for (const Confusion* const other : confusionsOf(cation)) {
-            add({std::string(other->formula), isGroup(other->formula), first.times}, second,
+            add({std::string(other->formula), other->isGroup, first.times}, second,
                 other->sentence);
         }
     }
@@ -233,8 +233,7 @@ private:
     void addSymbols()
     {
         for (const std::string_view symbol : wrongSymbolsOf(cation)) {
-            add({std::string(symbol), cation.isGroup && isGroup(symbol), first.times}, second,
-                sentences::checkSymbol(symbol));
+            add({std::string(symbol), false, first.times}, second, sentences::checkSymbol(symbol));
         }
         for (const std::string_view symbol : wrongSymbolsOf(anion)) {
             add(first, {std::string(symbol), false, second.times}, sentences::checkSymbol(symbol));

@@ -112,7 +112,7 @@ struct Quantities {
 Quantities quantitiesOf(const Preparation& drawn)
 {
     const std::string_view weighed = drawn.substance->formula;
-    const std::string_view dissolved = withoutWater(weighed);
+    const std::string_view dissolved = drawn.substance->anhydrous;
     const GivenQuantity molarMass = givenMolarMass(weighed);
     return {givenMass(weighed, drawn.mass), drawn.isMolarMassTold ? molarMass : untold(molarMass),
             givenVolume("V", dissolved, drawn.volume),
@@ -169,11 +169,6 @@ std::vector<Ratio> answersWithRoundedMasses(const Preparation& drawn)
 Ratio answerFor(const Preparation& drawn, Ratio molarMass)
 {
     return drawn.asksForMass ? massOf(drawn, molarMass) : concentrationOf(drawn, molarMass);
-}
-
-std::string_view withoutWater(std::string_view formula)
-{
-    return formula.substr(0, formula.find('.'));
 }
 
 namespace

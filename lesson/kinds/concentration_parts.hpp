@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-#include "lesson/chemistry/solutions.hpp"
+#include "lesson/chemistry/solutes_and_ceilings.hpp"
 #include "lesson/exercise.hpp"
 #include "lesson/numbers/ratio.hpp"
 #include "lesson/words/spans.hpp"
@@ -27,9 +27,6 @@ struct Preparation {
 
 // The answer that another molar mass leads to.
 Ratio answerFor(const Preparation& drawn, Ratio molarMass);
-
-// A hydrate is weighed, but its salt is what is dissolved: "CuSO4.5H2O" -> "CuSO4".
-std::string_view withoutWater(std::string_view formula);
 
 // How it is worked out, `key` as the last step shows it.
 std::vector<Step> concentrationSolution(const Preparation& drawn, const Spans& key);

@@ -28,7 +28,7 @@ Numbers numbersOf(const Preparation& drawn)
 
 bool isHydrate(const Preparation& drawn)
 {
-    return withoutWater(drawn.substance->formula) != drawn.substance->formula;
+    return drawn.substance->kind == SoluteKind::hydrate;
 }
 
 Step molarMassStep(const Preparation& drawn)

@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "lesson/chemistry/acids_and_bases.hpp"
 #include "lesson/chemistry/composition.hpp"
 #include "lesson/kinds/dilution_parts.hpp"
 #include "lesson/kinds/kinds.hpp"
@@ -81,7 +80,7 @@ bool isAffordable(const Dilution& drawn)
 // Strong acid goes into water, never water into strong acid.
 bool isSafe(const Dilution& drawn)
 {
-    return drawn.asked != Asked::water || findAcid(drawn.solute->formula) == nullptr ||
+    return drawn.asked != Asked::water || drawn.solute->kind != SoluteKind::acid ||
            drawn.c1 <= ratio(2);
 }
 

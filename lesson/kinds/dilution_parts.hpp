@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "lesson/chemistry/solutions.hpp"
+#include "lesson/chemistry/solutes_and_ceilings.hpp"
 #include "lesson/exercise.hpp"
 #include "lesson/numbers/ratio.hpp"
 #include "lesson/words/spans.hpp"

@@ -238,7 +238,7 @@ const char* chargeHint(const IonRow& ion, const ElementRow& row)
 
 std::vector<Step> atomSolution(const IonRow& ion)
 {
-    const ElementRow& row = *findElement(ion.formula);
+    const ElementRow& row = *elementOf(ion);
     const Spans symbol = ion.charge < 0
                              ? line(capitalised(nameOf(ion)), " is an ion of ", nameOf(row), ".")
                              : line("Take the symbol of ", nameOf(row), ".");
@@ -340,7 +340,7 @@ void addFormulas(Exercise& exercise, const IonRow& ion, const std::vector<std::s
 std::vector<std::string> rightTexts(const IonRow& ion)
 {
     std::vector<std::string> texts;
-    for (const std::string& spelling : spellingsOf(ion.formula)) {
+    for (const std::string& spelling : spellingsOf(ion)) {
         texts.push_back(textOf(spelling, ion.charge));
     }
     return texts;

@@ -47,8 +47,7 @@ Substance substanceOf(const Pair& pair)
 
 Substance substanceOf(const SubstanceRow& row)
 {
-    return {std::string(row.formula), std::string(row.name), std::string(row.american), row.weight,
-            compositionOf(row.formula)};
+    return {row.formula, row.name, row.american, row.weight, compositionOf(row.formula)};
 }
 
 // Level 1 has molecules and the salts without a bracket, level 2 the salts with one, level 3
@@ -96,7 +95,7 @@ Spans countTerm(AtomCount atom)
 
 Spans massTerm(AtomCount atom)
 {
-    const Span mass = number(std::string(element(atom.element).shown));
+    const Span mass = number(shownMass(element(atom.element)));
     return atom.count == 1 ? line(mass) : line(number(std::to_string(atom.count)), "(", mass, ")");
 }
 
@@ -188,12 +187,12 @@ std::vector<Step> workedSolution(const Exercise& exercise, const Substance& draw
 
 // What boards print besides a mass of the table rounded.
 struct PrintedMass {
-    std::string_view symbol;
+    int element;
     int thousandths;
 };
 constexpr PrintedMass alsoPrinted[] = {
-    {"H", 1010},
-    {"S", 32070},
+    {elements::hydrogen, 1010},
+    {elements::sulfur, 32070},
 };
 
 // The two neighbours where it is halfway.
@@ -214,11 +213,11 @@ std::vector<int> printedMasses(const ElementRow& row)
 {
     std::vector<int> masses = {row.thousandths};
     addRounded(masses, row.thousandths, 100);
-    if (row.symbol != "Cl") {
+    if (row.number != elements::chlorine) {
         addRounded(masses, row.thousandths, 1000);
     }
     for (const PrintedMass& other : alsoPrinted) {
-        if (other.symbol == row.symbol) {
+        if (other.element == row.number) {
             masses.push_back(other.thousandths);
         }
     }

@@ -28,7 +28,9 @@ constexpr std::string_view oneAtom = "In a compound each symbol is one atom.";
 constexpr std::string_view relativeMasses = "Use the relative masses, not the atomic numbers.";
 constexpr std::string_view countHydrogen = "Count the hydrogen atoms again.";
 
-constexpr int hydrogen = 1;
+// Elements of molecules of two atoms, but hydrogen, which has a slip of its own.
+constexpr int twoByThemselves[] = {elements::fluorine, elements::chlorine, elements::bromine,
+                                   elements::iodine,   elements::oxygen,   elements::nitrogen};
 
 // A number in a formula: where its digits begin and end.
 struct Run {
@@ -213,9 +215,8 @@ private:
     void addMoleculesOfElements()
     {
         for (const AtomCount atom : composition.atoms) {
-            const std::string_view symbol = element(atom.element).symbol;
-            if (symbol == "F" || symbol == "Cl" || symbol == "Br" || symbol == "I" ||
-                symbol == "O" || symbol == "N") {
+            if (std::find(std::begin(twoByThemselves), std::end(twoByThemselves), atom.element) !=
+                std::end(twoByThemselves)) {
                 add(massOf(composition.atoms) + massOf({atom}), oneAtom);
             }
         }
@@ -224,8 +225,8 @@ private:
     void addHydrogen()
     {
         for (const AtomCount atom : composition.atoms) {
-            if (atom.element == hydrogen) {
-                add(massOf(composition.atoms) - massOf({{hydrogen, 1}}), countHydrogen);
+            if (atom.element == elements::hydrogen) {
+                add(massOf(composition.atoms) - massOf({{elements::hydrogen, 1}}), countHydrogen);
             }
         }
     }

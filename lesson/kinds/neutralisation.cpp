@@ -282,7 +282,6 @@ Spans balanceFirst(const Equation& equation, const AcidRow& acid, const Base& ba
 // "H 12, S 3, Al 2, O 18", oxygen last.
 Spans countsOf(const Equation& equation)
 {
-    constexpr int oxygen = 8;
     Atoms counts;
     for (const auto& [coefficient, species] : equation.left) {
         const Atoms atoms = compositionOf(species).atoms;
@@ -299,7 +298,7 @@ Spans countsOf(const Equation& equation)
         }
     }
     std::stable_partition(counts.begin(), counts.end(),
-                          [](const AtomCount& count) { return count.element != oxygen; });
+                          [](const AtomCount& count) { return count.element != elements::oxygen; });
     Spans spans;
     for (const AtomCount& count : counts) {
         append(spans, line(spans.empty() ? "" : ", ", formula(element(count.element).symbol), " ",

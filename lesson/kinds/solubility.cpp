@@ -234,8 +234,10 @@ std::vector<Step> workedSolution(const Mixture& mixture)
 
 void addSlips(Exercise& exercise, const Mixture& mixture)
 {
+    const Pair& precipitate = mixture.exchanged[0];
     const std::vector<std::string> right =
-        hasPrecipitate(mixture) ? spellingsOf(exercise.key) : std::vector<std::string>();
+        hasPrecipitate(mixture) ? spellingsOf(*precipitate.cation, *precipitate.anion)
+                                : std::vector<std::string>();
     for (const Pair& pair : mixture.exchanged) {
         addSlip(exercise, right, formulaOf(pair),
                 "That one stays in solution. " + std::string(ruleOf(pair).sentence));

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "lesson/chemistry/equation.hpp"
-#include "lesson/chemistry/solutions.hpp"
+#include "lesson/chemistry/solutes_and_ceilings.hpp"
 #include "lesson/chemistry/titrations.hpp"
 #include "lesson/exercise.hpp"
 #include "lesson/numbers/ratio.hpp"

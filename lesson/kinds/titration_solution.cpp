@@ -15,7 +15,7 @@ namespace
 // Ammonia rather than ammonia solution, where moles of it are told.
 Span soluteOf(const SoluteRow& solution)
 {
-    return solution.formula == "NH3" ? name("ammonia") : nameOf(solution);
+    return solution.kind == SoluteKind::ammonia ? name("ammonia") : nameOf(solution);
 }
 
 // What an acid and such a base make.

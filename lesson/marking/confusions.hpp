@@ -13,14 +13,12 @@ struct Confusion {
     Ion of;
     std::string_view formula; // of the other one, without its charge
     int charge;               // of the other one; of a molecule that of the ion
+    bool isGroup;             // of several atoms
     std::string_view sentence;
 };
 
 // The commoner ones first.
 std::vector<const Confusion*> confusionsOf(const IonRow& ion);
-
-// Whether a formula without its charge is a group of atoms: "HSO4", "OH", not "Cl".
-bool isGroup(std::string_view formula);
 
 // Whether the metal of an ion has compounds with this charge beside that of the ion, as lead(II)
 // has some with 4+.

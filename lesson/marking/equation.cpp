@@ -24,9 +24,6 @@ namespace lesson
 namespace
 {
 
-constexpr int hydrogen = 1;
-constexpr int oxygen = 8;
-
 // ---- The substances are not the right ones
 
 bool standsFor(const std::vector<Extra>& extras, const Role& role)
@@ -195,13 +192,12 @@ std::vector<int> elementsToCount(const Roles& roles)
     std::vector<int> elements;
     for (const std::string_view formula : {salt.cation->formula, salt.anion->formula}) {
         for (const AtomCount& atom : atomsOf(formula)) {
-            if (atom.element != hydrogen && atom.element != oxygen) {
+            if (atom.element != elements::hydrogen && atom.element != elements::oxygen) {
                 elements.push_back(atom.element);
             }
         }
     }
-    constexpr int carbon = 6;
-    elements.insert(elements.end(), {carbon, hydrogen, oxygen});
+    elements.insert(elements.end(), {elements::carbon, elements::hydrogen, elements::oxygen});
     return elements;
 }
 

@@ -21,8 +21,6 @@ namespace lesson
 namespace
 {
 
-constexpr int hydrogen = 1;
-
 // ---- A formula as ions
 
 struct IonsIn {
@@ -44,7 +42,7 @@ std::optional<IonsIn> ionsIn(const Atoms& atoms, const IonRow& cation, const Ion
     const Atoms ofCation = atomsOf(cation.formula);
     const Atoms ofAnion = atomsOf(anion.formula);
     const auto marker = std::find_if(ofAnion.begin(), ofAnion.end(), [&](const AtomCount& atom) {
-        return atom.element != hydrogen && countOf(ofCation, atom.element) == 0;
+        return atom.element != elements::hydrogen && countOf(ofCation, atom.element) == 0;
     });
     const int anions = countOf(atoms, marker->element) / marker->count;
     const AtomCount own = ofCation.back();
@@ -55,7 +53,8 @@ std::optional<IonsIn> ionsIn(const Atoms& atoms, const IonRow& cation, const Ion
                cations * countOf(ofCation, element);
     };
     const auto fits = [&left](const AtomCount& atom) {
-        return atom.element == hydrogen ? left(hydrogen) >= 0 : left(atom.element) == 0;
+        return atom.element == elements::hydrogen ? left(elements::hydrogen) >= 0
+                                                  : left(atom.element) == 0;
     };
     const bool isAll = std::all_of(atoms.begin(), atoms.end(), fits) &&
                        std::all_of(ofAnion.begin(), ofAnion.end(), fits) &&
@@ -63,7 +62,7 @@ std::optional<IonsIn> ionsIn(const Atoms& atoms, const IonRow& cation, const Ion
     if (anions < 1 || cations < 1 || !isAll) {
         return std::nullopt;
     }
-    return IonsIn{cations, anions, left(hydrogen)};
+    return IonsIn{cations, anions, left(elements::hydrogen)};
 }
 
 bool isAcidSalt(const IonsIn& ions, const IonRow& cation, const IonRow& anion)
@@ -135,7 +134,7 @@ std::string withoutBrackets(std::string text)
 
 bool isBracketMissing(const TypedTerm& term, const Role& role)
 {
-    const std::vector<std::string> spellings = spellingsOf(role.formula);
+    const std::vector<std::string> spellings = spellingsOf(*role.cation, *role.anion);
     return std::any_of(spellings.begin(), spellings.end(), [&term](const std::string& spelling) {
         return spelling != term.formula.text && withoutBrackets(spelling) == term.formula.text;
     });
@@ -257,8 +256,8 @@ std::optional<Extra> misspeltMolecule(const TermOnSide& typed, const Role& role)
 // Who writes a salt for the acid, or the acid for a salt, took no symbol for another.
 std::string wrongSymbolIn(const TypedFormula& formula, const Role& role)
 {
-    const std::string wrong = wrongSymbol(formula.simplest, spellingsOf(role.formula));
-    const bool hasHydrogen = countOf(formula.atoms, hydrogen) > 0;
+    const std::string wrong = wrongSymbol(formula.simplest, spellingsOf(*role.cation, *role.anion));
+    const bool hasHydrogen = countOf(formula.atoms, elements::hydrogen) > 0;
     return wrong == "H" || (role.noun == "acid" && !hasHydrogen) ? "" : wrong;
 }
 

@@ -85,14 +85,6 @@ Atoms atomsOf(std::string_view formula)
     return atoms;
 }
 
-int countOf(const Atoms& atoms, int element)
-{
-    const auto found = std::find_if(atoms.begin(), atoms.end(), [element](const AtomCount& atom) {
-        return atom.element == element;
-    });
-    return found == atoms.end() ? 0 : found->count;
-}
-
 Roles rolesOf(const EquationAnswer& answer)
 {
     const Equation equation = neutralisationOf(*answer.acid, answer.base);

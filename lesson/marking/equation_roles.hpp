@@ -49,8 +49,6 @@ inline const Role& saltOf(const Roles& roles)
 
 // Of a formula of the tables, by atomic number.
 Atoms atomsOf(std::string_view formula);
-// How many of one element, 0 where there are none.
-int countOf(const Atoms& atoms, int element);
 
 bool isSpelledRightButForCapitals(const TypedTerm& term, const Role& role);
 

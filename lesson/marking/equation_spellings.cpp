@@ -30,19 +30,21 @@ constexpr OtherSpelling otherSpellings[] = {
     {"CH3COOH", "COOHCH3"}, {"CH3COOH", "C2H3OOH"}, {"CH3COOH", "H4C2O2"}, {"CH3COOH", "C2O2H4"},
     {"H2C2O4", "(COOH)2"}, {"H2C2O4", "HOOCCOOH"}, {"H2C2O4", "HO2CCO2H"}, {"H2C2O4", "C2H2O4"},
 };
-constexpr OtherSpelling otherIons[] = {
-    {"HCO3", "CO3H"}, {"NH4", "H4N"}, {"C2O4", "OOCCOO"}, {"C2O4", "O2CCO2"},
+struct OtherSpellingOfIon {
+    Ion ion;
+    std::string_view typed;
+};
+constexpr OtherSpellingOfIon otherIons[] = {
+    {Ion::hydrogencarbonate, "CO3H"}, {Ion::ammonium, "H4N"},
+    {Ion::ethanedioate, "OOCCOO"}, {Ion::ethanedioate, "O2CCO2"},
 };
 // clang-format on
 
-constexpr int carbon = 6;
-constexpr int hydrogen = 1;
-
-std::vector<std::string> spellingsOfIon(std::string_view ion)
+std::vector<std::string> spellingsOfIon(const IonRow& ion)
 {
     std::vector<std::string> spellings = spellingsOf(ion);
-    for (const OtherSpelling& other : otherIons) {
-        if (other.formula == ion) {
+    for (const OtherSpellingOfIon& other : otherIons) {
+        if (other.ion == ion.id) {
             spellings.emplace_back(other.typed);
         }
     }
@@ -61,9 +63,9 @@ std::string repeated(const std::string& ion, bool isGroup, int times)
 std::string formulaForLists(Atoms atoms)
 {
     const auto place = [](const AtomCount& atom) {
-        return atom.element == carbon     ? std::string()
-               : atom.element == hydrogen ? std::string("0")
-                                          : std::string(element(atom.element).symbol);
+        return atom.element == elements::carbon     ? std::string()
+               : atom.element == elements::hydrogen ? std::string("0")
+                                                    : std::string(element(atom.element).symbol);
     };
     std::sort(atoms.begin(), atoms.end(),
               [&place](const AtomCount& a, const AtomCount& b) { return place(a) < place(b); });
@@ -78,9 +80,9 @@ void addOfIons(std::vector<std::string>& spellings, const IonRow& cation, const 
 {
     const int cations = cationsIn(cation, anion);
     const int anions = anionsIn(cation, anion);
-    for (const std::string& positive : spellingsOfIon(cation.formula)) {
+    for (const std::string& positive : spellingsOfIon(cation)) {
         const std::string first = repeated(positive, cation.isGroup, cations);
-        for (const std::string& negative : spellingsOfIon(anion.formula)) {
+        for (const std::string& negative : spellingsOfIon(anion)) {
             const std::string second = repeated(negative, anion.isGroup, anions);
             spellings.push_back(first + second);
             spellings.push_back(second + first);
@@ -93,8 +95,9 @@ void addOfIons(std::vector<std::string>& spellings, const IonRow& cation, const 
 std::vector<std::string> spellingsInEquation(std::string_view formula, const IonRow* cation,
                                              const IonRow* anion)
 {
-    std::vector<std::string> spellings = spellingsOf(formula);
+    std::vector<std::string> spellings = {std::string(formula)};
     if (cation != nullptr) {
+        spellings = spellingsOf(*cation, *anion);
         addOfIons(spellings, *cation, *anion);
         if (anion->id == Ion::ethanoate) {
             spellings.push_back(formulaForLists(compositionOf(formula).atoms));

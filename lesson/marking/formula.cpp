@@ -23,8 +23,6 @@ namespace lesson
 namespace
 {
 
-constexpr int oxygen = 8;
-
 // What was typed, and all that it is compared with.
 struct Attempt {
     const FormulaAnswer& answer;
@@ -53,13 +51,13 @@ std::string withoutBrackets(std::string text)
 bool hasOxygen(const Atoms& atoms)
 {
     return std::any_of(atoms.begin(), atoms.end(),
-                       [](AtomCount atom) { return atom.element == oxygen; });
+                       [](AtomCount atom) { return atom.element == elements::oxygen; });
 }
 
 Atoms withoutOxygen(Atoms atoms)
 {
     atoms.erase(std::remove_if(atoms.begin(), atoms.end(),
-                               [](AtomCount atom) { return atom.element == oxygen; }),
+                               [](AtomCount atom) { return atom.element == elements::oxygen; }),
                 atoms.end());
     return atoms;
 }
@@ -252,7 +250,7 @@ std::optional<Mark> chargesDoNotCancel(const Attempt& attempt)
 {
     const IonRow& cation = *attempt.answer.cation;
     const IonRow& anion = *attempt.answer.anion;
-    const Counts counts = countsIn(attempt.read.simplest, cation.formula, anion.formula);
+    const Counts counts = countsIn(attempt.read.simplest, written(cation), written(anion));
     if (counts.positive == 0) {
         return std::nullopt;
     }
@@ -268,16 +266,16 @@ std::optional<Mark> otherIon(const Attempt& attempt)
 {
     const IonRow& cation = *attempt.answer.cation;
     const IonRow& anion = *attempt.answer.anion;
-    const auto isMadeOf = [&](std::string_view positive, std::string_view negative) {
+    const auto isMadeOf = [&](const WrittenIon& positive, const WrittenIon& negative) {
         return countsIn(attempt.read.simplest, positive, negative).positive > 0;
     };
     for (const Confusion* const other : confusionsOf(anion)) {
-        if (isMadeOf(cation.formula, other->formula)) {
+        if (isMadeOf(written(cation), {other->formula, other->isGroup})) {
             return markOf(Verdict::slip, other->sentence);
         }
     }
     for (const Confusion* const other : confusionsOf(cation)) {
-        if (isMadeOf(other->formula, anion.formula)) {
+        if (isMadeOf({other->formula, other->isGroup}, written(anion))) {
             return markOf(Verdict::slip, other->sentence);
         }
     }
@@ -299,8 +297,8 @@ std::optional<Mark> otherOrder(const Attempt& attempt)
 {
     const IonRow& cation = *attempt.answer.cation;
     const IonRow& anion = *attempt.answer.anion;
-    const std::string reversed = repeated(anion.formula, anionsIn(cation, anion)) +
-                                 repeated(cation.formula, cationsIn(cation, anion));
+    const std::string reversed = repeated(written(anion), anionsIn(cation, anion)) +
+                                 repeated(written(cation), cationsIn(cation, anion));
     if (attempt.read.simplest == reversed) {
         return markOf(Verdict::slip, sentences::positiveFirst);
     }
@@ -381,7 +379,7 @@ Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
                        {},     {},    {},         {}};
     attempt.round = withRoundBraces(attempt.plain);
     attempt.read = readFormula(attempt.plain);
-    attempt.right = spellingsOf(compoundFormula(*answer.cation, *answer.anion));
+    attempt.right = spellingsOf(*answer.cation, *answer.anion);
     attempt.rightAtoms = readFormula(attempt.right.front()).atoms;
     for (const Rule rule : rules) {
         if (const std::optional<Mark> mark = rule(attempt)) {

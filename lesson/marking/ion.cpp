@@ -392,7 +392,7 @@ Mark markIon(const IonAnswer& answer, const std::vector<Slip>& slips, std::strin
     Attempt attempt = {*answer.ion, slips, typed, withoutBond(withChargeBehind(marked)),
                        {},          {},    {}};
     attempt.read = readIon(attempt.marked);
-    attempt.right = spellingsOf(answer.ion->formula);
+    attempt.right = spellingsOf(*answer.ion);
     attempt.rightAtoms = readFormula(answer.ion->formula).atoms;
     for (const Rule rule : rules) {
         if (const std::optional<Mark> mark = rule(attempt)) {

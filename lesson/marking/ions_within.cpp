@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "lesson/chemistry/compounds.hpp"
-#include "lesson/marking/confusions.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/text/scan.hpp"
 
@@ -23,7 +22,7 @@ struct Share {
 // Takes an ion away from the front in any of its spellings, as often as it comes.
 bool takeEach(std::string_view& rest, const Share& share)
 {
-    const std::vector<std::string> spellings = spellingsOf(share.ion.formula);
+    const std::vector<std::string> spellings = spellingsOf(share.ion);
     for (int i = 0; i < share.times; ++i) {
         if (std::none_of(spellings.begin(), spellings.end(),
                          [&rest](const std::string& one) { return take(rest, one); })) {
@@ -35,7 +34,7 @@ bool takeEach(std::string_view& rest, const Share& share)
 
 bool takeOnceOrEach(std::string_view& rest, const Share& share)
 {
-    return take(rest, repeated(share.ion.formula, share.times)) || takeEach(rest, share);
+    return take(rest, repeated(written(share.ion), share.times)) || takeEach(rest, share);
 }
 
 // At least one of them written each time.
@@ -51,14 +50,19 @@ bool isOneEachTime(std::string_view formula, const Share& first, const Share& se
 
 } // namespace
 
-std::string repeated(std::string_view ion, int times)
+WrittenIon written(const IonRow& ion)
 {
-    const std::string once(ion);
-    const std::string number = times == 1 ? "" : std::to_string(times);
-    return (isGroup(ion) && times > 1 ? "(" + once + ")" : once) + number;
+    return {ion.formula, ion.isGroup};
 }
 
-Counts countsIn(std::string_view formula, std::string_view cation, std::string_view anion)
+std::string repeated(const WrittenIon& ion, int times)
+{
+    const std::string once(ion.formula);
+    const std::string number = times == 1 ? "" : std::to_string(times);
+    return (ion.isGroup && times > 1 ? "(" + once + ")" : once) + number;
+}
+
+Counts countsIn(std::string_view formula, const WrittenIon& cation, const WrittenIon& anion)
 {
     constexpr int most = 9;
     for (int positive = 1; positive <= most; ++positive) {

@@ -10,15 +10,22 @@ namespace lesson
 
 // The ions that a formula is made of, in the spelling of `TypedFormula::simplest`.
 
-// An ion as often as it is asked, in brackets if it needs them: "SO4", 3 -> "(SO4)3".
-std::string repeated(std::string_view ion, int times);
+// An ion as it is written in a formula.
+struct WrittenIon {
+    std::string_view formula; // without the charge
+    bool isGroup;
+};
+WrittenIon written(const IonRow& ion);
+
+// As often as it is asked, in brackets if it needs them: "SO4", 3 -> "(SO4)3".
+std::string repeated(const WrittenIon& ion, int times);
 
 // How often each of two ions stands in a formula; none in one that is not made of them.
 struct Counts {
     int positive = 0;
     int negative = 0;
 };
-Counts countsIn(std::string_view formula, std::string_view cation, std::string_view anion);
+Counts countsIn(std::string_view formula, const WrittenIon& cation, const WrittenIon& anion);
 
 // Whether their compound has more than one of an ion that is a group.
 bool repeatsGroup(const IonRow& cation, const IonRow& anion);

@@ -1,16 +1,18 @@
 #include "lesson/marking/spellings.hpp"
 
+#include <iterator>
+
+#include "lesson/chemistry/compounds.hpp"
+
 namespace lesson
 {
 
 namespace
 {
 
-constexpr std::string_view ethanoate = "CH3COO";
-
 // Chemists write it from either end.
-constexpr std::string_view ethanoates[] = {ethanoate, "CH3CO2", "C2H3O2",   "H3CCOO", "H3CCO2",
-                                           "OOCCH3",  "O2CCH3", "CH3C(O)O", "H3C2O2"};
+constexpr std::string_view ethanoates[] = {"CH3COO", "CH3CO2", "C2H3O2",   "H3CCOO", "H3CCO2",
+                                           "OOCCH3", "O2CCH3", "CH3C(O)O", "H3C2O2"};
 
 std::string joined(std::string_view a, std::string_view b)
 {
@@ -46,29 +48,32 @@ void addBracketed(std::vector<std::string>& spellings, std::string_view partner,
 
 } // namespace
 
-std::vector<std::string> spellingsOf(std::string_view formula)
+std::vector<std::string> spellingsOf(const IonRow& ion)
 {
-    std::vector<std::string> spellings = {std::string(formula)};
-    if (formula == "OH") {
+    std::vector<std::string> spellings = {std::string(ion.formula)};
+    if (ion.id == Ion::hydroxide) {
         spellings.emplace_back("HO");
     }
-    const std::size_t place = formula.find(ethanoate);
-    if (place == std::string_view::npos) {
+    if (ion.id == Ion::ethanoate) {
+        spellings.insert(spellings.end(), std::begin(ethanoates), std::end(ethanoates));
+    }
+    return spellings;
+}
+
+std::vector<std::string> spellingsOf(const IonRow& cation, const IonRow& anion)
+{
+    std::vector<std::string> spellings = {compoundFormula(cation, anion)};
+    if (anion.id != Ion::ethanoate) {
         return spellings;
     }
-    const std::string_view before = formula.substr(0, place);
-    const std::string_view behind = formula.substr(place + ethanoate.size());
-    if (before.empty() && behind.empty()) {
-        spellings.insert(spellings.end(), std::begin(ethanoates), std::end(ethanoates));
-    } else if (before.empty()) {
-        addPaired(spellings, behind);
-        if (behind == "H") { // the acid
-            spellings.emplace_back("C2H4O2");
-        }
-    } else if (behind.empty()) {
-        addPaired(spellings, before);
-    } else {
-        addBracketed(spellings, before.substr(0, before.size() - 1), behind.substr(1));
+    const int several = anionsIn(cation, anion);
+    if (several > 1) {
+        addBracketed(spellings, cation.formula, std::to_string(several));
+        return spellings;
+    }
+    addPaired(spellings, cation.formula);
+    if (cation.id == Ion::hydrogen) {
+        spellings.emplace_back("C2H4O2");
     }
     return spellings;
 }

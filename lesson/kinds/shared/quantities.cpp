@@ -1,6 +1,5 @@
 #include "lesson/kinds/shared/quantities.hpp"
 
-#include <algorithm>
 #include <utility>
 
 #include "lesson/chemistry/composition.hpp"
@@ -16,14 +15,6 @@ std::string withDecimals(Ratio value, int decimals)
 {
     const Ratio lastPlaces = value * powerOfTen(decimals);
     return plainText({lastPlaces.numerator / lastPlaces.denominator, -decimals});
-}
-
-// Some come only as solutions, and their names mean them.
-bool isNamedAsSolution(const SoluteRow& solute)
-{
-    const auto isSame = [&solute](const SoluteRow& acid) { return acid.formula == solute.formula; };
-    return solute.formula == "NH3" ||
-           std::any_of(acidSolutions().begin(), acidSolutions().end(), isSame);
 }
 
 } // namespace
@@ -73,17 +64,18 @@ Spans told(const GivenQuantity& given)
 
 Span nameOf(const SoluteRow& solute)
 {
-    return name(std::string(solute.name), std::string(solute.american));
+    return name(solute.name, solute.american);
 }
 
 Spans solutionOf(const SoluteRow& solute)
 {
-    return isNamedAsSolution(solute) ? line(nameOf(solute)) : line(nameOf(solute), " solution");
+    return solute.weighed == Weighed::comesDissolved ? line(nameOf(solute))
+                                                     : line(nameOf(solute), " solution");
 }
 
 GivenCompound givenCompound(const SoluteRow& solute)
 {
-    return {std::string(solute.formula), std::string(solute.name)};
+    return {solute.formula, solute.name};
 }
 
 Ratio litres(int millilitres)

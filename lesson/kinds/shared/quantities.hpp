@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "lesson/chemistry/solutions.hpp"
+#include "lesson/chemistry/solutes_and_ceilings.hpp"
 #include "lesson/exercise.hpp"
 #include "lesson/marking/number.hpp"
 #include "lesson/numbers/decimal.hpp"

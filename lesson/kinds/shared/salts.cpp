@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "lesson/chemistry/composition.hpp"
+#include "lesson/chemistry/elements.hpp"
 #include "lesson/text/scan.hpp"
 
 namespace lesson
@@ -123,16 +125,13 @@ std::vector<std::string_view> wrongSymbolsOf(const IonRow& ion)
 
 std::string withOxygens(const IonRow& ion, int more)
 {
-    std::string formula(ion.formula);
-    const std::size_t size = formula.size();
-    if (size < 2 || formula[size - 2] != 'O' || formula[size - 1] > '9') {
+    const int oxygens = countOf(compositionOf(ion.formula).atoms, elements::oxygen);
+    const std::string ending = "O" + std::to_string(oxygens);
+    if (!endsWith(ion.formula, ending)) {
         return "";
     }
-    formula.back() = static_cast<char>(formula.back() + more);
-    if (formula.back() == '1') {
-        formula.pop_back();
-    }
-    return formula;
+    const std::string before(ion.formula.substr(0, ion.formula.size() - ending.size()));
+    return before + (oxygens + more == 1 ? "O" : "O" + std::to_string(oxygens + more));
 }
 
 } // namespace lesson

@@ -10,7 +10,7 @@
 
 #include "lesson/chemistry/composition.hpp"
 #include "lesson/chemistry/elements.hpp"
-#include "lesson/chemistry/solutions.hpp"
+#include "lesson/chemistry/solutes_and_ceilings.hpp"
 
 namespace lesson
 {

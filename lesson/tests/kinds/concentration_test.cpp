@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "lesson/chemistry/composition.hpp"
-#include "lesson/chemistry/solutions.hpp"
+#include "lesson/chemistry/solutes_and_ceilings.hpp"
 #include "lesson/tests/support/calculation.hpp"
 
 namespace lesson

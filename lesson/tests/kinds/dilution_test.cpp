@@ -8,7 +8,7 @@
 
 #include "lesson/chemistry/acids_and_bases.hpp"
 #include "lesson/chemistry/composition.hpp"
-#include "lesson/chemistry/solutions.hpp"
+#include "lesson/chemistry/solutes_and_ceilings.hpp"
 #include "lesson/tests/support/calculation.hpp"
 
 namespace lesson

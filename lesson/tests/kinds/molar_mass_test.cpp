@@ -11,7 +11,7 @@
 
 #include "lesson/chemistry/elements.hpp"
 #include "lesson/chemistry/pairs_not_asked.hpp"
-#include "lesson/chemistry/solutions.hpp"
+#include "lesson/chemistry/solutes_and_ceilings.hpp"
 #include "lesson/tests/support/calculation.hpp"
 #include "support/atom_count.hpp"
 
@@ -38,7 +38,7 @@ long double massOf(const std::string& formula, int decimals = 3)
     const long double scale = std::pow(10.0L, decimals);
     long double mass = 0;
     for (const auto& [symbol, count] : atomsOf(formula)) {
-        const std::string shown(findElement(symbol)->shown);
+        const std::string shown = shownMass(*findElement(symbol));
         mass += count * std::round(std::strtold(shown.c_str(), nullptr) * scale) / scale;
     }
     return mass;

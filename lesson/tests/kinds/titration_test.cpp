@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "lesson/chemistry/solutions.hpp"
+#include "lesson/chemistry/solutes_and_ceilings.hpp"
 #include "lesson/tests/support/calculation.hpp"
 #include "support/atom_count.hpp"
 

@@ -1,10 +1,15 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
+#include "lesson/chemistry/acids_and_bases.hpp"
+
 namespace lesson
 {
+
+enum class SoluteKind { salt, hydrate, acid, ammonia }; // an alkali is among the salts
 
 // How a substance is weighed for a solution. Most salts come as they are. Of those that are sold as
 // hydrates the one without water is called anhydrous; some are never weighed without it, since it
@@ -12,19 +17,22 @@ namespace lesson
 enum class Weighed {
     asItIs,
     asAnhydrous,
-    never, // nor is what comes as a solution
+    never,
+    comesDissolved, // and its name means the solution
 };
 
 // A substance that is in solution in some exercise, and how much of it. What has no row is not
 // dissolved.
 struct SoluteRow {
-    std::string_view formula;
-    std::string_view name;     // "copper(II) sulfate pentahydrate", "hydrochloric acid"
-    std::string_view american; // "sodium acetate"; empty where that is the same
+    SoluteKind kind;
+    std::string formula;
+    std::string anhydrous; // the formula without water of crystallisation
     int ceiling; // greatest concentration, in hundredths of mol/L; 0 where titrations have
                  // a range of their own
     Weighed weighed;
-    int greatestMass = 0; // to weigh, in hundredths of a gram; 0 where the ceiling says enough
+    int greatestMass;     // to weigh, in hundredths of a gram; 0 where the ceiling says enough
+    std::string name;     // "copper(II) sulfate pentahydrate", "hydrochloric acid"
+    std::string american; // "sodium acetate"; empty where that is the same
 };
 
 // Salts and alkalis whose solutions are diluted.

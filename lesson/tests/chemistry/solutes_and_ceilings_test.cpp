@@ -1,4 +1,4 @@
-#include "lesson/chemistry/solutions.hpp"
+#include "lesson/chemistry/solutes_and_ceilings.hpp"
 
 #include <gtest/gtest.h>
 
@@ -47,7 +47,7 @@ std::map<std::string, int> ceilingsOf(const std::vector<SoluteRow>& rows)
     return ceilings;
 }
 
-TEST(SolutionsTest, CeilingsAreThoseTypedOnceMore)
+TEST(SolutesTest, CeilingsAreThoseTypedOnceMore)
 {
     EXPECT_EQ(ceilingsOf(solutes()),
               ceilingsIn("4.00 LiOH NaOH KOH NaCl "
@@ -64,7 +64,7 @@ TEST(SolutionsTest, CeilingsAreThoseTypedOnceMore)
                          "2.00 CoCl2.6H2O MgSO4.7H2O ZnSO4.7H2O"));
 }
 
-TEST(SolutionsTest, SilverNitrateAloneHasAGreatestMass)
+TEST(SolutesTest, SilverNitrateAloneHasAGreatestMass)
 {
     for (const auto* const list : {&solutes(), &hydrates(), &acidSolutions(), &furtherTitrants()}) {
         for (const SoluteRow& row : *list) {
@@ -74,7 +74,7 @@ TEST(SolutionsTest, SilverNitrateAloneHasAGreatestMass)
 }
 
 // Each salt is a pair of ions that is asked, and is named by them.
-TEST(SolutionsTest, SaltsAreNamedByTheirIons)
+TEST(SolutesTest, SaltsAreNamedByTheirIons)
 {
     std::map<std::string, Pair> pairs;
     for (const Pair& pair : pairsForFormulas()) {
@@ -90,7 +90,7 @@ TEST(SolutionsTest, SaltsAreNamedByTheirIons)
 }
 
 // What is dissolved does dissolve, wherever that is asked elsewhere.
-TEST(SolutionsTest, SaltsAreSolubleByTheRules)
+TEST(SolutesTest, SaltsAreSolubleByTheRules)
 {
     int asked = 0;
     for (const Pair& pair : pairsForSolubility()) {
@@ -103,7 +103,7 @@ TEST(SolutionsTest, SaltsAreSolubleByTheRules)
     EXPECT_GT(asked, 40);
 }
 
-TEST(SolutionsTest, HydratesAreTheirSaltsWithWater)
+TEST(SolutesTest, HydratesAreTheirSaltsWithWater)
 {
     const std::map<int, std::string> waters = {{2, "dihydrate"},
                                                {5, "pentahydrate"},
@@ -121,7 +121,7 @@ TEST(SolutionsTest, HydratesAreTheirSaltsWithWater)
     }
 }
 
-TEST(SolutionsTest, AcidsAndAmmoniaHaveTheNamesOfASchoolBoard)
+TEST(SolutesTest, AcidsAndAmmoniaHaveTheNamesOfASchoolBoard)
 {
     const std::map<std::string, std::pair<std::string, std::string>> expected = {
         {"HCl", {"hydrochloric acid", ""}},
@@ -140,7 +140,34 @@ TEST(SolutionsTest, AcidsAndAmmoniaHaveTheNamesOfASchoolBoard)
     }
 }
 
-TEST(SolutionsTest, OthersAreNotFound)
+// What is weighed as a hydrate is dissolved as its salt; only solutions that are sold as such have
+// a name of their own.
+TEST(SolutesTest, EachIsOfItsKind)
+{
+    const struct {
+        const char* formula;
+        SoluteKind kind;
+        const char* anhydrous;
+        Weighed weighed;
+    } rows[] = {
+        {"NaCl", SoluteKind::salt, "NaCl", Weighed::asItIs},
+        {"FeCl3", SoluteKind::salt, "FeCl3", Weighed::never},
+        {"CuSO4", SoluteKind::salt, "CuSO4", Weighed::asAnhydrous},
+        {"CuSO4.5H2O", SoluteKind::hydrate, "CuSO4", Weighed::asItIs},
+        {"HCl", SoluteKind::acid, "HCl", Weighed::comesDissolved},
+        {"H2C2O4", SoluteKind::acid, "H2C2O4", Weighed::never},
+        {"NH3", SoluteKind::ammonia, "NH3", Weighed::comesDissolved},
+    };
+    for (const auto& row : rows) {
+        const SoluteRow* const solute = findSolute(row.formula);
+        ASSERT_NE(solute, nullptr) << row.formula;
+        EXPECT_EQ(solute->kind, row.kind) << row.formula;
+        EXPECT_EQ(solute->anhydrous, row.anhydrous) << row.formula;
+        EXPECT_EQ(solute->weighed, row.weighed) << row.formula;
+    }
+}
+
+TEST(SolutesTest, OthersAreNotFound)
 {
     for (const char* formula : {"", "AgCl", "CuSO4.7H2O", "H3PO4", "nacl", "NH4OH", "NaCl "}) {
         EXPECT_EQ(findSolute(formula), nullptr) << "'" << formula << "'";
