@@ -6,6 +6,9 @@ import { resolve } from "node:path";
 import { pathToFileURL } from "node:url";
 import { gzipSync } from "node:zlib";
 
+/** @typedef {import("playwright-core").Browser} Browser */
+/** @typedef {import("playwright-core").Page} Page */
+
 const [page, lesson] = process.argv.slice(2).map((path) => resolve(path));
 process.env.PAGE = page;
 process.env.LESSON = lesson;
@@ -59,7 +62,7 @@ function tellWhenShown() {
     watch.observe(document, { childList: true, subtree: true });
 }
 
-async function coldStart(url, slowness = 1) {
+async function coldStart(/** @type {string} */ url, slowness = 1) {
     const browser = await openChromium();
     const tab = await browser.newPage();
     await tab.addInitScript(tellWhenShown);
@@ -73,6 +76,7 @@ async function coldStart(url, slowness = 1) {
 
 // From the press of Check until the page is laid out with the mark.
 function markTime() {
+    /** @type {HTMLFormElement} */
     const form = document.querySelector(".exercise form");
     const from = performance.now();
     form.requestSubmit();
@@ -80,7 +84,7 @@ function markTime() {
     return performance.now() - from;
 }
 
-async function marks(browser, kind, exercise) {
+async function marks(/** @type {Browser} */ browser, /** @type {string} */ kind, exercise) {
     const tab = await browser.newPage();
     await tab.goto(`${address}#practice/1/1/${kind}`);
     await type(tab, exercise.slips[0]?.text ?? exercise.key.text);
@@ -104,11 +108,11 @@ async function allMarks() {
 }
 
 // A class set, 30 papers of 20 exercises with their keys, each time another one.
-const classSet = (turn) => `#sheet/${1 + 30 * turn}/7*concentration,7*dilution,6*titration?versions=30`;
+const classSet = (/** @type {number} */ turn) => `#sheet/${1 + 30 * turn}/7*concentration,7*dilution,6*titration?versions=30`;
 
 // From the press of a link to the sheet until a frame with its first pages has been made, and until one
 // with its last. Between the two the page is busy; so what tells of the first comes before its timers.
-function pressToFrames(hash) {
+function pressToFrames(/** @type {string} */ hash) {
     return new Promise((done) => {
         const from = performance.now();
         const main = document.querySelector("main");
@@ -149,7 +153,7 @@ function finishedPages(furtherStyle) {
 }
 
 // Each in a tab of its own, so that nothing is compiled or laid out yet.
-async function inNewTab(browser, work) {
+async function inNewTab(/** @type {Browser} */ browser, work) {
     const tab = await browser.newPage();
     try {
         return await work(tab);
@@ -158,7 +162,7 @@ async function inNewTab(browser, work) {
     }
 }
 
-async function madeSet(tab, turn) {
+async function madeSet(/** @type {Page} */ tab, /** @type {number} */ turn) {
     await tab.goto(`${address}#tables`);
     await tab.locator("h1").waitFor();
     await tab.waitForTimeout(settling);
@@ -168,7 +172,7 @@ async function madeSet(tab, turn) {
     return times;
 }
 
-async function savedSet(tab, file) {
+async function savedSet(/** @type {Page} */ tab, file) {
     await tab.addInitScript(tellWhenLoaded);
     await tab.waitForTimeout(settling);
     const [message] = await Promise.all([tab.waitForEvent("console"), tab.goto(pathToFileURL(file).href)]);
@@ -181,25 +185,25 @@ async function classSets() {
     const browser = await openChromium();
     const times = await inTurn(
         sets,
-        (turn) => inNewTab(browser, (tab) => madeSet(tab, turn)),
-        () => inNewTab(browser, (tab) => savedSet(tab, saved)),
-        () => inNewTab(browser, (tab) => savedSet(tab, savedLaidOut)),
+        (/** @type {number} */ turn) => inNewTab(browser, (/** @type {Page} */ tab) => madeSet(tab, turn)),
+        () => inNewTab(browser, (/** @type {Page} */ tab) => savedSet(tab, saved)),
+        () => inNewTab(browser, (/** @type {Page} */ tab) => savedSet(tab, savedLaidOut)),
     );
     await browser.close();
     return times;
 }
 
-function line(what, value) {
+function line(/** @type {string} */ what, value) {
     console.log(`${what.padEnd(46)} ${value.padStart(10)}`);
 }
 
-function timeLine(what, times) {
+function timeLine(/** @type {string} */ what, times) {
     const [least, most] = [Math.min(...times), Math.max(...times)];
     line(what, `${median(times).toFixed(1)} ms   (${least.toFixed(1)} to ${most.toFixed(1)})`);
 }
 
 // Of the medians, so that no disturbed turn weighs; the turns of both were taken one after the other.
-function ratioLine(what, times, others, goal = "") {
+function ratioLine(/** @type {string} */ what, times, others, goal = "") {
     line(what, `${(median(times) / median(others)).toFixed(2)}      ${goal}`);
 }
 

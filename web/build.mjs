@@ -33,7 +33,7 @@ await writeFile(target, page);
 
 // By fflate, whose bytes are the same with every version of Node. Under which name a script imports them, and
 // where they are.
-async function packed(name, file) {
+async function packed(/** @type {string} */ name, file) {
     const path = resolve(dirname(target), name);
     await writeFile(path, zlibSync(await readFile(file), { level: 9 }));
     return [name, path];
@@ -53,6 +53,6 @@ async function bundle(entry) {
     return result.outputFiles[0].text.trim().replaceAll("</script", "<\\/script").replaceAll("<!--", "<\\!--");
 }
 
-function hashOf(text) {
+function hashOf(/** @type {string} */ text) {
     return `sha256-${createHash("sha256").update(text).digest("base64")}`;
 }

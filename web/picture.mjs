@@ -26,7 +26,10 @@ await tab.goto(
 await tab.locator(".size:not(:empty)").waitFor();
 // The two pages alone, side by side.
 await tab.evaluate(() => {
-    document.querySelectorAll("header, .sheets, .outcome > :not(.leaves)").forEach((one) => (one.hidden = true));
+    /** @type {NodeListOf<HTMLElement>} */
+    const others = document.querySelectorAll("header, .sheets, .outcome > :not(.leaves)");
+    others.forEach((one) => (one.hidden = true));
+    /** @type {HTMLElement} */
     const box = document.querySelector(".leaves");
     box.style.setProperty("--mm", "0.75mm");
     Object.assign(box.style, {

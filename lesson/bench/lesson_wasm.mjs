@@ -23,7 +23,15 @@ const lesson = await loadLesson();
 const kinds = lesson.json("lesson_kinds").flatMap(({ kind }) => [1, 2, 3].map((n) => `${kind}:${n}`));
 console.log("kind                exercises/s    marks/s");
 for (const kind of [...kinds, "mixed"]) {
-    const exercises = aSecond(() => forEachExercise((paper, number) => lesson.bytes("lesson_exercise", paper, number, kind)));
-    const marks = aSecond(() => forEachExercise((paper, number) => lesson.bytes("lesson_mark", paper, number, kind, "0.0456")));
+    const exercises = aSecond(() =>
+        forEachExercise((/** @type {number} */ paper, /** @type {number} */ number) =>
+            lesson.bytes("lesson_exercise", paper, number, kind),
+        ),
+    );
+    const marks = aSecond(() =>
+        forEachExercise((/** @type {number} */ paper, /** @type {number} */ number) =>
+            lesson.bytes("lesson_mark", paper, number, kind, "0.0456"),
+        ),
+    );
     console.log(kind.padEnd(18), String(exercises).padStart(12), String(marks).padStart(10));
 }

@@ -63,7 +63,7 @@ for (const module of modules()) {
 
 test("no module imports itself by way of others", () => {
     const done = new Set();
-    const walk = (module, path) => {
+    const walk = (module, /** @type {string[]} */ path) => {
         assert.ok(!path.includes(module), [...path, module].join(" > "));
         if (!done.has(module)) {
             importsOf(module)

@@ -69,7 +69,7 @@ test("bad arguments of an export are told", async () => {
 
 test("exercises that are named by their numbers are the same in a file", async () => {
     const lesson = await loadLesson();
-    const fileOf = (sheet) => Buffer.from(lesson.bytes("lesson_export", 4821, sheet, "anki")).toString();
+    const fileOf = (/** @type {string} */ sheet) => Buffer.from(lesson.bytes("lesson_export", 4821, sheet, "anki")).toString();
     assert.equal(fileOf("ion-formula@1,ion-formula@2,ion-formula@3"), fileOf("3*ion-formula"));
     assert.notEqual(fileOf("ion-formula@2,ion-formula@1,ion-formula@3"), fileOf("3*ion-formula"));
 });
@@ -97,7 +97,7 @@ test("any typed text gets a mark", async () => {
 test("a zero is a character of what is typed, not its end", async () => {
     const lesson = await loadLesson();
     const { key } = lesson.json("lesson_exercise", 4821, 3, "titration:3");
-    const verdictOf = (typed) => lesson.json("lesson_mark", 4821, 3, "titration:3", typed).verdict;
+    const verdictOf = (/** @type {string} */ typed) => lesson.json("lesson_mark", 4821, 3, "titration:3", typed).verdict;
     assert.deepEqual([verdictOf(key.text), verdictOf(`${key.text}\0`)], ["correct", "unreadable"]);
 });
 

@@ -6,11 +6,13 @@ import axe from "axe-core";
 import { answerWith, press, states, verdicts } from "./states.mjs";
 import { announced, check, compareWithApproved, leave, openChromium, openLesson, openPage, reload, type } from "./support.mjs";
 
+/** @import { Page } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
-async function violations(page, options) {
+async function violations(/** @type {Page} */ page, options) {
     const results = await page.evaluate((more) => window.axe.run({ preload: false, resultTypes: ["violations"], ...more }), options);
     return results.violations.map(({ id, help, nodes }) => `${id}: ${help}: ${nodes.map((node) => node.html.slice(0, 150)).join(" | ")}`);
 }
@@ -58,7 +60,7 @@ const described = {
 };
 
 // By the browser's own tree, which is what a screen reader is given.
-async function fieldInTree(page) {
+async function fieldInTree(/** @type {Page} */ page) {
     const client = await page.context().newCDPSession(page);
     const { nodes } = await client.send("Accessibility.getFullAXTree");
     const field = nodes.find((node) => node.role?.value === "textbox" && !node.ignored);
@@ -97,7 +99,7 @@ const invalid = [
     { kind: "ion-formula:3", wrong: "Zz^+", right: null },
     { kind: "solubility:1", wrong: "no", right: "yes" },
 ];
-const answerField = (page) => page.locator("#answer, .answer[role=radiogroup]");
+const answerField = (/** @type {Page} */ page) => page.locator("#answer, .answer[role=radiogroup]");
 const descriptionOf = (field) =>
     field.evaluate((one) =>
         (one.getAttribute("aria-describedby") ?? "")

@@ -3,19 +3,23 @@ import assert from "node:assert/strict";
 import { after, test } from "node:test";
 import { leave, openChromium, opener, openLesson, openPage } from "./support.mjs";
 
+/** @import { Locator } from "playwright-core" */
+/** @import { Options, Page } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
-const hashOf = (page) => new URL(page.url()).hash;
-const button = (page, text) => page.getByRole("button", { name: text, exact: true });
-const boxOf = (page, title, level) =>
+const hashOf = (/** @type {Page} */ page) => new URL(page.url()).hash;
+const button = (/** @type {Page} */ page, /** @type {string} */ text) => page.getByRole("button", { name: text, exact: true });
+const boxOf = (/** @type {Page} */ page, /** @type {string} */ title, level) =>
     page.getByRole("group", { name: title, exact: true }).getByRole("checkbox", { name: new RegExp(`^Level ${level}`) });
-const isFocused = (locator) => locator.evaluate((element) => element === document.activeElement);
-const chosen = (page) => page.locator(".kinds input:checked").evaluateAll((all) => all.map((one) => one.value));
-const top = (locator) => locator.evaluate((element) => element.getBoundingClientRect().top);
+const isFocused = (/** @type {Locator} */ locator) => locator.evaluate((element) => element === document.activeElement);
+const chosen = (/** @type {Page} */ page) =>
+    page.locator(".kinds input:checked").evaluateAll((/** @type {HTMLInputElement[]} */ all) => all.map((one) => one.value));
+const top = (/** @type {Locator} */ locator) => locator.evaluate((element) => element.getBoundingClientRect().top);
 
-async function opened(hash, options) {
+async function opened(/** @type {string} */ hash, /** @type {Options} */ options = {}) {
     const page = await openPage(browser, hash, { reducedMotion: "reduce", ...options });
     await opener(page).click();
     return page;
@@ -70,11 +74,11 @@ test("the button stands between the head and the question, and what it opens too
 });
 
 test("opened it is in view, and fits a wide window", async () => {
-    for (const [viewport, most] of [
+    for (const [viewport, most] of /** @type {const} */ ([
         [{ width: 360, height: 740 }, 1.75],
         [{ width: 768, height: 1024 }, 1],
         [{ width: 1280, height: 800 }, 1],
-    ]) {
+    ])) {
         const page = await opened("#practice/4821/3/mixed", { viewport });
         const { y, height } = await page.getByRole("form", { name: "Choose exercises" }).boundingBox();
         assert.ok((await top(opener(page))) >= 0 && y <= 0.2 * viewport.height, `at ${viewport.width} it begins at ${y}`);
@@ -163,10 +167,10 @@ test("what is pressed with a finger is as large as one", async () => {
     const page = await opened("#practice/4821/3/mixed", { viewport: { width: 360, height: 740 }, isMobile: true, hasTouch: true });
     const small = await page
         .locator(".exercise > header button, .choice button, .choice .level, .choice select, #paper")
-        .evaluateAll((all) =>
+        .evaluateAll((/** @type {HTMLElement[]} */ all) =>
             all
-                .map((one) => [one.outerHTML.slice(0, 80), one.offsetWidth, one.offsetHeight])
-                .filter(([, width, height]) => width < 44 || height < 44),
+                .filter((one) => one.offsetWidth < 44 || one.offsetHeight < 44)
+                .map((one) => [one.outerHTML.slice(0, 80), one.offsetWidth, one.offsetHeight]),
         );
     assert.deepEqual(small, []);
     await page.locator(".level").first().tap();

@@ -19,9 +19,13 @@ function titresOf({ prompt }) {
 function levelDrawn() {
     const shape = document.querySelector(".titration svg");
     shape.scrollIntoView({ block: "center", behavior: "instant" });
-    shape.querySelectorAll(".glass").forEach((one) => one.style.setProperty("pointer-events", "none"));
-    const { y, height } = shape.querySelector(".marks").getBBox();
-    const { d, f } = shape.querySelector(".marks").getScreenCTM();
+    /** @type {NodeListOf<SVGElement>} */ (shape.querySelectorAll(".glass")).forEach((one) =>
+        one.style.setProperty("pointer-events", "none"),
+    );
+    /** @type {SVGGraphicsElement} */
+    const marks = shape.querySelector(".marks");
+    const { y, height } = marks.getBBox();
+    const { d, f } = marks.getScreenCTM();
     const onScale = (pixel) => (((pixel - f) / d - y) / height) * 50;
     const { left, right, top, bottom } = shape.querySelector(".burette .liquid").getBoundingClientRect();
     let pixel = top - 20;
@@ -95,6 +99,7 @@ test("titres are written with the reader's decimal sign and unit", async () => {
 function boxes() {
     const [burette, flask] = [".burette", ".flask"].map((one) => document.querySelector(`.titration ${one}`).getBoundingClientRect());
     const [first, second] = [...document.querySelectorAll(".titration .label")].map((one) => one.getBoundingClientRect());
+    /** @type {SVGTextElement} */
     const text = document.querySelector(".titration .reading");
     return {
         shapes: flask.top - burette.bottom,
@@ -138,7 +143,7 @@ for (const [width, height] of [
 }
 
 function areas() {
-    return [...document.querySelectorAll(".dilution .liquid")].map((liquid) => {
+    return [.../** @type {NodeListOf<SVGGraphicsElement>} */ (document.querySelectorAll(".dilution .liquid"))].map((liquid) => {
         const { width, height } = liquid.getBBox();
         return width * height;
     });
@@ -149,7 +154,9 @@ test("beakers are to scale by area where both volumes are given, and else say th
     const seen = new Set();
     for (const [level, number] of [1, 2, 3].flatMap((one) => numbers.map((other) => [one, other]))) {
         const { given } = lesson.exercise(4821, number, `dilution:${level}`);
-        const [first, second] = ["V1", "V2"].map((name) => given.find(({ quantity }) => quantity === name)?.value);
+        const [first, second] = ["V1", "V2"].map(
+            (name) => given.flatMap((one) => ("quantity" in one && one.quantity === name ? [one.value] : []))[0],
+        );
         const isToScale = first !== undefined && second !== undefined;
         const page = await openPage(browser, `#practice/4821/${number}/dilution:${level}`);
         const [before, after] = await page.evaluate(areas);

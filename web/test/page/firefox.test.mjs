@@ -29,13 +29,13 @@ before(async () => {
 after(() => browser?.close());
 
 // Loads the page anew: from one address of a file to another it would only go on.
-async function open(hash) {
+async function open(/** @type {string} */ hash) {
     await page.goto("about:blank");
     await page.goto(address + hash);
     await page.waitForSelector("h1");
 }
 
-const textOf = (selector) => page.$eval(selector, (element) => element.textContent);
+const textOf = (/** @type {string} */ selector) => page.$eval(selector, (element) => element.textContent);
 
 for (const { kind, title } of lesson.kinds()) {
     test(`${kind}: its first exercise, and a right answer`, { skip }, async () => {
@@ -62,7 +62,7 @@ const sheets = {
     Letter: "#sheet/4821/6*titration:3,6*concentration:3,6*neutralisation?versions=2&key=working&size=Letter&v=1",
 };
 
-async function leavesInChromium(hash) {
+async function leavesInChromium(/** @type {string} */ hash) {
     const chromium = await openChromium();
     const tab = await openPage(chromium, hash);
     await tab.locator(".size:not(:empty)").waitFor();

@@ -3,16 +3,19 @@ import assert from "node:assert/strict";
 import { after, test } from "node:test";
 import { announced, check, go, leave, openChromium, opener, openLesson, openPage, panel, type } from "./support.mjs";
 
+/** @import { Locator } from "playwright-core" */
+/** @import { Page } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
-const button = (page, name) => page.getByRole("button", { name, exact: true });
-const enter = (page, name) => button(page, name).press("Enter");
-const isFocused = (locator) => locator.evaluate((element) => element === document.activeElement);
+const button = (/** @type {Page} */ page, /** @type {string} */ name) => page.getByRole("button", { name, exact: true });
+const enter = (/** @type {Page} */ page, /** @type {string} */ name) => button(page, name).press("Enter");
+const isFocused = (/** @type {Locator} */ locator) => locator.evaluate((element) => element === document.activeElement);
 
 // All that live regions say from now on, in order.
-async function listen(page) {
+async function listen(/** @type {Page} */ page) {
     await page.evaluate(() => {
         window.heard = [];
         for (const region of document.querySelectorAll("[role=status]")) {
@@ -23,18 +26,18 @@ async function listen(page) {
 }
 
 // Once all of it has been said.
-async function heard(page) {
+async function heard(/** @type {Page} */ page) {
     await page.waitForTimeout(150);
     return page.evaluate(() => window.heard.splice(0));
 }
 
 // As the browser's own tree gives the paragraph to a screen reader.
-async function spokenOf(locator) {
+async function spokenOf(/** @type {Locator} */ locator) {
     const [, text] = /^- paragraph: "?(.*?)"?$/s.exec(await locator.ariaSnapshot());
     return text;
 }
 
-async function inTree(page) {
+async function inTree(/** @type {Page} */ page) {
     const client = await page.context().newCDPSession(page);
     const { result } = await client.send("Runtime.evaluate", { expression: "document.activeElement" });
     const { nodes } = await client.send("Accessibility.getPartialAXTree", { objectId: result.objectId, fetchRelatives: false });
@@ -243,7 +246,7 @@ test("Enter in the search tells at once what is found, and each further one tell
 });
 
 // What has the focus, frame by frame.
-async function watchFocus(page) {
+async function watchFocus(/** @type {Page} */ page) {
     await page.evaluate(() => {
         window.stops = [];
         const look = () => {
@@ -266,7 +269,8 @@ async function openClassSet() {
     return page;
 }
 
-const isMade = (page) => page.getByRole("button", { name: "Down with exercise 1", exact: true }).waitFor({ timeout: 60_000 });
+const isMade = (/** @type {Page} */ page) =>
+    page.getByRole("button", { name: "Down with exercise 1", exact: true }).waitFor({ timeout: 60_000 });
 
 test("while the pages of a class set are made anew the focus is not lost", async () => {
     const page = await openClassSet();

@@ -118,7 +118,7 @@ for (const kind of ["titration", "compound-formula", "ion-formula", "neutralisat
 test("control characters, a zero byte and half of a pair are typed without harm", async () => {
     const page = await openPage(browser, "#practice/1/1/compound-formula");
     await page.evaluate(() => {
-        document.getElementById("answer").value = "Na\0Cl\uD800\u0007\u202E";
+        /** @type {HTMLInputElement} */ (document.getElementById("answer")).value = "Na\0Cl\uD800\u0007\u202E";
         document.getElementById("answer").dispatchEvent(new Event("input"));
     });
     await check(page);

@@ -3,16 +3,19 @@ import assert from "node:assert/strict";
 import { after, test } from "node:test";
 import { announced, leave, openChromium, opener, openLesson, openPage, panel } from "./support.mjs";
 
+/** @import { Locator } from "playwright-core" */
+/** @import { Page } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
-const open = (hash) => openPage(browser, hash, { reducedMotion: "reduce" });
-const isFocused = (locator) => locator.evaluate((element) => element === document.activeElement);
-const button = (page, name) => page.getByRole("button", { name, exact: true });
+const open = (/** @type {string} */ hash) => openPage(browser, hash, { reducedMotion: "reduce" });
+const isFocused = (/** @type {Locator} */ locator) => locator.evaluate((element) => element === document.activeElement);
+const button = (/** @type {Page} */ page, /** @type {string} */ name) => page.getByRole("button", { name, exact: true });
 
 // Presses Tab until the focus is there. Each stop on the way is on the screen, and shows that it is one.
-async function tabTo(page, target, key = "Tab") {
+async function tabTo(/** @type {Page} */ page, target, key = "Tab") {
     for (let presses = 0; presses < 80; ++presses) {
         await page.keyboard.press(key);
         const stop = await page.evaluate(focusShown);
@@ -35,7 +38,7 @@ function focusShown() {
 }
 
 // Types into the field that has the focus, or chooses the word among the choices.
-async function answer(page, ask, text) {
+async function answer(/** @type {Page} */ page, ask, /** @type {string} */ text) {
     if (ask.choices === undefined) {
         await page.keyboard.press("Control+A");
         await page.keyboard.type(text);
@@ -43,7 +46,7 @@ async function answer(page, ask, text) {
     }
     await page.keyboard.press("Space");
     for (let presses = 0; presses < ask.choices.length; ++presses) {
-        if ((await page.evaluate(() => document.activeElement.value)) === text) {
+        if ((await page.evaluate(() => /** @type {HTMLInputElement} */ (document.activeElement).value)) === text) {
             return;
         }
         await page.keyboard.press("ArrowDown");
@@ -51,13 +54,13 @@ async function answer(page, ask, text) {
     assert.fail(`no choice ${text}`);
 }
 
-function firstField(page, ask) {
+function firstField(/** @type {Page} */ page, ask) {
     return ask.choices === undefined ? page.locator("#answer") : page.locator("input[name=answer]").first();
 }
 
 // A wrong answer of each form; for choices it is the other one.
 function wrongAnswer({ ask, key, slips }) {
-    return ask.choices === undefined ? slips[0].text : ask.choices.find((word) => word !== key.text);
+    return ask.choices === undefined ? slips[0].text : ask.choices.find((/** @type {string} */ word) => word !== key.text);
 }
 
 const forms = [
@@ -107,7 +110,7 @@ test("steps of the solution are asked for one by one; the last one leads to its 
 });
 
 // From the heading on, which is on the screen.
-async function solutionIsRead(page) {
+async function solutionIsRead(/** @type {Page} */ page) {
     const heading = page.getByRole("heading", { name: "Solution", exact: true });
     assert.equal(await isFocused(heading), true);
     assert.equal((await page.evaluate(focusShown)).problem, "");
@@ -262,9 +265,10 @@ test("a bad address is left by its button", async () => {
     await leave(page);
 });
 
-const cellsOf = (page) => page.locator(".solubility button");
-const columnsOf = (page) => page.locator(".solubility thead th").count();
-const cellWithFocus = (page) => cellsOf(page).evaluateAll((all) => all.indexOf(document.activeElement));
+const cellsOf = (/** @type {Page} */ page) => page.locator(".solubility button");
+const columnsOf = (/** @type {Page} */ page) => page.locator(".solubility thead th").count();
+const cellWithFocus = (/** @type {Page} */ page) =>
+    cellsOf(page).evaluateAll((/** @type {Element[]} */ all) => all.indexOf(document.activeElement));
 
 test("the solubility grid is one stop; the arrow keys go from cell to cell, and Enter tells why", async () => {
     const page = await open("#tables");
@@ -272,6 +276,7 @@ test("the solubility grid is one stop; the arrow keys go from cell to cell, and 
     const columns = await columnsOf(page);
     const at = () => cellWithFocus(page);
     await tabTo(page, cells.first());
+    /** @type {[string, number][]} */
     const walk = [
         ["ArrowRight", 1],
         ["ArrowDown", columns + 1],

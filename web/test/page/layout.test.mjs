@@ -5,6 +5,8 @@ import { after, test } from "node:test";
 import { press, states, verdicts } from "./states.mjs";
 import { announced, leave, openChromium, opener, openPage } from "./support.mjs";
 
+/** @import { Page } from "./support.mjs" */
+
 const browser = await openChromium();
 after(() => browser.close());
 
@@ -65,7 +67,7 @@ function brokenWords() {
         .map(({ word }) => word);
 }
 
-async function withText(page, times) {
+async function withText(/** @type {Page} */ page, times) {
     await page.evaluate((factor) => {
         const root = document.documentElement;
         root.style.fontSize = "";
@@ -109,11 +111,11 @@ test("the field is on the screen when it is zoomed to 400 % and has the focus", 
 });
 
 // Half of the window is what a tablet's or a phone's keyboard leaves.
-for (const [what, viewport] of [
+for (const [what, viewport] of /** @type {const} */ ([
     ["a tablet, upright", { width: 768, height: 1024 }],
     ["a tablet", { width: 1024, height: 768 }],
     ["a phone", { width: 360, height: 640 }],
-]) {
+])) {
     test(`the field, its preview and Check stay in view while the keyboard of ${what} is open, and so does the mark`, async () => {
         for (const [kind, typed] of [
             ["titration:3", "7.7e-7"],
@@ -138,7 +140,7 @@ function equationLines() {
     const characters = [];
     const walker = document.createTreeWalker(document.querySelector(".prompt > [aria-hidden]"), NodeFilter.SHOW_TEXT);
     while (walker.nextNode()) {
-        const text = walker.currentNode;
+        const text = /** @type {Text} */ (walker.currentNode);
         const isLow = text.parentElement.matches("sub, sup");
         for (let at = 0; at < text.data.length && !isLow; ++at) {
             const range = document.createRange();
@@ -224,11 +226,11 @@ test("a molar mass in brackets is not broken on a phone", async () => {
     }
 });
 
-const phone = { viewport: { width: 360, height: 740 }, hasTouch: true, isMobile: true, reducedMotion: "reduce" };
+const phone = { viewport: { width: 360, height: 740 }, hasTouch: true, isMobile: true, reducedMotion: /** @type {const} */ ("reduce") };
 const keyboard = 300; // pixels, of a usual one on a phone
-const openOnPhone = (hash) => openPage(browser, hash, phone);
-const withKeyboard = (page) => page.setViewportSize({ ...phone.viewport, height: phone.viewport.height - keyboard });
-const nothingFocused = (page) => page.evaluate(() => document.activeElement === document.body && scrollY === 0);
+const openOnPhone = (/** @type {string} */ hash) => openPage(browser, hash, phone);
+const withKeyboard = (/** @type {Page} */ page) => page.setViewportSize({ ...phone.viewport, height: phone.viewport.height - keyboard });
+const nothingFocused = (/** @type {Page} */ page) => page.evaluate(() => document.activeElement === document.body && scrollY === 0);
 
 test("on a phone nothing has the focus on arrival, by any way, and the question is in view", async () => {
     const page = await openOnPhone("#practice/4821/3/titration:3");
@@ -258,7 +260,7 @@ function placesInView() {
     const range = document.createRange();
     range.selectNodeContents(prompt);
     const line = [...range.getClientRects()].pop();
-    const edges = (selector) => {
+    const edges = (/** @type {string} */ selector) => {
         const { top, bottom } = document.querySelector(selector).getBoundingClientRect();
         return { top, bottom };
     };
@@ -307,10 +309,10 @@ for (const kind of [
     });
 }
 
-for (const [device, viewport] of [
+for (const [device, viewport] of /** @type {const} */ ([
     ["a phone", { width: 360, height: 740 }],
     ["a tablet", { width: 1024, height: 700 }],
-]) {
+])) {
     test(`on ${device} the drawing is ${device === "a phone" ? "below" : "beside"} the field`, async () => {
         for (const kind of ["titration:3", "dilution:2"]) {
             const page = await openPage(browser, `#practice/4821/3/${kind}`, { viewport, hasTouch: true, isMobile: true });
@@ -350,7 +352,7 @@ test("on a phone, behind a right answer the field, the mark and Next are in view
     await leave(page);
 });
 
-async function isInView(page, selectors) {
+async function isInView(/** @type {Page} */ page, selectors) {
     for (const selector of selectors) {
         const seen = page.locator(selector);
         await seen.waitFor();
@@ -376,7 +378,7 @@ test("each step of a solution is brought into view, and in the end its beginning
 
 test("the heads of the tables stay where the rest is scrolled", async () => {
     const page = await openPage(browser, "#tables", { viewport: { width: 360, height: 640 } });
-    const corner = (selector) => page.locator(selector).evaluate((one) => one.getBoundingClientRect().toJSON());
+    const corner = (/** @type {string} */ selector) => page.locator(selector).evaluate((one) => one.getBoundingClientRect().toJSON());
     for (const [name, head] of [
         ["Relative atomic masses", ".periodic tbody tr:nth-child(4) th"],
         ["Solubility in water", ".solubility tbody tr:nth-child(9) th"],
@@ -404,7 +406,7 @@ test("what is pressed on a phone is as large as a fingertip", async () => {
         });
         const small = await page
             .locator(".top a:visible, main button:visible, main input:visible")
-            .evaluateAll((all) =>
+            .evaluateAll((/** @type {HTMLElement[]} */ all) =>
                 all
                     .filter((one) => one.offsetWidth < 44 || one.offsetHeight < 44)
                     .map((one) => `${one.outerHTML.slice(0, 80)} ${one.offsetWidth} × ${one.offsetHeight}`),
@@ -417,7 +419,9 @@ test("what is pressed on a phone is as large as a fingertip", async () => {
 
 test("each choice is as high as a fingertip, the words beside it included", async () => {
     const page = await openPage(browser, "#practice/4821/3/solubility:1", { viewport: { width: 360, height: 740 }, hasTouch: true });
-    const heights = await page.locator("label.word:visible").evaluateAll((all) => all.map((one) => one.offsetHeight));
+    const heights = await page
+        .locator("label.word:visible")
+        .evaluateAll((/** @type {HTMLElement[]} */ all) => all.map((one) => one.offsetHeight));
     assert.equal(heights.length, 2);
     assert.deepEqual(
         heights.filter((height) => height < 44),
@@ -426,9 +430,9 @@ test("each choice is as high as a fingertip, the words beside it included", asyn
     await leave(page);
 });
 
-const forced = { forcedColors: "active" };
+const forced = { forcedColors: /** @type {const} */ ("active") };
 
-for (const colorScheme of ["light", "dark"]) {
+for (const colorScheme of /** @type {const} */ (["light", "dark"])) {
     test(`in forced colours, ${colorScheme}, what matters is drawn in the system's text colour`, async () => {
         const page = await openPage(browser, "#practice/4821/3/titration:3", { ...forced, colorScheme });
         await page.locator("#answer").fill("777");
@@ -443,7 +447,7 @@ for (const colorScheme of ["light", "dark"]) {
             probe.style.color = "ButtonText";
             const buttonText = getComputedStyle(probe).color;
             probe.remove();
-            const style = (selector) => getComputedStyle(document.querySelector(selector));
+            const style = (/** @type {string} */ selector) => getComputedStyle(document.querySelector(selector));
             return {
                 glass: style(".glass").stroke === text,
                 mark:
@@ -477,7 +481,9 @@ function onPaper() {
         const [red, green, blue, alpha = 1] = colour.match(/[\d.]+/g).map(Number);
         return alpha === 0 ? 255 : Math.round((red + green + blue) / 3);
     };
-    const seen = [...document.querySelectorAll("html, body, main, main *")].filter((one) => one.getClientRects().length > 0);
+    const seen = [.../** @type {NodeListOf<HTMLElement>} */ (document.querySelectorAll("html, body, main, main *"))].filter(
+        (one) => one.getClientRects().length > 0,
+    );
     return {
         text: Math.max(...seen.filter((one) => one.innerText?.trim()).map((one) => shade(getComputedStyle(one).color))),
         background: Math.min(...seen.map((one) => shade(getComputedStyle(one).backgroundColor))),

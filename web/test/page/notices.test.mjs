@@ -8,7 +8,8 @@ const browser = await openChromium();
 after(() => browser.close());
 
 const notices = await readFile(new URL("../../../NOTICES.md", import.meta.url), "utf8");
-const wordsOf = (text) => text.split(/\s+/).filter((word) => word !== "" && word !== "#" && word !== "##");
+const wordsOf = (/** @type {string} */ text) =>
+    text.split(/\s+/).filter((/** @type {string} */ word) => word !== "" && word !== "#" && word !== "##");
 
 for (const hash of ["", "#practice/4821/3/titration:3", "#tables", "#sheet/4821/2*ion-formula"]) {
     test(`from ${hash === "" ? "the start" : hash} the last stop of the keyboard leads to the notices`, async () => {

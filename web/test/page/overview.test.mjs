@@ -4,21 +4,23 @@ import { after, test } from "node:test";
 import { answerWith, press } from "./states.mjs";
 import { announced, check, go, leave, openChromium, openLesson, openPage, panel, type } from "./support.mjs";
 
+/** @import { Page } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
 const kind = "molar-mass:1";
-const at = (number, set = 5, paper = 777) => `#practice/${paper}/${number}/${kind}?set=${set}&v=1`;
-const keyOf = (number) => lesson.exercise(777, number, kind).key.text;
-const overview = (page) => page.getByRole("navigation", { name: "Exercises of this set" });
-const focused = (page) => page.evaluate(() => document.activeElement.textContent.trim());
+const at = (/** @type {number} */ number, set = 5, paper = 777) => `#practice/${paper}/${number}/${kind}?set=${set}&v=1`;
+const keyOf = (/** @type {number} */ number) => lesson.exercise(777, number, kind).key.text;
+const overview = (/** @type {Page} */ page) => page.getByRole("navigation", { name: "Exercises of this set" });
+const focused = (/** @type {Page} */ page) => page.evaluate(() => document.activeElement.textContent.trim());
 
-async function heading(page, name) {
+async function heading(/** @type {Page} */ page, /** @type {string} */ name) {
     await page.getByRole("heading", { name, exact: true }).waitFor();
 }
 
-async function goTo(page, number, set = 5) {
+async function goTo(/** @type {Page} */ page, /** @type {number} */ number, set = 5) {
     await go(page, at(number, set));
     await heading(page, `Exercise ${number} of ${set}`);
 }
@@ -101,8 +103,8 @@ test("on a touch screen each exercise of the row is 44 px wide and high at least
 test("the row is one stop of the Tab key, and the arrow keys go along it", async () => {
     const page = await openPage(browser, at(3));
     await overview(page).locator("[aria-current]").focus();
-    const numberAt = () => page.evaluate(() => Number(document.activeElement.hash.split("/")[2]));
-    for (const [key, number] of [
+    const numberAt = () => page.evaluate(() => Number(/** @type {HTMLAnchorElement} */ (document.activeElement).hash.split("/")[2]));
+    for (const [key, number] of /** @type {const} */ ([
         ["ArrowLeft", 2],
         ["ArrowLeft", 1],
         ["ArrowLeft", 1],
@@ -110,7 +112,7 @@ test("the row is one stop of the Tab key, and the arrow keys go along it", async
         ["ArrowRight", 5],
         ["Home", 1],
         ["ArrowRight", 2],
-    ]) {
+    ])) {
         await page.keyboard.press(key);
         assert.equal(await numberAt(), number, key);
     }
@@ -161,7 +163,7 @@ test("once nothing is open any exercise leads to the summary, without a question
 
 // In the place of the browser's own.
 const copies = () => {
-    const writeText = async (text) => {
+    const writeText = async (/** @type {string} */ text) => {
         window.copied = text;
     };
     Object.defineProperty(navigator, "clipboard", { value: { writeText } });
@@ -172,10 +174,10 @@ const refusesToCopy = () =>
         value: { writeText: () => Promise.reject(new DOMException("refused", "NotAllowedError")) },
     });
 
-for (const [where, number] of [
+for (const [where, number] of /** @type {const} */ ([
     ["an exercise", 3],
     ["the summary", 6],
-]) {
+])) {
     test(`the link of a set is copied from ${where}: its first exercise, without the way to this file`, async () => {
         const page = await openPage(browser, at(number), { before: copies });
         await page
@@ -190,10 +192,10 @@ for (const [where, number] of [
     });
 }
 
-for (const [how, before] of [
+for (const [how, before] of /** @type {const} */ ([
     ["is missing", lacksClipboard],
     ["is refused", refusesToCopy],
-]) {
+])) {
     test(`where the clipboard ${how} the link is selected to be copied`, async () => {
         const page = await openPage(browser, at(3), { before });
         await press(page, "Copy the link");
@@ -201,7 +203,12 @@ for (const [how, before] of [
         const field = page.getByRole("textbox", { name: "The link" });
         assert.equal(await field.inputValue(), at(1));
         assert.deepEqual(
-            await field.evaluate((input) => [input === document.activeElement, input.readOnly, input.selectionStart, input.selectionEnd]),
+            await field.evaluate((/** @type {HTMLInputElement} */ input) => [
+                input === document.activeElement,
+                input.readOnly,
+                input.selectionStart,
+                input.selectionEnd,
+            ]),
             [true, true, 0, at(1).length],
         );
         await leave(page);
@@ -213,8 +220,8 @@ test("from a web server the link is the whole address", async () => {
     const { readFile } = await import("node:fs/promises");
     const file = await readFile(process.env.PAGE);
     const server = createServer((_, response) => response.setHeader("Content-Type", "text/html").end(file));
-    await new Promise((done) => server.listen(0, "127.0.0.1", done));
-    const origin = `http://127.0.0.1:${server.address().port}/practice.html`;
+    await new Promise((done) => server.listen(0, "127.0.0.1", () => done(server)));
+    const origin = `http://127.0.0.1:${/** @type {import("node:net").AddressInfo} */ (server.address()).port}/practice.html`;
     const page = await browser.newPage();
     await page.addInitScript(copies);
     await page.goto(origin + at(3));
@@ -234,7 +241,7 @@ const stored = (touched, ...solved) =>
         exercises: Object.fromEntries(solved.map((number) => [number, { result: "first" }])),
     });
 
-async function openWithSets(hash) {
+async function openWithSets(/** @type {string} */ hash) {
     const page = await openPage(browser, "#tables");
     const kept = [
         [at(1, 3, 11), stored(Date.UTC(2026, 10, 20, 12), 1, 2, 3)],
@@ -251,7 +258,10 @@ test("My record lists the sets on the device, each with the way to what is open,
     const page = await openWithSets(`#practice/777/1/${kind}`);
     const links = page.locator(".kept-sets").getByRole("link");
     await links.first().waitFor();
-    assert.deepEqual(await links.evaluateAll((all) => all.map((link) => link.hash)), [at(2, 5, 12), at(4, 3, 11)]);
+    assert.deepEqual(await links.evaluateAll((/** @type {HTMLAnchorElement[]} */ all) => all.map((link) => link.hash)), [
+        at(2, 5, 12),
+        at(4, 3, 11),
+    ]);
     const [first] = await page.locator(".kept-sets li").allInnerTexts();
     assert.match(first.replace(/\s+/g, " "), /^Paper 12, 5 exercises ?Molar mass, level 1 · 2 of 5 done · 22 November 2026, \d\d:00$/);
     await links.last().click();

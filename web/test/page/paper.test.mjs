@@ -5,14 +5,16 @@ import { after, test } from "node:test";
 import { pagesOf, plain } from "./pdf.mjs";
 import { isMade, leave, openChromium, openLesson, openMadeSheet, reload } from "./support.mjs";
 
+/** @import { Options } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
-const openSheet = (hash, options = {}) => openMadeSheet(browser, hash, options);
+const openSheet = (/** @type {string} */ hash, options = {}) => openMadeSheet(browser, hash, options);
 
 // The lines on paper of the sheet, and those of its key.
-async function printed(hash, options) {
+async function printed(/** @type {string} */ hash, /** @type {Options} */ options = {}) {
     const page = await openSheet(hash, options);
     const pages = pagesOf(await page.pdf({ preferCSSPageSize: true }));
     await leave(page);
@@ -22,9 +24,9 @@ async function printed(hash, options) {
 }
 
 // In millimetres, on the named page and around the page of the preview: above, right, below, left.
-function margins(name) {
+function margins(/** @type {string} */ name) {
     const rules = [...document.styleSheets].flatMap(({ cssRules }) => [...cssRules]);
-    const { style } = rules.find((rule) => rule instanceof CSSPageRule && rule.selectorText === name);
+    const { style } = rules.flatMap((rule) => (rule instanceof CSSPageRule && rule.selectorText === name ? [rule] : []))[0];
     const leaf = getComputedStyle(document.querySelector(".leaf"));
     const millimetre = Number.parseFloat(leaf.width) / Number(leaf.getPropertyValue("--across"));
     const sides = ["top", "right", "bottom", "left"];
@@ -64,14 +66,14 @@ function questions() {
     });
 }
 
-async function questionsOf(hash, options) {
+async function questionsOf(/** @type {string} */ hash, /** @type {Options} */ options = {}) {
     const page = await openSheet(hash, options);
     const found = await page.evaluate(questions);
     await leave(page);
     return found;
 }
 
-function exercisesOf(hash, paper) {
+function exercisesOf(/** @type {string} */ hash, /** @type {number} */ paper) {
     return hash
         .split("/")[2]
         .split("?")[0]
@@ -83,7 +85,7 @@ function exercisesOf(hash, paper) {
 }
 
 // As they are counted by hand: without the zeros in front.
-const figuresIn = (number) =>
+const figuresIn = (/** @type {string} */ number) =>
     number
         .replace(/e.*/, "")
         .replace(/^[0.]+/, "")
@@ -135,8 +137,8 @@ function partedSigns() {
     const texts = document.createTreeWalker(document.querySelector(".leaves"), NodeFilter.SHOW_TEXT);
     return [...document.querySelectorAll(".leaf .stacked")].flatMap((fraction) => {
         texts.currentNode = fraction;
-        while (texts.previousNode().data.trim() === "");
-        const text = texts.currentNode;
+        while (texts.previousNode().textContent.trim() === "");
+        const text = /** @type {Text} */ (texts.currentNode);
         const end = text.data.trimEnd().length;
         const range = document.createRange();
         range.setStart(text, end - 1);
@@ -154,7 +156,7 @@ test("a sign in front of a fraction is on its line", async () => {
 });
 
 test("the room to write ends with a line for the answer, with its symbol and unit", async () => {
-    const answers = async (hash, options) => (await questionsOf(hash, options)).map(({ answer }) => answer);
+    const answers = async (/** @type {string} */ hash) => (await questionsOf(hash)).map(({ answer }) => answer);
     assert.deepEqual(await answers("#sheet/4821/titration,dilution:1,concentration,molar-mass:1,ion-formula,neutralisation?v=1"), [
         "c(HNO3)=mol/L",
         "c2(KOH)=mol/L",
@@ -225,7 +227,7 @@ test("one below the other, each question has all its words", async () => {
 });
 
 // "SO4^2-" and "->" with the signs that are printed.
-const onPaper = (text) => plain(text).replace("->", "→").replaceAll("^", "").replace(/-/g, "−");
+const onPaper = (/** @type {string} */ text) => plain(text).replace("->", "→").replaceAll("^", "").replace(/-/g, "−");
 
 test("answers of one short line stand beside each other in the key, and a longer one has a line of its own", async () => {
     const hash = "#sheet/4821/3*ion-formula,6*neutralisation:1,3*titration?parts=key&v=1";
@@ -258,11 +260,11 @@ const worth = {
     "solubility:3": 1,
 };
 
-for (const [room, atOneMark] of [
+for (const [room, atOneMark] of /** @type {const} */ ([
     ["some", 3],
     ["much", 7],
     ["none", 0],
-]) {
+])) {
     test(`room to write, ${room}: ${room === "none" ? "no calculation has any" : "a calculation has a line more for each further mark"}`, async () => {
         const page = await openSheet(
             `#sheet/4821/molar-mass:1,concentration:1,concentration:3,dilution:2,titration:1,titration:3?parts=sheet&marks=1&room=${room}&v=1`,
@@ -353,7 +355,7 @@ test("marks stand behind each question and in the key, and their total above", a
 });
 
 test("questions with marks are in the letters of the others", async () => {
-    const facesOf = async (hash) => {
+    const facesOf = async (/** @type {string} */ hash) => {
         const page = await openSheet(hash);
         const faces = await page
             .locator(".leaf :is(.asks, .frame)")

@@ -5,25 +5,28 @@ import { after, test } from "node:test";
 import { leafTexts, letters, pagesOf, plain } from "./pdf.mjs";
 import { announced, isMade, leave, moved, openChromium, openLesson, openMadeSheet, reload } from "./support.mjs";
 
+/** @import { Page } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
-const openSheet = (hash, options = {}) => openMadeSheet(browser, hash, options);
+const openSheet = (/** @type {string} */ hash, options = {}) => openMadeSheet(browser, hash, options);
 
-const listIn = (page) => new URL(page.url()).hash.split("/")[2].split("?")[0];
+const listIn = (/** @type {Page} */ page) => new URL(page.url()).hash.split("/")[2].split("?")[0];
 
-const tool = (page, name) => page.getByRole("button", { name, exact: true });
+const tool = (/** @type {Page} */ page, /** @type {string} */ name) => page.getByRole("button", { name, exact: true });
 
-const focused = (page) => page.evaluate(() => document.activeElement.getAttribute("aria-label") ?? document.activeElement.textContent);
+const focused = (/** @type {Page} */ page) =>
+    page.evaluate(() => document.activeElement.getAttribute("aria-label") ?? document.activeElement.textContent);
 
-async function waitForList(page, list) {
+async function waitForList(/** @type {Page} */ page, /** @type {string} */ list) {
     await page.waitForFunction((wanted) => location.hash.split("/")[2].split("?")[0] === wanted, list);
     await isMade(page);
 }
 
 // What is asked of the first version, in the order of its pages.
-async function asksOf(page, count) {
+async function asksOf(/** @type {Page} */ page, count) {
     const lines = await page
         .locator(".leaf ol > li .asks")
         .evaluateAll((all) =>
@@ -33,7 +36,7 @@ async function asksOf(page, count) {
 }
 
 // Each "kind@number" of the paper, as the library asks it.
-const asked = (paper, places) =>
+const asked = (/** @type {number} */ paper, places) =>
     places.map((place) => {
         const [kind, number] = place.split("@");
         return plain(
@@ -44,9 +47,11 @@ const asked = (paper, places) =>
         );
     });
 
-async function isOnThePage(page, paper, places) {
+async function isOnThePage(/** @type {Page} */ page, /** @type {number} */ paper, places) {
     const lines = await asksOf(page, places.length);
-    asked(paper, places).forEach((text, at) => assert.ok(lines[at].includes(text), `${at + 1}: ${lines[at]} is not ${text}`));
+    asked(paper, places).forEach((/** @type {string} */ text, at) =>
+        assert.ok(lines[at].includes(text), `${at + 1}: ${lines[at]} is not ${text}`),
+    );
 }
 
 test("Another puts the next exercise of the kind and level in its place, and the focus and the address follow", async () => {
@@ -166,7 +171,7 @@ test("only the first version has the buttons, and a key alone has none", async (
 
 test("the buttons come up over the exercise that is pointed at, and take no room of the page", async () => {
     const page = await openSheet("#sheet/4821/4*ion-formula?v=1");
-    const places = () => page.locator(".leaf li").evaluateAll((all) => all.map((one) => one.offsetTop));
+    const places = () => page.locator(".leaf li").evaluateAll((/** @type {HTMLElement[]} */ all) => all.map((one) => one.offsetTop));
     const before = await places();
     assert.equal(
         await page
@@ -197,10 +202,12 @@ test("on a touch screen they are always there, each as large as a fingertip", as
     });
     const sizes = await page
         .locator(".picks button")
-        .evaluateAll((all) => all.map((one) => [one.offsetWidth, one.offsetHeight, getComputedStyle(one.parentElement).opacity]));
+        .evaluateAll((/** @type {HTMLElement[]} */ all) =>
+            all.map((one) => ({ width: one.offsetWidth, height: one.offsetHeight, opacity: getComputedStyle(one.parentElement).opacity })),
+        );
     assert.equal(sizes.length, 12);
     assert.deepEqual(
-        sizes.filter(([width, height, opacity]) => width < 44 || height < 44 || opacity !== "1"),
+        sizes.filter(({ width, height, opacity }) => width < 44 || height < 44 || opacity !== "1"),
         [],
     );
     await tool(page, "Another instead of exercise 4").tap();

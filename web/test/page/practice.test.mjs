@@ -3,12 +3,14 @@ import { readFile } from "node:fs/promises";
 import { after, test } from "node:test";
 import { agree, check, go, leave, moved, openChromium, opener, openLesson, openPage, panel, reload, samples, type } from "./support.mjs";
 
+/** @import { Page } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
-const focusedText = (page) => page.evaluate(() => document.activeElement.textContent);
-const focusedId = (page) => page.evaluate(() => document.activeElement.id);
+const focusedText = (/** @type {Page} */ page) => page.evaluate(() => document.activeElement.textContent);
+const focusedId = (/** @type {Page} */ page) => page.evaluate(() => document.activeElement.id);
 
 for (const kind of samples) {
     test(`${kind}: a right answer is right, and the focus goes on to Next`, async () => {
@@ -103,7 +105,7 @@ test("Show a step gives a hint, then a step and the next hint a press, and at la
         await step.click();
         assert.equal(await page.locator(".solution li").count(), shown);
         assert.equal(await page.locator(".solution .math").count(), shown);
-        const [{ text }] = solution[shown].hint;
+        const [{ text }] = /** @type {{ text: string }[]} */ (solution[shown].hint);
         assert.ok((await page.locator(".solution .next").innerText()).startsWith(`Hint: ${text}`), text);
     }
     await step.click();
@@ -148,7 +150,7 @@ test("Another like this stays with the kind and level that was drawn", async () 
     await leave(page);
 });
 
-const mainButton = (page) => page.locator("main button.main:visible").allInnerTexts();
+const mainButton = (/** @type {Page} */ page) => page.locator("main button.main:visible").allInnerTexts();
 
 test("Another like this goes off, one further each time, and comes back to the exercise that was left", async () => {
     const page = await openPage(browser, "#practice/4821/4/mixed?v=1");
@@ -163,7 +165,10 @@ test("Another like this goes off, one further each time, and comes back to the e
         assert.equal(await page.getByRole("link", { name: "Practice", exact: true }).getAttribute("href"), "#practice/4821/4/mixed?v=1");
     }
     await page.goBack();
-    await page.waitForFunction((text) => document.querySelector(".prompt").innerText === text, seen[1]);
+    await page.waitForFunction(
+        (/** @type {string} */ text) => /** @type {HTMLElement} */ (document.querySelector(".prompt")).innerText === text,
+        seen[1],
+    );
     assert.deepEqual(await mainButton(page), ["Check"]);
     const { paper, number, kind, level } = aside(page.url());
     await type(page, lesson.exercise(paper, number, `${kind}:${level}`).key.text);
@@ -180,14 +185,14 @@ test("Another like this goes off, one further each time, and comes back to the e
     await leave(page);
 });
 
-async function goAside(page) {
+async function goAside(/** @type {Page} */ page) {
     await moved(page, () => page.getByRole("button", { name: "Another like this" }).click());
     await page.getByRole("heading", { level: 1, name: "Another like exercise 4", exact: true }).waitFor();
     assert.match(await page.title(), /^Another like exercise 4 of paper\s4821/);
     assert.equal(await page.getByRole("button", { name: "Next" }).count(), 0);
 }
 
-function aside(url) {
+function aside(/** @type {string} */ url) {
     const [, paper, number, kind, level] = /#practice\/(\d+)\/(\d+)\/([a-z-]+):(\d)\?/.exec(url);
     return { paper: Number(paper), number: Number(number), kind, level };
 }
@@ -206,7 +211,7 @@ test("what is practised aside is not what Next leads to", async () => {
     await leave(page);
 });
 
-async function answer(page, text) {
+async function answer(/** @type {Page} */ page, /** @type {string} */ text) {
     await type(page, text);
     await check(page);
 }
@@ -220,17 +225,18 @@ test("inside a set there is no other way than on", async () => {
     await leave(page);
 });
 
-for (const [what, reach] of [
+for (const [what, reach] of /** @type {const} */ ([
     ["new", async () => {}],
-    ["wrong", (page) => answer(page, "777")],
-    ["nearly right", (page) => answer(page, "0.68")],
-    ["in steps", (page) => page.getByRole("button", { name: "Show a step" }).click()],
-]) {
+    ["wrong", (/** @type {Page} */ page) => answer(page, "777")],
+    ["nearly right", (/** @type {Page} */ page) => answer(page, "0.68")],
+    ["in steps", (/** @type {Page} */ page) => page.getByRole("button", { name: "Show a step" }).click()],
+])) {
     test(`an exercise that is ${what}: Check is the main button, not Next`, async () => {
         const page = await openPage(browser, "#practice/4821/3/titration:3");
         await reach(page);
         assert.deepEqual(await mainButton(page), ["Check"]);
-        const shade = (name) => page.getByRole("button", { name, exact: true }).evaluate((one) => getComputedStyle(one).backgroundColor);
+        const shade = (/** @type {string} */ name) =>
+            page.getByRole("button", { name, exact: true }).evaluate((one) => getComputedStyle(one).backgroundColor);
         assert.notEqual(await shade("Next"), await shade("Check"));
         await leave(page);
     });
@@ -347,7 +353,10 @@ test("units, decimal sign and names are as the reader wishes, and stay so", asyn
 });
 
 test("American names stand in the question and in the tables", async () => {
-    const differs = (number) => lesson.exercise(4821, number, "compound-formula:2").prompt.find((span) => span.american !== undefined);
+    const differs = (/** @type {number} */ number) =>
+        lesson
+            .exercise(4821, number, "compound-formula:2")
+            .prompt.flatMap((span) => ("name" in span && span.american !== undefined ? [span] : []))[0];
     const number = Array.from({ length: 60 }, (_, at) => at + 1).find(differs);
     const { name, american } = differs(number);
     const page = await openPage(browser, `#practice/4821/${number}/compound-formula:2`);
@@ -430,7 +439,7 @@ test("a number with a power of ten is shown as it is printed", async () => {
     ]) {
         await type(page, typed);
         const seen = await page.locator(".preview").evaluate((preview) => {
-            const copy = preview.cloneNode(true);
+            const copy = /** @type {Element} */ (preview.cloneNode(true));
             copy.querySelectorAll(".spoken").forEach((one) => one.remove());
             return copy.textContent.replace(/\s/g, " ");
         });
@@ -476,10 +485,11 @@ for (const kind of weighed) {
         const elements = new Map(lesson.tables().elements.map(({ symbol, mass }) => [symbol, mass]));
         const number = Array.from({ length: 50 }, (_, at) => at + 1).find((at) => {
             const { ask, given } = lesson.exercise(4821, at, kind);
-            return ask.quantity === "M" || given.some((one) => one.quantity === "M" && one.shown === "");
+            return ask.quantity === "M" || given.some((one) => "quantity" in one && one.quantity === "M" && one.shown === "");
         });
         const { ask, given } = lesson.exercise(4821, number, kind);
-        const formula = ask.quantity === "M" ? ask.of : given.find((one) => one.quantity === "M").of;
+        const formula =
+            ask.quantity === "M" ? ask.of : given.flatMap((one) => ("quantity" in one && one.quantity === "M" ? [one.of] : []))[0];
         const symbols = [...formula]
             .filter((sign) => /[A-Za-z]/.test(sign))
             .join("")
@@ -539,14 +549,14 @@ for (const { kind, levels } of (await openLesson()).kinds()) {
 }
 
 // A field and its letters; an equation's has the whole width.
-const fieldOf = (page) =>
+const fieldOf = (/** @type {Page} */ page) =>
     page.locator("#answer").evaluate((one) => ({
         ...one.getBoundingClientRect().toJSON(),
         em: parseFloat(getComputedStyle(one).fontSize),
         room: one.closest("form").clientWidth,
     }));
 
-for (const [kind, least, most] of [
+for (const [kind, least, most] of /** @type {const} */ ([
     ["titration:3", 8, 10],
     ["molar-mass:2", 8, 10],
     ["dilution:3", 8, 10],
@@ -554,7 +564,7 @@ for (const [kind, least, most] of [
     ["ion-formula:2", 10, 12],
     ["solubility:3", 10, 12],
     ["neutralisation:2", 0.99, 1.01],
-]) {
+])) {
     test(`the field of ${kind} is as wide as answers of its form are, whatever the answer, with its unit beside it`, async () => {
         for (const number of [1, 2, 3]) {
             const page = await openPage(browser, `#practice/4821/${number}/${kind}`);

@@ -4,11 +4,13 @@ import { after, test } from "node:test";
 import { plain } from "./pdf.mjs";
 import { check, leave, openChromium, openLesson, openPage, reload, type } from "./support.mjs";
 
+/** @import { Page } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
-const seen = (page, selector) =>
+const seen = (/** @type {Page} */ page, /** @type {string} */ selector) =>
     page
         .locator(selector)
         .first()
@@ -20,6 +22,7 @@ test("Practise this sheet gives the same exercises in the same order as a set, w
     const page = await openPage(browser, "#sheet/4821/ion-formula@7,compound-formula,ion-formula@3?v=1");
     await page.locator(".size:not(:empty)").waitFor();
     await page.getByRole("link", { name: "Practise this sheet" }).click();
+    /** @type {[string, number][]} */
     const places = [
         ["ion-formula", 7],
         ["compound-formula", 1],
@@ -49,7 +52,9 @@ test("the link is of the chosen version, and follows what changes on the sheet",
     assert.equal(await link.getAttribute("href"), "#practice/1/1/2*ion-formula?set=2&v=1");
     await page.getByRole("button", { name: "Down with exercise 1" }).press("Enter");
     await page.waitForFunction(
-        () => document.querySelector(".practise a").hash === "#practice/1/1/1*ion-formula@2,1*ion-formula?set=2&v=1",
+        () =>
+            /** @type {HTMLAnchorElement} */ (document.querySelector(".practise a")).hash ===
+            "#practice/1/1/1*ion-formula@2,1*ion-formula?set=2&v=1",
     );
     await leave(page);
 });

@@ -4,14 +4,16 @@ import { after, test } from "node:test";
 import { press } from "./states.mjs";
 import { check, go, leave, openChromium, openLesson, openPage, panel, reload, type } from "./support.mjs";
 
+/** @import { Page } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
 const kind = "ion-formula:1";
-const row = (page) => page.getByRole("row", { name: /Formula of an ion/ });
+const row = (/** @type {Page} */ page) => page.getByRole("row", { name: /Formula of an ion/ });
 
-async function solve(page, number, wrongBefore = []) {
+async function solve(/** @type {Page} */ page, /** @type {number} */ number, wrongBefore = []) {
     for (const text of [...wrongBefore, lesson.exercise(4821, number, kind).key.text]) {
         await type(page, text);
         await check(page);
@@ -19,7 +21,7 @@ async function solve(page, number, wrongBefore = []) {
     await page.locator(".mark[data-verdict=correct]").waitFor();
 }
 
-async function next(page, number) {
+async function next(/** @type {Page} */ page, /** @type {number} */ number) {
     await press(page, "Next");
     await page.getByRole("heading", { name: `Exercise ${number}` }).waitFor();
 }
@@ -61,7 +63,10 @@ test("three in a row at the first try tick the row of their kind, and only then 
     await press(page, "Show the answer");
     await panel(page, "My record").click();
     const names = await page.locator(".record tbody th").allInnerTexts();
-    assert.deepEqual(names.map((name) => name.replace(/\s+/g, " ")).sort(), ["Formula of an ion ✓ three in a row", "Molar mass"]);
+    assert.deepEqual(names.map((/** @type {string} */ name) => name.replace(/\s+/g, " ")).sort(), [
+        "Formula of an ion ✓ three in a row",
+        "Molar mass",
+    ]);
     await leave(page);
 });
 
@@ -69,7 +74,7 @@ test("what the panels below an exercise hold is made as they open, by whatever o
     const page = await openPage(browser, `#practice/4821/1/${kind}`);
     const panels = page.locator("aside details");
     assert.deepEqual(await panels.evaluateAll((all) => all.map(({ textContent }) => textContent)), ["How it is written", "My record"]);
-    await panels.evaluateAll((all) => all.forEach((one) => (one.open = true)));
+    await panels.evaluateAll((/** @type {HTMLDetailsElement[]} */ all) => all.forEach((one) => (one.open = true)));
     await page.getByText("Nothing is in your record yet.").waitFor();
     await page.getByLabel("Comma: 0,5").waitFor();
     await solve(page, 1);
@@ -105,7 +110,7 @@ const found = [
 for (const [what, kept, cells] of found) {
     test(`a record ${what} is read field by field`, async () => {
         const page = await openPage(browser, `#practice/4821/1/${kind}`);
-        await page.evaluate((text) => localStorage.setItem("chempractice.record", text), JSON.stringify(kept));
+        await page.evaluate((/** @type {string} */ text) => localStorage.setItem("chempractice.record", text), JSON.stringify(kept));
         await reload(page);
         await panel(page, "My record").click();
         const seen = (await row(page).count()) === 0 ? null : await row(page).locator("td").allInnerTexts();

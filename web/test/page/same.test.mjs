@@ -18,7 +18,7 @@ let page;
 let native;
 before(async () => {
     assert.ok(process.env.NATIVE, "NATIVE is to be the path of print_json");
-    native = execFileSync(process.env.NATIVE, ["exercises", all, paper, count], { encoding: "utf8", maxBuffer: 1 << 28 })
+    native = execFileSync(process.env.NATIVE, ["exercises", all, String(paper), String(count)], { encoding: "utf8", maxBuffer: 1 << 28 })
         .trimEnd()
         .split("\n");
     browser = await openChromium();
@@ -29,11 +29,12 @@ after(() => browser.close());
 // Keeps the module that the page instantiates, and each exercise as its script is about to read it.
 function listen() {
     const { instantiate } = WebAssembly;
-    WebAssembly.instantiate = async (...source) => {
-        const made = await instantiate(...source);
-        window.lesson = made.instance.exports;
+    const keep = async (/** @type {BufferSource} */ bytes) => {
+        const made = await instantiate(bytes);
+        window.lesson = /** @type {any} */ (made.instance.exports);
         return made;
     };
+    Object.assign(WebAssembly, { instantiate: keep });
     const { parse } = JSON;
     window.read = [];
     JSON.parse = (text, ...more) => {
@@ -76,13 +77,13 @@ function difference(page = "", native = "") {
 
 function assertSame(made, expected) {
     assert.equal(made.length, expected.length);
-    const other = made.findIndex((text, at) => text !== expected[at]);
+    const other = made.findIndex((/** @type {string} */ text, at) => text !== expected[at]);
     assert.equal(other, -1, `exercise ${other + 1} of ${all}: ${difference(made[other], expected[other])}`);
 }
 
 test(`${countEach} exercises of each kind and level, made by the module of the page, are the native ones`, async () => {
     assert.equal(native.length, count);
-    const found = native.map((text) => JSON.parse(text)).map(({ kind, level }) => `${kind}:${level}`);
+    const found = native.map((/** @type {string} */ text) => JSON.parse(text)).map(({ kind, level }) => `${kind}:${level}`);
     for (const kind of kinds) {
         assert.equal(found.filter((one) => one === kind).length, countEach, kind);
     }

@@ -5,23 +5,25 @@ import { after, test } from "node:test";
 import { answerWith, press } from "./states.mjs";
 import { address, agree, announced, check, go, leave, openChromium, openLesson, openPage, reload, type } from "./support.mjs";
 
+/** @import { Page } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
 const kind = "molar-mass:1";
-const at = (number, paper = 777) => `#practice/${paper}/${number}/${kind}?set=7&v=1`;
+const at = (/** @type {number} */ number, paper = 777) => `#practice/${paper}/${number}/${kind}?set=7&v=1`;
 const summary = at(8);
-const keyOf = (number) => lesson.exercise(777, number, kind).key.text;
-const slipOf = (number) => lesson.exercise(777, number, kind).slips[0].text;
+const keyOf = (/** @type {number} */ number) => lesson.exercise(777, number, kind).key.text;
+const slipOf = (/** @type {number} */ number) => lesson.exercise(777, number, kind).slips[0].text;
 
-async function goTo(page, number) {
+async function goTo(/** @type {Page} */ page, /** @type {number} */ number) {
     await go(page, at(number));
     await page.getByRole("heading", { name: `Exercise ${number} of 7` }).waitFor();
 }
 
 // Exercise 1 at the first try, 2 at the third, 3 with help, 4 shown, 5 wrong, 6 and 7 not touched.
-async function work(page) {
+async function work(/** @type {Page} */ page) {
     await answerWith(page, keyOf(1), "correct");
     await goTo(page, 2);
     for (const text of [slipOf(2), "1234567"]) {
@@ -50,15 +52,20 @@ const worked = [
     ["0", "not solved"],
 ];
 
-const rowsOf = (page) =>
-    page.locator(".summary tbody tr").evaluateAll((rows) => rows.map((row) => [...row.cells].slice(2).map((cell) => cell.textContent)));
-const fact = (page, name) => page.locator("dt", { hasText: name }).locator("xpath=following-sibling::dd[1]").innerText();
+const rowsOf = (/** @type {Page} */ page) =>
+    page
+        .locator(".summary tbody tr")
+        .evaluateAll((/** @type {HTMLTableRowElement[]} */ rows) =>
+            rows.map((row) => [...row.cells].slice(2).map((cell) => cell.textContent)),
+        );
+const fact = (/** @type {Page} */ page, /** @type {string} */ name) =>
+    page.locator("dt", { hasText: name }).locator("xpath=following-sibling::dd[1]").innerText();
 
 // In tabs of a window of its own, each with a session of its own.
 async function inTabs(run) {
     const context = await browser.newContext();
     const pages = [];
-    await run(async (hash) => {
+    await run(async (/** @type {string} */ hash) => {
         pages.push(await openPage(browser, hash, { context }));
         return pages.at(-1);
     });
@@ -202,10 +209,10 @@ function refuseToWrite() {
     };
 }
 
-for (const [what, refuse] of [
+for (const [what, refuse] of /** @type {const} */ ([
     ["refused", refuseStorage],
     ["full", refuseToWrite],
-]) {
+])) {
     test(`where storage is ${what} the page keeps a set for as long as it is open`, async () => {
         const page = await openPage(browser, at(1), { before: refuse });
         await work(page);

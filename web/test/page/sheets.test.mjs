@@ -5,6 +5,9 @@ import { after, test } from "node:test";
 import { leafTexts, letters, pageSize, pagesOf, plain, shadesOf } from "./pdf.mjs";
 import { announced, compareWithApproved, go, leave, openChromium, openLesson, openPage, reload } from "./support.mjs";
 
+/** @import { Line } from "./pdf.mjs" */
+/** @import { Page } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
@@ -23,28 +26,28 @@ const sheets = {
     "a long title": `#sheet/12/10*molar-mass:3?title=${"Many+words+".repeat(7)}&v=1`,
 };
 
-async function openSheet(hash, options = {}) {
+async function openSheet(/** @type {string} */ hash, options = {}) {
     const page = await openPage(browser, hash, options);
     await isMade(page);
     return page;
 }
 
-const isMade = (page) => page.locator(".size:not(:empty)").waitFor();
+const isMade = (/** @type {Page} */ page) => page.locator(".size:not(:empty)").waitFor();
 
-async function change(page, work) {
+async function change(/** @type {Page} */ page, work) {
     await page.evaluate(() => document.querySelector(".size").replaceChildren());
     await work();
     await isMade(page);
 }
 
-const printed = (page) => page.pdf({ preferCSSPageSize: true });
+const printed = (/** @type {Page} */ page) => page.pdf({ preferCSSPageSize: true });
 
-const previewTexts = (page) => page.evaluate(leafTexts);
+const previewTexts = (/** @type {Page} */ page) => page.evaluate(leafTexts);
 
 const textOf = (lines) => lines.map((line) => line.text).join("\n");
 
 // The entries of an address as its exercises, in order.
-function exercisesOf(hash, paper) {
+function exercisesOf(/** @type {string} */ hash, /** @type {number} */ paper) {
     return hash
         .split("/")[2]
         .split("?")[0]
@@ -66,14 +69,14 @@ function answerOnPaper({ key }) {
 
 // Each sheet once: what the preview shows, and what came out of the printer.
 const made = new Map();
-function sheet(hash) {
+function sheet(/** @type {string} */ hash) {
     if (!made.has(hash)) {
         made.set(hash, make(hash));
     }
     return made.get(hash);
 }
 
-async function make(hash) {
+async function make(/** @type {string} */ hash) {
     const page = await openSheet(hash);
     const preview = await previewTexts(page);
     const size = await page.locator(".size").textContent();
@@ -85,13 +88,13 @@ async function make(hash) {
     return { preview, size, overfull, pdf, pages: pagesOf(pdf) };
 }
 
-const papersOf = (hash) => {
+const papersOf = (/** @type {string} */ hash) => {
     const versions = Number(/versions=(\d+)/.exec(hash)?.[1] ?? 1);
     return Array.from({ length: versions }, (_, at) => ((Number(hash.split("/")[1]) + at - 1) % 999999) + 1);
 };
 
 // What may stand at the top of a page, blanks aside.
-function labelsOf(hash) {
+function labelsOf(/** @type {string} */ hash) {
     const papers = papersOf(hash);
     const single = papers.map((paper, at) => (papers.length === 1 ? `Paper${paper}` : `Paper${paper},version${at + 1}`));
     return { single, all: `Papers${papers[0]}to${papers.at(-1)}` };
@@ -99,7 +102,7 @@ function labelsOf(hash) {
 
 const labelOf = (lines) => lines[0].text.replace(/Page\d+of\d+$/, "");
 
-const titleOf = (hash) => plain(new URLSearchParams(hash.split("?")[1]).get("title") ?? "Chemical calculations");
+const titleOf = (/** @type {string} */ hash) => plain(new URLSearchParams(hash.split("?")[1]).get("title") ?? "Chemical calculations");
 
 // "sheet", "key", or "blank" for a side that is left so.
 function sideOf(lines) {
@@ -110,7 +113,7 @@ function sideOf(lines) {
 }
 
 // The lines of each version's key, without its headings.
-function keyLinesOf(hash, pages) {
+function keyLinesOf(/** @type {string} */ hash, /** @type {Line[][]} */ pages) {
     const lines = pages
         .filter((page) => sideOf(page) === "key")
         .flatMap((page) => page.slice(1))
@@ -151,7 +154,7 @@ for (const [name, hash] of Object.entries(sheets)) {
         const { single, all } = labelsOf(hash);
         const found = pages.map(labelOf);
         assert.deepEqual(
-            found.filter((label) => label !== all && !single.includes(label)),
+            found.filter((/** @type {string} */ label) => label !== all && !single.includes(label)),
             [],
         );
         assert.deepEqual(
@@ -169,7 +172,7 @@ for (const [name, hash] of Object.entries(sheets)) {
             let from = 0;
             exercisesOf(hash, paper).forEach((exercise, index) => {
                 // Not a quantity, which may begin a line as well: "2.279 × 10−3".
-                const begins = (number, behind) =>
+                const begins = (/** @type {number} */ number, behind) =>
                     lines.findIndex((line, row) => row >= behind && new RegExp(`^${number}\\.(?!\\d)|^${number}\\.\\d[A-Z]`).test(line));
                 from = begins(index + 1, from);
                 const to = begins(index + 2, from + 1);
@@ -185,7 +188,7 @@ for (const [name, hash] of Object.entries(sheets)) {
 
     test(`${name}: the key is on pages of its own`, async () => {
         const { pages } = await sheet(hash);
-        const kinds = pages.map(sideOf).filter((kind) => kind !== "blank");
+        const kinds = pages.map(sideOf).filter((/** @type {string} */ kind) => kind !== "blank");
         assert.deepEqual(kinds, [...kinds].sort().reverse());
         assert.equal(
             pages
@@ -278,7 +281,7 @@ test("the page-break option does something", async () => {
 test("keys that follow each other on a page have the title once", async () => {
     const { pages } = await sheet("#sheet/4821/5*titration?versions=3&v=1");
     const lines = pages
-        .filter((page) => sideOf(page) === "key")
+        .filter((/** @type {Page} */ page) => sideOf(page) === "key")
         .flat()
         .map((line) => line.text);
     assert.equal(lines.filter((line) => line === "Chemicalcalculations").length, 1);
@@ -286,7 +289,7 @@ test("keys that follow each other on a page have the title once", async () => {
 });
 
 test("a paper of two pages leaves no side blank, one of a page does", async () => {
-    const sides = async (hash) => (await sheet(hash)).pages.map(sideOf).join(" ");
+    const sides = async (/** @type {string} */ hash) => (await sheet(hash)).pages.map(sideOf).join(" ");
     assert.equal(await sides("#sheet/4821/titration?versions=2&v=1"), "sheet blank sheet blank key");
     assert.equal(await sides("#sheet/4821/titration?versions=2&leaf=0&v=1"), "sheet sheet key");
     assert.equal(await sides("#sheet/4821/titration?versions=2&keys=apart&v=1"), "sheet blank sheet blank key blank key");
@@ -358,7 +361,7 @@ test("a sheet opened from an old address is the same sheet", async () => {
 });
 
 // Its lines as they are seen; not where pages end, which depends on the fonts of the system.
-function transcript(page) {
+function transcript(/** @type {Page} */ page) {
     return page.locator(".leaf").evaluateAll((leaves) => {
         const seen = (one) =>
             [...one.childNodes]
@@ -430,7 +433,7 @@ test("thirty versions of twenty exercises are complete", async () => {
         const lines = keyLinesOf(hash, pages)[at];
         const expected = exercisesOf(hash, paper).map((exercise, index) => [`${index + 1}.`, answerOnPaper(exercise)]);
         assert.equal(lines.length, 20, `paper ${paper}`);
-        lines.forEach((line, index) =>
+        lines.forEach((line, /** @type {number} */ index) =>
             assert.ok(line.startsWith(expected[index][0]) && line.endsWith(expected[index][1]), `${line}: ${expected[index]}`),
         );
     });
@@ -478,6 +481,7 @@ test("an address in an order of its own keeps it when something else is changed"
     await leave(page);
 });
 
+/** @type {[what: string, field: string, wrong: string, sentence: RegExp, right: string][]} */
 const complaints = [
     ["an empty sheet", "Acid-base titration, level 2", "", /^Fill in how many/, "2"],
     ["half an exercise", "Dilution, level 2", "0.5", /^Each count is a whole number up to 1000/, "0"],
@@ -543,7 +547,7 @@ test("each thing that is wrong is told at its own field, and announced once", as
     await page.waitForTimeout(100);
     const [count, ofVersions] = ["Each count is a whole number up to 1000.", "Versions are a number from 1 to 30."];
     assert.deepEqual([await told(titration), await told(dilution), await told(versions)], [count, count, ofVersions]);
-    assert.deepEqual(await page.evaluate(() => window.said.filter((text) => text !== "")), [
+    assert.deepEqual(await page.evaluate(() => window.said.filter((/** @type {string} */ text) => text !== "")), [
         count,
         `Dilution, level 1: ${count} ${ofVersions}`,
     ]);
@@ -594,7 +598,7 @@ test("what each level of each kind asks for is read without going into a field",
 for (const width of [1100, 1280, 1920]) {
     test(`at ${width} pixels the pages stand beside the form, and stay there while it is filled in`, async () => {
         const page = await openSheet("#sheet/4821/2*titration?v=1", { viewport: { width, height: 800 }, reducedMotion: "reduce" });
-        const box = (selector) =>
+        const box = (/** @type {string} */ selector) =>
             page
                 .locator(selector)
                 .first()
@@ -657,10 +661,10 @@ test("cards of calculations are no file but the library's sentence, which goes w
 
 test("Print prints", async () => {
     const page = await openSheet("#sheet/4821/2*titration?v=1", {
-        before: () => (window.print = () => (window.printed = document.querySelectorAll(".leaf").length)),
+        before: () => (window.print = () => (window.printed = `${document.querySelectorAll(".leaf").length}`)),
     });
     await page.getByRole("button", { name: "Print" }).click();
-    assert.equal(await page.evaluate(() => window.printed), 3);
+    assert.equal(await page.evaluate(() => window.printed), "3");
     await leave(page);
 });
 

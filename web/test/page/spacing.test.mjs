@@ -4,6 +4,8 @@ import { after, test } from "node:test";
 import { states } from "./states.mjs";
 import { leave, openChromium, openPage } from "./support.mjs";
 
+/** @import { Page } from "./support.mjs" */
+
 const browser = await openChromium();
 after(() => browser.close());
 
@@ -11,7 +13,7 @@ after(() => browser.close());
 function touching() {
     const isSeen = (one) =>
         one.checkVisibility() && one.closest(".spoken, .leaf, .solubility, .overview") === null && one.getClientRects().length > 0;
-    const seen = (selector) => [...document.querySelectorAll(`main ${selector}`)].filter(isSeen);
+    const seen = (/** @type {string} */ selector) => [...document.querySelectorAll(`main ${selector}`)].filter(isSeen);
     const others = ["p", "table", "ul", "ol", "dl", "button", "input", "select", "summary", "h1", "h2"].flatMap(seen);
     const gap = (one, other) => {
         const [below, above] = [one.getBoundingClientRect(), other.getBoundingClientRect()];
@@ -38,7 +40,7 @@ for (const [name, hash, reach] of states.filter(([name]) => /record|sets|link|su
     });
 }
 
-const box = (page, name) => page.getByRole("button", { name, exact: true }).boundingBox();
+const box = (/** @type {Page} */ page, /** @type {string} */ name) => page.getByRole("button", { name, exact: true }).boundingBox();
 
 for (const kind of ["titration:3", "dilution:1", "molar-mass:3"]) {
     test(`${kind}: beside a drawing too, the two buttons that help are in one row`, async () => {
@@ -88,7 +90,7 @@ test("no date of a set that is kept is broken", async () => {
         .evaluate((hint) => {
             const walker = document.createTreeWalker(hint, NodeFilter.SHOW_TEXT);
             while (walker.nextNode()) {
-                const found = /\d+ \w+ \d{4}, \d\d:\d\d/.exec(walker.currentNode.data);
+                const found = /\d+ \w+ \d{4}, \d\d:\d\d/.exec(walker.currentNode.textContent);
                 if (found !== null) {
                     const range = document.createRange();
                     range.setStart(walker.currentNode, found.index);
@@ -107,7 +109,7 @@ function dots(hint) {
     const walker = document.createTreeWalker(hint, NodeFilter.SHOW_TEXT);
     const begins = [];
     while (walker.nextNode()) {
-        for (const { index } of walker.currentNode.data.matchAll(/·/g)) {
+        for (const { index } of walker.currentNode.textContent.matchAll(/·/g)) {
             const range = document.createRange();
             range.setStart(walker.currentNode, index);
             range.setEnd(walker.currentNode, index + 1);
@@ -149,7 +151,7 @@ test("the name of each fact of a summary is one line, and the fact begins beside
     }
 });
 
-for (const colorScheme of ["light", "dark"]) {
+for (const colorScheme of /** @type {const} */ (["light", "dark"])) {
     test(`the periodic table is shaded where it goes on behind the edge, ${colorScheme}`, async () => {
         const page = await openPage(browser, "#tables", { viewport: { width: 360, height: 800 }, colorScheme });
         const box = page.locator(".scrolling").first();

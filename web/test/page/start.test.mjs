@@ -4,14 +4,16 @@ import { after, test } from "node:test";
 import { goToStart } from "./states.mjs";
 import { agree, go, leave, openChromium, opener, openLesson, openPage, reload } from "./support.mjs";
 
+/** @import { Page } from "./support.mjs" */
+
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
 const name = "Chemical calculations practice";
-const hashOf = (page) => new URL(page.url()).hash;
-const button = (page, text) => page.getByRole("button", { name: text, exact: true });
-const paperField = (page) => page.getByLabel("Paper", { exact: true });
+const hashOf = (/** @type {Page} */ page) => new URL(page.url()).hash;
+const button = (/** @type {Page} */ page, /** @type {string} */ text) => page.getByRole("button", { name: text, exact: true });
+const paperField = (/** @type {Page} */ page) => page.getByLabel("Paper", { exact: true });
 
 for (const hash of ["", "#"]) {
     test(`"${hash}" shows what the page is, and draws no paper`, async () => {
@@ -100,11 +102,11 @@ test("a choice that was put away again is told, and started", async () => {
     await opener(page).click();
     await button(page, "Start").click();
     assert.equal(await opener(page).getAttribute("aria-expanded"), "true", "nothing is chosen, which is shown");
-    for (const [kind, level] of [
+    for (const [kind, level] of /** @type {const} */ ([
         ["Molar mass", 1],
         ["Dilution", 2],
         ["Acid-base titration", 3],
-    ]) {
+    ])) {
         await page
             .getByRole("group", { name: kind })
             .getByRole("checkbox", { name: new RegExp(`^Level ${level}`) })

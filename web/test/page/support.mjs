@@ -7,6 +7,18 @@ import { fileURLToPath, pathToFileURL } from "node:url";
 import { chromium } from "playwright-core";
 import { instantiate, textOf } from "../../../lesson/border/module.mjs";
 
+/** @import { Argument, LessonFunction } from "../../../lesson/border/module.mjs" */
+/** @import { Exercise, KindInfo, Tables } from "../../src/types" */
+/** @import { Browser } from "playwright-core" */
+/** @typedef {import("playwright-core").Page & { problems?: string[], isShared?: boolean }} Page */
+/**
+ * @typedef {Parameters<Browser["newContext"]>[0] & {
+ *     media?: "print" | "screen",
+ *     context?: import("playwright-core").BrowserContext,
+ *     before?: () => void,
+ * }} Options `before` runs in the page in front of its own script.
+ */
+
 export const address = pathToFileURL(process.env.PAGE).href;
 
 // Without these Chromium looks for its maker's services, which is none of the page's doing.
@@ -16,6 +28,7 @@ export function openChromium() {
     return chromium.launch({ executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium", args: quiet });
 }
 
+/** @type {Options} */
 const usual = {
     viewport: { width: 800, height: 900 },
     colorScheme: "light",
@@ -23,27 +36,29 @@ const usual = {
     forcedColors: "none",
     media: null,
 };
+/** @type {WeakMap<Browser, Page>} */
 const shared = new WeakMap();
 
 // An address of the page in a tab that remembers nothing, once it shows something. What goes wrong in it
 // is in `problems`. The tests of a file take turns on one tab, since to start one costs more than a test
 // does; with other options than `usual` has, such as a touch screen, it is a tab of its own.
-export async function openPage(browser, hash = "", options = {}) {
+export async function openPage(/** @type {Browser} */ browser, hash = "", /** @type {Options} */ options = {}) {
     const isOrdinary = Object.keys(options).every((name) => name in usual);
     return isOrdinary ? openShared(browser, hash, { ...usual, ...options }) : openOwn(browser, hash, options);
 }
 
 // What each test does with its tab at its end: nothing went wrong in it, and nothing was asked of any
 // network.
-export async function leave(page) {
+export async function leave(/** @type {Page} */ page) {
     assert.deepEqual(page.problems, []);
     if (!page.isShared) {
         await page.context().close();
     }
 }
 
-async function openOwn(browser, hash, options) {
+async function openOwn(/** @type {Browser} */ browser, /** @type {string} */ hash, /** @type {Options} */ options) {
     const context = options.context ?? (await browser.newContext({ viewport: usual.viewport, ...options }));
+    /** @type {Page} */
     const page = await context.newPage();
     watch(page);
     if (options.before !== undefined) {
@@ -54,7 +69,7 @@ async function openOwn(browser, hash, options) {
     return page;
 }
 
-async function openShared(browser, hash, { viewport, ...media }) {
+async function openShared(/** @type {Browser} */ browser, /** @type {string} */ hash, /** @type {Options} */ { viewport, ...media }) {
     const page = shared.get(browser) ?? (await openOwn(browser, "", {}));
     shared.set(browser, page);
     page.isShared = true;
@@ -75,11 +90,11 @@ async function openShared(browser, hash, { viewport, ...media }) {
 }
 
 // The page itself, its empty icon, and a file that it made for the reader to save.
-function isOwn(url) {
+function isOwn(/** @type {string} */ url) {
     return url.split("#")[0] === address || url.startsWith("data:") || url.startsWith("blob:");
 }
 
-function watch(page) {
+function watch(/** @type {Page} */ page) {
     page.problems = [];
     page.on("pageerror", (error) => page.problems.push(`error: ${error.message}`));
     page.on("console", (message) => message.type() === "error" && page.problems.push(`console: ${message.text()}`));
@@ -88,7 +103,7 @@ function watch(page) {
 
 // Does what leads to another address of the page, and comes back once the page shows it: the address
 // itself is there earlier.
-export async function moved(page, act) {
+export async function moved(/** @type {Page} */ page, /** @type {() => Promise<unknown>} */ act) {
     await page.evaluate(() => {
         window.moved = new Promise((done) => addEventListener("hashchange", () => setTimeout(done, 0), { once: true }));
     });
@@ -98,19 +113,19 @@ export async function moved(page, act) {
 
 // A browser tells its other processes what a page stored when that page is at rest, which takes a while
 // on a busy machine.
-function rest(page) {
+function rest(/** @type {Page} */ page) {
     return page.evaluate(() => new Promise((done) => requestIdleCallback(() => setTimeout(done, 100), { timeout: 1000 })));
 }
 
 // Loads the page anew once what it stored is kept.
-export async function reload(page) {
+export async function reload(/** @type {Page} */ page) {
     await rest(page);
     await page.reload();
 }
 
 // Until two tabs of a window find the same on the device.
-export async function agree(first, second) {
-    const keptIn = (page) => page.evaluate(() => JSON.stringify(Object.entries(localStorage).sort()));
+export async function agree(/** @type {Page} */ first, /** @type {Page} */ second) {
+    const keptIn = (/** @type {Page} */ page) => page.evaluate(() => JSON.stringify(Object.entries(localStorage).sort()));
     for (let times = 0; times < 100 && (await keptIn(first)) !== (await keptIn(second)); ++times) {
         const page = [first, second][times % 2];
         await page.bringToFront();
@@ -120,26 +135,28 @@ export async function agree(first, second) {
 }
 
 // Goes to an address of the page, as a link does: where it is there already, nothing comes.
-export async function go(page, hash) {
+export async function go(/** @type {Page} */ page, /** @type {string} */ hash) {
     await page.evaluate(
         (to) =>
-            new Promise((done) => {
-                const before = location.hash;
-                addEventListener("hashchange", () => setTimeout(done, 0), { once: true });
-                location.hash = to;
-                if (location.hash === before) {
-                    done();
-                }
-            }),
+            /** @type {Promise<void>} */ (
+                new Promise((done) => {
+                    const before = location.hash;
+                    addEventListener("hashchange", () => setTimeout(done, 0), { once: true });
+                    location.hash = to;
+                    if (location.hash === before) {
+                        done();
+                    }
+                })
+            ),
         hash,
     );
 }
 
 // Until the line above the pages tells how many there are.
-export const isMade = (page) => page.locator(".size:not(:empty)").waitFor();
+export const isMade = (/** @type {Page} */ page) => page.locator(".size:not(:empty)").waitFor();
 
 // A sheet, once all its pages are there.
-export async function openMadeSheet(browser, hash, options = {}) {
+export async function openMadeSheet(/** @type {Browser} */ browser, /** @type {string} */ hash, options = {}) {
     const page = await openPage(browser, hash, options);
     await isMade(page);
     return page;
@@ -148,13 +165,20 @@ export async function openMadeSheet(browser, hash, options = {}) {
 // The library in Node, for what a right answer is.
 export async function openLesson() {
     const module = await instantiate(await readFile(process.env.LESSON));
-    const text = (...call) => textOf(module, ...call);
-    const exerciseText = (paper, number, kind) => text("lesson_exercise", paper, number, kind);
+    /** @type {(name: LessonFunction, ...args: Argument[]) => string} */
+    const text = (name, ...args) => textOf(module, name, ...args);
+    const exerciseText = (/** @type {number} */ paper, /** @type {number} */ number, /** @type {string} */ kind) =>
+        text("lesson_exercise", paper, number, kind);
     return {
         exerciseText,
-        exportText: (paper, sheet, format) => text("lesson_export", paper, sheet, format),
-        exercise: (paper, number, kind) => JSON.parse(exerciseText(paper, number, kind)),
+        exportText: (/** @type {number} */ paper, /** @type {string} */ sheet, /** @type {string} */ format) =>
+            text("lesson_export", paper, sheet, format),
+        /** @returns {Exercise} */
+        exercise: (/** @type {number} */ paper, /** @type {number} */ number, /** @type {string} */ kind) =>
+            JSON.parse(exerciseText(paper, number, kind)),
+        /** @returns {KindInfo[]} */
         kinds: () => JSON.parse(text("lesson_kinds")),
+        /** @returns {Tables} */
         tables: () => JSON.parse(text("lesson_tables")),
     };
 }
@@ -173,7 +197,7 @@ export const samples = [
 ];
 
 // Types an answer into whatever field there is, or chooses the word.
-export async function type(page, text) {
+export async function type(/** @type {Page} */ page, /** @type {string} */ text) {
     const field = page.locator("#answer");
     if (await field.count()) {
         await field.fill(text);
@@ -182,27 +206,27 @@ export async function type(page, text) {
     }
 }
 
-export async function check(page) {
+export async function check(/** @type {Page} */ page) {
     await page.getByRole("button", { name: "Check" }).click();
 }
 
 // What opens and closes one of the panels below the exercise.
-export function panel(page, title) {
+export function panel(/** @type {Page} */ page, /** @type {string} */ title) {
     return page.locator("summary", { hasText: title });
 }
 
 // What opens and closes the choice of exercises.
-export function opener(page) {
+export function opener(/** @type {Page} */ page) {
     return page.getByRole("button", { name: "Choose exercises" });
 }
 
 // What the live region says, once it says something.
-export async function announced(page) {
+export async function announced(/** @type {Page} */ page) {
     await page.waitForFunction(() => document.getElementById("announcement").textContent !== "");
     return page.locator("#announcement").textContent();
 }
 
-export async function compareWithApproved(name, text) {
+export async function compareWithApproved(/** @type {string} */ name, /** @type {string} */ text) {
     const file = fileURLToPath(new URL(`approved/${name}`, import.meta.url));
     if (process.env.APPROVE === "1") {
         await writeFile(file, text);

@@ -4,19 +4,21 @@ import { execFileSync } from "node:child_process";
 import { after, test } from "node:test";
 import { announced, go, leave, openChromium, openLesson, openPage, panel } from "./support.mjs";
 
+/** @import { Page } from "./support.mjs" */
+
 const tables = (await openLesson()).tables();
 const browser = await openChromium();
 after(() => browser.close());
 
 test("each element stands in its place with its mass", async () => {
     const page = await openPage(browser, "#tables");
-    const shown = await page.locator(".periodic td:has(abbr)").evaluateAll((cells) =>
+    const shown = await page.locator(".periodic td:has(abbr)").evaluateAll((/** @type {HTMLTableCellElement[]} */ cells) =>
         cells.map((cell) => ({
             number: Number(cell.querySelector(".atomic").textContent),
             symbol: cell.querySelector("abbr").textContent,
             name: cell.querySelector("abbr").title,
             mass: cell.querySelector(".mass").textContent,
-            row: cell.parentElement.rowIndex,
+            row: /** @type {HTMLTableRowElement} */ (cell.parentElement).rowIndex,
             column: cell.cellIndex,
         })),
     );
@@ -34,14 +36,16 @@ test("each element stands in its place with its mass", async () => {
     await leave(page);
 });
 
-async function find(page, typed) {
+async function find(/** @type {Page} */ page, /** @type {string} */ typed) {
     await page.getByRole("textbox", { name: "Find an element" }).fill(typed);
     return page
         .locator(".results tbody tr")
-        .evaluateAll((rows) => rows.map((row) => [...row.cells].map((cell) => cell.textContent).join(" ")));
+        .evaluateAll((/** @type {HTMLTableRowElement[]} */ rows) =>
+            rows.map((row) => [...row.cells].map((cell) => cell.textContent).join(" ")),
+        );
 }
 
-const markedCells = (page) => page.locator(".periodic .found abbr").allTextContents();
+const markedCells = (/** @type {Page} */ page) => page.locator(".periodic .found abbr").allTextContents();
 
 // What is typed, and the symbols of what is found.
 const searches = [
@@ -128,15 +132,15 @@ test("each ion has its name, formula and charge", async () => {
     await leave(page);
 });
 
-const showAll = (page) => page.getByRole("button", { name: "Show those that are never asked" }).click();
+const showAll = (/** @type {Page} */ page) => page.getByRole("button", { name: "Show those that are never asked" }).click();
 
 test("each pair has its verdict, and its reason when it is pressed", async () => {
     const page = await openPage(browser, "#tables");
     await showAll(page);
-    const shown = await page.locator(".solubility button").evaluateAll((buttons) =>
+    const shown = await page.locator(".solubility button").evaluateAll((/** @type {HTMLElement[]} */ buttons) =>
         buttons.map((button) => {
             button.click();
-            const reason = document.querySelector(".reason").cloneNode(true);
+            const reason = /** @type {Element} */ (document.querySelector(".reason").cloneNode(true));
             reason.querySelectorAll(".spoken").forEach((one) => one.remove());
             return [button.getAttribute("aria-label"), reason.textContent.replaceAll("\u00A0", " ")];
         }),
@@ -158,7 +162,7 @@ function askedIons(member) {
     return { asked: names.filter((name) => counts.get(name) > 0), never: names.filter((name) => counts.get(name) === 0), all: names };
 }
 
-const headsOf = (page, part, scope) => page.locator(`.solubility ${part} th[scope=${scope}]`).allTextContents();
+const headsOf = (/** @type {Page} */ page, part, scope) => page.locator(`.solubility ${part} th[scope=${scope}]`).allTextContents();
 
 test("rows and columns of which nothing is asked are told in words, and in the grid when they are wished", async () => {
     const [cations, anions] = [askedIons("cation"), askedIons("anion")];
@@ -175,12 +179,12 @@ test("rows and columns of which nothing is asked are told in words, and in the g
     await leave(page);
 });
 
-const chosenCells = (page) =>
+const chosenCells = (/** @type {Page} */ page) =>
     page.locator(".solubility [aria-current=true]").evaluateAll((cells) => cells.map((cell) => cell.getAttribute("aria-label")));
 
 test("the chosen cell stays chosen with more rows and columns, and goes with its own", async () => {
     const page = await openPage(browser, "#tables");
-    const choose = (name) => page.getByRole("button", { name }).click();
+    const choose = (/** @type {string} */ name) => page.getByRole("button", { name }).click();
     await choose("silver chloride: insoluble");
     const reason = await page.locator(".reason").innerText();
     await showAll(page);
@@ -192,7 +196,7 @@ test("the chosen cell stays chosen with more rows and columns, and goes with its
     await leave(page);
 });
 
-for (const media of [{}, { colorScheme: "dark" }, { forcedColors: "active" }]) {
+for (const media of /** @type {const} */ ([{}, { colorScheme: "dark" }, { forcedColors: "active" }])) {
     test(`the chosen cell has a frame of its own, and its row and column are marked, ${JSON.stringify(media)}`, async () => {
         const page = await openPage(browser, "#tables", media);
         await page.getByRole("button", { name: "zinc sulfide: insoluble" }).click();

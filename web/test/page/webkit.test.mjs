@@ -27,20 +27,20 @@ let session;
 function freePort() {
     return new Promise((done) => {
         const probe = createServer().listen(0, "127.0.0.1", () => {
-            const { port } = probe.address();
+            const { port } = /** @type {import("node:net").AddressInfo} */ (probe.address());
             probe.close(() => done(port));
         });
     });
 }
 
-async function request(method, path, body) {
+async function request(method, /** @type {string} */ path, body = undefined) {
     const response = await fetch(base + path, { method, ...(body === undefined ? {} : { body: JSON.stringify(body) }) });
     const { value } = await response.json();
     assert.ok(response.ok, `${method} ${path}: ${value?.error}: ${value?.message}`);
     return value;
 }
 
-async function until(isTrue, what) {
+async function until(isTrue, /** @type {string} */ what) {
     for (let tries = 0; tries < 300; ++tries) {
         if (await isTrue().catch(() => false)) {
             return;
@@ -74,24 +74,26 @@ after(async () => {
 });
 
 const run = (script, ...args) => request("POST", `${session}/execute/sync`, { script, args });
-const isThere = (selector) => until(() => run("return document.querySelector(arguments[0]) !== null", selector), selector);
-const textOf = (selector) => run("return document.querySelector(arguments[0]).textContent", selector);
+const isThere = (/** @type {string} */ selector) =>
+    until(() => run("return document.querySelector(arguments[0]) !== null", selector), selector);
+const textOf = (/** @type {string} */ selector) => run("return document.querySelector(arguments[0]).textContent", selector);
 
-async function find(selector) {
+async function find(/** @type {string} */ selector) {
     const found = await request("POST", `${session}/element`, { using: "css selector", value: selector });
     return `${session}/element/${Object.values(found)[0]}`;
 }
 
 // The page scrolls smoothly, and what still moves cannot be pressed.
-async function click(selector) {
+async function click(/** @type {string} */ selector) {
     await run("document.querySelector(arguments[0]).scrollIntoView({ block: 'center', behavior: 'instant' })", selector);
     await request("POST", `${await find(selector)}/click`, {});
 }
 
-const typeInto = async (selector, text) => request("POST", `${await find(selector)}/value`, { text });
+const typeInto = async (/** @type {string} */ selector, /** @type {string} */ text) =>
+    request("POST", `${await find(selector)}/value`, { text });
 
 // From one address of the page to another it goes on, without loading anew.
-async function open(hash, heading, which) {
+async function open(/** @type {string} */ hash, heading, which) {
     await request("POST", `${session}/url`, { url: address + hash });
     const isShown =
         "return document.querySelector('h1')?.textContent === arguments[0] && (document.querySelector('.which')?.textContent ?? '') === arguments[1]";

@@ -4,8 +4,8 @@ import { speech } from "../../src/text/seen-and-spoken";
 import { spansOf, spansOfFormulas, spokenSentence } from "../../src/text/sentences";
 import type { Settings, Span } from "../../src/types";
 
-const usual: Settings = { volume: "mL", per: "slash", decimal: ".", names: "british" };
-const other: Settings = { volume: "cm3", per: "power", decimal: ",", names: "american" };
+const usual: Settings = { volume: "mL", per: "slash", decimal: ".", names: "british", masses: "shown" };
+const other: Settings = { volume: "cm3", per: "power", decimal: ",", names: "american", masses: "shown" };
 const names = () => new Map([["aluminium", "aluminum"]]);
 
 const taken: [string, Span[]][] = [
