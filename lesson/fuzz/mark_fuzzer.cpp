@@ -1,18 +1,16 @@
-// Any text as an answer of one form, which KINDS names by the exercises that ask for it: it gets a
-// verdict and a sentence, and blanks around it change neither. The first byte of an input chooses
-// kind and level, the second one the paper, the others are the answer up to the first NUL.
+// Any text as an answer of one form, which `markedKinds` names by the exercises that ask for it: it
+// gets a verdict and a sentence, and blanks around it change neither. The first byte of an input
+// chooses kind and level, the second one the paper, the others are the answer up to the first NUL.
 
 #include <algorithm>
-#include <iterator>
 #include <set>
 
+#include "lesson/fuzz/marked_kinds.hpp"
 #include "lesson/fuzz/support.hpp"
 #include "lesson/lesson.h"
 
 namespace
 {
-
-constexpr const char* kinds[] = {KINDS};
 
 constexpr std::size_t longestSentence = 1000; // In bytes: what it quotes is cut.
 
@@ -30,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size < 2) {
         return 0;
     }
-    const char* const kind = kinds[data[0] % std::size(kinds)];
+    const char* const kind = markedKinds[data[0] % markedKindCount];
     const unsigned paper = data[1] + 1U;
     std::string typed = textOf(data + 2, size - 2);
     typed.erase(std::min(typed.find('\0'), typed.size()));
