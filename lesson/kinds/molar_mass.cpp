@@ -32,9 +32,10 @@ struct Substance {
 
 // ---------------------------------------------------------------------------------- the draw
 
-bool hasBracket(const std::string& formula)
+bool hasBracket(const Composition& composition)
 {
-    return formula.find('(') != std::string::npos;
+    return std::any_of(composition.parts.begin(), composition.parts.end(),
+                       [](const FormulaPart& part) { return part.times > 1 && !part.isWater; });
 }
 
 Substance substanceOf(const Pair& pair)
@@ -62,7 +63,7 @@ std::vector<Substance> substancesOf(int level)
     }
     for (const Pair& pair : pairsForFormulas()) {
         const Substance salt = substanceOf(pair);
-        if (level == (hasBracket(salt.formula) ? 2 : 1)) {
+        if (level == (hasBracket(salt.composition) ? 2 : 1)) {
             substances.push_back(salt);
         }
     }
@@ -136,12 +137,6 @@ Spans massLine(const Composition& composition)
                             : sumOf(part.atoms, massTerm);
     };
     return sumOf(composition.parts, [&](const FormulaPart& part) { return termOf(part, inside); });
-}
-
-bool hasBracket(const Composition& composition)
-{
-    return std::any_of(composition.parts.begin(), composition.parts.end(),
-                       [](const FormulaPart& part) { return part.times > 1 && !part.isWater; });
 }
 
 Step countingStep(const Composition& composition)

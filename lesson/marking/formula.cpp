@@ -207,7 +207,7 @@ std::optional<Mark> numberInFront(const Attempt& attempt)
 // more is wrong.
 std::optional<Mark> numeralLeftIn(const Attempt& attempt)
 {
-    const bool isIodide = attempt.answer.anion->formula == "I";
+    const bool isIodide = attempt.answer.anion->id == Ion::iodide;
     const bool hasNumeral = attempt.read.text.find("(II)") != std::string::npos ||
                             attempt.read.text.find("(III)") != std::string::npos;
     const std::vector<std::string> others = withoutNumeral(attempt.read.text);
