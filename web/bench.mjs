@@ -27,14 +27,21 @@ const saved = resolve(page, "../saved.html");
 const savedLaidOut = resolve(page, "../saved-laid-out.html");
 writeFileSync(empty, emptyPage(bytes.length));
 
-const median = (numbers) => {
+/** @typedef {{ first: number, last: number }} Frames Of the first page and of the last one. */
+
+const median = (/** @type {number[]} */ numbers) => {
     const sorted = [...numbers].sort((a, b) => a - b);
     return (sorted[(sorted.length - 1) >> 1] + sorted[sorted.length >> 1]) / 2;
 };
 
 // One after the other, so many times, each with the number of the turn. Gives a list of times for each.
+/**
+ * @template Time
+ * @param {number} turns
+ * @param {((turn: number) => Promise<Time>)[]} works
+ */
 async function inTurn(turns, ...works) {
-    const times = works.map(() => []);
+    const times = works.map(() => /** @type {Time[]} */ ([]));
     for (let turn = 0; turn < turns; ++turn) {
         for (const [at, work] of works.entries()) {
             times[at].push(await work(turn));
@@ -44,7 +51,7 @@ async function inTurn(turns, ...works) {
 }
 
 // As large as the page, with a heading as the last thing and nothing to do.
-function emptyPage(size) {
+function emptyPage(/** @type {number} */ size) {
     const [before, behind] = ["<!doctype html><meta charset=utf-8><title>Empty</title><!--", "--><body><main><h1>Empty</h1></main>"];
     return before + "x".repeat(size - before.length - behind.length) + behind;
 }
@@ -84,7 +91,7 @@ function markTime() {
     return performance.now() - from;
 }
 
-async function marks(/** @type {Browser} */ browser, /** @type {string} */ kind, exercise) {
+async function marks(/** @type {Browser} */ browser, /** @type {string} */ kind, /** @type {import("./src/types").Exercise} */ exercise) {
     const tab = await browser.newPage();
     await tab.goto(`${address}#practice/1/1/${kind}`);
     await type(tab, exercise.slips[0]?.text ?? exercise.key.text);
@@ -99,6 +106,7 @@ async function marks(/** @type {Browser} */ browser, /** @type {string} */ kind,
 async function allMarks() {
     const library = await openLesson();
     const browser = await openChromium();
+    /** @type {[string, number[]][]} */
     const byKind = [];
     for (const { kind } of library.kinds()) {
         byKind.push([kind, await marks(browser, kind, library.exercise(1, 1, kind))]);
@@ -116,8 +124,8 @@ function pressToFrames(/** @type {string} */ hash) {
     return new Promise((done) => {
         const from = performance.now();
         const main = document.querySelector("main");
-        const times = {};
-        const keep = (which) =>
+        const times = /** @type {Frames} */ ({});
+        const keep = (/** @type {keyof Frames} */ which) =>
             requestAnimationFrame(() => scheduler.postTask(() => (times[which] = performance.now() - from), { priority: "user-blocking" }));
         const opened = new MutationObserver(() => {
             opened.disconnect();
@@ -146,14 +154,14 @@ function tellWhenLoaded() {
 }
 
 // The pages as the browser has them once they are made, with the style that lays them out, and no script.
-function finishedPages(furtherStyle) {
+function finishedPages(/** @type {string} */ furtherStyle) {
     const style = document.querySelector("style").textContent + furtherStyle;
     const leaves = document.querySelector(".leaves").outerHTML;
     return `<!doctype html><html lang="en-GB" data-view="sheet"><meta charset="utf-8"><title>Saved</title><style>${style}</style><body><main>${leaves}</main></html>`;
 }
 
 // Each in a tab of its own, so that nothing is compiled or laid out yet.
-async function inNewTab(/** @type {Browser} */ browser, work) {
+async function inNewTab(/** @type {Browser} */ browser, /** @type {(tab: Page) => Promise<number | Frames>} */ work) {
     const tab = await browser.newPage();
     try {
         return await work(tab);
@@ -172,7 +180,7 @@ async function madeSet(/** @type {Page} */ tab, /** @type {number} */ turn) {
     return times;
 }
 
-async function savedSet(/** @type {Page} */ tab, file) {
+async function savedSet(/** @type {Page} */ tab, /** @type {string} */ file) {
     await tab.addInitScript(tellWhenLoaded);
     await tab.waitForTimeout(settling);
     const [message] = await Promise.all([tab.waitForEvent("console"), tab.goto(pathToFileURL(file).href)]);
@@ -181,6 +189,7 @@ async function savedSet(/** @type {Page} */ tab, file) {
 
 // The page lays out each exercise once, to break its pages; so what it is compared with are the saved pages
 // all laid out. Else a browser lays out the few in the window, and has little more to do than to read them.
+/** @returns {Promise<[made: Frames[], loaded: number[], laidOut: number[]]>} */
 async function classSets() {
     const browser = await openChromium();
     const times = await inTurn(
@@ -190,20 +199,21 @@ async function classSets() {
         () => inNewTab(browser, (/** @type {Page} */ tab) => savedSet(tab, savedLaidOut)),
     );
     await browser.close();
-    return times;
+    const [made, ...others] = times;
+    return /** @type {[Frames[], number[], number[]]} */ ([made, ...others]);
 }
 
-function line(/** @type {string} */ what, value) {
+function line(/** @type {string} */ what, /** @type {string} */ value) {
     console.log(`${what.padEnd(46)} ${value.padStart(10)}`);
 }
 
-function timeLine(/** @type {string} */ what, times) {
+function timeLine(/** @type {string} */ what, /** @type {number[]} */ times) {
     const [least, most] = [Math.min(...times), Math.max(...times)];
     line(what, `${median(times).toFixed(1)} ms   (${least.toFixed(1)} to ${most.toFixed(1)})`);
 }
 
 // Of the medians, so that no disturbed turn weighs; the turns of both were taken one after the other.
-function ratioLine(/** @type {string} */ what, times, others, goal = "") {
+function ratioLine(/** @type {string} */ what, /** @type {number[]} */ times, /** @type {number[]} */ others, goal = "") {
     line(what, `${(median(times) / median(others)).toFixed(2)}      ${goal}`);
 }
 
@@ -228,7 +238,7 @@ for (const [kind, times] of await allMarks()) {
 }
 
 const [made, loaded, laidOut] = await classSets();
-const [first, last] = ["first", "last"].map((which) => made.map((times) => times[which]));
+const [first, last] = [made.map((times) => times.first), made.map((times) => times.last)];
 console.log(`\nA class set, 30 papers of 20 exercises with keys: medians of ${sets}`);
 timeLine("its first pages on the screen", first);
 timeLine("all its pages made, each laid out once", last);

@@ -33,13 +33,13 @@ await writeFile(target, page);
 
 // By fflate, whose bytes are the same with every version of Node. Under which name a script imports them, and
 // where they are.
-async function packed(/** @type {string} */ name, file) {
+async function packed(/** @type {string} */ name, /** @type {string} */ file) {
     const path = resolve(dirname(target), name);
     await writeFile(path, zlibSync(await readFile(file), { level: 9 }));
     return [name, path];
 }
 
-async function bundle(entry) {
+async function bundle(/** @type {string} */ entry) {
     const result = await build({
         entryPoints: [join(here, entry)],
         bundle: true,

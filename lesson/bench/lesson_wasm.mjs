@@ -5,7 +5,7 @@ import { loadLesson } from "../tests/wasm/lesson.mjs";
 const papers = 200;
 const numbersOfAPaper = 20;
 
-function aSecond(work) {
+function aSecond(/** @type {() => void} */ work) {
     work();
     const before = process.cpuUsage();
     work();
@@ -13,14 +13,14 @@ function aSecond(work) {
     return Math.round((papers * numbersOfAPaper * 1e6) / (user + system));
 }
 
-function forEachExercise(use) {
+function forEachExercise(/** @type {(paper: number, number: number) => void} */ use) {
     for (let paper = 1; paper <= papers; ++paper) {
         for (let number = 1; number <= numbersOfAPaper; ++number) use(paper, number);
     }
 }
 
 const lesson = await loadLesson();
-const kinds = lesson.json("lesson_kinds").flatMap(({ kind }) => [1, 2, 3].map((n) => `${kind}:${n}`));
+const kinds = lesson.json("lesson_kinds").flatMap((/** @type {{ kind: string }} */ { kind }) => [1, 2, 3].map((n) => `${kind}:${n}`));
 console.log("kind                exercises/s    marks/s");
 for (const kind of [...kinds, "mixed"]) {
     const exercises = aSecond(() =>

@@ -11,6 +11,7 @@ const source = join(dirname(fileURLToPath(import.meta.url)), "../src");
 const border = "../../lesson/border/module.mjs";
 
 // A folder, or a module that stands beside them, and what it may import besides itself.
+/** @type {Record<string, string[]>} */
 const allowed = {
     types: [],
     words: [],
@@ -25,6 +26,7 @@ const allowed = {
     main: ["types", "words", "shared", "text", "address", "practice", "sheet", "tables", "notices", "lesson", "lesson.bin", border],
 };
 
+/** @returns {string[]} */
 function modules(folder = "") {
     return readdirSync(join(source, folder), { withFileTypes: true }).flatMap((entry) => {
         const path = join(folder, entry.name);
@@ -32,16 +34,16 @@ function modules(folder = "") {
     });
 }
 
-function textOf(module) {
+function textOf(/** @type {string} */ module) {
     return readFileSync(join(source, `${module}.ts`), "utf8");
 }
 
-function importsOf(module) {
+function importsOf(/** @type {string} */ module) {
     const names = [...textOf(module).matchAll(/\b(?:from |import\()"([^"]+)"/g)].map((found) => found[1]);
     return names.map((name) => (name.startsWith(".") ? normalize(join(dirname(module), name)) : name));
 }
 
-function folderOf(module) {
+function folderOf(/** @type {string} */ module) {
     return module.split("/")[0];
 }
 
@@ -63,7 +65,7 @@ for (const module of modules()) {
 
 test("no module imports itself by way of others", () => {
     const done = new Set();
-    const walk = (module, /** @type {string[]} */ path) => {
+    const walk = (/** @type {string} */ module, /** @type {string[]} */ path) => {
         assert.ok(!path.includes(module), [...path, module].join(" > "));
         if (!done.has(module)) {
             importsOf(module)

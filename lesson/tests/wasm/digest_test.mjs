@@ -10,19 +10,19 @@ const approved = readFileSync(new URL("../approved/digests.txt", import.meta.url
     .split("\n");
 const decoder = new TextDecoder();
 
-function add(digest, bytes) {
+function add(/** @type {number} */ digest, /** @type {Uint8Array} */ bytes) {
     let value = digest;
     for (let i = 0; i < bytes.length; ++i) value = Math.imul(value ^ bytes[i], 16777619);
     return Math.imul(value ^ 10, 16777619);
 }
-const hexadecimal = (digest) => (digest >>> 0).toString(16).padStart(8, "0");
+const hexadecimal = (/** @type {number} */ digest) => (digest >>> 0).toString(16).padStart(8, "0");
 
-function typedTexts(exercise) {
+function typedTexts(/** @type {{ key: { text: string }, slips: { text: string }[] }} */ exercise) {
     const others = ["", "42", "Mg2O2", "SO4^2-", "no", "HCl + NaOH -> NaCl + H2O"];
     return [exercise.key.text, ...others, ...exercise.slips.map((slip) => slip.text)];
 }
 
-function digestLine(lesson, /** @type {string} */ kind) {
+function digestLine(/** @type {Awaited<ReturnType<typeof loadLesson>>} */ lesson, /** @type {string} */ kind) {
     let exercises = 2166136261;
     let marks = 2166136261;
     let files = 2166136261;

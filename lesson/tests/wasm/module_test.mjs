@@ -17,7 +17,7 @@ test("the module imports nothing and exports the interface", async () => {
 test("the kinds are listed", async () => {
     const kinds = (await loadLesson()).json("lesson_kinds");
     assert.deepEqual(
-        kinds.map((row) => row.kind),
+        kinds.map((/** @type {{ kind: string }} */ row) => row.kind),
         ["molar-mass", "compound-formula", "ion-formula", "solubility", "concentration", "dilution", "neutralisation", "titration"],
     );
     for (const row of kinds) assert.equal(row.levels.length, 3);
@@ -103,7 +103,7 @@ test("a zero is a character of what is typed, not its end", async () => {
 
 test("the memory does not grow with the number of calls", async () => {
     const lesson = await loadLesson();
-    const work = (papers) => {
+    const work = (/** @type {number} */ papers) => {
         for (let paper = 1; paper <= papers; ++paper) {
             lesson.bytes("lesson_exercise", paper, paper, "mixed");
             lesson.bytes("lesson_mark", paper, paper, "mixed", "0.0456 mol/L");

@@ -6,13 +6,14 @@ import axe from "axe-core";
 import { answerWith, press, states, verdicts } from "./states.mjs";
 import { announced, check, compareWithApproved, leave, openChromium, openLesson, openPage, reload, type } from "./support.mjs";
 
+/** @import { Locator } from "playwright-core" */
 /** @import { Page } from "./support.mjs" */
 
 const lesson = await openLesson();
 const browser = await openChromium();
 after(() => browser.close());
 
-async function violations(/** @type {Page} */ page, options) {
+async function violations(/** @type {Page} */ page, /** @type {object} */ options) {
     const results = await page.evaluate((more) => window.axe.run({ preload: false, resultTypes: ["violations"], ...more }), options);
     return results.violations.map(({ id, help, nodes }) => `${id}: ${help}: ${nodes.map((node) => node.html.slice(0, 150)).join(" | ")}`);
 }
@@ -100,7 +101,7 @@ const invalid = [
     { kind: "solubility:1", wrong: "no", right: "yes" },
 ];
 const answerField = (/** @type {Page} */ page) => page.locator("#answer, .answer[role=radiogroup]");
-const descriptionOf = (field) =>
+const descriptionOf = (/** @type {Locator} */ field) =>
     field.evaluate((one) =>
         (one.getAttribute("aria-describedby") ?? "")
             .split(" ")

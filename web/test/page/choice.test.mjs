@@ -12,7 +12,7 @@ after(() => browser.close());
 
 const hashOf = (/** @type {Page} */ page) => new URL(page.url()).hash;
 const button = (/** @type {Page} */ page, /** @type {string} */ text) => page.getByRole("button", { name: text, exact: true });
-const boxOf = (/** @type {Page} */ page, /** @type {string} */ title, level) =>
+const boxOf = (/** @type {Page} */ page, /** @type {string} */ title, /** @type {number} */ level) =>
     page.getByRole("group", { name: title, exact: true }).getByRole("checkbox", { name: new RegExp(`^Level ${level}`) });
 const isFocused = (/** @type {Locator} */ locator) => locator.evaluate((element) => element === document.activeElement);
 const chosen = (/** @type {Page} */ page) =>

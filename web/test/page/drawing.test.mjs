@@ -10,7 +10,8 @@ after(() => browser.close());
 const numbers = [1, 2, 3, 4, 5, 6];
 
 // The volumes to two decimals that the question tells, in its order.
-function titresOf({ prompt }) {
+function titresOf(/** @type {import("../../src/types").Exercise} */ exercise) {
+    const prompt = /** @type {{ number?: string, unit?: string }[]} */ (exercise.prompt);
     return prompt.filter((span, at) => /^\d+\.\d\d$/.test(span.number ?? "") && prompt[at + 1]?.unit === "mL").map(({ number }) => number);
 }
 
@@ -26,14 +27,14 @@ function levelDrawn() {
     const marks = shape.querySelector(".marks");
     const { y, height } = marks.getBBox();
     const { d, f } = marks.getScreenCTM();
-    const onScale = (pixel) => (((pixel - f) / d - y) / height) * 50;
+    const onScale = (/** @type {number} */ pixel) => (((pixel - f) / d - y) / height) * 50;
     const { left, right, top, bottom } = shape.querySelector(".burette .liquid").getBoundingClientRect();
     let pixel = top - 20;
     while (pixel < bottom && document.elementFromPoint((left + right) / 2, pixel)?.matches(".liquid") !== true) {
         pixel += 0.05;
     }
     const numbers = [...shape.querySelectorAll("text")].filter((one) => /^\d+$/.test(one.textContent));
-    const placeOf = (one) => onScale((one.getBoundingClientRect().top + one.getBoundingClientRect().bottom) / 2);
+    const placeOf = (/** @type {Element} */ one) => onScale((one.getBoundingClientRect().top + one.getBoundingClientRect().bottom) / 2);
     return { reading: onScale(pixel), numbers: numbers.map((one) => [Number(one.textContent), placeOf(one)]) };
 }
 
@@ -45,7 +46,7 @@ for (const level of [1, 2, 3]) {
             await page.goto(`${page.url().split("#")[0]}#practice/4821/${number}/titration:${level}`);
             await page.getByRole("heading", { name: `Exercise ${number}` }).waitFor();
             const { reading, numbers: scale } = await page.evaluate(levelDrawn);
-            assert.ok(Math.abs(reading - titre) < 0.1, `exercise ${number}: drawn ${reading}, told ${titre}`);
+            assert.ok(Math.abs(reading - Number(titre)) < 0.1, `exercise ${number}: drawn ${reading}, told ${titre}`);
             assert.deepEqual(
                 scale.map(([ten]) => ten),
                 [0, 10, 20, 30, 40, 50],

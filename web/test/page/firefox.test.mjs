@@ -10,8 +10,11 @@ const executablePath = process.env.FIREFOX ?? "/usr/bin/firefox-esr";
 const skip = existsSync(executablePath) ? false : `there is no ${executablePath}`;
 
 const lesson = await openLesson();
+/** @type {import("puppeteer-core").Browser} */
 let browser;
+/** @type {import("puppeteer-core").Page} */
 let page;
+/** @type {string[]} */
 const problems = [];
 before(async () => {
     if (skip) {
@@ -19,7 +22,7 @@ before(async () => {
     }
     browser = await puppeteer.launch({ browser: "firefox", executablePath, headless: true });
     page = await browser.newPage();
-    page.on("pageerror", (error) => problems.push(`error: ${error.message}`));
+    page.on("pageerror", (error) => problems.push(`error: ${error}`));
     page.on(
         "request",
         (request) =>
@@ -76,7 +79,7 @@ async function leavesInChromium(/** @type {string} */ hash) {
 const margin = { top: "15mm", bottom: "15mm", left: "18mm", right: "18mm" };
 
 for (const [what, hash] of Object.entries(sheets)) {
-    const format = what.split(",")[0];
+    const format = /** @type {"A4" | "Letter"} */ (what.split(",")[0]);
     test(`a sheet on ${what}: what is printed is the preview, page by page`, { skip }, async () => {
         await open(hash);
         await page.waitForSelector(".size:not(:empty)");

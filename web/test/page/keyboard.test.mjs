@@ -3,6 +3,7 @@ import assert from "node:assert/strict";
 import { after, test } from "node:test";
 import { announced, leave, openChromium, opener, openLesson, openPage, panel } from "./support.mjs";
 
+/** @import { Ask, Exercise } from "../../src/types" */
 /** @import { Locator } from "playwright-core" */
 /** @import { Page } from "./support.mjs" */
 
@@ -15,7 +16,7 @@ const isFocused = (/** @type {Locator} */ locator) => locator.evaluate((element)
 const button = (/** @type {Page} */ page, /** @type {string} */ name) => page.getByRole("button", { name, exact: true });
 
 // Presses Tab until the focus is there. Each stop on the way is on the screen, and shows that it is one.
-async function tabTo(/** @type {Page} */ page, target, key = "Tab") {
+async function tabTo(/** @type {Page} */ page, /** @type {Locator} */ target, key = "Tab") {
     for (let presses = 0; presses < 80; ++presses) {
         await page.keyboard.press(key);
         const stop = await page.evaluate(focusShown);
@@ -38,7 +39,7 @@ function focusShown() {
 }
 
 // Types into the field that has the focus, or chooses the word among the choices.
-async function answer(/** @type {Page} */ page, ask, /** @type {string} */ text) {
+async function answer(/** @type {Page} */ page, /** @type {Ask} */ ask, /** @type {string} */ text) {
     if (ask.choices === undefined) {
         await page.keyboard.press("Control+A");
         await page.keyboard.type(text);
@@ -54,12 +55,12 @@ async function answer(/** @type {Page} */ page, ask, /** @type {string} */ text)
     assert.fail(`no choice ${text}`);
 }
 
-function firstField(/** @type {Page} */ page, ask) {
+function firstField(/** @type {Page} */ page, /** @type {Ask} */ ask) {
     return ask.choices === undefined ? page.locator("#answer") : page.locator("input[name=answer]").first();
 }
 
 // A wrong answer of each form; for choices it is the other one.
-function wrongAnswer({ ask, key, slips }) {
+function wrongAnswer(/** @type {Exercise} */ { ask, key, slips }) {
     return ask.choices === undefined ? slips[0].text : ask.choices.find((/** @type {string} */ word) => word !== key.text);
 }
 

@@ -51,9 +51,10 @@ function brokenWords() {
         .filter((heading) => heading.checkVisibility())
         .flatMap((heading) => {
             const walker = document.createTreeWalker(heading, NodeFilter.SHOW_TEXT);
+            /** @type {Text[]} */
             const texts = [];
             while (walker.nextNode()) {
-                texts.push(walker.currentNode);
+                texts.push(/** @type {Text} */ (walker.currentNode));
             }
             return texts.flatMap((text) => [...text.data.matchAll(/[^\s]+/g)].map(({ 0: word, index }) => ({ text, word, index })));
         });
@@ -67,7 +68,7 @@ function brokenWords() {
         .map(({ word }) => word);
 }
 
-async function withText(/** @type {Page} */ page, times) {
+async function withText(/** @type {Page} */ page, /** @type {number} */ times) {
     await page.evaluate((factor) => {
         const root = document.documentElement;
         root.style.fontSize = "";
@@ -137,6 +138,7 @@ for (const [what, viewport] of /** @type {const} */ ([
 // The first character of each line of an equation, and whether it shares its first and last line with other text.
 function equationLines() {
     const equation = document.querySelector(".prompt .equation");
+    /** @type {{ sign: string, top: number, isOf: boolean }[]} */
     const characters = [];
     const walker = document.createTreeWalker(document.querySelector(".prompt > [aria-hidden]"), NodeFilter.SHOW_TEXT);
     while (walker.nextNode()) {
@@ -352,7 +354,7 @@ test("on a phone, behind a right answer the field, the mark and Next are in view
     await leave(page);
 });
 
-async function isInView(/** @type {Page} */ page, selectors) {
+async function isInView(/** @type {Page} */ page, /** @type {string[]} */ selectors) {
     for (const selector of selectors) {
         const seen = page.locator(selector);
         await seen.waitFor();
@@ -477,7 +479,7 @@ test("nothing moves where less motion is wished", async () => {
 
 // The lightest text and the darkest background on paper, each from 0, black, to 255, white.
 function onPaper() {
-    const shade = (colour) => {
+    const shade = (/** @type {string} */ colour) => {
         const [red, green, blue, alpha = 1] = colour.match(/[\d.]+/g).map(Number);
         return alpha === 0 ? 255 : Math.round((red + green + blue) / 3);
     };

@@ -233,7 +233,7 @@ test("from a web server the link is the whole address", async () => {
     server.close();
 });
 
-const stored = (touched, ...solved) =>
+const stored = (/** @type {number} */ touched, /** @type {number[]} */ ...solved) =>
     JSON.stringify({
         begun: touched,
         touched,

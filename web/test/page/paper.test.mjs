@@ -5,6 +5,7 @@ import { after, test } from "node:test";
 import { pagesOf, plain } from "./pdf.mjs";
 import { isMade, leave, openChromium, openLesson, openMadeSheet, reload } from "./support.mjs";
 
+/** @import { Line } from "./pdf.mjs" */
 /** @import { Options } from "./support.mjs" */
 
 const lesson = await openLesson();
@@ -18,8 +19,8 @@ async function printed(/** @type {string} */ hash, /** @type {Options} */ option
     const page = await openSheet(hash, options);
     const pages = pagesOf(await page.pdf({ preferCSSPageSize: true }));
     await leave(page);
-    const isKey = (lines) => lines.some((line) => line.text.startsWith("Keyto"));
-    const textsOf = (some) => some.flat().map((line) => line.text);
+    const isKey = (/** @type {Line[]} */ lines) => lines.some((line) => line.text.startsWith("Keyto"));
+    const textsOf = (/** @type {Line[][]} */ some) => some.flat().map((line) => line.text);
     return { pages, sheet: textsOf(pages.filter((lines) => !isKey(lines))), key: textsOf(pages.filter(isKey)) };
 }
 
@@ -51,8 +52,8 @@ for (const [size, name] of [
 
 // Of each question: its own words, those above it that it shares, its line for the answer.
 function questions() {
-    const seen = (one) => {
-        const copy = one?.cloneNode(true);
+    const seen = (/** @type {Element | null} */ one) => {
+        const copy = /** @type {Element} */ (one?.cloneNode(true));
         copy?.querySelectorAll(".spoken").forEach((spoken) => spoken.remove());
         return copy?.textContent.replace(/\s/g, "") ?? "";
     };
@@ -176,7 +177,7 @@ test("the unit of the answer's line is the reader's", async () => {
     assert.ok(sheet.includes("V(H2O)=cm3"), sheet.join("\n"));
 });
 
-const numbered = (lines) => lines.filter((line) => /^\d+\.(?!\d)/.test(line.text));
+const numbered = (/** @type {Line[]} */ lines) => lines.filter((line) => /^\d+\.(?!\d)/.test(line.text));
 
 test("thirty ions with a line for each are one page, and their numbers run across and then down", async () => {
     const page = await openSheet("#sheet/4821/10*ion-formula:1,10*ion-formula,10*ion-formula:3?v=1");
@@ -287,7 +288,7 @@ for (const [room, atOneMark] of /** @type {const} */ ([
 
 test("a key of worked answers tells once how its lines are rounded, another key does not", async () => {
     const told = "Valuesareshownrounded;thenextlineusesthemunrounded.";
-    const times = async (kinds, options) =>
+    const times = async (/** @type {string} */ kinds, /** @type {string} */ options) =>
         (await printed(`#sheet/4821/${kinds}?versions=2&${options}v=1`)).key.filter((line) => line === told).length;
     assert.equal(await times("2*titration:3", "key=working&"), 1);
     assert.equal(await times("2*titration:3", "key=working&keys=apart&"), 2, "of keys that are handed out apart, each");
@@ -298,7 +299,7 @@ test("a key of worked answers tells once how its lines are rounded, another key 
 });
 
 test("where the masses come from a table, the key tells those that it has used", async () => {
-    const told = async (options) => {
+    const told = async (/** @type {string} */ options) => {
         const { sheet, key } = await printed(`#sheet/4821/2*molar-mass,ion-formula?${options}v=1`);
         return [sheet, key].map((lines) => lines.filter((line) => /^Relativeatomicmasses:[A-Z][a-z]?\d/.test(line)));
     };
@@ -351,7 +352,7 @@ test("marks stand behind each question and in the key, and their total above", a
         sheet.some((line) => line.startsWith("Name") && line.endsWith("Mark/25")),
         sheet.join("\n"),
     );
-    assert.deepEqual(key.flatMap((line) => /^\d+\..*\((\d)\)$/.exec(line)?.[1] ?? []).map(Number), expected);
+    assert.deepEqual(key.flatMap((line) => [...(/^\d+\..*\((\d)\)$/.exec(line) ?? [])].slice(1)).map(Number), expected);
 });
 
 test("questions with marks are in the letters of the others", async () => {

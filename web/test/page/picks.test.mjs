@@ -26,7 +26,7 @@ async function waitForList(/** @type {Page} */ page, /** @type {string} */ list)
 }
 
 // What is asked of the first version, in the order of its pages.
-async function asksOf(/** @type {Page} */ page, count) {
+async function asksOf(/** @type {Page} */ page, /** @type {number} */ count) {
     const lines = await page
         .locator(".leaf ol > li .asks")
         .evaluateAll((all) =>
@@ -36,7 +36,7 @@ async function asksOf(/** @type {Page} */ page, count) {
 }
 
 // Each "kind@number" of the paper, as the library asks it.
-const asked = (/** @type {number} */ paper, places) =>
+const asked = (/** @type {number} */ paper, /** @type {string[]} */ places) =>
     places.map((place) => {
         const [kind, number] = place.split("@");
         return plain(
@@ -47,7 +47,7 @@ const asked = (/** @type {number} */ paper, places) =>
         );
     });
 
-async function isOnThePage(/** @type {Page} */ page, /** @type {number} */ paper, places) {
+async function isOnThePage(/** @type {Page} */ page, /** @type {number} */ paper, /** @type {string[]} */ places) {
     const lines = await asksOf(page, places.length);
     asked(paper, places).forEach((/** @type {string} */ text, at) =>
         assert.ok(lines[at].includes(text), `${at + 1}: ${lines[at]} is not ${text}`),

@@ -4,6 +4,7 @@ import { after, test } from "node:test";
 import { plain } from "./pdf.mjs";
 import { check, leave, openChromium, openLesson, openPage, reload, type } from "./support.mjs";
 
+/** @import { Exercise } from "../../src/types" */
 /** @import { Page } from "./support.mjs" */
 
 const lesson = await openLesson();
@@ -16,7 +17,7 @@ const seen = (/** @type {Page} */ page, /** @type {string} */ selector) =>
         .first()
         .evaluate((one) => [...one.querySelectorAll("[aria-hidden]")].map((part) => part.textContent).join("") || one.textContent);
 
-const promptOf = (exercise) => plain(exercise.prompt.map((span) => Object.values(span)[0]).join(""));
+const promptOf = (/** @type {Exercise} */ exercise) => plain(exercise.prompt.map((span) => Object.values(span)[0]).join(""));
 
 test("Practise this sheet gives the same exercises in the same order as a set, with a summary at its end", async () => {
     const page = await openPage(browser, "#sheet/4821/ion-formula@7,compound-formula,ion-formula@3?v=1");

@@ -13,7 +13,7 @@ after(() => browser.close());
 const kind = "ion-formula:1";
 const row = (/** @type {Page} */ page) => page.getByRole("row", { name: /Formula of an ion/ });
 
-async function solve(/** @type {Page} */ page, /** @type {number} */ number, wrongBefore = []) {
+async function solve(/** @type {Page} */ page, /** @type {number} */ number, /** @type {string[]} */ wrongBefore = []) {
     for (const text of [...wrongBefore, lesson.exercise(4821, number, kind).key.text]) {
         await type(page, text);
         await check(page);
@@ -100,6 +100,7 @@ test("clearing the record clears it alone: the exercise stays as it is", async (
     await leave(page);
 });
 
+/** @type {[what: string, kept: unknown, cells: string[]][]} */
 const found = [
     ["from before there were later tries", { "ion-formula": { first: 2, help: 1, shown: 3, row: 1, ticked: false } }, ["2", "0", "1", "3"]],
     ["with a damaged count", { "ion-formula": { first: "2", later: -1, help: 1.5, shown: 3, row: {}, ticked: 1 } }, ["0", "0", "0", "3"]],

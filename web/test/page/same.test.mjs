@@ -5,6 +5,9 @@ import { execFileSync } from "node:child_process";
 import { after, before, test } from "node:test";
 import { openChromium, openLesson, openPage } from "./support.mjs";
 
+/** @typedef {{ paper: number, count: number, kinds: string }} Course From exercise 1 of a paper to this many. */
+/** @import { Browser } from "playwright-core" */
+
 const paper = 7;
 const countEach = 500;
 const shownOnes = 100;
@@ -13,8 +16,11 @@ const kinds = (await openLesson()).kinds().flatMap(({ kind, levels }) => levels.
 const all = kinds.join(",");
 const count = countEach * kinds.length;
 
+/** @type {Browser} */
 let browser;
+/** @type {import("./support.mjs").Page} */
 let page;
+/** @type {string[]} */
 let native;
 before(async () => {
     assert.ok(process.env.NATIVE, "NATIVE is to be the path of print_json");
@@ -31,7 +37,9 @@ function listen() {
     const { instantiate } = WebAssembly;
     const keep = async (/** @type {BufferSource} */ bytes) => {
         const made = await instantiate(bytes);
-        window.lesson = /** @type {any} */ (made.instance.exports);
+        window.lesson = /** @type {import("../../../lesson/border/module.mjs").LessonModule} */ (
+            /** @type {unknown} */ (made.instance.exports)
+        );
         return made;
     };
     Object.assign(WebAssembly, { instantiate: keep });
@@ -45,7 +53,7 @@ function listen() {
     };
 }
 
-function makeAll({ paper, count, kinds }) {
+function makeAll(/** @type {Course} */ { paper, count, kinds }) {
     const module = window.lesson;
     const bytes = new TextEncoder().encode(`${kinds}\0`);
     const at = module.malloc(bytes.length);
@@ -58,7 +66,7 @@ function makeAll({ paper, count, kinds }) {
 }
 
 // Goes from exercise to exercise by their addresses.
-async function visit({ paper, count, kinds }) {
+async function visit(/** @type {Course} */ { paper, count, kinds }) {
     window.read.length = 0;
     for (let number = 1; number <= count; ++number) {
         const shown = new Promise((done) => window.addEventListener("hashchange", done, { once: true }));
@@ -75,7 +83,7 @@ function difference(page = "", native = "") {
     return `the page has …${page.slice(from, at + 60)}…, the native library …${native.slice(from, at + 60)}…`;
 }
 
-function assertSame(made, expected) {
+function assertSame(/** @type {string[]} */ made, /** @type {string[]} */ expected) {
     assert.equal(made.length, expected.length);
     const other = made.findIndex((/** @type {string} */ text, at) => text !== expected[at]);
     assert.equal(other, -1, `exercise ${other + 1} of ${all}: ${difference(made[other], expected[other])}`);

@@ -62,8 +62,9 @@ const fact = (/** @type {Page} */ page, /** @type {string} */ name) =>
     page.locator("dt", { hasText: name }).locator("xpath=following-sibling::dd[1]").innerText();
 
 // In tabs of a window of its own, each with a session of its own.
-async function inTabs(run) {
+async function inTabs(/** @type {(open: (hash: string) => Promise<Page>) => Promise<void>} */ run) {
     const context = await browser.newContext();
+    /** @type {Page[]} */
     const pages = [];
     await run(async (/** @type {string} */ hash) => {
         pages.push(await openPage(browser, hash, { context }));

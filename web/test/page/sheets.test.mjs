@@ -5,6 +5,8 @@ import { after, test } from "node:test";
 import { leafTexts, letters, pageSize, pagesOf, plain, shadesOf } from "./pdf.mjs";
 import { announced, compareWithApproved, go, leave, openChromium, openLesson, openPage, reload } from "./support.mjs";
 
+/** @import { Locator } from "playwright-core" */
+/** @import { Exercise } from "../../src/types" */
 /** @import { Line } from "./pdf.mjs" */
 /** @import { Page } from "./support.mjs" */
 
@@ -34,7 +36,7 @@ async function openSheet(/** @type {string} */ hash, options = {}) {
 
 const isMade = (/** @type {Page} */ page) => page.locator(".size:not(:empty)").waitFor();
 
-async function change(/** @type {Page} */ page, work) {
+async function change(/** @type {Page} */ page, /** @type {() => Promise<unknown>} */ work) {
     await page.evaluate(() => document.querySelector(".size").replaceChildren());
     await work();
     await isMade(page);
@@ -44,7 +46,7 @@ const printed = (/** @type {Page} */ page) => page.pdf({ preferCSSPageSize: true
 
 const previewTexts = (/** @type {Page} */ page) => page.evaluate(leafTexts);
 
-const textOf = (lines) => lines.map((line) => line.text).join("\n");
+const textOf = (/** @type {Line[]} */ lines) => lines.map((line) => line.text).join("\n");
 
 // The entries of an address as its exercises, in order.
 function exercisesOf(/** @type {string} */ hash, /** @type {number} */ paper) {
@@ -59,7 +61,7 @@ function exercisesOf(/** @type {string} */ hash, /** @type {number} */ paper) {
 }
 
 // "Al2(SO4)3", "SO42−", "2HCl+…→…": as it is on paper, blanks aside.
-function answerOnPaper({ key }) {
+function answerOnPaper(/** @type {Exercise} */ { key }) {
     return plain(key.text)
         .replace("->", "→")
         .replaceAll("^", "")
@@ -68,6 +70,8 @@ function answerOnPaper({ key }) {
 }
 
 // Each sheet once: what the preview shows, and what came out of the printer.
+/** @typedef {Awaited<ReturnType<typeof make>>} Sheet */
+/** @type {Map<string, Promise<Sheet>>} */
 const made = new Map();
 function sheet(/** @type {string} */ hash) {
     if (!made.has(hash)) {
@@ -100,12 +104,12 @@ function labelsOf(/** @type {string} */ hash) {
     return { single, all: `Papers${papers[0]}to${papers.at(-1)}` };
 }
 
-const labelOf = (lines) => lines[0].text.replace(/Page\d+of\d+$/, "");
+const labelOf = (/** @type {Line[]} */ lines) => lines[0].text.replace(/Page\d+of\d+$/, "");
 
 const titleOf = (/** @type {string} */ hash) => plain(new URLSearchParams(hash.split("?")[1]).get("title") ?? "Chemical calculations");
 
 // "sheet", "key", or "blank" for a side that is left so.
-function sideOf(lines) {
+function sideOf(/** @type {Line[]} */ lines) {
     if (lines.length === 2 && lines[1].text === "Thissideisblank.") {
         return "blank";
     }
@@ -172,7 +176,7 @@ for (const [name, hash] of Object.entries(sheets)) {
             let from = 0;
             exercisesOf(hash, paper).forEach((exercise, index) => {
                 // Not a quantity, which may begin a line as well: "2.279 × 10−3".
-                const begins = (/** @type {number} */ number, behind) =>
+                const begins = (/** @type {number} */ number, /** @type {number} */ behind) =>
                     lines.findIndex((line, row) => row >= behind && new RegExp(`^${number}\\.(?!\\d)|^${number}\\.\\d[A-Z]`).test(line));
                 from = begins(index + 1, from);
                 const to = begins(index + 2, from + 1);
@@ -270,7 +274,7 @@ test("the printed number is the one that made the sheet, whatever was chosen bef
 });
 
 test("the page-break option does something", async () => {
-    const keyPages = async (keys) => {
+    const keyPages = async (/** @type {string} */ keys) => {
         const { pages } = await sheet(`#sheet/4821/5*titration?versions=3&keys=${keys}&v=1`);
         return pages.filter((lines) => sideOf(lines) === "key").map(labelOf);
     };
@@ -281,7 +285,7 @@ test("the page-break option does something", async () => {
 test("keys that follow each other on a page have the title once", async () => {
     const { pages } = await sheet("#sheet/4821/5*titration?versions=3&v=1");
     const lines = pages
-        .filter((/** @type {Page} */ page) => sideOf(page) === "key")
+        .filter((page) => sideOf(page) === "key")
         .flat()
         .map((line) => line.text);
     assert.equal(lines.filter((line) => line === "Chemicalcalculations").length, 1);
@@ -327,7 +331,8 @@ test("how the keys of several versions are printed is chosen where there are sev
 });
 
 const base = "#sheet/4821/6*titration,2*concentration:3?";
-const countOf = (side, pages) => pages.filter((lines) => sideOf(lines) === side).length;
+const countOf = (/** @type {string} */ side, /** @type {Line[][]} */ pages) => pages.filter((lines) => sideOf(lines) === side).length;
+/** @type {Record<string, (found: Sheet, usual: Sheet) => boolean>} */
 const effects = {
     "title=Monday": ({ pages }) => pages[0][1].text === "Monday",
     "title=": ({ pages }) => pages[0][1].text === "NameDate",
@@ -363,15 +368,16 @@ test("a sheet opened from an old address is the same sheet", async () => {
 // Its lines as they are seen; not where pages end, which depends on the fonts of the system.
 function transcript(/** @type {Page} */ page) {
     return page.locator(".leaf").evaluateAll((leaves) => {
+        /** @type {(one: Element) => string} */
         const seen = (one) =>
             [...one.childNodes]
-                .map((node) => (node.nodeType === Node.TEXT_NODE ? node.data : node.matches(".spoken") ? "" : seen(node)))
+                .map((node) => (node instanceof Text ? node.data : node instanceof Element && !node.matches(".spoken") ? seen(node) : ""))
                 .join("");
-        const numberOf = (line) => {
+        const numberOf = (/** @type {Element} */ line) => {
             const item = line.closest("li");
             return item === null || item.querySelector("p") !== line
                 ? ""
-                : `${item.parentElement.start + [...item.parentElement.children].indexOf(item)}. `;
+                : `${/** @type {HTMLOListElement} */ (item.parentElement).start + [...item.parentElement.children].indexOf(item)}. `;
         };
         const lines = leaves.flatMap((leaf) => [...leaf.querySelectorAll("h2, p:not(.running, .blanks, .again)")]);
         return lines.map((line) => numberOf(line) + seen(line)).join("\n");
@@ -490,7 +496,7 @@ const complaints = [
     ["no version", "Versions", "", /^Versions are a number from 1 to 30/, "1"],
 ];
 // The sentence that a field is described by, where it is marked as wrong.
-const told = (field) =>
+const told = (/** @type {Locator} */ field) =>
     field.evaluate((one) => {
         const lines = (one.getAttribute("aria-describedby") ?? "").split(" ").map((id) => document.getElementById(id)?.textContent);
         return one.getAttribute("aria-invalid") === "true" ? lines.at(-1) : "";

@@ -11,11 +11,11 @@ after(() => browser.close());
 
 // Controls with less than 4 pixels between them and what stands above them.
 function touching() {
-    const isSeen = (one) =>
+    const isSeen = (/** @type {Element} */ one) =>
         one.checkVisibility() && one.closest(".spoken, .leaf, .solubility, .overview") === null && one.getClientRects().length > 0;
     const seen = (/** @type {string} */ selector) => [...document.querySelectorAll(`main ${selector}`)].filter(isSeen);
     const others = ["p", "table", "ul", "ol", "dl", "button", "input", "select", "summary", "h1", "h2"].flatMap(seen);
-    const gap = (one, other) => {
+    const gap = (/** @type {Element} */ one, /** @type {Element} */ other) => {
         const [below, above] = [one.getBoundingClientRect(), other.getBoundingClientRect()];
         const isAbove = above.bottom < below.top + below.height / 2 && above.left < below.right && above.right > below.left;
         return isAbove ? below.top - above.bottom : Infinity;
@@ -105,7 +105,7 @@ test("no date of a set that is kept is broken", async () => {
 });
 
 // Where each dot begins, from the edge of the lines.
-function dots(hint) {
+function dots(/** @type {Element} */ hint) {
     const walker = document.createTreeWalker(hint, NodeFilter.SHOW_TEXT);
     const begins = [];
     while (walker.nextNode()) {

@@ -23,7 +23,8 @@ test("each element stands in its place with its mass", async () => {
         })),
     );
     // The two series stand in rows of their own, below the others.
-    const placeOf = ({ period, group }) => (group === 0 ? { row: period + 2 } : { row: period, column: group });
+    const placeOf = (/** @type {{ period: number, group: number }} */ { period, group }) =>
+        group === 0 ? { row: period + 2 } : { row: period, column: group };
     const bySymbol = new Map(shown.map((cell) => [cell.symbol, cell]));
     assert.equal(shown.length, 118);
     assert.equal(tables.elements.length, 118);
@@ -76,7 +77,7 @@ for (const [typed, symbols] of searches) {
 test("what is found is announced, and so is what there is none of", async () => {
     const page = await openPage(browser, "#tables");
     await find(page, "Na2O Uuh");
-    const mass = (symbol) => tables.elements.find((one) => one.symbol === symbol).mass;
+    const mass = (/** @type {string} */ symbol) => tables.elements.find((one) => one.symbol === symbol).mass;
     const found = [
         ["N a, sodium, number 11", "Na"],
         ["O, oxygen, number 8", "O"],
@@ -126,6 +127,7 @@ test("each ion has its name, formula and charge", async () => {
     const shown = await page
         .locator(".halves tbody tr")
         .evaluateAll((rows) => rows.map((row) => [row.querySelector("th").textContent, row.querySelector("[aria-hidden]").textContent]));
+    /** @type {Record<number, string>} */
     const signs = { 1: "+", 2: "2+", 3: "3+", "-1": "−", "-2": "2−", "-3": "3−" };
     const wanted = tables.ions.map(({ name, formula, charge }) => [name, formula + signs[charge]]);
     assert.deepEqual(shown.sort(), wanted.sort());
@@ -155,14 +157,15 @@ test("each pair has its verdict, and its reason when it is pressed", async () =>
 });
 
 // By counting the verdicts that are none.
-function askedIons(member) {
+function askedIons(/** @type {"cation" | "anion"} */ member) {
     const counts = new Map();
     tables.pairs.forEach((pair) => counts.set(pair[member], (counts.get(pair[member]) ?? 0) + (pair.verdict === "not asked" ? 0 : 1)));
     const names = [...counts.keys()];
     return { asked: names.filter((name) => counts.get(name) > 0), never: names.filter((name) => counts.get(name) === 0), all: names };
 }
 
-const headsOf = (/** @type {Page} */ page, part, scope) => page.locator(`.solubility ${part} th[scope=${scope}]`).allTextContents();
+const headsOf = (/** @type {Page} */ page, /** @type {string} */ part, /** @type {string} */ scope) =>
+    page.locator(`.solubility ${part} th[scope=${scope}]`).allTextContents();
 
 test("rows and columns of which nothing is asked are told in words, and in the grid when they are wished", async () => {
     const [cations, anions] = [askedIons("cation"), askedIons("anion")];

@@ -20,8 +20,11 @@ function findMiniBrowser() {
 }
 
 const lesson = await openLesson();
+/** @type {import("node:child_process").ChildProcess} */
 let server;
+/** @type {string} */
 let base;
+/** @type {string} */
 let session;
 
 function freePort() {
@@ -33,14 +36,14 @@ function freePort() {
     });
 }
 
-async function request(method, /** @type {string} */ path, body = undefined) {
+async function request(/** @type {string} */ method, /** @type {string} */ path, /** @type {object} */ body = undefined) {
     const response = await fetch(base + path, { method, ...(body === undefined ? {} : { body: JSON.stringify(body) }) });
     const { value } = await response.json();
     assert.ok(response.ok, `${method} ${path}: ${value?.error}: ${value?.message}`);
     return value;
 }
 
-async function until(isTrue, /** @type {string} */ what) {
+async function until(/** @type {() => Promise<boolean>} */ isTrue, /** @type {string} */ what) {
     for (let tries = 0; tries < 300; ++tries) {
         if (await isTrue().catch(() => false)) {
             return;
@@ -73,7 +76,8 @@ after(async () => {
     }
 });
 
-const run = (script, ...args) => request("POST", `${session}/execute/sync`, { script, args });
+const run = (/** @type {string} */ script, /** @type {unknown[]} */ ...args) =>
+    request("POST", `${session}/execute/sync`, { script, args });
 const isThere = (/** @type {string} */ selector) =>
     until(() => run("return document.querySelector(arguments[0]) !== null", selector), selector);
 const textOf = (/** @type {string} */ selector) => run("return document.querySelector(arguments[0]).textContent", selector);
@@ -93,7 +97,7 @@ const typeInto = async (/** @type {string} */ selector, /** @type {string} */ te
     request("POST", `${await find(selector)}/value`, { text });
 
 // From one address of the page to another it goes on, without loading anew.
-async function open(/** @type {string} */ hash, heading, which) {
+async function open(/** @type {string} */ hash, /** @type {string} */ heading, /** @type {string} */ which) {
     await request("POST", `${session}/url`, { url: address + hash });
     const isShown =
         "return document.querySelector('h1')?.textContent === arguments[0] && (document.querySelector('.which')?.textContent ?? '') === arguments[1]";
