@@ -13,6 +13,7 @@
 #include "lesson/numbers/decimal.hpp"
 #include "lesson/reading/equation.hpp"
 #include "lesson/reading/formula.hpp"
+#include "lesson/reading/formula_spelling.hpp"
 #include "lesson/reading/lookalikes.hpp"
 #include "lesson/reading/names.hpp"
 #include "lesson/reading/typed.hpp"

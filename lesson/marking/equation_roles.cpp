@@ -7,6 +7,7 @@
 #include "lesson/chemistry/solubility.hpp"
 #include "lesson/marking/equation_spellings.hpp"
 #include "lesson/reading/formula.hpp"
+#include "lesson/reading/formula_spelling.hpp"
 #include "lesson/text/scan.hpp"
 
 namespace lesson

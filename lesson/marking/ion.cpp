@@ -11,6 +11,7 @@
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/reading/formula.hpp"
+#include "lesson/reading/formula_spelling.hpp"
 #include "lesson/reading/ion.hpp"
 #include "lesson/reading/lookalikes.hpp"
 #include "lesson/reading/typed.hpp"

@@ -9,6 +9,7 @@
 #include "lesson/marking/formula.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/reading/formula.hpp"
+#include "lesson/reading/formula_spelling.hpp"
 #include "lesson/reading/precipitate.hpp"
 #include "lesson/reading/typed.hpp"
 #include "lesson/text/quotable.hpp"

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "lesson/reading/equation_signs.hpp"
+#include "lesson/reading/states.hpp"
 #include "lesson/text/scan.hpp"
 
 namespace lesson
@@ -67,55 +68,6 @@ std::optional<Run> firstArrow(std::string_view text)
         run = runFrom(text, run->end);
     }
     return run;
-}
-
-// ---- Terms
-
-struct StateSpelling {
-    std::string_view typed;
-    std::string_view state;
-};
-
-// In lower case, without blanks.
-constexpr StateSpelling stateSpellings[] = {
-    {"s", "s"},     {"l", "l"},      {"g", "g"},   {"aq", "aq"},      {"aq.", "aq"},
-    {"solid", "s"}, {"liquid", "l"}, {"gas", "g"}, {"aqueous", "aq"},
-};
-
-std::string_view stateIn(std::string_view brackets)
-{
-    brackets = trimmed(brackets);
-    if (startsWith(brackets, "(") && takeEnd(brackets, ")")) { // "_{(aq)}"
-        brackets = trimmed(brackets.substr(1));
-    }
-    const std::string lower = lowerCase(brackets);
-    const auto* const known =
-        std::find_if(std::begin(stateSpellings), std::end(stateSpellings),
-                     [&lower](const StateSpelling& spelling) { return spelling.typed == lower; });
-    return known == std::end(stateSpellings) ? std::string_view() : known->state;
-}
-
-// A state behind the last opening bracket, which ends with `closing`; empty where there is none.
-std::string_view takeStateIn(std::string_view& term, std::string_view opening,
-                             std::string_view closing)
-{
-    const std::size_t begin = term.rfind(opening);
-    if (!endsWith(term, closing) || begin == std::string_view::npos) {
-        return "";
-    }
-    const std::size_t inside = begin + opening.size();
-    if (term.size() < inside + closing.size()) {
-        return "";
-    }
-    const std::string_view typed = term.substr(inside, term.size() - inside - closing.size());
-    // "Na2 S" has a sulfur, and no state.
-    const std::string_view state =
-        opening == " " && typed != lowerCase(typed) ? "" : stateIn(typed);
-    if (!state.empty()) {
-        term = trimmed(term.substr(0, begin));
-        takeEnd(term, "_");
-    }
-    return state;
 }
 
 // The same with the blanks behind it.
@@ -357,28 +309,6 @@ std::vector<TypedTerm> readSide(std::string_view side, std::string& unread)
 }
 
 } // namespace
-
-std::string_view takeState(std::string_view& term)
-{
-    if (takeEnd(term, "↓")) {
-        return "s";
-    }
-    if (takeEnd(term, "↑") || takeEnd(term, " ^")) {
-        return "g";
-    }
-    struct Brackets {
-        std::string_view opening;
-        std::string_view closing;
-    };
-    constexpr Brackets brackets[] = {{"{", "}"}, {"(", ")"}, {" ", ""}};
-    for (const Brackets& pair : brackets) {
-        const std::string_view state = takeStateIn(term, pair.opening, pair.closing);
-        if (!state.empty()) {
-            return state;
-        }
-    }
-    return "";
-}
 
 bool isFitCoefficient(Ratio value)
 {

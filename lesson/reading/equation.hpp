@@ -37,10 +37,6 @@ struct TypedEquation {
 // More species than any equation has are not read: a limit to what hostile input costs.
 TypedEquation readEquation(std::string_view typed);
 
-// Takes the state off the end of a term, "(s)", "_{aq}", " solid" or "↓", and gives it: "s", "l",
-// "g", "aq". Empty where there is none.
-std::string_view takeState(std::string_view& term);
-
 // Whether a coefficient, or a sum of some, is within the range of those that are read.
 bool isFitCoefficient(Ratio value);
 

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "lesson/chemistry/composition.hpp"
+#include "lesson/words/spans.hpp"
 
 namespace lesson
 {
@@ -33,24 +34,8 @@ TypedFormula readFormula(std::string_view plain);
 // Whether all of the text is a formula of several elements without a charge.
 bool isCompound(std::string_view plain);
 
-// With the groups written out that chemists abbreviate: Ac is ethanoate here, for no exercise asks
-// for actinium.
-//   "Ca(OAc)2" -> "Ca(CH3COO)2"    "CaAc2" -> "Ca(CH3COO)2"    "MeCOOH" -> "CH3COOH"
-//   "Acid" as it is
-std::string spelledOut(std::string_view plain);
-
-// Without the bond that some write inside an ethanoate: "CH3-COO-" -> "CH3COO-".
-std::string withoutBond(std::string plain);
-
-// Without the state and the full stop behind it: "SO4^2- (aq)." -> "SO4^2-".
-std::string_view withoutState(std::string_view plain);
-
-// The formula in one spelling without reading it: no blanks, no state, round brackets, plain digits
-// and dots. So texts can be compared that are no formulas: "Jo_2" and "Jo2" are the same.
-std::string bareFormula(std::string_view plain);
-
-// The same in lower case: "NACL" and "NaCl" are the same, and so are "CO" and "Co", of which only
-// one is ever meant.
-std::string withoutCapitals(std::string_view plain);
+// What was read as it is typeset; nothing where it could not be read. What was typed raised stays
+// so: "Na+Cl-" -> ions Na and Cl, "H^2O" -> H with a raised 2, O.
+Spans formulaSpans(std::string_view plain);
 
 } // namespace lesson

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "lesson/reading/states.hpp"
 #include "lesson/text/scan.hpp"
 
 namespace lesson

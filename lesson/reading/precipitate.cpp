@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "lesson/chemistry/compounds.hpp"
-#include "lesson/reading/equation.hpp"
 #include "lesson/reading/formula.hpp"
+#include "lesson/reading/states.hpp"
 #include "lesson/text/scan.hpp"
 
 namespace lesson

@@ -1,4 +1,5 @@
 #include "lesson/reading/formula.hpp"
+#include "lesson/reading/formula_spelling.hpp"
 
 #include <gtest/gtest.h>
 
