@@ -242,6 +242,7 @@ void removeMarksBeforeNumber(std::string_view& rest)
 TypedTerm readTerm(std::string_view typed)
 {
     TypedTerm term;
+    term.typed = typed;
     std::string_view rest = typed;
     term.state = takeState(rest);
     removeMarksBeforeNumber(rest);

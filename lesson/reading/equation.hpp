@@ -13,6 +13,7 @@ namespace lesson
 // One species of a typed equation.
 struct TypedTerm {
     Ratio coefficient = {1, 1}; // above 0, at most 99999, its denominator at most 10000
+    std::string typed;          // all of it
     std::string text;           // the formula as it was typed
     TypedFormula formula;
     std::string state;  // "s", "l", "g", "aq"; empty where none was typed

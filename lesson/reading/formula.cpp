@@ -10,7 +10,6 @@
 #include "lesson/reading/formula_pieces.hpp"
 #include "lesson/reading/group_braces.hpp"
 #include "lesson/reading/states.hpp"
-#include "lesson/text/scan.hpp"
 
 namespace lesson
 {

@@ -153,6 +153,22 @@ TypedPrecipitate readPrecipitate(std::string_view plain)
     return {std::string(plain), state};
 }
 
+bool areSeveral(std::string_view plain)
+{
+    constexpr std::string_view arrows[] = {"->", "="};
+    constexpr std::string_view separators[] = {"+", ",", ";", "&", " and ", " or "};
+    const auto hasArrow = [plain](std::string_view arrow) {
+        return plain.find(arrow) != std::string_view::npos;
+    };
+    const auto separates = [plain](std::string_view separator) {
+        const std::size_t place = plain.find(separator);
+        return place != std::string_view::npos && isCompound(plain.substr(0, place)) &&
+               isCompound(plain.substr(place + separator.size()));
+    };
+    return std::any_of(std::begin(arrows), std::end(arrows), hasArrow) ||
+           std::any_of(std::begin(separators), std::end(separators), separates);
+}
+
 bool namesCompound(std::string_view plain)
 {
     const bool isInCapitals = std::none_of(plain.begin(), plain.end(), isSmall);

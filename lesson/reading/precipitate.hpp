@@ -18,6 +18,9 @@ struct TypedPrecipitate {
 //   "PbSO4 (solid)" -> "PbSO4", state "s"    "The precipitate is PbSO4" -> "PbSO4"
 TypedPrecipitate readPrecipitate(std::string_view plain);
 
+// Whether there is more than the precipitate: "CuCO3 + NH4Cl", "PbI2, KNO3" or a whole equation.
+bool areSeveral(std::string_view plain);
+
 // Whether one of the words is a formula of several elements. A text in capitals throughout hides
 // those without digits: "NO IONS".
 bool namesCompound(std::string_view plain);

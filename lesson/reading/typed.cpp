@@ -212,4 +212,21 @@ std::string markedTyped(std::string_view typed)
     return inOneSpelling(typed, "_");
 }
 
+std::string withSeenMarks(std::string_view marked)
+{
+    std::string seen;
+    while (!marked.empty()) {
+        const bool isMark = isOneOf(marked.front(), "_^") && marked.size() > 1;
+        const auto& table = marked.front() == '^' ? superscripts : subscripts;
+        const auto* const spelling =
+            std::find_if(std::begin(table), std::end(table), [marked](const Spelling& known) {
+                return known.plain == marked.substr(1, 1);
+            });
+        const bool isSeen = isMark && spelling != std::end(table);
+        seen += isSeen ? spelling->typed : marked.substr(0, 1);
+        takeLength(marked, isSeen ? 2 : 1);
+    }
+    return seen;
+}
+
 } // namespace lesson

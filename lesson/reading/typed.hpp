@@ -19,4 +19,8 @@ std::string plainTyped(std::string_view typed);
 //   "SO₄²⁻" -> "SO_4^2-"    "N₃⁻" -> "N_3^-"
 std::string markedTyped(std::string_view typed);
 
+// The digit or sign behind each "_" and "^" as the one character that shows it lowered or raised.
+//   "SO_4_2_-" -> "SO₄₂₋"    "N^3^-" -> "N³⁻"
+std::string withSeenMarks(std::string_view marked);
+
 } // namespace lesson
