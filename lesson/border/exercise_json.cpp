@@ -246,4 +246,11 @@ std::string markJson(const Mark& mark)
     return json.take();
 }
 
+std::string readJson(const std::optional<Spans>& read)
+{
+    Json json;
+    json.object([&] { add(json.key("read"), read.value_or(Spans())); });
+    return json.take();
+}
+
 } // namespace lesson

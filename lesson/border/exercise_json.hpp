@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "lesson/border/json.hpp"
@@ -11,5 +12,7 @@ namespace lesson
 // An exercise and a mark as front ends get them; docs/lesson.md describes each member.
 std::string exerciseJson(const Exercise& exercise);
 std::string markJson(const Mark& mark);
+// {"read":[…]}, the spans that `readAnswer` gives; none where nothing was read.
+std::string readJson(const std::optional<Spans>& read);
 
 } // namespace lesson

@@ -129,6 +129,14 @@ TEST(ExerciseJsonTest, EveryForm)
     }
 }
 
+TEST(ReadJsonTest, SpansOrNone)
+{
+    EXPECT_EQ(readJson(line(number("4.5e-2"), unit("mol/L"))),
+              R"({"read":[{"number":"4.5e-2"},{"unit":"mol/L"}]})");
+    EXPECT_EQ(readJson(line(ionSpan("SO4", "2-"))), R"({"read":[{"ion":"SO4","charge":"2-"}]})");
+    EXPECT_EQ(readJson(std::nullopt), R"({"read":[]})");
+}
+
 TEST(MarkJsonTest, EveryVerdict)
 {
     struct Case {
