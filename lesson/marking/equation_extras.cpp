@@ -9,6 +9,7 @@
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/equation.hpp"
 #include "lesson/marking/formula.hpp"
+#include "lesson/marking/formula_mistakes.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/reading/formula.hpp"
@@ -119,19 +120,6 @@ std::string readAgain(const TypedTerm& term, const Substance& substance)
 
 // ---- What the formula of an acid, base or salt was meant to be
 
-bool hasSameElements(const Atoms& a, const Atoms& b)
-{
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](AtomCount x, AtomCount y) { return x.element == y.element; });
-}
-
-std::string withoutBrackets(std::string text)
-{
-    text.erase(std::remove(text.begin(), text.end(), '('), text.end());
-    text.erase(std::remove(text.begin(), text.end(), ')'), text.end());
-    return text;
-}
-
 bool isBracketMissing(const TypedTerm& term, const Role& role)
 {
     const std::vector<std::string> spellings = spellingsOf(*role.cation, *role.anion);
@@ -197,7 +185,7 @@ std::string_view misspelling(const TypedTerm& term, const Role& role)
 // "H4O2" for two of H2O
 bool areSeveralMolecules(const Atoms& atoms, const Atoms& one)
 {
-    if (!hasSameElements(atoms, one)) {
+    if (!haveSameElements(atoms, one)) {
         return false;
     }
     const int times = atoms.front().count / one.front().count;
@@ -271,7 +259,7 @@ std::optional<Extra> misspeltIons(const TermOnSide& typed, const Role& role)
     if (std::optional<Extra> other = otherSubstance(typed, role)) {
         return other;
     }
-    if (hasSameElements(formula.atoms, role.atoms)) {
+    if (haveSameElements(formula.atoms, role.atoms)) {
         return misspeltAs(typed, role, sentences::isNot(formula.text, role.noun, checkIons));
     }
     const std::string wrong = wrongSymbolIn(formula, role);

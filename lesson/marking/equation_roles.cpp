@@ -6,6 +6,7 @@
 #include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/chemistry/solubility.hpp"
 #include "lesson/marking/equation_spellings.hpp"
+#include "lesson/reading/coefficient.hpp"
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/formula_spelling.hpp"
 #include "lesson/text/scan.hpp"

@@ -8,6 +8,7 @@
 
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/formula.hpp"
+#include "lesson/marking/formula_mistakes.hpp"
 #include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/reading/formula.hpp"

@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
-#include <iterator>
 #include <optional>
 #include <utility>
 
+#include "lesson/reading/coefficient.hpp"
 #include "lesson/reading/equation_signs.hpp"
 #include "lesson/reading/states.hpp"
 #include "lesson/text/scan.hpp"
@@ -19,10 +18,7 @@ namespace lesson
 //   equation    = side arrow side "."?
 //   arrow       = a run of "-", "=", "<", ">" with more than dashes in it | "_>" | "~>"
 //   side        = "+"? term ("+" term)*
-//   term        = (coefficient times?)? formula state?
-//   coefficient = number | "(" number ")"
-//   number      = digits | digits? ("." | ",") digits | (digits " ")? digits "/" digits
-//   times       = "*" | "·" | "×" | "." | "x"
+//   term        = coefficient? formula state?
 //   state       = "(s)" | "(l)" | "(g)" | "(aq)" | "_{s}" | " s" and so on | "↓" | "↑" | " ^"
 //
 // Words such as "gives" and "and" stand for an arrow and a "+". A "+" with no term behind it
@@ -68,125 +64,6 @@ std::optional<Run> firstArrow(std::string_view text)
         run = runFrom(text, run->end);
     }
     return run;
-}
-
-// The same with the blanks behind it.
-bool takeWithBlanks(std::string_view& rest, std::string_view expected)
-{
-    const bool isThere = take(rest, expected);
-    if (isThere) {
-        takeBlanks(rest);
-    }
-    return isThere;
-}
-
-// ---- Coefficients: each of these takes a number off the front, or leaves the text as it is.
-
-using Number = std::optional<Ratio>;
-
-// More digits than any coefficient has are taken as a number that is too large for one.
-Number takeWhole(std::string_view& text)
-{
-    constexpr std::int64_t tooLarge = 1000000000;
-    if (!startsWithDigit(text)) {
-        return std::nullopt;
-    }
-    return ratio(wholeNumber(takeDigits(text), tooLarge));
-}
-
-Number takeDecimal(std::string_view& text)
-{
-    constexpr std::size_t mostDecimals = 4;
-    std::string_view rest = text;
-    const Ratio whole = takeWhole(rest).value_or(ratio(0));
-    if (!take(rest, ".") && !take(rest, ",")) {
-        return std::nullopt;
-    }
-    const std::size_t length = rest.size();
-    const Number decimals = takeWhole(rest);
-    const std::size_t places = length - rest.size();
-    if (!decimals.has_value() || places > mostDecimals) {
-        return std::nullopt;
-    }
-    text = rest;
-    return whole + *decimals * powerOfTen(-static_cast<int>(places));
-}
-
-Number takeFraction(std::string_view& text)
-{
-    std::string_view rest = text;
-    const Number over = takeWhole(rest);
-    takeBlanks(rest);
-    if (!over.has_value() || !takeWithBlanks(rest, "/")) {
-        return std::nullopt;
-    }
-    const Number under = takeWhole(rest);
-    if (!under.has_value() || *under == ratio(0)) {
-        return std::nullopt;
-    }
-    text = rest;
-    return *over / *under;
-}
-
-// "1 1/2"
-Number takeMixed(std::string_view& text)
-{
-    std::string_view rest = text;
-    const Number whole = takeWhole(rest);
-    if (!whole.has_value() || !takeWithBlanks(rest, " ")) {
-        return std::nullopt;
-    }
-    const Number part = takeFraction(rest);
-    if (!part.has_value()) {
-        return std::nullopt;
-    }
-    text = rest;
-    return *whole + *part;
-}
-
-Number takeNumber(std::string_view& text)
-{
-    for (const auto take : {takeMixed, takeFraction, takeDecimal, takeWhole}) {
-        const Number number = take(text);
-        if (number.has_value()) {
-            return number;
-        }
-    }
-    return std::nullopt;
-}
-
-Number takeNumberInBrackets(std::string_view& text)
-{
-    std::string_view rest = text;
-    if (!takeWithBlanks(rest, "(")) {
-        return std::nullopt;
-    }
-    const Number number = takeNumber(rest);
-    takeBlanks(rest);
-    if (!number.has_value() || !takeWithBlanks(rest, ")")) {
-        return std::nullopt;
-    }
-    text = rest;
-    return number;
-}
-
-// 1 where none is written.
-Ratio takeCoefficient(std::string_view& term)
-{
-    Number number = takeNumber(term);
-    if (!number.has_value()) {
-        number = takeNumberInBrackets(term);
-    }
-    if (!number.has_value()) {
-        return ratio(1);
-    }
-    takeBlanks(term);
-    for (const std::string_view times : {"*", "·", "×", ".", "x"}) {
-        if (takeWithBlanks(term, times)) {
-            break;
-        }
-    }
-    return *number;
 }
 
 // ---- Terms and sides
@@ -310,11 +187,6 @@ std::vector<TypedTerm> readSide(std::string_view side, std::string& unread)
 }
 
 } // namespace
-
-bool isFitCoefficient(Ratio value)
-{
-    return ratio(0) < value && value.numerator <= 99999 && value.denominator <= 10000;
-}
 
 TypedEquation readEquation(std::string_view typed)
 {

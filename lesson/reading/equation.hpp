@@ -38,7 +38,4 @@ struct TypedEquation {
 // More species than any equation has are not read: a limit to what hostile input costs.
 TypedEquation readEquation(std::string_view typed);
 
-// Whether a coefficient, or a sum of some, is within the range of those that are read.
-bool isFitCoefficient(Ratio value);
-
 } // namespace lesson

@@ -25,7 +25,11 @@ constexpr std::int64_t greatestNumber = 999999;
 class Reader
 {
 public:
-    explicit Reader(std::string_view text) : all(text), left(text) {}
+    explicit Reader(std::string_view text) : all(text), left(text)
+    {
+        constexpr std::size_t usual = 8;
+        pieces.reserve(usual);
+    }
 
     bool read()
     {

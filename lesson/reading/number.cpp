@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "lesson/reading/power_of_ten.hpp"
 #include "lesson/text/scan.hpp"
 
 // What is read:
@@ -15,9 +16,6 @@
 //   point     = "." or one "," or "'", or "·" where no power of ten follows; behind a 0 alone also
 //               "." or "," with blanks beside it
 //   fraction  = digits, perhaps in groups of three with blanks between them
-//   exponent  = "e" [sign] digits | (times | blank) "10" (power | sign digits) | "." "10" power
-//   power     = ("^" | "**") [bracket] [sign] digits [bracket]
-//   times     = "x" | "×" | "*" | "·" | "times" | "multiplied by"
 //
 // A comma or an apostrophe before a group of three is left to the learner, unless something settles
 // what it means. Where the reader writes a decimal comma, "." and "," change their parts.
@@ -37,90 +35,6 @@ struct Signs {
 Signs signsOf(const Writing& writing)
 {
     return writing.decimal == ',' ? Signs{",", "."} : Signs{".", ","};
-}
-
-// Far beyond any number that is typed, and far from an overflow.
-constexpr std::int64_t greatestExponent = 1'000'000'000'000'000;
-
-std::optional<std::int64_t> takeInteger(std::string_view& rest)
-{
-    std::string_view behind = rest;
-    const bool isNegative = take(behind, "-");
-    if (!isNegative) {
-        take(behind, "+");
-    }
-    takeBlanks(behind);
-    const std::string_view digits = takeDigits(behind);
-    if (digits.empty()) {
-        return std::nullopt;
-    }
-    const std::int64_t value = wholeNumber(digits, greatestExponent);
-    rest = behind;
-    return isNegative ? -value : value;
-}
-
-// "^-2", "**(-2)", …
-std::optional<std::int64_t> takePower(std::string_view& rest)
-{
-    std::string_view behind = rest;
-    takeBlanks(behind);
-    if (!take(behind, "^") && !take(behind, "**")) {
-        return std::nullopt;
-    }
-    takeBlanks(behind);
-    const bool hasBracket = take(behind, "(") || take(behind, "{");
-    const std::optional<std::int64_t> power = takeInteger(behind);
-    if (!power || (hasBracket && !take(behind, ")") && !take(behind, "}"))) {
-        return std::nullopt;
-    }
-    rest = behind;
-    return power;
-}
-
-// "e-2"
-std::optional<std::int64_t> takeLetterExponent(std::string_view& rest)
-{
-    std::string_view behind = rest;
-    takeBlanks(behind);
-    if (!take(behind, "e") && !take(behind, "E")) {
-        return std::nullopt;
-    }
-    takeBlanks(behind);
-    const std::optional<std::int64_t> exponent = takeInteger(behind);
-    rest = exponent ? behind : rest;
-    return exponent;
-}
-
-bool takeTimes(std::string_view& rest)
-{
-    constexpr std::string_view signs[] = {
-        "x", "X", "×", "*", "·", "times", "Times", "multiplied by", "Multiplied by",
-    };
-    return takeOneOf(rest, signs);
-}
-
-// "×10^-2", "x 10-2", " 10^-2", ".10^-2"; without a "^" a sign has to show that 102 is not meant.
-std::optional<std::int64_t> takePowerOfTen(std::string_view& rest)
-{
-    std::string_view behind = rest;
-    takeBlanks(behind);
-    const bool isApart = behind.size() < rest.size();
-    const bool isPoint = take(behind, ".");
-    if (!isPoint && !takeTimes(behind) && !isApart) {
-        return std::nullopt;
-    }
-    takeBlanks(behind);
-    if (!take(behind, "10")) {
-        return std::nullopt;
-    }
-    std::optional<std::int64_t> power = takePower(behind);
-    if (!power && !isPoint) {
-        takeBlanks(behind);
-        const bool hasSign = startsWith(behind, "-") || startsWith(behind, "+");
-        power = hasSign ? takeInteger(behind) : std::nullopt;
-    }
-    rest = power ? behind : rest;
-    return power;
 }
 
 bool startsWithPowerOfTen(std::string_view text)
@@ -258,12 +172,6 @@ Mantissa takeMantissa(std::string_view& rest, const Signs& signs)
     mantissa.isAmbiguous = isComma && mayBeThousands && fraction.size() == 3;
     mantissa.digits += fraction;
     return mantissa;
-}
-
-std::optional<std::int64_t> takeExponent(std::string_view& rest)
-{
-    const std::optional<std::int64_t> exponent = takeLetterExponent(rest);
-    return exponent ? exponent : takePowerOfTen(rest);
 }
 
 TypedNumber numberOf(const Mantissa& mantissa, std::int64_t exponent)
