@@ -23,9 +23,9 @@ constexpr AcidRow acidRows[] = {
 };
 
 struct BaseRow {
-    BaseKind kind;
+    BaseKind kind = {};
     std::optional<Ion> anion;
-    Uptake uptake; // of one anion, or of one ammonia
+    Uptake uptake = {}; // of one anion, or of one ammonia
 };
 constexpr BaseRow baseRows[] = {
     {BaseKind::hydroxide,         Ion::hydroxide,         {1, 1, 0}},

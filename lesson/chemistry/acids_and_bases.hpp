@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,7 +11,7 @@ namespace lesson
 {
 
 // In the order of their table.
-enum class Acid : std::uint8_t {
+enum class Acid {
     hydrochloric,
     hydrobromic,
     nitric,
@@ -44,7 +43,7 @@ const IonRow& anionOf(const AcidRow& acid);
 int protonsOf(const AcidRow& acid);
 
 // What takes the protons.
-enum class BaseKind : std::uint8_t {
+enum class BaseKind {
     hydroxide,
     oxide,
     carbonate,

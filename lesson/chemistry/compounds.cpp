@@ -19,11 +19,9 @@ int countOf(const IonRow& ion, const IonRow& partner)
 // An ion's share of a formula: brackets only around a group that comes more than once.
 std::string shareOf(const IonRow& ion, int count)
 {
-    const std::string formula(ion.formula);
-    if (count == 1) {
-        return formula;
-    }
-    return (ion.isGroup ? "(" + formula + ")" : formula) + std::to_string(count);
+    const std::string once(ion.formula);
+    const std::string number = count == 1 ? "" : std::to_string(count);
+    return (ion.isGroup && count > 1 ? "(" + once + ")" : once) + number;
 }
 
 std::string americanNameOf(const IonRow& ion)

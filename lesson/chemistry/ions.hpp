@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,7 +13,7 @@ namespace lesson
 
 // The ions that exercises use, in the order of their table; a number tells the charges of a metal
 // that has several apart.
-enum class Ion : std::uint8_t {
+enum class Ion {
     // cations of compounds
     lithium,
     sodium,

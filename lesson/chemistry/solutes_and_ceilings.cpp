@@ -1,6 +1,7 @@
 #include "lesson/chemistry/solutes_and_ceilings.hpp"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 
 namespace lesson
@@ -115,8 +116,8 @@ constexpr int ceilingOf(const HydrateRow& hydrate)
 
 constexpr bool haveCeilings()
 {
-    for (const HydrateRow& hydrate : hydrateRows) {
-        if (ceilingOf(hydrate) == 0) {
+    for (std::size_t i = 0; i < std::size(hydrateRows); ++i) {
+        if (ceilingOf(hydrateRows[i]) == 0) {
             return false;
         }
     }
