@@ -166,7 +166,7 @@ TEST(MarksTest, WhoRoundsEachStepIsRight)
         }
     });
     EXPECT_EQ(problems.text(), "");
-    EXPECT_GE(correct, all / 1000 * 994) << "of " << all;
+    EXPECT_GE(1000 * correct, 994 * all) << "of " << all;
 }
 
 // ------------------------------------------------------------------------------- other tables
@@ -473,7 +473,7 @@ TEST(MarksTest, EachSlipGetsItsSentence)
         }
     });
     EXPECT_EQ(problems.text(), "");
-    EXPECT_LE(ofCommonerOnes, slips / 20) << "of " << slips;
+    EXPECT_LE(20 * ofCommonerOnes, slips) << "of " << slips;
 }
 
 // -------------------------------------------------------------------------------- all others
