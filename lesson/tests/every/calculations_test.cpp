@@ -309,7 +309,7 @@ Exact checkConcentration(Problems& problems, const Json& exercise, Spread& sprea
 // counted here: it makes a value up to so much rarer than others.
 constexpr double drawnAgain = 0.03;
 
-TEST(CalculationsTest, ConcentrationFromMass)
+TEST(CalculationsTest, ConcentrationsFromMassesAreRightAndEvenlySpread)
 {
     Problems problems;
     Spread spread;
@@ -323,7 +323,7 @@ TEST(CalculationsTest, ConcentrationFromMass)
     EXPECT_EQ(problems.text(), "");
 }
 
-TEST(CalculationsTest, MassFromConcentration)
+TEST(CalculationsTest, MassesFromConcentrationsAreRightAndEvenlySpread)
 {
     Problems problems;
     Spread spread;
@@ -337,7 +337,7 @@ TEST(CalculationsTest, MassFromConcentration)
     EXPECT_EQ(problems.text(), "");
 }
 
-TEST(CalculationsTest, ConcentrationAndMassOfHydrates)
+TEST(CalculationsTest, ConcentrationsAndMassesOfHydratesAreRightAndEvenlySpread)
 {
     Problems problems;
     Spread spread;
@@ -482,17 +482,17 @@ void checkDilutions(const std::string& kind, const std::vector<const char*>& ask
     EXPECT_EQ(problems.text(), "");
 }
 
-TEST(CalculationsTest, NewConcentrationOfADilution)
+TEST(CalculationsTest, NewConcentrationsAreRightAndEvenlySpread)
 {
     checkDilutions("dilution:1", {"c2"});
 }
 
-TEST(CalculationsTest, OriginalVolumeOrConcentrationOfADilution)
+TEST(CalculationsTest, OriginalVolumesAndConcentrationsAreRightAndEvenlySpread)
 {
     checkDilutions("dilution:2", {"V1", "c1"});
 }
 
-TEST(CalculationsTest, WaterToAddForADilution)
+TEST(CalculationsTest, TheWaterToAddIsRightAndEvenlySpread)
 {
     checkDilutions("dilution:3", {"V"});
 }
@@ -844,17 +844,17 @@ void checkTitrations(int level, const std::vector<const char*>& ratios)
     EXPECT_EQ(problems.text(), "");
 }
 
-TEST(CalculationsTest, TitrationOneToOne)
+TEST(CalculationsTest, TitrationsOneToOneAreRightAndEvenlySpread)
 {
     checkTitrations(1, {"1:1"});
 }
 
-TEST(CalculationsTest, TitrationInOtherRatios)
+TEST(CalculationsTest, TitrationsInOtherRatiosAreRightAndEvenlySpread)
 {
     checkTitrations(2, {"1:2", "2:1"});
 }
 
-TEST(CalculationsTest, TitrationWithARoughTitre)
+TEST(CalculationsTest, TitrationsWithARoughTitreAreRightAndEvenlySpread)
 {
     checkTitrations(3, {"1:1", "1:2", "2:1"});
 }

@@ -296,17 +296,17 @@ std::vector<Route> saltRoutes()
     };
 }
 
-TEST(LearnersTest, FormulasOfSimpleIons)
+TEST(LearnersFormulasTest, MistakesInFormulasOfSimpleIonsAreTold)
 {
     checkRoutes("compound-formula:1", saltRoutes());
 }
 
-TEST(LearnersTest, FormulasOfGroups)
+TEST(LearnersFormulasTest, MistakesInFormulasOfGroupsAreTold)
 {
     checkRoutes("compound-formula:2", saltRoutes());
 }
 
-TEST(LearnersTest, FormulasWithNumerals)
+TEST(LearnersFormulasTest, MistakesInFormulasWithNumeralsAreTold)
 {
     checkRoutes("compound-formula:3", saltRoutes());
 }
@@ -441,17 +441,17 @@ std::vector<Route> ionRoutes()
     };
 }
 
-TEST(LearnersTest, IonsOfOneAtom)
+TEST(LearnersFormulasTest, MistakesInIonsOfOneAtomAreTold)
 {
     checkRoutes("ion-formula:1", ionRoutes());
 }
 
-TEST(LearnersTest, CommonGroups)
+TEST(LearnersFormulasTest, MistakesInCommonGroupsAreTold)
 {
     checkRoutes("ion-formula:2", ionRoutes());
 }
 
-TEST(LearnersTest, AllIons)
+TEST(LearnersFormulasTest, MistakesInAllIonsAreTold)
 {
     checkRoutes("ion-formula:3", ionRoutes());
 }
@@ -465,12 +465,12 @@ std::vector<Route> yesOrNoRoutes()
              {"soluble"}}};
 }
 
-TEST(LearnersTest, SolubilityByTheRule)
+TEST(LearnersFormulasTest, MistakesInSolubilityByTheRuleAreTold)
 {
     checkRoutes("solubility:1", yesOrNoRoutes());
 }
 
-TEST(LearnersTest, SolubilityWithExceptions)
+TEST(LearnersFormulasTest, MistakesInSolubilityWithExceptionsAreTold)
 {
     checkRoutes("solubility:2", yesOrNoRoutes());
 }
@@ -490,7 +490,7 @@ Mixture mixtureOf(const Asked& asked)
     return {{salt(a, x), salt(b, y)}, {salt(a, y), salt(b, x)}};
 }
 
-TEST(LearnersTest, Precipitates)
+TEST(LearnersFormulasTest, MistakesInPrecipitatesAreTold)
 {
     const char* const stays = "stays in solution";
     checkRoutes("solubility:3",
@@ -725,17 +725,17 @@ std::vector<Route> equationRoutes()
     };
 }
 
-TEST(LearnersTest, NeutralisationOfHydroxides)
+TEST(LearnersFormulasTest, MistakesInNeutralisationsOfHydroxidesAreTold)
 {
     checkRoutes("neutralisation:1", equationRoutes());
 }
 
-TEST(LearnersTest, NeutralisationOfOxidesAndCarbonates)
+TEST(LearnersFormulasTest, MistakesInNeutralisationsOfOxidesAndCarbonatesAreTold)
 {
     checkRoutes("neutralisation:2", equationRoutes());
 }
 
-TEST(LearnersTest, NeutralisationWithAThreeOrASix)
+TEST(LearnersFormulasTest, MistakesInNeutralisationsWithAThreeOrASixAreTold)
 {
     checkRoutes("neutralisation:3", equationRoutes());
 }

@@ -293,14 +293,14 @@ std::vector<Route> molarMassRoutes(const std::vector<const char*>& names)
     return massRoutes(names, [](const Asked&, const Value& molarMass) { return molarMass; });
 }
 
-TEST(LearnersTest, MolarMassWithoutBracket)
+TEST(LearnersNumbersTest, MistakesInMolarMassesWithoutABracketAreTold)
 {
     checkRoutes("molar-mass:1",
                 molarMassRoutes({"small numbers left out", "first small number left out",
                                  "last small number for everything", "atomic numbers added"}));
 }
 
-TEST(LearnersTest, MolarMassWithBracket)
+TEST(LearnersNumbersTest, MistakesInMolarMassesWithABracketAreTold)
 {
     checkRoutes(
         "molar-mass:2",
@@ -309,7 +309,7 @@ TEST(LearnersTest, MolarMassWithBracket)
                          "front element's number left out"}));
 }
 
-TEST(LearnersTest, MolarMassOfHydrate)
+TEST(LearnersNumbersTest, MistakesInMolarMassesOfHydratesAreTold)
 {
     checkRoutes("molar-mass:3",
                 molarMassRoutes({"atomic numbers added", "water left out", "water once",
@@ -400,17 +400,17 @@ std::vector<Route> concentrationRoutes()
     return routes;
 }
 
-TEST(LearnersTest, ConcentrationFromMass)
+TEST(LearnersNumbersTest, MistakesInConcentrationsFromMassesAreTold)
 {
     checkRoutes("concentration:1", concentrationRoutes());
 }
 
-TEST(LearnersTest, MassFromConcentration)
+TEST(LearnersNumbersTest, MistakesInMassesFromConcentrationsAreTold)
 {
     checkRoutes("concentration:2", concentrationRoutes());
 }
 
-TEST(LearnersTest, ConcentrationAndMassOfHydrates)
+TEST(LearnersNumbersTest, MistakesInConcentrationsAndMassesOfHydratesAreTold)
 {
     checkRoutes("concentration:3", concentrationRoutes());
 }
@@ -483,17 +483,17 @@ std::vector<Route> dilutionRoutes()
     };
 }
 
-TEST(LearnersTest, NewConcentration)
+TEST(LearnersNumbersTest, MistakesInNewConcentrationsAreTold)
 {
     checkRoutes("dilution:1", dilutionRoutes());
 }
 
-TEST(LearnersTest, OriginalVolumeOrConcentration)
+TEST(LearnersNumbersTest, MistakesInOriginalVolumesAndConcentrationsAreTold)
 {
     checkRoutes("dilution:2", dilutionRoutes());
 }
 
-TEST(LearnersTest, WaterToAdd)
+TEST(LearnersNumbersTest, MistakesInTheWaterToAddAreTold)
 {
     checkRoutes("dilution:3", dilutionRoutes());
 }
@@ -561,17 +561,17 @@ std::vector<Route> titrationRoutes()
     };
 }
 
-TEST(LearnersTest, TitrationOneToOne)
+TEST(LearnersNumbersTest, MistakesInTitrationsOneToOneAreTold)
 {
     checkRoutes("titration:1", titrationRoutes());
 }
 
-TEST(LearnersTest, TitrationInOtherRatios)
+TEST(LearnersNumbersTest, MistakesInTitrationsInOtherRatiosAreTold)
 {
     checkRoutes("titration:2", titrationRoutes());
 }
 
-TEST(LearnersTest, TitrationWithARoughTitre)
+TEST(LearnersNumbersTest, MistakesInTitrationsWithARoughTitreAreTold)
 {
     checkRoutes("titration:3", titrationRoutes());
 }

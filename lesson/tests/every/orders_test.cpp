@@ -159,17 +159,17 @@ void checkOrders(const char* slug, Ends ends)
     EXPECT_EQ(problems.text(), "");
 }
 
-TEST(OrdersTest, OfConcentrations)
+TEST(OrdersTest, EveryOrderOfWorkingAConcentrationOutIsRight)
 {
     checkOrders("concentration", concentrationEnds);
 }
 
-TEST(OrdersTest, OfDilutions)
+TEST(OrdersTest, EveryOrderOfWorkingADilutionOutIsRight)
 {
     checkOrders("dilution", dilutionEnds);
 }
 
-TEST(OrdersTest, OfTitrations)
+TEST(OrdersTest, EveryOrderOfWorkingATitrationOutIsRight)
 {
     checkOrders("titration", titrationEnds);
 }

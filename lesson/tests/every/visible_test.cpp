@@ -55,14 +55,14 @@ void expectVisible(const std::string& kind, Mistakes (*mistakesOf)(const Json& e
     EXPECT_EQ(problems.text(), "");
 }
 
-TEST(VisibleTest, WhatTitrationsAreThereToShow)
+TEST(VisibleTest, WhatTitrationsAreThereToShowIsNeverRight)
 {
     for (int level = 1; level <= 3; ++level) {
         expectVisible(kindAt("titration", level), mistakenConcentrations);
     }
 }
 
-TEST(VisibleTest, OtherVolumesThanTheWaterToAdd)
+TEST(VisibleTest, OtherVolumesThanTheWaterToAddAreNeverRight)
 {
     expectVisible("dilution:3", mistakenWater);
 }

@@ -45,12 +45,12 @@ void expectApproved(const std::string& format, const std::string& name)
     }
 }
 
-TEST(ApprovedFilesTest, Moodle)
+TEST(ApprovedFilesTest, MoodlesFileIsTheApprovedOne)
 {
     expectApproved("moodle", "moodle.xml");
 }
 
-TEST(ApprovedFilesTest, Anki)
+TEST(ApprovedFilesTest, AnkisFileIsTheApprovedOne)
 {
     expectApproved("anki", "anki.txt");
 }

@@ -158,7 +158,7 @@ TEST(ExpectedTextsTest, AChargeThatStandsBelowIsTold)
 
 // All that is ever asked in words or formulas: the key first, every slip told as the exercise tells
 // it, nothing twice, nothing that Moodle would take for more than itself.
-TEST(ExpectedTextsTest, EveryExercise)
+TEST(ExpectedTextsTest, TheKeyComesFirstEverySlipIsToldAndNothingStandsTwice)
 {
     for (const Kind* const kind : {&compoundFormulaKind, &ionFormulaKind, &solubilityKind}) {
         for (unsigned number = 1; number <= 300; ++number) {

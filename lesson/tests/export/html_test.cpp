@@ -8,7 +8,7 @@ namespace lesson
 namespace
 {
 
-TEST(HtmlTest, EachSpan)
+TEST(HtmlTest, EachSpanIsTypeset)
 {
     struct Case {
         Spans line;

@@ -29,7 +29,7 @@ std::string timesOf(const Exercise& exercise, const std::string& name)
     return found == rows.end() ? "" : found->times;
 }
 
-TEST(UnitsTest, TheAskedOneComesFirstAndOthersConvert)
+TEST(ExportedUnitsTest, TheAskedOneComesFirstAndOthersConvert)
 {
     struct Case {
         const char* asked;
@@ -59,7 +59,7 @@ TEST(UnitsTest, TheAskedOneComesFirstAndOthersConvert)
     }
 }
 
-TEST(UnitsTest, PowersOfTenAreTypedInManyWays)
+TEST(ExportedUnitsTest, PowersOfTenAreTypedInManyWays)
 {
     const Exercise exercise = asking(ratio(258, 1000), "mol/L");
     for (const char* typed : {"×10⁻¹", "·10^-1", "X10^-1", "x10-1", "x10^{-1}", "x10⁻¹", "·10⁻¹",
@@ -69,7 +69,7 @@ TEST(UnitsTest, PowersOfTenAreTypedInManyWays)
 }
 
 // 258×10⁻³ is the same as 2.58×10⁻¹, and a mistake may lead three powers off.
-TEST(UnitsTest, PowersAreThoseNearTheAnswer)
+TEST(ExportedUnitsTest, PowersAreThoseNearTheAnswer)
 {
     struct Case {
         Ratio value;

@@ -22,7 +22,7 @@ bool endsWith(const std::string& text, const std::string& end)
 }
 
 // Every kind of calculation at every level.
-class CalculationsTest : public testing::TestWithParam<std::tuple<const Kind*, int>>
+class CalculationExercisesTest : public testing::TestWithParam<std::tuple<const Kind*, int>>
 {
 protected:
     template <typename Check>
@@ -32,7 +32,7 @@ protected:
     }
 };
 
-TEST_P(CalculationsTest, TheKeyIsCorrectAndTheLastStepShowsIt)
+TEST_P(CalculationExercisesTest, TheKeyIsCorrectAndTheLastStepShowsIt)
 {
     forEach(10000, [](const Exercise& exercise) {
         const Mark mark = markOf(exercise, exercise.key);
@@ -43,7 +43,7 @@ TEST_P(CalculationsTest, TheKeyIsCorrectAndTheLastStepShowsIt)
     });
 }
 
-TEST_P(CalculationsTest, TheAnswerOfEachSlipGetsItsSentenceAndNoneAgreesWithTheKey)
+TEST_P(CalculationExercisesTest, TheAnswerOfEachSlipGetsItsSentenceAndNoneAgreesWithTheKey)
 {
     forEach(10000, [](const Exercise& exercise) {
         for (const Slip& slip : exercise.slips) {
@@ -61,7 +61,7 @@ TEST_P(CalculationsTest, TheAnswerOfEachSlipGetsItsSentenceAndNoneAgreesWithTheK
 
 // What is shown is the value itself, in a unit that a learner converts, and the prompt has it word
 // for word.
-TEST_P(CalculationsTest, ThePromptShowsWhatIsGiven)
+TEST_P(CalculationExercisesTest, ThePromptShowsWhatIsGiven)
 {
     forEach(1000, [](const Exercise& exercise) {
         const std::string prompt = textOf(exercise.prompt);
@@ -84,7 +84,7 @@ TEST_P(CalculationsTest, ThePromptShowsWhatIsGiven)
     });
 }
 
-TEST_P(CalculationsTest, ThePromptIsWrittenProperly)
+TEST_P(CalculationExercisesTest, ThePromptIsWrittenProperly)
 {
     forEach(1000, [](const Exercise& exercise) {
         const std::string prompt = textOf(exercise.prompt);
@@ -97,7 +97,7 @@ TEST_P(CalculationsTest, ThePromptIsWrittenProperly)
     });
 }
 
-TEST_P(CalculationsTest, ThreeFiguresAreAskedForAndFourOfAMolarMass)
+TEST_P(CalculationExercisesTest, ThreeFiguresAreAskedForAndFourOfAMolarMass)
 {
     forEach(1000, [](const Exercise& exercise) {
         const bool isMolarMass = exercise.place.kind == &molarMassKind;
@@ -110,7 +110,7 @@ TEST_P(CalculationsTest, ThreeFiguresAreAskedForAndFourOfAMolarMass)
     });
 }
 
-TEST_P(CalculationsTest, TheSamePlaceHasTheSameExercise)
+TEST_P(CalculationExercisesTest, TheSamePlaceHasTheSameExercise)
 {
     const auto [kind, level] = GetParam();
     for (unsigned paper : {1U, 4821U, greatestPaper}) {
@@ -128,7 +128,7 @@ std::string nameOf(const testing::TestParamInfo<std::tuple<const Kind*, int>>& i
     return name + std::to_string(std::get<1>(info.param));
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, CalculationsTest,
+INSTANTIATE_TEST_SUITE_P(Kinds, CalculationExercisesTest,
                          testing::Combine(testing::Values(&molarMassKind, &concentrationKind,
                                                           &dilutionKind, &titrationKind),
                                           testing::Values(1, 2, 3)),

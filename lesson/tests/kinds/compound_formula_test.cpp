@@ -42,7 +42,7 @@ bool isOneAtom(std::string_view ion)
     return ion.size() == 1 || (ion.size() == 2 && std::islower(ion[1]) != 0);
 }
 
-TEST(CompoundFormulaTest, LevelsShareOutAllPairsThatAreAsked)
+TEST(CompoundFormulaExerciseTest, LevelsShareOutAllPairsThatAreAsked)
 {
     std::multiset<std::string> asked;
     for (const int level : {1, 2, 3}) {
@@ -69,7 +69,7 @@ TEST(CompoundFormulaTest, LevelsShareOutAllPairsThatAreAsked)
     EXPECT_EQ(asked, expected);
 }
 
-TEST(CompoundFormulaTest, TheIonsAreGivenAndTheLastStepShowsTheKey)
+TEST(CompoundFormulaExerciseTest, TheIonsAreGivenAndTheLastStepShowsTheKey)
 {
     for (const int level : {1, 2, 3}) {
         for (const Exercise& exercise : wholePool(level)) {
@@ -85,7 +85,7 @@ TEST(CompoundFormulaTest, TheIonsAreGivenAndTheLastStepShowsTheKey)
 }
 
 // The sum of the charges as the solution writes it, worked out anew: "2(+3) + 3(−2) = 0".
-TEST(CompoundFormulaTest, TheChargesOfTheSolutionCancel)
+TEST(CompoundFormulaExerciseTest, TheChargesOfTheSolutionCancel)
 {
     for (const int level : {1, 2, 3}) {
         for (const Exercise& exercise : wholePool(level)) {
@@ -113,7 +113,7 @@ TEST(CompoundFormulaTest, TheChargesOfTheSolutionCancel)
 
 // One ion of each is the commonest ratio by far, but comes no more often than others at first, as
 // far as these have common compounds.
-TEST(CompoundFormulaTest, RatiosComeAsOftenAsTheirCommonCompoundsAllow)
+TEST(CompoundFormulaExerciseTest, RatiosComeAsOftenAsTheirCommonCompoundsAllow)
 {
     for (const int level : {1, 2, 3}) {
         const auto ratioOf = [](const Exercise& exercise) {
@@ -141,7 +141,7 @@ TEST(CompoundFormulaTest, RatiosComeAsOftenAsTheirCommonCompoundsAllow)
     }
 }
 
-TEST(CompoundFormulaTest, APageOfEachLevel)
+TEST(CompoundFormulaExerciseTest, APageOfEachLevel)
 {
     EXPECT_EQ(pageOf(exerciseAbout("MgCl2")),
               "Write the formula of magnesium chloride.\n"
@@ -188,7 +188,7 @@ TEST(CompoundFormulaTest, APageOfEachLevel)
               "! Cu^2+O^2-  A compound has no charge: leave out the charges of its ions.\n");
 }
 
-TEST(CompoundFormulaTest, AmericanNamesAreTold)
+TEST(CompoundFormulaExerciseTest, AmericanNamesAreTold)
 {
     const Exercise exercise = exerciseAbout("Ca(CH3COO)2");
     EXPECT_EQ(exercise.prompt[1].detail, "calcium acetate");
@@ -196,7 +196,7 @@ TEST(CompoundFormulaTest, AmericanNamesAreTold)
 }
 
 // A hint helps before the step is shown: it is no copy of it, and tells nothing of its result.
-TEST(CompoundFormulaTest, EachStepHasAHintThatGivesNothingAway)
+TEST(CompoundFormulaExerciseTest, EachStepHasAHintThatGivesNothingAway)
 {
     for (const int level : {1, 2, 3}) {
         for (const Exercise& exercise : wholePool(level)) {
@@ -213,7 +213,7 @@ TEST(CompoundFormulaTest, EachStepHasAHintThatGivesNothingAway)
 }
 
 // Sodium is written S, and potassium P; ammonium NH3.
-TEST(CompoundFormulaTest, TheCommonSlipsAreListed)
+TEST(CompoundFormulaExerciseTest, TheCommonSlipsAreListed)
 {
     struct Row {
         const char* compound;

@@ -49,7 +49,7 @@ long double byGramsInLitre(const Exercise& exercise, Calculator rounded)
                                  : rounded(givenValue(exercise, "m") / V) / M;
 }
 
-TEST(ConcentrationTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
+TEST(ConcentrationExerciseTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
 {
     for (const int level : {1, 2, 3}) {
         RoundingOnTheWay amount;
@@ -63,7 +63,7 @@ TEST(ConcentrationTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
     }
 }
 
-TEST(ConcentrationTest, NothingIsStrongerThanItsCeilingOrOutOfRange)
+TEST(ConcentrationExerciseTest, NothingIsStrongerThanItsCeilingOrOutOfRange)
 {
     for (const int level : {1, 2, 3}) {
         forExercises(&concentrationKind, level, exercises, [&](const Exercise& exercise) {
@@ -101,7 +101,7 @@ std::set<std::string> formulasThatAreWeighed()
     return formulas;
 }
 
-TEST(ConcentrationTest, EveryMassVolumeAndSubstanceIsDrawnForAConcentration)
+TEST(ConcentrationExerciseTest, EveryMassVolumeAndSubstanceIsDrawnForAConcentration)
 {
     std::set<std::string> masses;
     std::set<std::string> volumes;
@@ -120,7 +120,7 @@ TEST(ConcentrationTest, EveryMassVolumeAndSubstanceIsDrawnForAConcentration)
     EXPECT_EQ(substances, formulasThatAreWeighed());
 }
 
-TEST(ConcentrationTest, EveryConcentrationFlaskAndSubstanceIsDrawnForAMass)
+TEST(ConcentrationExerciseTest, EveryConcentrationFlaskAndSubstanceIsDrawnForAMass)
 {
     std::set<std::string> concentrations;
     std::set<std::string> flasks;
@@ -137,7 +137,7 @@ TEST(ConcentrationTest, EveryConcentrationFlaskAndSubstanceIsDrawnForAMass)
     EXPECT_EQ(substances, formulasThatAreWeighed());
 }
 
-TEST(ConcentrationTest, HydratesAreAskedBothWaysEquallyOftenAndWithoutTheirMolarMass)
+TEST(ConcentrationExerciseTest, HydratesAreAskedBothWaysEquallyOftenAndWithoutTheirMolarMass)
 {
     std::map<std::string, int> asked;
     std::set<std::string> substances;
@@ -152,7 +152,7 @@ TEST(ConcentrationTest, HydratesAreAskedBothWaysEquallyOftenAndWithoutTheirMolar
     EXPECT_EQ(substances, formulasOf(hydrates()));
 }
 
-TEST(ConcentrationTest, AToldMolarMassHasTwoDecimalsAndLeavesNoChoiceOfMasses)
+TEST(ConcentrationExerciseTest, AToldMolarMassHasTwoDecimalsAndLeavesNoChoiceOfMasses)
 {
     forExercises(&concentrationKind, 1, 1000, [&](const Exercise& exercise) {
         const GivenQuantity& given = *findGiven(exercise, "M");
@@ -172,7 +172,7 @@ bool isLitre(const Exercise& exercise)
     return findGiven(exercise, "V")->shown == "1.00";
 }
 
-TEST(ConcentrationTest, FromLevelTwoOnTheMolarMassIsAStepMore)
+TEST(ConcentrationExerciseTest, FromLevelTwoOnTheMolarMassIsAStepMore)
 {
     const std::map<int, std::size_t> steps = {{1, 3}, {2, 4}, {3, 4}};
     for (const auto& [level, count] : steps) {
@@ -186,7 +186,7 @@ TEST(ConcentrationTest, FromLevelTwoOnTheMolarMassIsAStepMore)
     }
 }
 
-TEST(ConcentrationTest, WhatIsSoldAsAHydrateIsCalledAnhydrousWithoutItsWater)
+TEST(ConcentrationExerciseTest, WhatIsSoldAsAHydrateIsCalledAnhydrousWithoutItsWater)
 {
     const std::set<std::string> anhydrous = {
         "CuSO4",       "CoCl2",       "MgSO4",     "FeSO4",   "ZnSO4",     "Na2CO3",
@@ -209,7 +209,7 @@ TEST(ConcentrationTest, WhatIsSoldAsAHydrateIsCalledAnhydrousWithoutItsWater)
     EXPECT_GT(counts[false], 1000);
 }
 
-TEST(ConcentrationTest, EachStepHasAHintWithoutNumbers)
+TEST(ConcentrationExerciseTest, EachStepHasAHintWithoutNumbers)
 {
     for (const int level : {1, 2, 3}) {
         forExercises(&concentrationKind, level, 100, [](const Exercise& exercise) {
@@ -223,7 +223,7 @@ TEST(ConcentrationTest, EachStepHasAHintWithoutNumbers)
     }
 }
 
-TEST(ConcentrationTest, RoundedMassesAreCorrectWhereTheMolarMassIsNotGiven)
+TEST(ConcentrationExerciseTest, RoundedMassesAreCorrectWhereTheMolarMassIsNotGiven)
 {
     const Exercise exercise = makeExercise({1, 3, &concentrationKind, 3});
     ASSERT_EQ(exercise.key, "2.78 g"); // FeSO4.7H2O, 0.0100 mol
@@ -235,7 +235,7 @@ TEST(ConcentrationTest, RoundedMassesAreCorrectWhereTheMolarMassIsNotGiven)
     EXPECT_EQ(found, 1);
 }
 
-TEST(ConcentrationTest, ALitreLeavesNoVolumeToMistake)
+TEST(ConcentrationExerciseTest, ALitreLeavesNoVolumeToMistake)
 {
     int litres = 0;
     forExercises(&concentrationKind, 2, 1000, [&](const Exercise& exercise) {
@@ -251,7 +251,7 @@ TEST(ConcentrationTest, ALitreLeavesNoVolumeToMistake)
     EXPECT_GT(litres, 100);
 }
 
-TEST(ConcentrationTest, PagesWorkedByHand)
+TEST(ConcentrationExerciseTest, PagesWorkedByHand)
 {
     EXPECT_EQ(
         pageOf(makeExercise({1, 4, &concentrationKind, 1})),

@@ -82,7 +82,7 @@ long double byFactor(const Exercise& exercise, Calculator rounded)
     return asked == "V1" ? V2 / rounded(c1 / c2) : rounded(V1 * rounded(c1 / c2)) - V1;
 }
 
-TEST(DilutionTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
+TEST(DilutionExerciseTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
 {
     for (const int level : {1, 2, 3}) {
         RoundingOnTheWay amount;
@@ -96,7 +96,7 @@ TEST(DilutionTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
     }
 }
 
-TEST(DilutionTest, NothingIsStrongerThanItsCeilingOrOutOfRange)
+TEST(DilutionExerciseTest, NothingIsStrongerThanItsCeilingOrOutOfRange)
 {
     for (const int level : {1, 2, 3}) {
         forExercises(&dilutionKind, level, exercises, [&](const Exercise& exercise) {
@@ -118,7 +118,7 @@ TEST(DilutionTest, NothingIsStrongerThanItsCeilingOrOutOfRange)
     }
 }
 
-TEST(DilutionTest, NoWaterIsAddedToAStrongAcidAndStrongAcidsAreDilutedElsewhere)
+TEST(DilutionExerciseTest, NoWaterIsAddedToAStrongAcidAndStrongAcidsAreDilutedElsewhere)
 {
     for (const int level : {1, 2, 3}) {
         long double strongest = 0;
@@ -137,7 +137,7 @@ TEST(DilutionTest, NoWaterIsAddedToAStrongAcidAndStrongAcidsAreDilutedElsewhere)
     }
 }
 
-TEST(DilutionTest, EveryVolumeConcentrationAndSoluteIsDrawn)
+TEST(DilutionExerciseTest, EveryVolumeConcentrationAndSoluteIsDrawn)
 {
     std::map<std::string, std::set<std::string>> drawn;
     forExercises(&dilutionKind, 1, exercises, [&](const Exercise& exercise) {
@@ -162,7 +162,7 @@ TEST(DilutionTest, EveryVolumeConcentrationAndSoluteIsDrawn)
     }
 }
 
-TEST(DilutionTest, ThinnestAndStrongestDilutionAreMet)
+TEST(DilutionExerciseTest, ThinnestAndStrongestDilutionAreMet)
 {
     long double least = 100;
     long double greatest = 0;
@@ -175,7 +175,7 @@ TEST(DilutionTest, ThinnestAndStrongestDilutionAreMet)
     EXPECT_NEAR(static_cast<double>(greatest), 50, 1e-12);
 }
 
-TEST(DilutionTest, EachLevelAsksForItsOwnInItsUnit)
+TEST(DilutionExerciseTest, EachLevelAsksForItsOwnInItsUnit)
 {
     std::map<std::string, int> second;
     for (const int level : {1, 2, 3}) {
@@ -198,7 +198,7 @@ TEST(DilutionTest, EachLevelAsksForItsOwnInItsUnit)
 }
 
 // Nothing is told or asked that had to be rounded: a pipette of 40.0 mL, and never one of 39.9 mL.
-TEST(DilutionTest, WhatIsGivenAndWhatIsAskedHaveThreeFiguresExactly)
+TEST(DilutionExerciseTest, WhatIsGivenAndWhatIsAskedHaveThreeFiguresExactly)
 {
     const auto hasThreeFigures = [](Ratio value) { return valueOf(roundedTo(value, 3)) == value; };
     for (const int level : {2, 3}) {
@@ -209,7 +209,7 @@ TEST(DilutionTest, WhatIsGivenAndWhatIsAskedHaveThreeFiguresExactly)
     }
 }
 
-TEST(DilutionTest, FlasksAreThoseThatThereAre)
+TEST(DilutionExerciseTest, FlasksAreThoseThatThereAre)
 {
     const std::set<double> flasks = {100, 200, 250, 500, 1000, 2000};
     for (const int level : {1, 2, 3}) {
@@ -222,7 +222,7 @@ TEST(DilutionTest, FlasksAreThoseThatThereAre)
 }
 
 // The whole volume, typed for the water, passes neither for it nor for a rounded or close answer.
-TEST(DilutionTest, TheWholeVolumeIsToldFromTheWater)
+TEST(DilutionExerciseTest, TheWholeVolumeIsToldFromTheWater)
 {
     forExercises(&dilutionKind, 3, exercises, [&](const Exercise& exercise) {
         const Mark mark = markOf(exercise, typedText(1000 * workedFrom(exercise).V2, 3));
@@ -230,7 +230,7 @@ TEST(DilutionTest, TheWholeVolumeIsToldFromTheWater)
     });
 }
 
-TEST(DilutionTest, QuantitiesAreOftenNewWhateverTheSolute)
+TEST(DilutionExerciseTest, QuantitiesAreOftenNewWhateverTheSolute)
 {
     for (const int level : {1, 2, 3}) {
         std::set<std::string> distinct;
@@ -247,7 +247,7 @@ TEST(DilutionTest, QuantitiesAreOftenNewWhateverTheSolute)
     }
 }
 
-TEST(DilutionTest, EachStepHasAHintWithoutNumbers)
+TEST(DilutionExerciseTest, EachStepHasAHintWithoutNumbers)
 {
     for (const int level : {1, 2, 3}) {
         forExercises(&dilutionKind, level, 100, [](const Exercise& exercise) {
@@ -261,7 +261,7 @@ TEST(DilutionTest, EachStepHasAHintWithoutNumbers)
     }
 }
 
-TEST(DilutionTest, PagesWorkedByHand)
+TEST(DilutionExerciseTest, PagesWorkedByHand)
 {
     EXPECT_EQ(pageOf(makeExercise({1, 8, &dilutionKind, 1})),
               "10.0 mL of 0.0500 mol/L ammonium sulfate solution is diluted to 250 mL. Calculate "

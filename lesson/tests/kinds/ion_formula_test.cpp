@@ -40,7 +40,7 @@ std::set<std::string> keysOf(int level)
     return keys;
 }
 
-TEST(IonFormulaTest, TheIonsOfEachLevel)
+TEST(IonFormulaExerciseTest, TheIonsOfEachLevel)
 {
     const std::set<std::string> oneAtom = {
         "H^+",   "Li^+",  "Na^+",  "K^+",   "Ag^+",  "Mg^2+", "Ca^2+", "Ba^2+", "Mn^2+",
@@ -58,7 +58,7 @@ TEST(IonFormulaTest, TheIonsOfEachLevel)
     EXPECT_EQ(keysOf(3), all);
 }
 
-TEST(IonFormulaTest, TheIonIsGivenAndTheLastStepShowsTheKey)
+TEST(IonFormulaExerciseTest, TheIonIsGivenAndTheLastStepShowsTheKey)
 {
     for (const int level : {1, 2, 3}) {
         for (const Exercise& exercise : wholePool(level)) {
@@ -75,7 +75,7 @@ TEST(IonFormulaTest, TheIonIsGivenAndTheLastStepShowsTheKey)
 
 // Half of what is asked first at level 3 are groups that level 2 has not; of single atoms positive
 // and negative ones come equally often at level 1.
-TEST(IonFormulaTest, NoSortOfIonsCrowdsOutTheOthers)
+TEST(IonFormulaExerciseTest, NoSortOfIonsCrowdsOutTheOthers)
 {
     const std::set<std::string> levelTwo = keysOf(2);
     std::map<std::string, int> groups;
@@ -91,7 +91,7 @@ TEST(IonFormulaTest, NoSortOfIonsCrowdsOutTheOthers)
     expectEqualShares(signs, 2);
 }
 
-TEST(IonFormulaTest, SolutionsTellWhereTheChargeComesFrom)
+TEST(IonFormulaExerciseTest, SolutionsTellWhereTheChargeComesFrom)
 {
     struct Row {
         const char* key;
@@ -129,7 +129,7 @@ TEST(IonFormulaTest, SolutionsTellWhereTheChargeComesFrom)
 }
 
 // An ion of one atom has so many electrons as the noble gas before or behind it.
-TEST(IonFormulaTest, GroupsOfThePeriodicTableGiveTheCharge)
+TEST(IonFormulaExerciseTest, GroupsOfThePeriodicTableGiveTheCharge)
 {
     for (const Exercise& exercise : wholePool(1)) {
         const std::string say = textOf(exercise.solution[1].say);
@@ -145,7 +145,7 @@ TEST(IonFormulaTest, GroupsOfThePeriodicTableGiveTheCharge)
 }
 
 // A hint helps before the step is shown: it is no copy of it, and tells nothing of its result.
-TEST(IonFormulaTest, EachStepHasAHintThatGivesNothingAway)
+TEST(IonFormulaExerciseTest, EachStepHasAHintThatGivesNothingAway)
 {
     for (const int level : {1, 2, 3}) {
         for (const Exercise& exercise : wholePool(level)) {
@@ -224,7 +224,7 @@ void expectTrueOfCharge(const IonRow& ion, const std::string& hint)
     }
 }
 
-TEST(IonFormulaTest, TheHintsAreTrueOfTheIon)
+TEST(IonFormulaExerciseTest, TheHintsAreTrueOfTheIon)
 {
     for (const int level : {1, 2, 3}) {
         for (const Exercise& exercise : wholePool(level)) {
@@ -243,7 +243,7 @@ TEST(IonFormulaTest, TheHintsAreTrueOfTheIon)
     }
 }
 
-TEST(IonFormulaTest, HintsOfIonsThatAreBuiltAlikeAreAlike)
+TEST(IonFormulaExerciseTest, HintsOfIonsThatAreBuiltAlikeAreAlike)
 {
     const std::string first = "Hydrogen comes first. What is the ion without it?";
     const std::string charge =
@@ -261,7 +261,7 @@ TEST(IonFormulaTest, HintsOfIonsThatAreBuiltAlikeAreAlike)
               "Each hydrogen ion that sulfuric acid gives away leaves a charge of 1\u2212 behind.");
 }
 
-TEST(IonFormulaTest, TheCommonSlipsAreListed)
+TEST(IonFormulaExerciseTest, TheCommonSlipsAreListed)
 {
     struct Row {
         const char* key;

@@ -77,7 +77,7 @@ std::set<std::string> firstCompounds(unsigned count, int level)
     return compounds;
 }
 
-TEST(MolarMassTest, APaperGoesThroughMoleculesAndAllCompoundsOfTwoIons)
+TEST(MolarMassExerciseTest, APaperGoesThroughMoleculesAndAllCompoundsOfTwoIons)
 {
     std::set<std::string> without = {"H2O",    "CO2",     "NH3",  "CH4",  "SO2",
                                      "C2H5OH", "C6H12O6", "H2O2", "HNO3", "H2SO4"};
@@ -95,7 +95,7 @@ TEST(MolarMassTest, APaperGoesThroughMoleculesAndAllCompoundsOfTwoIons)
     EXPECT_EQ(firstCompounds(static_cast<unsigned>(with.size()), 2), with);
 }
 
-TEST(MolarMassTest, LevelThreeGoesThroughTheHydrates)
+TEST(MolarMassExerciseTest, LevelThreeGoesThroughTheHydrates)
 {
     const std::set<std::string> expected = {
         "CuSO4.5H2O",  "MgSO4.7H2O",    "Na2CO3.10H2O", "CaSO4.2H2O", "FeSO4.7H2O",
@@ -106,7 +106,7 @@ TEST(MolarMassTest, LevelThreeGoesThroughTheHydrates)
 }
 
 // The prefix of a hydrate's name counts its water.
-TEST(MolarMassTest, NamesOfHydratesTellTheirWater)
+TEST(MolarMassExerciseTest, NamesOfHydratesTellTheirWater)
 {
     const std::map<int, std::string> prefixes = {
         {2, " dihydrate"},   {3, " trihydrate"},   {4, " tetrahydrate"}, {5, " pentahydrate"},
@@ -119,7 +119,7 @@ TEST(MolarMassTest, NamesOfHydratesTellTheirWater)
     }
 }
 
-TEST(MolarMassTest, EachStepHasAHintOfItsOwn)
+TEST(MolarMassExerciseTest, EachStepHasAHintOfItsOwn)
 {
     for (const int level : {1, 2, 3}) {
         for (unsigned number = 1; number <= 18; ++number) {
@@ -135,7 +135,7 @@ TEST(MolarMassTest, EachStepHasAHintOfItsOwn)
 }
 
 // The sum is shown with two decimals, and once where it has no more figures than are asked.
-TEST(MolarMassTest, NoSumHasAThirdDecimal)
+TEST(MolarMassExerciseTest, NoSumHasAThirdDecimal)
 {
     for (const int level : {1, 2, 3}) {
         for (unsigned number = 1; number <= 160; ++number) {
@@ -149,7 +149,7 @@ TEST(MolarMassTest, NoSumHasAThirdDecimal)
     }
 }
 
-TEST(MolarMassTest, TheKeyIsTheSumOfTheMassesThatTheTableShows)
+TEST(MolarMassExerciseTest, TheKeyIsTheSumOfTheMassesThatTheTableShows)
 {
     for (const int level : {1, 2, 3}) {
         for (unsigned number = 1; number <= 180; ++number) {
@@ -164,7 +164,7 @@ TEST(MolarMassTest, TheKeyIsTheSumOfTheMassesThatTheTableShows)
     }
 }
 
-TEST(MolarMassTest, PagesWorkedByHand)
+TEST(MolarMassExerciseTest, PagesWorkedByHand)
 {
     EXPECT_EQ(pageOf(exerciseAbout("NaCl", 1)),
               "Calculate the molar mass of sodium chloride, NaCl, in g/mol.\n"
@@ -240,7 +240,7 @@ TEST(MolarMassTest, PagesWorkedByHand)
               "! 248.7 g/mol  Count the hydrogen atoms again.\n");
 }
 
-TEST(MolarMassTest, EachCommonMistakeIsToldByItsSentence)
+TEST(MolarMassExerciseTest, EachCommonMistakeIsToldByItsSentence)
 {
     struct Row {
         const char* formula;
@@ -277,7 +277,7 @@ TEST(MolarMassTest, EachCommonMistakeIsToldByItsSentence)
     }
 }
 
-TEST(MolarMassTest, NamesThatDifferInAmericaSayHow)
+TEST(MolarMassExerciseTest, NamesThatDifferInAmericaSayHow)
 {
     const auto nameIn = [](const Exercise& exercise) {
         return *std::find_if(exercise.prompt.begin(), exercise.prompt.end(),
@@ -291,7 +291,7 @@ TEST(MolarMassTest, NamesThatDifferInAmericaSayHow)
     EXPECT_EQ(sodium.detail, "");
 }
 
-TEST(MolarMassTest, MassesToOneDecimalAndWholeOnesAreCorrectToo)
+TEST(MolarMassExerciseTest, MassesToOneDecimalAndWholeOnesAreCorrectToo)
 {
     struct Rounded {
         const char* formula;

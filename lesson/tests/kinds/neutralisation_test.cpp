@@ -121,7 +121,7 @@ std::pair<int, int> ratioOf(const Exercise& exercise)
     return {exercise.equation->left[0].first, exercise.equation->left[1].first};
 }
 
-TEST(NeutralisationTest, ThePoolHasEveryAcidAndBaseThatReactPlainly)
+TEST(NeutralisationExerciseTest, ThePoolHasEveryAcidAndBaseThatReactPlainly)
 {
     std::set<std::string> expected;
     for (const char* const acid : {"HCl", "HBr", "HNO3", "H2SO4", "H3PO4", "CH3COOH"}) {
@@ -146,7 +146,7 @@ TEST(NeutralisationTest, ThePoolHasEveryAcidAndBaseThatReactPlainly)
     EXPECT_EQ(asked.size(), everyExercise().size());
 }
 
-TEST(NeutralisationTest, LevelsDifferInBasesAndRatios)
+TEST(NeutralisationExerciseTest, LevelsDifferInBasesAndRatios)
 {
     const std::set<std::pair<int, int>> simple = {{1, 1}, {1, 2}, {2, 1}};
     const std::set<std::pair<int, int>> hard = {{3, 1}, {1, 3}, {3, 2}, {2, 3}, {6, 1}};
@@ -168,7 +168,7 @@ TEST(NeutralisationTest, LevelsDifferInBasesAndRatios)
 }
 
 // The first exercise of a paper: no ratio is twice as likely as its fair share, and none a third.
-TEST(NeutralisationTest, NoRatioCrowdsOutTheOthers)
+TEST(NeutralisationExerciseTest, NoRatioCrowdsOutTheOthers)
 {
     constexpr int papers = 3000;
     for (const int level : {1, 2, 3}) {
@@ -184,7 +184,7 @@ TEST(NeutralisationTest, NoRatioCrowdsOutTheOthers)
     }
 }
 
-TEST(NeutralisationTest, EachPaperGoesThroughThePoolInItsOwnOrder)
+TEST(NeutralisationExerciseTest, EachPaperGoesThroughThePoolInItsOwnOrder)
 {
     for (const int level : {1, 2, 3}) {
         const std::vector<Exercise> one = walk(level, 1);
@@ -209,7 +209,7 @@ std::map<std::string, int> atomsOn(const Side& side)
     return atoms;
 }
 
-TEST(NeutralisationTest, PromptAndGivenNameAcidBaseAndSalt)
+TEST(NeutralisationExerciseTest, PromptAndGivenNameAcidBaseAndSalt)
 {
     for (const Exercise& exercise : everyExercise()) {
         const Equation& equation = *exercise.equation;
@@ -229,7 +229,7 @@ TEST(NeutralisationTest, PromptAndGivenNameAcidBaseAndSalt)
               "Write the balanced equation for the complete neutralisation");
 }
 
-TEST(NeutralisationTest, TheSolutionShowsTheKeyAndThenTheAtomsOfEachSide)
+TEST(NeutralisationExerciseTest, TheSolutionShowsTheKeyAndThenTheAtomsOfEachSide)
 {
     for (const Exercise& exercise : everyExercise()) {
         std::string key = exercise.key;
@@ -268,7 +268,7 @@ std::vector<std::string> solutionText(const EquationAnswer& wanted)
     return text;
 }
 
-TEST(NeutralisationTest, SolutionsReadLikeATextbook)
+TEST(NeutralisationExerciseTest, SolutionsReadLikeATextbook)
 {
     EXPECT_EQ(solutionText({findAcid("H2SO4"), {findIon("aluminium"), findIon("hydroxide")}}),
               (std::vector<std::string>{
@@ -317,7 +317,7 @@ TEST(NeutralisationTest, SolutionsReadLikeATextbook)
 }
 
 // A hint has other words than the sentence of its step, and no formula or number of its result.
-TEST(NeutralisationTest, EachStepHasAHintThatGivesNothingAway)
+TEST(NeutralisationExerciseTest, EachStepHasAHintThatGivesNothingAway)
 {
     for (const Exercise& exercise : everyExercise()) {
         for (const Step& step : exercise.solution) {
@@ -332,7 +332,7 @@ TEST(NeutralisationTest, EachStepHasAHintThatGivesNothingAway)
     }
 }
 
-TEST(NeutralisationTest, HintsOfACarbonate)
+TEST(NeutralisationExerciseTest, HintsOfACarbonate)
 {
     std::vector<std::string> hints;
     for (const Exercise& exercise : walk(2)) {
@@ -353,7 +353,7 @@ TEST(NeutralisationTest, HintsOfACarbonate)
                   "Is each element there as often on the left as on the right?"}));
 }
 
-TEST(NeutralisationTest, AmericanNamesStandBesideTheOthers)
+TEST(NeutralisationExerciseTest, AmericanNamesStandBesideTheOthers)
 {
     std::set<std::string> american;
     for (const Exercise& exercise : everyExercise()) {
@@ -372,7 +372,7 @@ TEST(NeutralisationTest, AmericanNamesStandBesideTheOthers)
     }
 }
 
-TEST(NeutralisationTest, EverySlipGetsItsSentence)
+TEST(NeutralisationExerciseTest, EverySlipGetsItsSentence)
 {
     for (const Exercise& exercise : everyExercise()) {
         // With ammonia nothing but the salt forms, which leaves little to mistake.
@@ -404,7 +404,7 @@ std::set<std::string> slipTexts(const EquationAnswer& wanted)
     return texts;
 }
 
-TEST(NeutralisationTest, SlipsOfThreeEquations)
+TEST(NeutralisationExerciseTest, SlipsOfThreeEquations)
 {
     EXPECT_EQ(slipTexts({findAcid("HCl"), {findIon("sodium"), findIon("carbonate")}}),
               (std::set<std::string>{
@@ -538,7 +538,7 @@ std::string typedText(const Equation& equation, const Spelling& spelling)
     return sideText(equation.left, spelling) + spelling.arrow + sideText(equation.right, spelling);
 }
 
-TEST(NeutralisationTest, TheKeyIsCorrectInEverySpelling)
+TEST(NeutralisationExerciseTest, TheKeyIsCorrectInEverySpelling)
 {
     for (const Exercise& exercise : everyExercise()) {
         EXPECT_EQ(markEquation(answerOf(exercise), exercise.key).verdict, Verdict::correct);
@@ -564,7 +564,7 @@ const std::vector<std::string_view> solidOrDissolvedBases = {
     "MnO",   "FeO",       "CoO",  "NiO",     "CuO",     "ZnO",    "PbO",    "Al2O3", "Fe2O3",
 };
 
-TEST(NeutralisationTest, EveryBaseIsListedWithItsStates)
+TEST(NeutralisationExerciseTest, EveryBaseIsListedWithItsStates)
 {
     std::set<std::string> asked;
     for (const Exercise& exercise : everyExercise()) {
@@ -604,7 +604,7 @@ std::vector<std::string> statesOf(const std::string& species, bool isOnTheLeft, 
     return {"(aq)"};
 }
 
-TEST(NeutralisationTest, RightStatesAreCorrectAndWrongOnesAreSlips)
+TEST(NeutralisationExerciseTest, RightStatesAreCorrectAndWrongOnesAreSlips)
 {
     for (const Exercise& exercise : everyExercise()) {
         const Equation& equation = *exercise.equation;
@@ -640,7 +640,7 @@ std::string withFactor(const Side& side, int factor, int divisor)
     return text;
 }
 
-TEST(NeutralisationTest, MultiplesAndPartsAreBalancedButNotInLowestTerms)
+TEST(NeutralisationExerciseTest, MultiplesAndPartsAreBalancedButNotInLowestTerms)
 {
     const std::pair<int, int> factors[] = {{2, 1}, {3, 1}, {10, 1}, {1, 2}, {1, 3}, {3, 2}, {1, 6}};
     for (const Exercise& exercise : everyExercise()) {
@@ -678,7 +678,7 @@ void expectTrueCounts(const Equation& typed, const Mark& mark)
                                  std::to_string(right) + " on the right.");
 }
 
-TEST(NeutralisationTest, NoOtherCoefficientIsCorrect)
+TEST(NeutralisationExerciseTest, NoOtherCoefficientIsCorrect)
 {
     for (const Exercise& exercise : everyExercise()) {
         const Equation& equation = *exercise.equation;
@@ -702,7 +702,7 @@ TEST(NeutralisationTest, NoOtherCoefficientIsCorrect)
     }
 }
 
-TEST(NeutralisationTest, CapitalsAloneAreASlipAndAMissingSpeciesIsNeverCorrect)
+TEST(NeutralisationExerciseTest, CapitalsAloneAreASlipAndAMissingSpeciesIsNeverCorrect)
 {
     for (const Exercise& exercise : everyExercise()) {
         std::string lower = exercise.key;
@@ -723,7 +723,7 @@ TEST(NeutralisationTest, CapitalsAloneAreASlipAndAMissingSpeciesIsNeverCorrect)
 }
 
 // No answer to one exercise is marked as right for another.
-TEST(NeutralisationTest, OtherKeysAreNotCorrect)
+TEST(NeutralisationExerciseTest, OtherKeysAreNotCorrect)
 {
     const std::vector<Exercise> all = everyExercise();
     for (const Exercise& exercise : all) {

@@ -31,7 +31,7 @@ Pair givenPair(const Exercise& exercise, std::size_t cation, std::size_t anion)
     return {&givenIon(exercise, cation), &givenIon(exercise, anion)};
 }
 
-TEST(SolubilityTest, LevelsOneAndTwoHaveAllPairsThatAreAsked)
+TEST(SolubilityExerciseTest, LevelsOneAndTwoHaveAllPairsThatAreAsked)
 {
     std::set<std::string> followTheRule;
     std::set<std::string> all;
@@ -65,7 +65,7 @@ TEST(SolubilityTest, LevelsOneAndTwoHaveAllPairsThatAreAsked)
     }
 }
 
-TEST(SolubilityTest, HalfOfTheAnswersAreYesAndRuleAndExceptionComeAsOften)
+TEST(SolubilityExerciseTest, HalfOfTheAnswersAreYesAndRuleAndExceptionComeAsOften)
 {
     std::map<std::string, int> first;
     std::map<std::string, int> second;
@@ -81,7 +81,7 @@ TEST(SolubilityTest, HalfOfTheAnswersAreYesAndRuleAndExceptionComeAsOften)
     expectEqualShares(third, 2);
 }
 
-TEST(SolubilityTest, FamiliesOfRulesAreDrawnEquallyOften)
+TEST(SolubilityExerciseTest, FamiliesOfRulesAreDrawnEquallyOften)
 {
     std::map<std::string, int> soluble;
     std::map<std::string, int> precipitates;
@@ -100,7 +100,7 @@ TEST(SolubilityTest, FamiliesOfRulesAreDrawnEquallyOften)
     expectEqualShares(precipitates, 5);
 }
 
-TEST(SolubilityTest, TheSolutionQuotesTheRule)
+TEST(SolubilityExerciseTest, TheSolutionQuotesTheRule)
 {
     for (const Exercise& exercise : saltExercises(12, &solubilityKind, 2, 153)) {
         const std::string rule(ruleFor(givenIon(exercise, 1))->sentence);
@@ -110,7 +110,7 @@ TEST(SolubilityTest, TheSolutionQuotesTheRule)
 }
 
 // A hint has other words than the sentence of its step, and tells neither a formula nor a verdict.
-TEST(SolubilityTest, EachStepHasAHintThatGivesNothingAway)
+TEST(SolubilityExerciseTest, EachStepHasAHintThatGivesNothingAway)
 {
     for (const int level : {1, 2, 3}) {
         for (unsigned number = 1; number <= 100; ++number) {
@@ -166,7 +166,7 @@ std::set<std::set<std::string>> allMixtures()
     return mixtures;
 }
 
-TEST(SolubilityTest, LevelThreeMixesEverythingThatCanBeMixed)
+TEST(SolubilityExerciseTest, LevelThreeMixesEverythingThatCanBeMixed)
 {
     const std::set<std::set<std::string>> expected = allMixtures();
     std::set<std::set<std::string>> mixed;
@@ -178,7 +178,7 @@ TEST(SolubilityTest, LevelThreeMixesEverythingThatCanBeMixed)
     EXPECT_EQ(mixed, expected);
 }
 
-TEST(SolubilityTest, ThePrecipitateIsTheInsolubleNewPair)
+TEST(SolubilityExerciseTest, ThePrecipitateIsTheInsolubleNewPair)
 {
     for (const Exercise& exercise : saltExercises(5, &solubilityKind, 3, 3271)) {
         std::string precipitate = "none";
@@ -193,7 +193,7 @@ TEST(SolubilityTest, ThePrecipitateIsTheInsolubleNewPair)
     }
 }
 
-TEST(SolubilityTest, EitherSaltMayBeNamedFirst)
+TEST(SolubilityExerciseTest, EitherSaltMayBeNamedFirst)
 {
     int inOrderOfTheTable = 0;
     for (unsigned paper = 1; paper <= 1000; ++paper) {
@@ -203,7 +203,7 @@ TEST(SolubilityTest, EitherSaltMayBeNamedFirst)
     EXPECT_NEAR(inOrderOfTheTable, 500, 80);
 }
 
-TEST(SolubilityTest, APageOfMixedSolutions)
+TEST(SolubilityExerciseTest, APageOfMixedSolutions)
 {
     const auto pageWith = [](const std::string& salts) {
         // A paper meets them in one order or in the other.
@@ -244,7 +244,7 @@ TEST(SolubilityTest, APageOfMixedSolutions)
               "! NaCl  That one was dissolved at the start. Look at the new pairs of ions.\n");
 }
 
-TEST(SolubilityTest, AmericanNamesStandInTheRules)
+TEST(SolubilityExerciseTest, AmericanNamesStandInTheRules)
 {
     for (const Exercise& exercise : saltExercises(12, &solubilityKind, 1, 134)) {
         if (givenIon(exercise, 1).name == "ethanoate") {

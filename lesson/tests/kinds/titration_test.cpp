@@ -71,7 +71,7 @@ long double stepByStep(const Exercise& exercise, Calculator rounded)
     return ofUnknown / volumeOf(*findGiven(exercise, "V", unknown), rounded);
 }
 
-TEST(TitrationTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
+TEST(TitrationExerciseTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
 {
     for (const int level : {1, 2, 3}) {
         RoundingOnTheWay rounding;
@@ -81,7 +81,7 @@ TEST(TitrationTest, TheKeyFollowsFromWhatIsGivenHoweverStepsAreRounded)
     }
 }
 
-TEST(TitrationTest, TheEquationConservesEveryAtom)
+TEST(TitrationExerciseTest, TheEquationConservesEveryAtom)
 {
     forExercises(&titrationKind, 3, 1000, [&](const Exercise& exercise) {
         std::map<std::string, int> left;
@@ -96,7 +96,7 @@ TEST(TitrationTest, TheEquationConservesEveryAtom)
     });
 }
 
-TEST(TitrationTest, RatiosOfALevelComeEquallyOften)
+TEST(TitrationExerciseTest, RatiosOfALevelComeEquallyOften)
 {
     const std::size_t classes[] = {1, 2, 3};
     for (const int level : {1, 2, 3}) {
@@ -118,7 +118,7 @@ struct Practice {
     std::set<std::string> inBurette;
 };
 
-TEST(TitrationTest, EveryPairIsTitratedAsAPracticalBookHasIt)
+TEST(TitrationExerciseTest, EveryPairIsTitratedAsAPracticalBookHasIt)
 {
     std::map<std::string, Practice> seen;
     forExercises(&titrationKind, 3, exercises, [&](const Exercise& exercise) {
@@ -168,7 +168,7 @@ TEST(TitrationTest, EveryPairIsTitratedAsAPracticalBookHasIt)
     EXPECT_EQ(seen.size(), pairs);
 }
 
-TEST(TitrationTest, AcidAndBaseAreAskedForEquallyOften)
+TEST(TitrationExerciseTest, AcidAndBaseAreAskedForEquallyOften)
 {
     for (const int level : {1, 2, 3}) {
         int acid = 0;
@@ -181,7 +181,7 @@ TEST(TitrationTest, AcidAndBaseAreAskedForEquallyOften)
     }
 }
 
-TEST(TitrationTest, EveryConcentrationPipetteAndTitreIsDrawn)
+TEST(TitrationExerciseTest, EveryConcentrationPipetteAndTitreIsDrawn)
 {
     std::map<std::string, int> concentrations;
     std::set<std::string> pipettes;
@@ -205,7 +205,7 @@ TEST(TitrationTest, EveryConcentrationPipetteAndTitreIsDrawn)
     }
 }
 
-TEST(TitrationTest, TheAnswerIsInRangeFromEndToEnd)
+TEST(TitrationExerciseTest, TheAnswerIsInRangeFromEndToEnd)
 {
     long double least = 2;
     long double greatest = 0;
@@ -229,7 +229,7 @@ std::string typedTitre(int hundredths)
     return text;
 }
 
-TEST(TitrationTest, SeveralTitresHaveARoughOneAndConcordantOnes)
+TEST(TitrationExerciseTest, SeveralTitresHaveARoughOneAndConcordantOnes)
 {
     std::map<std::string, int> numbers;
     std::set<int> overLowest;
@@ -264,7 +264,7 @@ TEST(TitrationTest, SeveralTitresHaveARoughOneAndConcordantOnes)
     EXPECT_LE(*all.rbegin(), 4000);
 }
 
-TEST(TitrationTest, TheFirstLevelsHaveOneTitreAndTheEquation)
+TEST(TitrationExerciseTest, TheFirstLevelsHaveOneTitreAndTheEquation)
 {
     for (const int level : {1, 2}) {
         forExercises(&titrationKind, level, 1000, [&](const Exercise& exercise) {
@@ -275,7 +275,7 @@ TEST(TitrationTest, TheFirstLevelsHaveOneTitreAndTheEquation)
 }
 
 // But of sulfuric acid and a carbonate somebody may think that it is not one to one.
-TEST(TitrationTest, OneToOneLeavesNoRatioToForget)
+TEST(TitrationExerciseTest, OneToOneLeavesNoRatioToForget)
 {
     forExercises(&titrationKind, 1, 1000, [&](const Exercise& exercise) {
         const bool mayMislead = exercise.equation->left[0].second == "H2SO4";
@@ -287,7 +287,7 @@ TEST(TitrationTest, OneToOneLeavesNoRatioToForget)
     });
 }
 
-TEST(TitrationTest, PagesWorkedByHand)
+TEST(TitrationExerciseTest, PagesWorkedByHand)
 {
     EXPECT_EQ(pageOf(makeExercise({4821, 3, &titrationKind, 2})),
               "25.0 mL of sodium carbonate solution is titrated with 0.204 mol/L nitric acid "
@@ -361,7 +361,7 @@ TEST(TitrationTest, PagesWorkedByHand)
 }
 
 // The prompt of the first levels gives the equation away.
-TEST(TitrationTest, OnlyWhereItIsNotGivenTheEquationIsAStep)
+TEST(TitrationExerciseTest, OnlyWhereItIsNotGivenTheEquationIsAStep)
 {
     for (const int level : {1, 2, 3}) {
         forExercises(&titrationKind, level, 300, [&](const Exercise& exercise) {

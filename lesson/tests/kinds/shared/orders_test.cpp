@@ -47,7 +47,7 @@ std::string textOf(const Calculation& calculation)
 }
 
 // Exercises in which somebody who rounded on the way was marked wrong, or "very close".
-TEST(OrdersTest, OrdersThatEndTooFarAwayAreFound)
+TEST(CorrectAnswersTest, OrdersThatEndTooFarAwayAreFound)
 {
     struct Case {
         const char* order;
@@ -67,7 +67,7 @@ TEST(OrdersTest, OrdersThatEndTooFarAwayAreFound)
 }
 
 // 0.388 x 0.0113 / 0.0250 x 2 = 0.351, when only the mean of 11.25 mL is rounded.
-TEST(OrdersTest, ANumberThatIsRoundedBeforehandMayLeadTooFar)
+TEST(CorrectAnswersTest, ANumberThatIsRoundedBeforehandMayLeadTooFar)
 {
     const CorrectAnswers correct(ratio(3492, 10000));
     const auto withMean = [](Ratio mean) {
@@ -79,7 +79,7 @@ TEST(OrdersTest, ANumberThatIsRoundedBeforehandMayLeadTooFar)
     EXPECT_FALSE(correct.haveEveryOrderOf(withMean(used.back())));
 }
 
-TEST(OrdersTest, ANumberWorkedOutBeforehandIsKeptOrRoundedToThreeOrFourFigures)
+TEST(CorrectAnswersTest, ANumberWorkedOutBeforehandIsKeptOrRoundedToThreeOrFourFigures)
 {
     EXPECT_EQ(roundedOrKept(ratio(92175, 3000)),
               (std::vector<Ratio>{ratio(92175, 3000), ratio(307, 10), ratio(3072, 100),
@@ -198,7 +198,7 @@ bool isEveryOrderCorrect(const Calculation& calculation)
     return areCorrect;
 }
 
-TEST(OrdersTest, EveryOrderIsTried)
+TEST(CorrectAnswersTest, EveryOrderIsTried)
 {
     std::mt19937 dice;
     const auto between = [&](unsigned least, unsigned greatest) {
