@@ -209,7 +209,7 @@ Mark markUnbalanced(const TypedEquation& typed, const Roles& roles, const Assign
         Ratio left = atomsOnSide(roles, assignment, true, counted);
         Ratio right = atomsOnSide(roles, assignment, false, counted);
         if (left != right) {
-            if (typed.pointsLeft) {
+            if (typed.arrow == Arrow::toTheLeft) {
                 std::swap(left, right);
             }
             return {Verdict::slip, "Count the " + std::string(element(counted).name) +

@@ -57,6 +57,14 @@ std::optional<Run> runFrom(std::string_view text, std::size_t from)
     return run;
 }
 
+Arrow directionOf(const Run& arrow)
+{
+    if (!arrow.pointsLeft) {
+        return Arrow::toTheRight; // or an equals sign
+    }
+    return arrow.pointsRight ? Arrow::twoWay : Arrow::toTheLeft;
+}
+
 std::optional<Run> firstArrow(std::string_view text)
 {
     std::optional<Run> run = runFrom(text, 0);
@@ -203,12 +211,10 @@ TypedEquation readEquation(std::string_view typed)
         equation.right = readSide(plain.substr(split->end), equation.unread);
     }
     if (arrow.has_value()) {
-        const bool isTwoWay = arrow->pointsLeft && arrow->pointsRight;
-        equation.arrow = isTwoWay ? Arrow::twoWay : Arrow::oneWay;
-        equation.pointsLeft = arrow->pointsLeft && !isTwoWay;
-        if (equation.pointsLeft) {
-            std::swap(equation.left, equation.right);
-        }
+        equation.arrow = directionOf(*arrow);
+    }
+    if (equation.arrow == Arrow::toTheLeft) {
+        std::swap(equation.left, equation.right);
     }
     return equation;
 }

@@ -20,13 +20,13 @@ struct TypedTerm {
     std::string unread; // the part that could not be read; empty where all could
 };
 
-enum class Arrow { none, oneWay, twoWay };
+enum class Arrow { none, toTheRight, toTheLeft, twoWay };
 
 struct TypedEquation {
     Arrow arrow = Arrow::none;
-    bool pointsLeft = false; // then what was typed on the left is `right`
-    // What the arrow starts from and what it points to; without an arrow all is left. Terms that
-    // could not be read stand among the others.
+    // What the arrow starts from and what it points to, so that behind an arrow to the left what
+    // was typed on the left is `right`; without an arrow all is left. Terms that could not be read
+    // stand among the others.
     std::vector<TypedTerm> left;
     std::vector<TypedTerm> right;
     std::string unread; // the first part that could not be read; empty where all could

@@ -104,8 +104,10 @@ std::string_view signOf(const TypedEquation& equation)
     switch (equation.arrow) {
     case Arrow::none:
         break;
-    case Arrow::oneWay:
-        return equation.pointsLeft ? " ← " : " → ";
+    case Arrow::toTheRight:
+        return " → ";
+    case Arrow::toTheLeft:
+        return " ← ";
     case Arrow::twoWay:
         return " ⇌ ";
     }
@@ -193,7 +195,7 @@ Spans equationSpans(const TypedEquation& equation)
     if (!hasReadTerm(equation.left) && !hasReadTerm(equation.right)) {
         return {};
     }
-    const bool isTurned = equation.pointsLeft;
+    const bool isTurned = equation.arrow == Arrow::toTheLeft;
     Spans spans = sideSpans(isTurned ? equation.right : equation.left);
     append(spans, std::string(signOf(equation)));
     append(spans, sideSpans(isTurned ? equation.left : equation.right));

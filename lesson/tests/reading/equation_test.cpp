@@ -33,7 +33,7 @@ std::string textOf(const std::vector<TypedTerm>& side)
 std::string readBack(const std::string& typed)
 {
     const TypedEquation equation = readEquation(plainTyped(typed));
-    const char* const arrows[] = {" -- ", " -> ", " <-> "};
+    const char* const arrows[] = {" -- ", " -> ", " -> ", " <-> "};
     return textOf(equation.left) + arrows[static_cast<int>(equation.arrow)] +
            textOf(equation.right);
 }
@@ -128,7 +128,7 @@ TEST(TypedEquationTest, ArrowsInEverySpelling)
     for (const char* const arrow : {"<-", "<--", "<=", "←", "⟵", "⇐"}) {
         const std::string typed = std::string("HCl ") + arrow + " NaCl";
         EXPECT_EQ(readBack(typed), "1 NaCl -> 1 HCl") << arrow;
-        EXPECT_TRUE(readEquation(plainTyped(typed)).pointsLeft) << arrow;
+        EXPECT_EQ(readEquation(plainTyped(typed)).arrow, Arrow::toTheLeft) << arrow;
     }
 }
 
