@@ -197,6 +197,7 @@ void allowMasses(Spread& spread, const Ceilings& substances, double share)
             if (masses > 0) {
                 spread.allow("substance", formula, masses);
                 spread.allow("V to divide by", volume.text(), masses);
+                spread.allow("asked", "c", masses);
                 spread.endCombination(masses);
             }
         }
@@ -259,6 +260,7 @@ void allowConcentrations(Spread& spread, const Ceilings& substances, double shar
                     spread.allow("substance", formula);
                     spread.allow("c", c.text());
                     spread.allow("V of a flask", volume.text());
+                    spread.allow("asked", "m");
                     spread.endCombination();
                 }
             }
@@ -286,6 +288,7 @@ Exact checkConcentration(Problems& problems, const Json& exercise, Spread& sprea
     problems.expect(isHydrate == (exercise["level"] == "3"), "hydrates are at level 3", formula);
     checkShownFigures(problems, exercise);
     spread.draw("substance", formula);
+    spread.draw("asked", exercise["ask"]["quantity"]);
     Exact key;
     if (asksForMass) {
         checkAsked(problems, exercise, "m", formula, "g");
@@ -301,6 +304,11 @@ Exact checkConcentration(Problems& problems, const Json& exercise, Spread& sprea
         problems.expect(isBetween({2, 100}, key, 2), "concentrations are between 0.02 and 2 mol/L",
                         key.text());
     }
+    const Exact& c = asksForMass ? given(exercise, "c") : key;
+    const Exact& mass = asksForMass ? key : given(exercise, "m");
+    const Ceilings& ceilings = isHydrate ? typedHydrateCeilings() : typedCeilings();
+    problems.expect(c <= ceilings.at(formula) && isAffordable(formula, mass),
+                    "a solution is no stronger than it can be, and no dearer", formula);
     checkNumber(problems, exercise, key);
     return key;
 }
@@ -380,13 +388,24 @@ bool isAcid(const std::string& solute)
     return typedAcidCeilings().count(solute) == 1;
 }
 
+const std::vector<Exact>& finalVolumes()
+{
+    static const std::vector<Exact> all = litresOf({"100", "200", "250", "500", "1000", "2000"});
+    return all;
+}
+
+bool isAmong(const std::vector<Exact>& values, const Exact& value)
+{
+    return std::find(values.begin(), values.end(), value) != values.end();
+}
+
 bool isSensible(const Dilution& dilution)
 {
     const auto& [solute, asked, c1, V1, c2, V2] = dilution;
     const Exact ceiling =
         isAcid(solute) ? typedAcidCeilings().at(solute) : typedCeilings().at(solute);
     return isBetween(2, V2 / V1, 50) && isBetween({5, 100}, c1, 6) &&
-           isBetween({5, 1000}, V1, {200, 1000}) && isBetween({1, 10}, V2, 2) && c1 <= ceiling &&
+           isBetween({5, 1000}, V1, {200, 1000}) && isAmong(finalVolumes(), V2) && c1 <= ceiling &&
            (solute != "AgNO3" || c1 * V1 * typedMolarMass(solute) <= 2) &&
            (asked != "V" || !isAcid(solute) || c1 <= 2) &&
            // A given concentration is told as it is, not rounded.
@@ -417,7 +436,6 @@ void tellGiven(const Dilution& dilution, Tell tell)
 void allowDilutions(Spread& spread, const std::string& asked, double share)
 {
     const auto startingVolumes = litresOf({"5", "10", "20", "25", "40", "50", "100", "200"});
-    const auto finalVolumes = litresOf({"100", "200", "250", "500", "1000", "2000"});
     const auto concentrations = decimals(
         {"0.05", "0.1", "0.2", "0.25", "0.4", "0.5", "0.8", "1", "1.5", "2", "3", "4", "6"});
     Ceilings solutes = typedCeilings();
@@ -426,7 +444,7 @@ void allowDilutions(Spread& spread, const std::string& asked, double share)
     for (const auto& row : solutes) {
         for (const Exact& c1 : concentrations) {
             for (const Exact& V1 : startingVolumes) {
-                for (const Exact& V2 : finalVolumes) {
+                for (const Exact& V2 : finalVolumes()) {
                     const Dilution dilution = {row.first, asked, c1, V1, c1 * V1 / V2, V2};
                     if (isSensible(dilution)) {
                         tellGiven(dilution, [&](const char* quantity, const std::string& value) {
@@ -466,7 +484,10 @@ void checkDilution(Problems& problems, const Json& exercise, Spread& spread)
     tellGiven(dilution, [&](const char* quantity, const std::string& value) {
         spread.draw(quantity, value);
     });
-    checkNumber(problems, exercise, answerOf(dilution));
+    const Exact answer = answerOf(dilution);
+    problems.expect(dilution.asked == "c2" || answer == answer.toFigures(3),
+                    "what was measured has three figures", answer.text());
+    checkNumber(problems, exercise, answer);
 }
 
 void checkDilutions(const std::string& kind, const std::vector<const char*>& asked)
@@ -663,7 +684,29 @@ double shareOf(const TypedReaction& reaction, bool isAcidInBurette)
     return (burette == Place::acid) == isAcidInBurette ? times : 0;
 }
 
-void allowRatio(Spread& spread, const std::string& ratio, double share, const Chances& chances)
+// How a pair is titrated: "HCl and NaOH, methyl orange, HCl in the burette".
+std::string practiceOf(const TypedReaction& reaction, const std::string& indicator,
+                       const std::string& inBurette)
+{
+    return reaction.acid + " and " + reaction.base + ", " + indicator + ", " + inBurette +
+           " in the burette";
+}
+
+void allowPractice(Spread& spread, const TypedReaction& reaction, bool isAcidInBurette,
+                   double times)
+{
+    const std::vector<std::string> indicators = conditionsOf(reaction).indicators;
+    for (const std::string& indicator : indicators) {
+        spread.allow(
+            "practice",
+            practiceOf(reaction, indicator, isAcidInBurette ? reaction.acid : reaction.base),
+            times / static_cast<double>(indicators.size()));
+    }
+}
+
+// With so many concordant titres; 0 where there is one titre alone.
+void allowRatio(Spread& spread, const std::string& ratio, double share, const Chances& chances,
+                std::size_t concordant)
 {
     const std::vector<TypedReaction> reactions = reactionsOf(ratio);
     const Exact acidForOneBase(reactions[0].ofAcid, reactions[0].ofBase);
@@ -682,8 +725,11 @@ void allowRatio(Spread& spread, const std::string& ratio, double share, const Ch
                 if (part > 0) {
                     spread.allow("ratio", ratio, part);
                     spread.allow("pair", reaction.acid + " and " + reaction.base, part);
+                    allowPractice(spread, reaction, isAcidInBurette, part);
                 }
             }
+            spread.allow("asked", isAcidKnown ? "base" : "acid", all);
+            spread.allow("concordant titres", std::to_string(concordant), all);
         }
     }
     spread.endClass();
@@ -714,7 +760,8 @@ Titration titrationOf(const Json& exercise)
     return titration;
 }
 
-void checkConditions(Problems& problems, const Json& exercise, const Titration& titration)
+// Gives the indicator.
+std::string checkConditions(Problems& problems, const Json& exercise, const Titration& titration)
 {
     const TypedReaction& reaction = titration.reaction;
     const Conditions conditions = conditionsOf(reaction);
@@ -729,16 +776,9 @@ void checkConditions(Problems& problems, const Json& exercise, const Titration& 
     problems.expect(titration.known != titration.unknown &&
                         (titration.unknown == reaction.acid || titration.unknown == reaction.base),
                     "one of the two is known, the other asked for", prompt);
-    int named = 0;
-    for (const char* const indicator : {"phenolphthalein", "methyl orange"}) {
-        const bool isNamed = holds(prompt, indicator);
-        const auto& allowed = conditions.indicators;
-        problems.expect(!isNamed ||
-                            std::find(allowed.begin(), allowed.end(), indicator) != allowed.end(),
-                        "the indicator suits the titration", prompt);
-        named += isNamed ? 1 : 0;
-    }
-    problems.expect(named == 1, "the prompt names one indicator", prompt);
+    const bool isOrange = holds(prompt, "methyl orange");
+    problems.expect(isOrange != holds(prompt, "phenolphthalein"), "the prompt names one indicator",
+                    prompt);
     const bool isHydrogencarbonate = holds(reaction.base, "HCO3");
     problems.expect(holds(prompt, ", until the carbonate has reacted completely. ") ==
                         (reaction.givesCarbonDioxide && !isHydrogencarbonate),
@@ -746,6 +786,7 @@ void checkConditions(Problems& problems, const Json& exercise, const Titration& 
     problems.expect(holds(prompt, ", until the hydrogencarbonate has reacted completely. ") ==
                         isHydrogencarbonate,
                     "hydrogencarbonates are titrated to the end", prompt);
+    return isOrange ? "methyl orange" : "phenolphthalein";
 }
 
 // A rough titre and two or three concordant ones, whose mean the volume is.
@@ -782,7 +823,7 @@ Exact checkTitration(Problems& problems, const Json& exercise, bool hasTitres, S
     const Titration titration = titrationOf(exercise);
     const TypedReaction& reaction = titration.reaction;
     checkEquation(problems, exercise, typedTitrations());
-    checkConditions(problems, exercise, titration);
+    const std::string indicator = checkConditions(problems, exercise, titration);
     checkAsked(problems, exercise, "c", titration.unknown, "mol/L");
     checkShownFigures(problems, exercise);
 
@@ -810,6 +851,9 @@ Exact checkTitration(Problems& problems, const Json& exercise, bool hasTitres, S
 
     spread.draw("ratio", ratioOf(reaction));
     spread.draw("pair", reaction.acid + " and " + reaction.base);
+    spread.draw("practice", practiceOf(reaction, indicator, titration.burette));
+    spread.draw("asked", titration.unknown == reaction.acid ? "acid" : "base");
+    spread.draw("concordant titres", std::to_string(hasTitres ? burette["titres"].size() - 1 : 0));
     spread.draw("known concentration", c.text());
     spread.draw("pipette", flask.text());
     spread.draw("known", isKnownInBurette ? "in the burette" : "in the flask");
@@ -827,10 +871,10 @@ void checkTitrations(int level, const std::vector<const char*>& ratios)
     const double share = 1.0 / static_cast<double>(ratios.size());
     for (const char* const ratio : ratios) {
         if (level == 3) {
-            allowRatio(spread, ratio, share / 2, keptWhereTheRoughTitreShows(2));
-            allowRatio(spread, ratio, share / 2, keptWhereTheRoughTitreShows(3));
+            allowRatio(spread, ratio, share / 2, keptWhereTheRoughTitreShows(2), 2);
+            allowRatio(spread, ratio, share / 2, keptWhereTheRoughTitreShows(3), 3);
         } else {
-            allowRatio(spread, ratio, share, alwaysKept());
+            allowRatio(spread, ratio, share, alwaysKept(), 0);
         }
     }
     forEachPaper(kindAt("titration", level), problems, [&](const Json& exercise) {

@@ -81,13 +81,18 @@ void gatherFormulas(const Json& spans, std::vector<std::string>& formulas)
     }
 }
 
-// A typesetter gets no empty pieces, and words in one piece.
+bool isTidy(const std::string& words)
+{
+    return !words.empty() && words.find("  ") == std::string::npos;
+}
+
+// A typesetter gets no empty pieces, and words in one piece with one blank between them.
 bool isInPieces(const Json& spans)
 {
     bool isBehindText = false;
     for (const Json& span : spans) {
         const bool isText = span.contains("text");
-        if (isText && (isBehindText || span["text"].get_ref<const std::string&>().empty())) {
+        if (isText && (isBehindText || !isTidy(span["text"]))) {
             return false;
         }
         if (span.contains("fraction") &&
@@ -160,8 +165,11 @@ void checkSteps(Problems& problems, const Json& exercise)
     }
 }
 
-void checkSlips(Problems& problems, const Json& exercise)
+// Each of its slips is told by its own sentence, too; on so many papers, as that takes long.
+void checkSlips(Problems& problems, const Json& exercise, const std::string& kind, unsigned paper,
+                unsigned number)
 {
+    constexpr unsigned papersMarked = 1000;
     std::vector<std::string> texts;
     for (const Json& slip : exercise["slips"]) {
         const std::string text = slip["text"];
@@ -170,6 +178,11 @@ void checkSlips(Problems& problems, const Json& exercise)
         problems.expect(std::find(texts.begin(), texts.end(), text) == texts.end(),
                         "no slip comes twice", text);
         texts.push_back(text);
+        if (paper <= papersMarked) {
+            const Json mark = markOn(kind, paper, number, text);
+            problems.expect(mark["verdict"] == "slip" && mark["sentence"] == slip["sentence"],
+                            "a slip gets its sentence", slip.dump() + ": " + mark.dump());
+        }
     }
 }
 
@@ -310,7 +323,7 @@ void checkWhatIsShown(Problems& problems, const Json& exercise, const std::strin
     checkPrompt(problems, exercise);
     checkFormulas(problems, exercise);
     checkSteps(problems, exercise);
-    checkSlips(problems, exercise);
+    checkSlips(problems, exercise, kind, paper, number);
     problems.expect(verdictOn(kind, paper, number, exercise["key"]["text"]) == "correct",
                     "the key is marked correct", exercise["key"]["text"]);
 }

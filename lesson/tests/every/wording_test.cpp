@@ -23,7 +23,7 @@ constexpr const char* unwanted[] = {
     "Amount of the known.", "Ratio.",       // known to whom, of what
     "has become carbon dioxide",
     "that has to be dissolved",
-    " .", " ,", "..", "()",
+    " .", " ,", "..", ",,", "()", "( ", " )",
     "a ammonia", "a acid", "a ethan", "a iron", "a alum", "an nitr", "an sulf", "an carb",
     "NaCH3COO", "LiCH3COO", "NH4CH3COO", "AgCH3COO", // as nobody prints them; KCH3COO likewise
     " KCH3COO", "hydrogen carbonate", "aluminum", "sulph",
@@ -117,26 +117,42 @@ TEST(WordingTest, MolarMassesHaveTwoDecimals)
 // What is sold with its water, and weighed without it, is called so.
 void checkAnhydrous(Problems& problems, const Asked& asked)
 {
-    if (asked.slug() != "concentration") {
-        return;
+    static const std::set<std::string> soldWithWater = {
+        "CuSO4",  "CoCl2",     "MgSO4",    "FeSO4",    "ZnSO4",       "Na2CO3",    "BaCl2",
+        "Na2SO4", "CaCl2",     "MgCl2",    "CuCl2",    "NiSO4",       "MnSO4",     "Na3PO4",
+        "LiOH",   "Fe2(SO4)3", "Ca(NO3)2", "CH3COONa", "Cu(CH3COO)2", "Al2(SO4)3", "Ca(CH3COO)2"};
+    if (asked.slug() == "concentration") {
+        const Json& given = asked.exercise["given"][0];
+        const std::string name = " anhydrous " + given["name"].get<std::string>() + ", ";
+        const bool isCalledAnhydrous = asked.prompt().find(name) != std::string::npos;
+        problems.expect(isCalledAnhydrous == (soldWithWater.count(given["compound"]) == 1),
+                        "a salt without its water is called anhydrous", asked.prompt());
     }
-    std::set<std::string> salts;
-    for (const auto& hydrate : typedHydrateCeilings()) {
-        salts.insert(hydrate.first.substr(0, hydrate.first.find('.')));
-    }
-    const std::string formula = asked.exercise["given"][0]["compound"];
-    problems.expect(salts.count(formula) == 0 ||
-                        asked.prompt().find("anhydrous") != std::string::npos,
-                    "a salt without its water is called anhydrous", asked.prompt());
-    problems.expect(formula.find('.') == std::string::npos ||
-                        asked.prompt().find("anhydrous") == std::string::npos,
-                    "a hydrate is not", asked.prompt());
 }
 
 TEST(WordingTest, SaltsOfHydratesAreCalledAnhydrous)
 {
     Problems problems;
     forEachExercise(problems, checkAnhydrous);
+    EXPECT_EQ(problems.text(), "");
+}
+
+// What is calculated, and in which unit.
+void checkNumberAskedFor(Problems& problems, const Asked& asked)
+{
+    const Json& ask = asked.exercise["ask"];
+    if (ask["form"] == "number") {
+        const std::string unit = "in  " + ask["unit"].get<std::string>(); // a blank of each span
+        const bool isAsked = asked.prompt().find("Calculate the ") != std::string::npos;
+        problems.expect(isAsked && asked.prompt().find(unit) != std::string::npos,
+                        "a number is asked for in its unit", asked.prompt());
+    }
+}
+
+TEST(WordingTest, NumbersAreAskedForInTheirUnit)
+{
+    Problems problems;
+    forEachExercise(problems, checkNumberAskedFor);
     EXPECT_EQ(problems.text(), "");
 }
 

@@ -2,12 +2,9 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
 #include <map>
-#include <set>
 #include <string>
 
-#include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/tests/support/salt_exercise.hpp"
 
 namespace lesson
@@ -34,54 +31,6 @@ Exercise exerciseAbout(const std::string& compound)
     }
     ADD_FAILURE() << compound << " is not asked";
     return {};
-}
-
-// A symbol begins with a capital: groups have several, or a subscript.
-bool isOneAtom(std::string_view ion)
-{
-    return ion.size() == 1 || (ion.size() == 2 && std::islower(ion[1]) != 0);
-}
-
-TEST(CompoundFormulaExerciseTest, LevelsShareOutAllPairsThatAreAsked)
-{
-    std::multiset<std::string> asked;
-    for (const int level : {1, 2, 3}) {
-        for (const Exercise& exercise : wholePool(level)) {
-            const std::string page = pageOf(exercise);
-            const std::string cation(givenIon(exercise, 0).formula);
-            const std::string anion(givenIon(exercise, 1).formula);
-            const bool hasNumeral = textOf(exercise.prompt).find("(II") != std::string::npos;
-            EXPECT_EQ(hasNumeral, level == 3) << page;
-            if (level < 3) {
-                EXPECT_EQ(isOneAtom(cation) && isOneAtom(anion), level == 1) << page;
-            }
-            asked.insert(exercise.key);
-        }
-    }
-    std::multiset<std::string> expected;
-    for (const IonRow* const cation : cations()) {
-        for (const IonRow* const anion : anions()) {
-            if (whyFormulaIsNotAsked({cation, anion}).empty()) {
-                expected.insert(compoundFormula(*cation, *anion));
-            }
-        }
-    }
-    EXPECT_EQ(asked, expected);
-}
-
-TEST(CompoundFormulaExerciseTest, TheIonsAreGivenAndTheLastStepShowsTheKey)
-{
-    for (const int level : {1, 2, 3}) {
-        for (const Exercise& exercise : wholePool(level)) {
-            EXPECT_EQ(exercise.ask.form, Form::formula);
-            EXPECT_TRUE(exercise.ask.choices.empty());
-            ASSERT_EQ(exercise.given.size(), 2U);
-            EXPECT_GT(givenIon(exercise, 0).charge, 0);
-            EXPECT_LT(givenIon(exercise, 1).charge, 0);
-            EXPECT_EQ(textOf(exercise.solution.front().math), givenIons(exercise));
-            EXPECT_EQ(textOf(exercise.solution.back().math), exercise.key);
-        }
-    }
 }
 
 // The sum of the charges as the solution writes it, worked out anew: "2(+3) + 3(−2) = 0".
@@ -193,23 +142,6 @@ TEST(CompoundFormulaExerciseTest, AmericanNamesAreTold)
     const Exercise exercise = exerciseAbout("Ca(CH3COO)2");
     EXPECT_EQ(exercise.prompt[1].detail, "calcium acetate");
     EXPECT_EQ(exercise.solution[0].say[0].detail, "Calcium acetate");
-}
-
-// A hint helps before the step is shown: it is no copy of it, and tells nothing of its result.
-TEST(CompoundFormulaExerciseTest, EachStepHasAHintThatGivesNothingAway)
-{
-    for (const int level : {1, 2, 3}) {
-        for (const Exercise& exercise : wholePool(level)) {
-            for (const Step& step : exercise.solution) {
-                const std::string hint = textOf(step.hint);
-                EXPECT_GT(hint.size(), 20U) << textOf(step.say);
-                EXPECT_NE(hint, textOf(step.say));
-                EXPECT_EQ((hint + " ").find(" " + textOf(step.math) + " "), std::string::npos)
-                    << hint;
-                EXPECT_EQ(hint.find_first_of("123456789"), std::string::npos) << hint;
-            }
-        }
-    }
 }
 
 // Sodium is written S, and potassium P; ammonium NH3.

@@ -5,44 +5,17 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
-#include <set>
 #include <string>
 #include <vector>
 
-#include "lesson/chemistry/elements.hpp"
-#include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/chemistry/solutes_and_ceilings.hpp"
 #include "lesson/tests/support/calculation.hpp"
-#include "support/atom_count.hpp"
 
 namespace lesson
 {
 
 namespace
 {
-
-// The atoms of a formula that may be a hydrate.
-std::map<std::string, int> atomsOf(const std::string& formula)
-{
-    const std::size_t dot = formula.find('.');
-    std::map<std::string, int> atoms = countAtoms(formula.substr(0, dot));
-    if (dot != std::string::npos) {
-        addAtoms(atoms, std::atoi(formula.c_str() + dot + 1), "H2O");
-    }
-    return atoms;
-}
-
-// Sums what the table shows, to so many decimals; 3 leave it as it is.
-long double massOf(const std::string& formula, int decimals = 3)
-{
-    const long double scale = std::pow(10.0L, decimals);
-    long double mass = 0;
-    for (const auto& [symbol, count] : atomsOf(formula)) {
-        const std::string shown = shownMass(*findElement(symbol));
-        mass += count * std::round(std::strtold(shown.c_str(), nullptr) * scale) / scale;
-    }
-    return mass;
-}
 
 const std::string& compoundOf(const Exercise& exercise)
 {
@@ -67,44 +40,6 @@ Exercise exerciseAbout(const std::string& formula, int level)
     return exerciseOf(1, level);
 }
 
-// A paper's first exercises, which are about as many compounds.
-std::set<std::string> firstCompounds(unsigned count, int level)
-{
-    std::set<std::string> compounds;
-    for (unsigned number = 1; number <= count; ++number) {
-        compounds.insert(compoundOf(exerciseOf(number, level)));
-    }
-    return compounds;
-}
-
-TEST(MolarMassExerciseTest, APaperGoesThroughMoleculesAndAllCompoundsOfTwoIons)
-{
-    std::set<std::string> without = {"H2O",    "CO2",     "NH3",  "CH4",  "SO2",
-                                     "C2H5OH", "C6H12O6", "H2O2", "HNO3", "H2SO4"};
-    std::set<std::string> with;
-    for (const IonRow* const cation : cations()) {
-        for (const IonRow* const anion : anions()) {
-            if (whyFormulaIsNotAsked({cation, anion}).empty()) {
-                const std::string formula = compoundFormula(*cation, *anion);
-                (formula.find('(') == std::string::npos ? without : with).insert(formula);
-            }
-        }
-    }
-    EXPECT_EQ(without.size() + with.size(), 237U);
-    EXPECT_EQ(firstCompounds(static_cast<unsigned>(without.size()), 1), without);
-    EXPECT_EQ(firstCompounds(static_cast<unsigned>(with.size()), 2), with);
-}
-
-TEST(MolarMassExerciseTest, LevelThreeGoesThroughTheHydrates)
-{
-    const std::set<std::string> expected = {
-        "CuSO4.5H2O",  "MgSO4.7H2O",    "Na2CO3.10H2O", "CaSO4.2H2O", "FeSO4.7H2O",
-        "ZnSO4.7H2O",  "CoCl2.6H2O",    "Na2SO4.10H2O", "BaCl2.2H2O", "CaCl2.2H2O",
-        "FeCl3.6H2O",  "MgCl2.6H2O",    "CuCl2.2H2O",   "NiSO4.6H2O", "Na2S2O3.5H2O",
-        "H2C2O4.2H2O", "Cu(NO3)2.3H2O", "Ca(NO3)2.4H2O"};
-    EXPECT_EQ(firstCompounds(18, 3), expected);
-}
-
 // The prefix of a hydrate's name counts its water.
 TEST(MolarMassExerciseTest, NamesOfHydratesTellTheirWater)
 {
@@ -119,21 +54,6 @@ TEST(MolarMassExerciseTest, NamesOfHydratesTellTheirWater)
     }
 }
 
-TEST(MolarMassExerciseTest, EachStepHasAHintOfItsOwn)
-{
-    for (const int level : {1, 2, 3}) {
-        for (unsigned number = 1; number <= 18; ++number) {
-            const Exercise exercise = exerciseOf(number, level);
-            for (const Step& step : exercise.solution) {
-                const std::string hint = textOf(step.hint);
-                EXPECT_FALSE(hint.empty()) << compoundOf(exercise);
-                EXPECT_EQ(hint.find(textOf(step.say)), std::string::npos) << hint;
-                EXPECT_EQ(hint.find_first_of("0123456789"), std::string::npos) << hint;
-            }
-        }
-    }
-}
-
 // The sum is shown with two decimals, and once where it has no more figures than are asked.
 TEST(MolarMassExerciseTest, NoSumHasAThirdDecimal)
 {
@@ -145,21 +65,6 @@ TEST(MolarMassExerciseTest, NoSumHasAThirdDecimal)
                  point = sum.find('.', point + 1)) {
                 EXPECT_LE(sum.find_first_not_of("0123456789", point + 1), point + 3) << sum;
             }
-        }
-    }
-}
-
-TEST(MolarMassExerciseTest, TheKeyIsTheSumOfTheMassesThatTheTableShows)
-{
-    for (const int level : {1, 2, 3}) {
-        for (unsigned number = 1; number <= 180; ++number) {
-            const Exercise exercise = exerciseOf(number, level);
-            const std::string& formula = compoundOf(exercise);
-            EXPECT_NEAR(static_cast<double>(toFloat(answerOf(exercise).value)),
-                        static_cast<double>(massOf(formula)), 1e-9)
-                << formula;
-            EXPECT_EQ(exercise.ask.of, formula);
-            EXPECT_EQ(exercise.ask.unit, "g/mol");
         }
     }
 }

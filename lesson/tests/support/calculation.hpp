@@ -140,50 +140,6 @@ inline std::string typedText(long double value, int figures)
     return text;
 }
 
-// Counts how often a learner is right who rounds each step to 5 figures, and expects it of one who
-// rounds to 3 or 4, and the exact value without any rounding. `work` takes an exercise and a
-// Calculator that each step but the last is put through.
-class RoundingOnTheWay
-{
-public:
-    template <typename Work>
-    void check(const Exercise& exercise, Work work)
-    {
-        const long double exact = toFloat(answerOf(exercise).value);
-        EXPECT_NEAR(static_cast<double>(work(exercise, Calculator{0}) / exact), 1.0, 1e-12)
-            << placeOf(exercise);
-        for (const int figures : {3, 4, 5}) {
-            for (const bool halvesUp : {true, false}) {
-                const Calculator rounded = {figures, halvesUp};
-                const int asked = exercise.ask.figures;
-                const long double answer = rounded.to(asked, work(exercise, rounded));
-                checkMark(exercise, figures, typedText(answer, asked));
-            }
-        }
-    }
-
-    void expectFairness() const
-    {
-        EXPECT_GE(rightWithFive, 0.994 * allWithFive);
-    }
-
-private:
-    void checkMark(const Exercise& exercise, int figures, const std::string& typed)
-    {
-        const Verdict verdict = markOf(exercise, typed).verdict;
-        EXPECT_NE(verdict, Verdict::wrong) << typed << ", " << placeOf(exercise);
-        if (figures < 5) {
-            EXPECT_EQ(verdict, Verdict::correct) << typed << ", " << placeOf(exercise);
-        } else {
-            ++allWithFive;
-            rightWithFive += verdict == Verdict::correct ? 1 : 0;
-        }
-    }
-
-    int allWithFive = 0;
-    int rightWithFive = 0;
-};
-
 // Expects classes that are drawn with equal shares to have come so, within five standard
 // deviations.
 inline void expectEqualShares(const std::map<std::string, int>& counts, std::size_t classes)
