@@ -1,6 +1,7 @@
 // Prints what the lesson's interface gives, for checks in other languages:
 //
-//   print_json tables                        one line
+//   print_json kinds                         one line
+//   print_json tables                        the same
 //   print_json exercises KIND PAPER COUNT    exercises 1 to COUNT of a paper, one a line
 //   print_json export FORMAT PAPER SHEET     the file, or the error
 //
@@ -17,8 +18,8 @@ namespace
 
 int tellUsage()
 {
-    std::fputs("usage: print_json tables | print_json exercises KIND PAPER COUNT | print_json "
-               "export FORMAT PAPER SHEET\n",
+    std::fputs("usage: print_json kinds | print_json tables | print_json exercises KIND PAPER "
+               "COUNT | print_json export FORMAT PAPER SHEET\n",
                stderr);
     return 2;
 }
@@ -32,7 +33,9 @@ unsigned numberIn(const char* text)
 
 int main(int argc, char** argv)
 {
-    if (argc == 2 && std::strcmp(argv[1], "tables") == 0) {
+    if (argc == 2 && std::strcmp(argv[1], "kinds") == 0) {
+        std::puts(lesson_kinds());
+    } else if (argc == 2 && std::strcmp(argv[1], "tables") == 0) {
         std::puts(lesson_tables());
     } else if (argc == 5 && std::strcmp(argv[1], "exercises") == 0) {
         const unsigned count = numberIn(argv[4]);

@@ -15,10 +15,6 @@
 namespace
 {
 
-constexpr const char* slugs[] = {"molar-mass",     "compound-formula", "ion-formula",
-                                 "solubility",     "concentration",    "dilution",
-                                 "neutralisation", "titration"};
-
 bool isPartOfWord(char c)
 {
     return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '.' || c == '(' || c == ')' ||
@@ -145,13 +141,10 @@ void checkHints(Problems& problems, const Asked& asked)
 TEST(HintsTest, EachStepHasOneThatTellsNoResult)
 {
     Problems problems;
-    for (const char* const slug : slugs) {
-        for (int level = 1; level <= 3; ++level) {
-            const std::string kind = kindAt(slug, level);
-            for (const Asked& asked : firstExercises(kind, std::min(papersToCheck(), 2000U))) {
-                problems.at(kind, asked.paper, asked.number);
-                checkHints(problems, asked);
-            }
+    for (const std::string& kind : everyKind()) {
+        for (const Asked& asked : firstExercises(kind, std::min(papersToCheck(), 2000U))) {
+            problems.at(kind, asked.paper, asked.number);
+            checkHints(problems, asked);
         }
     }
     EXPECT_EQ(problems.text(), "");
@@ -161,14 +154,11 @@ TEST(HintsTest, EachStepHasOneThatTellsNoResult)
 TEST(HintsTest, TheFirstOneIsAboutItsKind)
 {
     std::map<std::string, std::string> slugOf; // by hint
-    for (const char* const slug : slugs) {
-        for (int level = 1; level <= 3; ++level) {
-            for (const Asked& asked :
-                 firstExercises(kindAt(slug, level), std::min(papersToCheck(), 2000U))) {
-                const std::string hint = textOf(asked.exercise["solution"][0]["hint"]);
-                const auto known = slugOf.emplace(hint, slug).first;
-                EXPECT_EQ(known->second, slug) << hint;
-            }
+    for (const std::string& kind : everyKind()) {
+        for (const Asked& asked : firstExercises(kind, std::min(papersToCheck(), 2000U))) {
+            const std::string hint = textOf(asked.exercise["solution"][0]["hint"]);
+            const auto known = slugOf.emplace(hint, asked.slug()).first;
+            EXPECT_EQ(known->second, asked.slug()) << hint;
         }
     }
 }

@@ -31,28 +31,37 @@ struct Asked {
     }
 };
 
-// As many exercises of each of these kinds and each level as make the papers to check in all.
-void forEachExercise(const std::vector<const char*>& slugs, Problems& problems,
+// As many exercises of each kind and level as make the papers to check in all, of those for which
+// `isWanted` holds.
+void forEachExercise(bool (*isWanted)(const Json& exercise), Problems& problems,
                      const std::function<void(const Asked&)>& check)
 {
-    const unsigned papers = papersToCheck() / static_cast<unsigned>(3 * slugs.size()) + 1;
-    for (const char* const slug : slugs) {
-        for (int level = 1; level <= 3; ++level) {
-            for (unsigned paper = 1; paper <= papers; ++paper) {
-                const unsigned number = 1 + paper % 7;
-                const std::string kind = kindAt(slug, level);
+    const unsigned papers = papersToCheck() / static_cast<unsigned>(everyKind().size()) + 1;
+    for (const std::string& kind : everyKind()) {
+        for (unsigned paper = 1; paper <= papers; ++paper) {
+            const unsigned number = 1 + paper % 7;
+            const Json exercise = exerciseAt(kind, paper, number);
+            if (isWanted(exercise)) {
                 problems.at(kind, paper, number);
-                check({kind, paper, number, exerciseAt(kind, paper, number)});
+                check({kind, paper, number, exercise});
             }
         }
     }
 }
 
-void forEachOfAll(Problems& problems, const std::function<void(const Asked&)>& check)
+bool asksForAnything(const Json& /*exercise*/)
 {
-    forEachExercise({"molar-mass", "compound-formula", "ion-formula", "solubility", "concentration",
-                     "dilution", "neutralisation", "titration"},
-                    problems, check);
+    return true;
+}
+
+bool asksForNumber(const Json& exercise)
+{
+    return exercise["ask"]["form"] == "number";
+}
+
+bool asksForSymbols(const Json& exercise)
+{
+    return !asksForNumber(exercise);
 }
 
 // A value as so many figures and a power of ten: 0.0456 as "456e-4".
@@ -117,7 +126,7 @@ std::string asItComesOut(const Exact& sum)
 std::vector<std::string> byRoundedMasses(const Asked& asked, int decimals)
 {
     const Json& exercise = asked.exercise;
-    if (exercise["kind"] == "molar-mass") {
+    if (exercise["ask"]["quantity"] == "M") {
         const Exact sum = roundedMolarMass(exercise["ask"]["of"], decimals);
         return {asItComesOut(sum), typedTo(sum, 4)};
     }
@@ -136,7 +145,7 @@ TEST(MarksTest, WhoHasATableOfRoundedMassesIsRight)
 {
     Problems problems;
     int all = 0;
-    forEachExercise({"molar-mass", "concentration"}, problems, [&](const Asked& asked) {
+    forEachExercise(asksForNumber, problems, [&](const Asked& asked) {
         for (const int decimals : {0, 1}) {
             for (const std::string& typed : byRoundedMasses(asked, decimals)) {
                 ++all;
@@ -167,15 +176,14 @@ TEST(MarksTest, OneFigureIsRightUnlessASlipLeadsToIt)
 {
     Problems problems;
     int right = 0;
-    forEachExercise({"molar-mass", "concentration", "dilution", "titration"}, problems,
-                    [&](const Asked& asked) {
-                        const Exact key = Exact::read(asked.exercise["key"]["value"]);
-                        const bool isSlip = isAnswerOfSlip(asked.exercise, key.toFigures(1));
-                        const std::string verdict = asked.verdict(typedTo(key, 1));
-                        right += verdict == "figures" ? 1 : 0;
-                        problems.expect((verdict == "figures") == !isSlip, "one figure is right",
-                                        typedTo(key, 1) + ": " + verdict);
-                    });
+    forEachExercise(asksForNumber, problems, [&](const Asked& asked) {
+        const Exact key = Exact::read(asked.exercise["key"]["value"]);
+        const bool isSlip = isAnswerOfSlip(asked.exercise, key.toFigures(1));
+        const std::string verdict = asked.verdict(typedTo(key, 1));
+        right += verdict == "figures" ? 1 : 0;
+        problems.expect((verdict == "figures") == !isSlip, "one figure is right",
+                        typedTo(key, 1) + ": " + verdict);
+    });
     EXPECT_EQ(problems.text(), "");
     EXPECT_GT(right, 0);
 }
@@ -357,7 +365,7 @@ Spellings spellingsOf(const Json& exercise)
 TEST(MarksTest, TheKeyIsRightInEachSpelling)
 {
     Problems problems;
-    forEachOfAll(problems, [&](const Asked& asked) {
+    forEachExercise(asksForAnything, problems, [&](const Asked& asked) {
         for (const std::string& typed : spellingsOf(asked.exercise)) {
             const Json mark = asked.mark(typed);
             // Behind it there may be the rule of solubility.
@@ -377,21 +385,19 @@ TEST(MarksTest, OtherNumbersAreNeverRight)
 {
     Problems problems;
     std::mt19937 dice;
-    forEachExercise({"molar-mass", "concentration", "dilution", "titration"}, problems,
-                    [&](const Asked& asked) {
-                        const int figures =
-                            std::stoi(asked.exercise["ask"]["figures"].get<std::string>());
-                        const std::string text = asked.exercise["key"]["text"];
-                        const Exact key = Exact::read(text.substr(0, text.find(' ')));
-                        for (int i = 0; i < 3; ++i) {
-                            const auto percent = static_cast<std::int64_t>(5 + dice() % 86);
-                            const Exact factor(100 + (dice() % 2 == 0 ? percent : -percent), 100);
-                            const std::string typed = typedTo(key * factor, figures);
-                            const std::string verdict = asked.verdict(typed);
-                            problems.expect(verdict != "correct" && verdict != "close",
-                                            "another number is not right", typed + " for " + text);
-                        }
-                    });
+    forEachExercise(asksForNumber, problems, [&](const Asked& asked) {
+        const int figures = std::stoi(asked.exercise["ask"]["figures"].get<std::string>());
+        const std::string text = asked.exercise["key"]["text"];
+        const Exact key = Exact::read(text.substr(0, text.find(' ')));
+        for (int i = 0; i < 3; ++i) {
+            const auto percent = static_cast<std::int64_t>(5 + dice() % 86);
+            const Exact factor(100 + (dice() % 2 == 0 ? percent : -percent), 100);
+            const std::string typed = typedTo(key * factor, figures);
+            const std::string verdict = asked.verdict(typed);
+            problems.expect(verdict != "correct" && verdict != "close",
+                            "another number is not right", typed + " for " + text);
+        }
+    });
     EXPECT_EQ(problems.text(), "");
 }
 
@@ -399,15 +405,14 @@ TEST(MarksTest, OtherNumbersAreNeverRight)
 TEST(MarksTest, OtherAnswersAreNeverRight)
 {
     Problems problems;
-    forEachExercise({"compound-formula", "ion-formula", "solubility", "neutralisation"}, problems,
-                    [&](const Asked& asked) {
-                        const std::string key = asked.exercise["key"]["text"];
-                        const std::string other =
-                            exerciseAt(asked.kind, asked.paper + 1, asked.number)["key"]["text"];
-                        const bool isSame = other == key || (key == "none" && other == "no");
-                        problems.expect(isSame == (asked.verdict(other) == "correct"),
-                                        "another answer is not right", other + " for " + key);
-                    });
+    forEachExercise(asksForSymbols, problems, [&](const Asked& asked) {
+        const std::string key = asked.exercise["key"]["text"];
+        const std::string other =
+            exerciseAt(asked.kind, asked.paper + 1, asked.number)["key"]["text"];
+        const bool isSame = other == key || (key == "none" && other == "no");
+        problems.expect(isSame == (asked.verdict(other) == "correct"),
+                        "another answer is not right", other + " for " + key);
+    });
     EXPECT_EQ(problems.text(), "");
 }
 

@@ -61,6 +61,20 @@ std::string textOfSpan(const Json& span)
 
 } // namespace
 
+const std::vector<std::string>& everyKind()
+{
+    static const std::vector<std::string> all = [] {
+        std::vector<std::string> kinds;
+        for (const Json& row : Json::parse(lesson_kinds())) {
+            for (std::size_t level = 1; level <= row["levels"].size(); ++level) {
+                kinds.push_back(row["kind"].get<std::string>() + ":" + std::to_string(level));
+            }
+        }
+        return kinds;
+    }();
+    return all;
+}
+
 Json exerciseAt(const std::string& kind, unsigned paper, unsigned number)
 {
     return Json::parse(withNumbersAsTexts(lesson_exercise(paper, number, kind.c_str())));

@@ -11,6 +11,9 @@
 // nothing is rounded to binary.
 using Json = nlohmann::json;
 
+// Each kind that the library lists at each of its levels: "titration:2".
+const std::vector<std::string>& everyKind();
+
 Json exerciseAt(const std::string& kind, unsigned paper, unsigned number);
 // {"verdict": …, "sentence": …}
 Json markOn(const std::string& kind, unsigned paper, unsigned number, const std::string& typed);

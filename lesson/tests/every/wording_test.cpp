@@ -13,10 +13,6 @@
 namespace
 {
 
-constexpr const char* slugs[] = {"molar-mass",     "compound-formula", "ion-formula",
-                                 "solubility",     "concentration",    "dilution",
-                                 "neutralisation", "titration"};
-
 // clang-format off
 constexpr const char* unwanted[] = {
     "weaker",                               // of an acid it means something else
@@ -62,13 +58,10 @@ bool isWhole(const std::string& sentence)
 
 void forEachExercise(Problems& problems, void (*check)(Problems&, const Asked&))
 {
-    for (const char* const slug : slugs) {
-        for (int level = 1; level <= 3; ++level) {
-            const std::string kind = kindAt(slug, level);
-            for (const Asked& asked : firstExercises(kind, std::min(papersToCheck(), 2000U))) {
-                problems.at(kind, asked.paper, asked.number);
-                check(problems, asked);
-            }
+    for (const std::string& kind : everyKind()) {
+        for (const Asked& asked : firstExercises(kind, std::min(papersToCheck(), 2000U))) {
+            problems.at(kind, asked.paper, asked.number);
+            check(problems, asked);
         }
     }
 }

@@ -63,7 +63,7 @@ TEST(ExpectedAnswersTest, AnEquationHasNone)
 // A file has none to press.
 TEST(ExpectedAnswersTest, NoSentenceNamesAButton)
 {
-    for (const Kind* const kind : {&compoundFormulaKind, &ionFormulaKind, &solubilityKind}) {
+    for (const Kind* const kind : allKinds()) {
         for (unsigned number = 1; number <= 30; ++number) {
             const Exercise exercise = makeExercise({7, number, kind, 3});
             for (const Expected& one : expectedAnswers(exercise)) {

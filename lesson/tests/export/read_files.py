@@ -19,10 +19,7 @@ import unicodedata
 import xml.etree.ElementTree as xml
 from fractions import Fraction
 
-KINDS = ("molar-mass", "compound-formula", "ion-formula", "solubility", "concentration", "dilution",
-         "neutralisation", "titration")
-CARD_KINDS = ("compound-formula", "ion-formula", "solubility")
-SHEET = [(kind, level) for kind in KINDS for level in (1, 2, 3)]
+CARD_FORMS = ("formula", "ion", "solubility")
 COUNT = 40
 PAPERS = (1, 4821)
 
@@ -58,6 +55,10 @@ def check(is_right, *what):
 def printed(*arguments):
     return subprocess.run([*sys.argv[2:], sys.argv[1], *arguments], check=True,
                           stdout=subprocess.PIPE).stdout.decode("utf-8")
+
+
+SHEET = [(row["kind"], level) for row in json.loads(printed("kinds"))
+         for level in range(1, len(row["levels"]) + 1)]
 
 
 def exercises_of(paper):
@@ -412,10 +413,12 @@ def check_anki():
         cards = list(csv.reader(io.StringIO("\n".join(lines[len(header):])), delimiter="\t",
                                 strict=True))
         asked = {}
+        others = 0
         for exercise in exercises_of(paper):
-            if exercise["kind"] in CARD_KINDS:
+            if exercise["ask"]["form"] in CARD_FORMS:
                 asked.setdefault(words_of_line(exercise["prompt"]), exercise)
-        others = COUNT * sum(kind not in CARD_KINDS for kind, _ in SHEET)
+            else:
+                others += 1
         again = COUNT * len(SHEET) - others - len(asked)
         told = [int(re.match(r"# (\d+) [^:]*\.$", line).group(1)) for line in header[5:]]
         check(told == [others, again], "left out are", [others, again], "and not", told)

@@ -32,26 +32,20 @@ namespace
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 
-TEST(SelectionTest, OneKind)
+TEST(SelectionTest, AKindIsNamedAloneOrWithItsLevel)
 {
     struct Case {
-        const char* names;
-        KindAndLevel expected;
+        const char* level;
+        int expected;
     };
-    const Case cases[] = {
-        {"molar-mass", {&molarMassKind, 2}},
-        {"compound-formula", {&compoundFormulaKind, 2}},
-        {"ion-formula:1", {&ionFormulaKind, 1}},
-        {"solubility:2", {&solubilityKind, 2}},
-        {"concentration:3", {&concentrationKind, 3}},
-        {"dilution", {&dilutionKind, 2}},
-        {"neutralisation:1", {&neutralisationKind, 1}},
-        {"titration:3", {&titrationKind, 3}},
-    };
-    for (const Case& one : cases) {
-        const Selection selection = readSelection(one.names);
-        EXPECT_THAT(selection.kinds, ElementsAre(one.expected)) << one.names;
-        EXPECT_EQ(selection.error, "") << one.names;
+    const Case cases[] = {{"", 2}, {":1", 1}, {":2", 2}, {":3", 3}};
+    for (const Kind* const kind : allKinds()) {
+        for (const auto& [level, expected] : cases) {
+            const std::string name = std::string(kind->slug) + level;
+            const Selection selection = readSelection(name);
+            EXPECT_THAT(selection.kinds, ElementsAre(KindAndLevel{kind, expected})) << name;
+            EXPECT_EQ(selection.error, "") << name;
+        }
     }
 }
 

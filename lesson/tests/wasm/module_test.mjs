@@ -14,13 +14,16 @@ test("the module imports nothing and exports the interface", async () => {
     );
 });
 
-test("the kinds are listed", async () => {
-    const kinds = (await loadLesson()).json("lesson_kinds");
-    assert.deepEqual(
-        kinds.map((/** @type {{ kind: string }} */ row) => row.kind),
-        ["molar-mass", "compound-formula", "ion-formula", "solubility", "concentration", "dilution", "neutralisation", "titration"],
-    );
-    for (const row of kinds) assert.equal(row.levels.length, 3);
+test("a kind that is listed has a title and levels, each of which has exercises", async () => {
+    const lesson = await loadLesson();
+    for (const row of lesson.json("lesson_kinds")) {
+        assert.ok(row.title, row.kind);
+        assert.equal(row.levels.length, 3, row.kind);
+        row.levels.forEach((/** @type {string} */ _, /** @type {number} */ i) => {
+            const exercise = lesson.json("lesson_exercise", 1, 1, `${row.kind}:${i + 1}`);
+            assert.deepEqual([exercise.kind, exercise.level], [row.kind, i + 1]);
+        });
+    }
 });
 
 test("the tables are whole", async () => {
