@@ -115,7 +115,8 @@ using Answer = std::variant<NumberAnswer, FormulaAnswer, IonAnswer, SolubilityAn
                             PrecipitateAnswer, EquationAnswer>;
 
 struct Exercise {
-    Place place;
+    Place place;             // paper and number are 0 where it was not drawn
+    std::string description; // see kinds/description.hpp
     Spans prompt;
     Ask ask;
     std::vector<Given> given;
@@ -124,6 +125,20 @@ struct Exercise {
     Answer answer;
     std::vector<Step> solution;
     std::vector<Slip> slips; // the commoner ones first
+
+    // Not inline: each is made, moved and left in many places, and the module would be larger.
+    Exercise();
+    Exercise(const Exercise& other);
+    Exercise(Exercise&& other) noexcept;
+    Exercise& operator=(const Exercise& other);
+    Exercise& operator=(Exercise&& other) noexcept;
+    ~Exercise();
+};
+
+// The exercise that a text names, or what is wrong with the text.
+struct NamedExercise {
+    Exercise exercise;
+    std::string error; // a sentence; empty where there is an exercise
 };
 
 // The exercise of a place, always the same one.

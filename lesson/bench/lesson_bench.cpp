@@ -7,6 +7,7 @@
 #include "lesson/exercise.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/lesson.h"
+#include "lesson/tests/support/reference.hpp"
 
 namespace
 {
@@ -30,7 +31,8 @@ void exercise(benchmark::State& state, const std::string& kind)
     Counter at;
     for (auto _ : state) {
         at.next();
-        benchmark::DoNotOptimize(lesson_exercise(at.paper, at.number, kind.c_str()));
+        benchmark::DoNotOptimize(
+            lesson_exercise(drawn(at.paper, at.number, kind).c_str(), nullptr));
     }
     state.SetItemsProcessed(state.iterations());
 }
@@ -39,9 +41,10 @@ void exercise(benchmark::State& state, const std::string& kind)
 void mark(benchmark::State& state, const lesson::Kind* row, int level)
 {
     const std::string kind = std::string(row->slug) + ":" + std::to_string(level);
+    const std::string exercise = drawn(1, 1, kind);
     const std::string key = lesson::makeExercise({1, 1, row, level}).key;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(lesson_mark(1, 1, kind.c_str(), key.c_str()));
+        benchmark::DoNotOptimize(lesson_mark(exercise.c_str(), key.c_str(), nullptr));
     }
     state.SetItemsProcessed(state.iterations());
 }
@@ -53,7 +56,7 @@ void markByLength(benchmark::State& state, const char* kind, const std::string& 
         typed += repeated;
     }
     for (auto _ : state) {
-        benchmark::DoNotOptimize(lesson_mark(1, 1, kind, typed.c_str()));
+        benchmark::DoNotOptimize(lesson_mark(drawn(1, 1, kind).c_str(), typed.c_str(), nullptr));
     }
     state.SetComplexityN(state.range(0));
 }

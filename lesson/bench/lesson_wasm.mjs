@@ -20,17 +20,17 @@ function forEachExercise(/** @type {(paper: number, number: number) => void} */ 
 }
 
 const lesson = await loadLesson();
-const kinds = lesson.json("lesson_kinds").flatMap((/** @type {{ kind: string }} */ { kind }) => [1, 2, 3].map((n) => `${kind}:${n}`));
+const kinds = lesson.json("lesson_kinds", null).flatMap((/** @type {{ kind: string }} */ { kind }) => [1, 2, 3].map((n) => `${kind}:${n}`));
 console.log("kind                exercises/s    marks/s");
 for (const kind of [...kinds, "mixed"]) {
     const exercises = aSecond(() =>
         forEachExercise((/** @type {number} */ paper, /** @type {number} */ number) =>
-            lesson.bytes("lesson_exercise", paper, number, kind),
+            lesson.bytes("lesson_exercise", `${paper}/${number}/${kind}`, null),
         ),
     );
     const marks = aSecond(() =>
         forEachExercise((/** @type {number} */ paper, /** @type {number} */ number) =>
-            lesson.bytes("lesson_mark", paper, number, kind, "0.0456"),
+            lesson.bytes("lesson_mark", `${paper}/${number}/${kind}`, "0.0456", null),
         ),
     );
     console.log(kind.padEnd(18), String(exercises).padStart(12), String(marks).padStart(10));

@@ -203,8 +203,10 @@ void addKey(Json& json, const Exercise& exercise)
 
 void addPlace(Json& json, Place place)
 {
-    json.member("paper", static_cast<int>(place.paper));
-    json.member("number", static_cast<int>(place.number));
+    if (place.paper != 0) {
+        json.member("paper", static_cast<int>(place.paper));
+        json.member("number", static_cast<int>(place.number));
+    }
     json.member("kind", place.kind->slug);
     json.member("level", place.level);
 }
@@ -223,6 +225,7 @@ std::string exerciseJson(const Exercise& exercise)
     json.object([&] {
         json.member("version", static_cast<int>(exercise.place.kind->version));
         addPlace(json, exercise.place);
+        json.member("description", exercise.description);
         add(json.key("prompt"), exercise.prompt);
         add(json.key("ask"), exercise.ask);
         addEach(json, "given", exercise.given);

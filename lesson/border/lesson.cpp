@@ -14,8 +14,9 @@
 #include "lesson/export/anki.hpp"
 #include "lesson/export/moodle.hpp"
 #include "lesson/kinds/kinds.hpp"
-#include "lesson/paper/selection.hpp"
+#include "lesson/paper/reference.hpp"
 #include "lesson/paper/sheet.hpp"
+#include "lesson/words/writing.hpp"
 
 namespace lesson
 {
@@ -36,6 +37,7 @@ std::string kindsJson()
     json.array(allKinds(), [&](const Kind* kind) {
         json.object([&] {
             json.member("kind", kind->slug);
+            json.member("version", static_cast<int>(kind->version));
             json.member("title", kind->title);
             json.key("levels").array(kind->levels,
                                      [&](std::string_view level) { json.text(level); });
@@ -44,49 +46,38 @@ std::string kindsJson()
     return json.take();
 }
 
-bool isWithin(unsigned number, unsigned greatest)
+std::string_view textIn(const char* text)
 {
-    return number >= 1 && number <= greatest;
+    return text == nullptr ? "" : text;
 }
 
-std::string errorOfPaper()
-{
-    return "The paper has to be a number from 1 to " + std::to_string(greatestPaper) + ".";
-}
-
-// What is wrong with the arguments; empty where nothing is.
-std::string errorIn(unsigned paper, unsigned number, const Selection& selection)
-{
-    if (!isWithin(paper, greatestPaper)) {
-        return errorOfPaper();
-    }
-    if (!isWithin(number, greatestNumber)) {
-        return "The number of the exercise has to be from 1 to " + std::to_string(greatestNumber) +
-               ".";
-    }
-    return selection.error;
-}
-
-// What `answerTo` makes of the exercise that the arguments mean, or the error in them.
+// What `answerTo` makes of the way in which the reader writes, or the error in its name.
 template <typename AnswerTo>
-std::string withExercise(unsigned paper, unsigned number, const char* kind,
-                         const AnswerTo& answerTo)
+std::string withWriting(const char* name, const AnswerTo& answerTo)
 {
-    const Selection selection = readSelection(kind == nullptr ? "" : kind);
-    const std::string error = errorIn(paper, number, selection);
-    return error.empty() ? answerTo(makeExercise(placeOf(selection, paper, number)))
-                         : errorJson(error);
+    const NamedWriting named = readWriting(textIn(name));
+    return named.error.empty() ? answerTo(named.writing) : errorJson(named.error);
 }
 
-std::string markedJson(const Exercise& exercise, const char* typed)
+// What `answerTo` makes of the exercise that a text names as well.
+template <typename AnswerTo>
+std::string withExercise(const char* text, const char* writing, const AnswerTo& answerTo)
+{
+    return withWriting(writing, [&](const Writing& written) {
+        const NamedExercise named = exerciseNamed(textIn(text));
+        return named.error.empty() ? answerTo(named.exercise, written) : errorJson(named.error);
+    });
+}
+
+std::string markedJson(const Exercise& exercise, const char* typed, const Writing& writing)
 {
     return typed == nullptr ? errorJson("There is no typed text.")
-                            : markJson(markAnswer(exercise, typed));
+                            : markJson(markAnswer(exercise, typed, writing));
 }
 
 struct Format {
     std::string_view name;
-    std::string (*write)(const std::vector<Place>& places);
+    std::string (*write)(const std::vector<Reference>& exercises);
 };
 constexpr Format formats[] = {{"moodle", moodleXml}, {"anki", ankiCards}};
 
@@ -98,20 +89,17 @@ const Format* findFormat(std::string_view name)
     return found == std::end(formats) ? nullptr : found;
 }
 
-std::string exported(unsigned paper, const char* sheetText, const char* formatName)
+std::string exported(const char* sheetText, const char* formatName)
 {
-    if (!isWithin(paper, greatestPaper)) {
-        return errorJson(errorOfPaper());
-    }
-    const Sheet sheet = readSheet(sheetText == nullptr ? "" : sheetText);
+    const Sheet sheet = readSheet(textIn(sheetText));
     if (!sheet.error.empty()) {
         return errorJson(sheet.error);
     }
-    const Format* const format = findFormat(formatName == nullptr ? "" : formatName);
+    const Format* const format = findFormat(textIn(formatName));
     if (format == nullptr) {
         return errorJson("The format has to be moodle or anki.");
     }
-    std::string file = format->write(placesOf(sheet, paper));
+    std::string file = format->write(referencesOf(sheet));
     return file.empty() ? errorJson("Nothing on this sheet fits a card: formulas, ions and "
                                     "solubility do.")
                         : file;
@@ -130,36 +118,48 @@ const char* kept(std::string& place, std::string text)
 
 // A result holds until the next call of the same function, which is what the analyzer complains of.
 // NOLINTBEGIN(clang-analyzer-cplusplus.InnerPointer)
-const char* lesson_kinds(void)
+const char* lesson_kinds(const char* writing)
 {
     thread_local std::string result;
-    return lesson::kept(result, lesson::kindsJson());
+    return lesson::kept(result, lesson::withWriting(writing, [](const lesson::Writing&) {
+                            return lesson::kindsJson();
+                        }));
 }
 
-const char* lesson_exercise(unsigned paper, unsigned number, const char* kind)
+const char* lesson_exercise(const char* exercise, const char* writing)
 {
     thread_local std::string result;
-    return lesson::kept(result, lesson::withExercise(paper, number, kind, lesson::exerciseJson));
+    return lesson::kept(
+        result, lesson::withExercise(exercise, writing,
+                                     [](const lesson::Exercise& made, const lesson::Writing&) {
+                                         return lesson::exerciseJson(made);
+                                     }));
 }
 
-const char* lesson_mark(unsigned paper, unsigned number, const char* kind, const char* typed)
+const char* lesson_mark(const char* exercise, const char* typed, const char* writing)
 {
     thread_local std::string result;
-    return lesson::kept(result, lesson::withExercise(paper, number, kind,
-                                                     [typed](const lesson::Exercise& exercise) {
-                                                         return lesson::markedJson(exercise, typed);
-                                                     }));
+    return lesson::kept(
+        result,
+        lesson::withExercise(exercise, writing,
+                             [typed](const lesson::Exercise& made, const lesson::Writing& written) {
+                                 return lesson::markedJson(made, typed, written);
+                             }));
 }
 
-const char* lesson_tables(void)
+const char* lesson_tables(const char* writing)
 {
     thread_local std::string result;
-    return lesson::kept(result, lesson::tablesJson());
+    return lesson::kept(result, lesson::withWriting(writing, [](const lesson::Writing&) {
+                            return lesson::tablesJson();
+                        }));
 }
 
-const char* lesson_export(unsigned paper, const char* sheet, const char* format)
+const char* lesson_export(const char* sheet, const char* format, const char* writing)
 {
     thread_local std::string result;
-    return lesson::kept(result, lesson::exported(paper, sheet, format));
+    return lesson::kept(result, lesson::withWriting(writing, [&](const lesson::Writing&) {
+                            return lesson::exported(sheet, format);
+                        }));
 }
 // NOLINTEND(clang-analyzer-cplusplus.InnerPointer)

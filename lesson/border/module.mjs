@@ -2,7 +2,7 @@
 
 /**
  * @typedef {"lesson_kinds" | "lesson_exercise" | "lesson_mark" | "lesson_tables" | "lesson_export"} LessonFunction
- * @typedef {number | string | Uint8Array | null} Argument Bytes are UTF-8; null is the null pointer.
+ * @typedef {string | Uint8Array | null} Argument Bytes are UTF-8; null is the null pointer.
  * @typedef {Record<LessonFunction, (...values: number[]) => number> & {
  *     memory: WebAssembly.Memory,
  *     _initialize(): void,
@@ -43,11 +43,11 @@ export function textOf(module, name, ...args) {
  * @param {Argument[]} args
  */
 export function bytesOf(module, name, ...args) {
-    const texts = args.map((arg) => (typeof arg === "number" || arg === null ? null : put(module, arg)));
+    const addresses = args.map((arg) => (arg === null ? 0 : put(module, arg)));
     try {
-        return bytesAt(module, module[name](...args.map((arg, at) => texts[at] ?? Number(arg))));
+        return bytesAt(module, module[name](...addresses));
     } finally {
-        texts.forEach((text) => text !== null && module.free(text));
+        addresses.forEach((address) => module.free(address));
     }
 }
 

@@ -22,11 +22,19 @@ std::string backOf(const Exercise& exercise)
     return html;
 }
 
+std::string tagsOf(const Place& place)
+{
+    std::string tags;
+    addAll(tags, {place.kind->slug, " level-", std::to_string(place.level)});
+    if (place.paper != 0) {
+        addAll(tags, {" paper-", std::to_string(place.paper)});
+    }
+    return tags;
+}
+
 void addCard(std::string& cards, const Exercise& exercise, std::string_view front)
 {
-    const Place& place = exercise.place;
-    addAll(cards, {front, "\t", backOf(exercise), "\t", place.kind->slug, " level-",
-                   std::to_string(place.level), " paper-", std::to_string(place.paper), "\n"});
+    addAll(cards, {front, "\t", backOf(exercise), "\t", tagsOf(exercise.place), "\n"});
 }
 
 // Anki passes over lines that begin with this sign and set nothing.
@@ -39,17 +47,17 @@ void addRemark(std::string& header, std::size_t count, std::string_view one, std
 
 } // namespace
 
-std::string ankiCards(const std::vector<Place>& places)
+std::string ankiCards(const std::vector<Reference>& exercises)
 {
     std::string cards;
     std::set<std::string> fronts;
     std::size_t others = 0;
-    for (const Place& place : places) {
-        if (!place.kind->fitsCard) {
+    for (const Reference& reference : exercises) {
+        const Exercise exercise = exerciseOf(reference).exercise;
+        if (!exercise.place.kind->fitsCard) {
             ++others;
             continue;
         }
-        const Exercise exercise = makeExercise(place);
         const auto [front, isNew] = fronts.insert(htmlOf(exercise.prompt));
         if (isNew) {
             addCard(cards, exercise, *front);
@@ -62,7 +70,7 @@ std::string ankiCards(const std::vector<Place>& places)
                        "#deck:Chemical calculations practice\n#tags column:3\n";
     addRemark(text, others, " calculation or equation is left out, since it fits no card.",
               " calculations and equations are left out, since they fit no card.");
-    addRemark(text, places.size() - others - fronts.size(),
+    addRemark(text, exercises.size() - others - fronts.size(),
               " exercise is left out that an earlier card asks already.",
               " exercises are left out that earlier cards ask already.");
     return text + cards;

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "lesson/exercise.hpp"
+#include "lesson/paper/reference.hpp"
 
 namespace lesson
 {
@@ -12,6 +12,6 @@ namespace lesson
 // and tags between tabs. Formulas, ions and solubility fit a card; calculations and equations are
 // left out, and so is a question that an earlier card asks already, since Anki tells cards apart by
 // their fronts. The header tells how many are left out. Empty where no exercise fits.
-std::string ankiCards(const std::vector<Place>& places);
+std::string ankiCards(const std::vector<Reference>& exercises);
 
 } // namespace lesson

@@ -1,5 +1,6 @@
 #include "lesson/export/moodle.hpp"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -219,39 +220,67 @@ void addAnswers(std::string& xml, const Exercise& exercise)
 
 // ------------------------------------------------------------------------------------ the file
 
-void addQuestion(std::string& xml, const Place& place)
+// How a question bank tells a question from others.
+struct Label {
+    std::string name; // "Paper 4821, titration, level 2, number 3"
+    std::string id;   // "4821-titration-2-3"
+};
+
+Label labelOf(const Place& place, std::size_t placeOnSheet)
 {
-    const Exercise exercise = makeExercise(place);
-    const Type type = typeOf(exercise.ask);
-    const std::string_view slug = place.kind->slug;
-    const std::string paper = std::to_string(place.paper);
+    const std::string slug(place.kind->slug);
     const std::string level = std::to_string(place.level);
+    if (place.paper == 0) {
+        const std::string own = std::to_string(placeOnSheet);
+        return {"Exercise " + own + ", " + slug + ", level " + level,
+                "own-" + slug + "-" + level + "-" + own};
+    }
+    const std::string paper = std::to_string(place.paper);
     const std::string number = std::to_string(place.number);
-    addAll(xml, {"<question type=\"", rowOf(type).name, "\">\n<name><text>Paper ", paper, ", ",
-                 slug, ", level ", level, ", number ", number, "</text></name>\n"});
+    return {"Paper " + paper + ", " + slug + ", level " + level + ", number " + number,
+            paper + "-" + slug + "-" + level + "-" + number};
+}
+
+void addQuestion(std::string& xml, const Exercise& exercise, const Label& label)
+{
+    const Place& place = exercise.place;
+    const Type type = typeOf(exercise.ask);
+    addAll(xml, {"<question type=\"", rowOf(type).name, "\">\n<name><text>", label.name,
+                 "</text></name>\n"});
     addHtml(xml, "questiontext", questionOf(exercise));
     addHtml(xml, "generalfeedback", solutionOf(exercise));
     if (type != Type::cloze) { // whose grade is that of its gaps
         xml += "<defaultgrade>1</defaultgrade>\n";
     }
-    addAll(xml, {"<penalty>0.3333333</penalty>\n<hidden>0</hidden>\n<idnumber>", paper, "-", slug,
-                 "-", level, "-", number, "</idnumber>\n"});
+    addAll(xml, {"<penalty>0.3333333</penalty>\n<hidden>0</hidden>\n<idnumber>", label.id,
+                 "</idnumber>\n"});
     addAnswers(xml, exercise);
     addHints(xml, exercise);
-    addAll(xml, {"<tags>\n<tag><text>", slug, "</text></tag>\n<tag><text>level ", level,
-                 "</text></tag>\n</tags>\n</question>\n"});
+    addAll(xml, {"<tags>\n<tag><text>", place.kind->slug, "</text></tag>\n<tag><text>level ",
+                 std::to_string(place.level), "</text></tag>\n</tags>\n</question>\n"});
+}
+
+// Drawn exercises have their paper, others have none.
+std::string categoryOf(const std::vector<Reference>& exercises)
+{
+    const auto drawn =
+        std::find_if(exercises.begin(), exercises.end(),
+                     [](const Reference& reference) { return reference.description.empty(); });
+    return drawn == exercises.end() ? "Exercises" : "Paper " + std::to_string(drawn->place.paper);
 }
 
 } // namespace
 
-std::string moodleXml(const std::vector<Place>& places)
+std::string moodleXml(const std::vector<Reference>& exercises)
 {
     std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<quiz>\n"
                       "<question type=\"category\">\n<category>";
-    addAll(xml, {"<text>top/Chemical calculations practice/Paper ",
-                 std::to_string(places.front().paper), "</text></category>\n</question>\n"});
-    for (const Place& place : places) {
-        addQuestion(xml, place);
+    addAll(xml, {"<text>top/Chemical calculations practice/", categoryOf(exercises),
+                 "</text></category>\n</question>\n"});
+    std::size_t placeOnSheet = 0;
+    for (const Reference& reference : exercises) {
+        const Exercise exercise = exerciseOf(reference).exercise;
+        addQuestion(xml, exercise, labelOf(exercise.place, ++placeOnSheet));
     }
     return xml + "</quiz>\n";
 }

@@ -1,7 +1,6 @@
 // Any arguments of an export: either there is an error, a sentence, or there is a file with as many
-// questions as were asked for at most, in which nothing breaks out of its place. An input is a
-// paper of three bytes, then a line for the sheet and another one for the format; a line that
-// begins with NUL is a null pointer.
+// questions as were asked for at most, in which nothing breaks out of its place. An input is a line
+// for the sheet and another one for the format; a line that begins with NUL is a null pointer.
 
 #include <algorithm>
 #include <string_view>
@@ -13,17 +12,15 @@ namespace
 {
 
 struct Arguments {
-    unsigned paper;
     std::string sheet;
     std::string format;
 };
 
 Arguments argumentsOf(const std::uint8_t* data, std::size_t size)
 {
-    const std::string lines = textOf(data + 3, size - 3);
+    const std::string lines = textOf(data, size);
     const std::size_t end = std::min(lines.find('\n'), lines.size());
-    return {data[0] + data[1] * 256U + data[2] * 65536U, lines.substr(0, end),
-            lines.substr(std::min(end + 1, lines.size()))};
+    return {lines.substr(0, end), lines.substr(std::min(end + 1, lines.size()))};
 }
 
 const char* pointerTo(const std::string& text)
@@ -76,17 +73,13 @@ void checkAnki(std::string_view file)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    if (size < 3) {
-        return 0;
-    }
     const Arguments arguments = argumentsOf(data, size);
     const std::string_view file =
-        lesson_export(arguments.paper, pointerTo(arguments.sheet), pointerTo(arguments.format));
+        lesson_export(pointerTo(arguments.sheet), pointerTo(arguments.format), nullptr);
     if (file[0] == '{') {
         require(!textIn(parsed(file.data()), "error").empty(), "there is a sentence");
         return 0;
     }
-    require(arguments.paper >= 1 && arguments.paper <= 999999, "the paper is in range");
     require(isPrintable(file), "nothing but text is in the file");
     if (file[0] == '<') {
         checkMoodle(file);

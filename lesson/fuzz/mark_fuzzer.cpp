@@ -29,17 +29,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     const char* const kind = markedKinds[data[0] % markedKindCount];
-    const unsigned paper = data[1] + 1U;
+    const std::string exercise = std::to_string(data[1] + 1U) + "/1/" + kind;
     std::string typed = textOf(data + 2, size - 2);
     typed.erase(std::min(typed.find('\0'), typed.size()));
 
-    const nlohmann::json mark = parsed(lesson_mark(paper, 1, kind, typed.c_str()));
+    const nlohmann::json mark = parsed(lesson_mark(exercise.c_str(), typed.c_str(), nullptr));
     require(verdicts().count(textIn(mark, "verdict")) == 1, "the verdict is one of seven");
     require(!textIn(mark, "sentence").empty(), "there is a sentence");
     require(textIn(mark, "sentence").size() <= longestSentence, "the sentence is no page");
 
     const std::string amongBlanks = " \t" + typed + "\u2009\u00A0";
-    require(parsed(lesson_mark(paper, 1, kind, amongBlanks.c_str())) == mark,
+    require(parsed(lesson_mark(exercise.c_str(), amongBlanks.c_str(), nullptr)) == mark,
             "blanks at the ends do not matter");
     return 0;
 }

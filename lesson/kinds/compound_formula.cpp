@@ -7,6 +7,7 @@
 #include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/classified.hpp"
+#include "lesson/kinds/shared/record.hpp"
 #include "lesson/kinds/shared/salts.hpp"
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/formula.hpp"
@@ -264,9 +265,25 @@ private:
     Part second;
 };
 
-Exercise exerciseAt(const Place& place)
+// ---------------------------------------------------------------------- draw, write, read, make
+
+const Pair& draw(const Place& place)
 {
-    const Pair& pair = memberFor(place, pairsOfLevel(place.level));
+    return memberFor(place, pairsOfLevel(place.level));
+}
+
+Description write(const Pair& pair)
+{
+    return describedPair(pair);
+}
+
+Pair read(FieldReader& fields)
+{
+    return pairFrom(fields, "cation", "anion", pairsForFormulas());
+}
+
+Exercise make(const Place& place, const Pair& pair)
+{
     const IonRow& cation = *pair.cation;
     const IonRow& anion = *pair.anion;
     Exercise exercise = {};
@@ -290,7 +307,8 @@ const Kind compoundFormulaKind = {
     "Formula of a compound",
     {"Ions of one atom", "Ions that are groups of atoms", "Names with Roman numerals"},
     true,
-    exerciseAt,
+    drawnExercise<draw, write, levelOf, make>,
+    describedExercise<read, write, levelOf, make>,
 };
 
 } // namespace lesson

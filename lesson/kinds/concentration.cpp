@@ -9,6 +9,7 @@
 #include "lesson/kinds/molar_mass.hpp"
 #include "lesson/kinds/shared/orders.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
+#include "lesson/kinds/shared/record.hpp"
 #include "lesson/paper/seeds.hpp"
 
 namespace lesson
@@ -174,9 +175,71 @@ Ratio answerFor(const Preparation& drawn, Ratio molarMass)
 namespace
 {
 
-Exercise exerciseAt(const Place& place)
+// ---------------------------------------------------------------------- draw, write, read, make
+
+Description write(const Preparation& drawn)
 {
-    const Preparation drawn = draw(place);
+    Description description;
+    description.with("substance", drawn.substance->formula);
+    if (drawn.asksForMass) {
+        description.with("c", shown(drawn.concentration, figures));
+    } else {
+        description.with("m", shownMass(drawn.mass));
+    }
+    description.with("V", inMillilitres(drawn.volume));
+    if (drawn.isMolarMassTold) {
+        description.with("M", shownMass(drawn.molarMass));
+    }
+    return description;
+}
+
+const SoluteRow& substanceFrom(FieldReader& fields)
+{
+    const std::string_view formula = fields.text("substance");
+    for (const auto* const list : {&weighedSolutes(), &hydrates()}) {
+        for (const SoluteRow& row : *list) {
+            if (row.formula == formula) {
+                return row;
+            }
+        }
+    }
+    fields.failAsNotAsked("substance", formula);
+    return weighedSolutes().front();
+}
+
+// Asked for is the mass unless it is there.
+Preparation read(FieldReader& fields)
+{
+    Preparation made = {};
+    made.substance = &substanceFrom(fields);
+    made.asksForMass = !fields.has("m");
+    made.molarMass = toHundredths(molarMassOf(made.substance->formula));
+    made.volume = fields.number("V") / ratio(1000);
+    if (made.asksForMass) {
+        made.concentration = fields.number("c");
+        made.mass = massOf(made, made.molarMass);
+    } else {
+        made.mass = fields.number("m");
+        made.concentration = concentrationOf(made, made.molarMass);
+    }
+    made.isMolarMassTold = fields.has("M");
+    if (made.isMolarMassTold && fields.text("M") != shownMass(made.molarMass)) {
+        fields.fail("The molar mass M of " + std::string(made.substance->formula) + " is " +
+                    shownMass(made.molarMass) + " g/mol.");
+    }
+    if (!isSensible(made) || !bearsEveryOrder(made)) {
+        fields.fail(valuesNotAsked);
+    }
+    return made;
+}
+
+int levelOf(const Preparation& drawn)
+{
+    return drawn.isMolarMassTold ? 1 : isHydrate(drawn) ? 3 : 2;
+}
+
+Exercise make(const Place& place, const Preparation& drawn)
+{
     const Quantities quantities = quantitiesOf(drawn);
     const GivenQuantity& asked = drawn.asksForMass ? quantities.mass : quantities.concentration;
     Exercise exercise = numberExercise(
@@ -199,7 +262,8 @@ const Kind concentrationKind = {
     {"The concentration of a solution", "The mass for a solution",
      "Hydrates, molar mass not given"},
     false,
-    exerciseAt,
+    drawnExercise<draw, write, levelOf, make>,
+    describedExercise<read, write, levelOf, make>,
 };
 
 } // namespace lesson

@@ -25,6 +25,8 @@ struct Preparation {
     Ratio concentration = {};
 };
 
+bool isHydrate(const Preparation& drawn);
+
 // The answer that another molar mass leads to.
 Ratio answerFor(const Preparation& drawn, Ratio molarMass);
 

@@ -26,11 +26,6 @@ Numbers numbersOf(const Preparation& drawn)
             number(shown(drawn.volume, 3)), number(shown(drawn.concentration, 3))};
 }
 
-bool isHydrate(const Preparation& drawn)
-{
-    return drawn.substance->kind == SoluteKind::hydrate;
-}
-
 Step molarMassStep(const Preparation& drawn)
 {
     const char* const say =
@@ -86,6 +81,11 @@ std::vector<Step> stepsToMass(const Preparation& drawn, const Spans& key)
 }
 
 } // namespace
+
+bool isHydrate(const Preparation& drawn)
+{
+    return drawn.substance->kind == SoluteKind::hydrate;
+}
 
 std::vector<Step> concentrationSolution(const Preparation& drawn, const Spans& key)
 {

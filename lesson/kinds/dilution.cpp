@@ -8,6 +8,7 @@
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/orders.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
+#include "lesson/kinds/shared/record.hpp"
 #include "lesson/marking/number.hpp"
 #include "lesson/paper/seeds.hpp"
 
@@ -139,14 +140,19 @@ bool isWaterToldFromOthers(const Dilution& drawn)
     return drawn.asked != Asked::water || (isShown(drawn.V1) && isShown(drawn.V2));
 }
 
+bool isAskable(const Dilution& drawn)
+{
+    return isSensible(drawn) && isWaterToldFromOthers(drawn) &&
+           CorrectAnswers(answerOf(drawn)).haveEveryOrderOf(calculationOf(drawn));
+}
+
 Dilution draw(const Place& place)
 {
     Draws draws = drawsFor(place);
     const Asked asked = drawAsked(draws, place.level);
     for (;;) {
         const Dilution drawn = drawOnce(draws, asked);
-        if (isSensible(drawn) && isWaterToldFromOthers(drawn) &&
-            CorrectAnswers(answerOf(drawn)).haveEveryOrderOf(calculationOf(drawn))) {
+        if (isAskable(drawn)) {
             return drawn;
         }
     }
@@ -226,9 +232,85 @@ Spans promptOf(const Dilution& drawn, const Quantities& quantities)
                 told(c2), ". Assume that the volumes add up.");
 }
 
-Exercise exerciseAt(const Place& place)
+// ---------------------------------------------------------------------- draw, write, read, make
+
+// The quantities but for the one that is asked for; without V2 it is the water.
+Description write(const Dilution& drawn)
 {
-    const Dilution drawn = draw(place);
+    Description description;
+    description.with("substance", drawn.solute->formula);
+    if (drawn.asked != Asked::c1) {
+        description.with("c1", shown(drawn.c1, figures));
+    }
+    if (drawn.asked != Asked::V1) {
+        description.with("V1", inMillilitres(drawn.V1));
+    }
+    if (drawn.asked != Asked::c2) {
+        description.with("c2", shown(drawn.c2, figures));
+    }
+    if (drawn.asked != Asked::water) {
+        description.with("V2", inMillilitres(drawn.V2));
+    }
+    return description;
+}
+
+const SoluteRow& soluteFrom(FieldReader& fields)
+{
+    const std::string_view formula = fields.text("substance");
+    for (const auto* const list : {&solutes(), &acidSolutions()}) {
+        for (const SoluteRow& row : *list) {
+            if (row.formula == formula) {
+                return row;
+            }
+        }
+    }
+    fields.failAsNotAsked("substance", formula);
+    return solutes().front();
+}
+
+Asked askedIn(const FieldReader& fields)
+{
+    return !fields.has("c1")   ? Asked::c1
+           : !fields.has("V1") ? Asked::V1
+           : !fields.has("c2") ? Asked::c2
+                               : Asked::water;
+}
+
+// The one that is left out follows from the others.
+Dilution read(FieldReader& fields)
+{
+    const auto unless = [&](bool isLeftOut, std::string_view name) {
+        return isLeftOut ? ratio(1) : fields.number(name);
+    };
+    Dilution made = {};
+    made.solute = &soluteFrom(fields);
+    made.asked = askedIn(fields);
+    made.c1 = unless(made.asked == Asked::c1, "c1");
+    made.V1 = unless(made.asked == Asked::V1, "V1") / ratio(1000);
+    made.c2 = unless(made.asked == Asked::c2, "c2");
+    made.V2 = unless(made.asked == Asked::water, "V2") / ratio(1000);
+    if (made.asked == Asked::c1) {
+        made.c1 = made.c2 * made.V2 / made.V1;
+    } else if (made.asked == Asked::V1) {
+        made.V1 = made.c2 * made.V2 / made.c1;
+    } else if (made.asked == Asked::c2) {
+        made.c2 = made.c1 * made.V1 / made.V2;
+    } else {
+        made.V2 = made.c1 * made.V1 / made.c2;
+    }
+    if (!isAskable(made)) {
+        fields.fail(valuesNotAsked);
+    }
+    return made;
+}
+
+int levelOf(const Dilution& drawn)
+{
+    return drawn.asked == Asked::c2 ? 1 : drawn.asked == Asked::water ? 3 : 2;
+}
+
+Exercise make(const Place& place, const Dilution& drawn)
+{
     const Quantities quantities = quantitiesOf(drawn);
     Exercise exercise = numberExercise(place, askOf(drawn), numberOf(drawn));
     exercise.prompt = promptOf(drawn, quantities);
@@ -248,7 +330,8 @@ const Kind dilutionKind = {
     {"The new concentration", "The volume to take or the original concentration",
      "The water to add"},
     false,
-    exerciseAt,
+    drawnExercise<draw, write, levelOf, make>,
+    describedExercise<read, write, levelOf, make>,
 };
 
 } // namespace lesson

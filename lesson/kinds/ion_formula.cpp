@@ -8,6 +8,7 @@
 #include "lesson/chemistry/elements.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/classified.hpp"
+#include "lesson/kinds/shared/record.hpp"
 #include "lesson/kinds/shared/salts.hpp"
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/formula.hpp"
@@ -346,9 +347,30 @@ std::vector<std::string> rightTexts(const IonRow& ion)
     return texts;
 }
 
-Exercise exerciseAt(const Place& place)
+// ---------------------------------------------------------------------- draw, write, read, make
+
+const IonRow& draw(const Place& place)
 {
-    const IonRow& ion = *memberFor(place, poolOfLevel(place.level));
+    return *memberFor(place, poolOfLevel(place.level));
+}
+
+Description write(const IonRow& ion)
+{
+    return Description().with("ion", describedIon(ion));
+}
+
+const IonRow& read(FieldReader& fields)
+{
+    return ionFrom(fields, "ion");
+}
+
+int levelOf(const IonRow& ion)
+{
+    return isOneAtom(ion) ? 1 : isCommonGroup(ion) ? 2 : 3;
+}
+
+Exercise make(const Place& place, const IonRow& ion)
+{
     Exercise exercise = {};
     exercise.place = place;
     exercise.prompt =
@@ -374,7 +396,8 @@ const Kind ionFormulaKind = {
     "Formula of an ion",
     {"Ions of one atom", "Common groups of atoms", "All ions, with -ite and -ate"},
     true,
-    exerciseAt,
+    drawnExercise<draw, write, levelOf, make>,
+    describedExercise<read, write, levelOf, make>,
 };
 
 } // namespace lesson

@@ -24,6 +24,9 @@ struct Kind {
     bool fitsCard; // whether question and answer are short enough for the two sides of one
     // Draws an exercise, and writes its prompt, its worked solution and its slips.
     Exercise (*draw)(const Place& place);
+    // Makes the one with the quantities of a description, of which it is given what stands behind
+    // the slug.
+    NamedExercise (*read)(const Kind& kind, std::string_view fields);
 };
 
 } // namespace lesson

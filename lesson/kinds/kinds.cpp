@@ -29,9 +29,4 @@ const Kind* findKind(std::string_view slug, const KindList& kinds)
     return found == kinds.end() ? nullptr : *found;
 }
 
-Exercise makeExercise(const Place& place)
-{
-    return place.kind->draw(place);
-}
-
 } // namespace lesson

@@ -13,6 +13,7 @@
 #include "lesson/kinds/molar_mass_slips.hpp"
 #include "lesson/kinds/shared/classified.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
+#include "lesson/kinds/shared/record.hpp"
 
 namespace lesson
 {
@@ -258,9 +259,40 @@ std::vector<Ratio> roundedMolarMasses(std::string_view formula)
 namespace
 {
 
-Exercise exerciseAt(const Place& place)
+// ---------------------------------------------------------------------- draw, write, read, make
+
+const Substance& draw(const Place& place)
 {
-    const Substance& drawn = memberFor(place, poolOfLevel(place.level));
+    return memberFor(place, poolOfLevel(place.level));
+}
+
+Description write(const Substance& substance)
+{
+    return Description().with("formula", substance.formula);
+}
+
+Substance read(FieldReader& fields)
+{
+    const std::string_view formula = fields.text("formula");
+    for (int level = 1; level <= levelCount; ++level) {
+        for (const Substance& substance : poolOfLevel(level).members) {
+            if (substance.formula == formula) {
+                return substance;
+            }
+        }
+    }
+    fields.failAsNotAsked("formula", formula);
+    return poolOfLevel(1).members.front();
+}
+
+int levelOf(const Substance& substance)
+{
+    const bool isHydrate = substance.composition.parts.back().isWater;
+    return isHydrate ? 3 : hasBracket(substance.composition) ? 2 : 1;
+}
+
+Exercise make(const Place& place, const Substance& drawn)
+{
     const Ratio mass = massOf(drawn.composition.atoms);
     Exercise exercise =
         numberExercise(place, {Form::number, "M", drawn.formula, "g/mol", figures, {}},
@@ -282,7 +314,8 @@ const Kind molarMassKind = {
     "Molar mass",
     {"Formulas without brackets", "Formulas with brackets", "Hydrates"},
     false,
-    exerciseAt,
+    drawnExercise<draw, write, levelOf, make>,
+    describedExercise<read, write, levelOf, make>,
 };
 
 } // namespace lesson

@@ -11,9 +11,11 @@
 #include "lesson/chemistry/neutralisation.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/classified.hpp"
+#include "lesson/kinds/shared/record.hpp"
 #include "lesson/kinds/shared/salts.hpp"
 #include "lesson/marking/equation.hpp"
 #include "lesson/marking/formula.hpp"
+#include "lesson/text/quotable.hpp"
 
 namespace lesson
 {
@@ -424,9 +426,37 @@ Slips slipsFor(const Equation& equation, const EquationAnswer& answer)
     return slips;
 }
 
-Exercise exerciseAt(const Place& place)
+// ---- Draw, write, read, make
+
+const Reaction& draw(const Place& place)
 {
-    const Reaction& reaction = memberFor(place, poolFor(place.level));
+    return memberFor(place, poolFor(place.level));
+}
+
+Description write(const Reaction& reaction)
+{
+    return Description()
+        .with("acid", reaction.acid->formula)
+        .with("base", formulaOf(reaction.base));
+}
+
+Reaction read(FieldReader& fields)
+{
+    const std::string_view acid = fields.text("acid");
+    const std::string_view base = fields.text("base");
+    for (int level = 1; level <= levelCount; ++level) {
+        for (const Reaction& reaction : poolFor(level).members) {
+            if (reaction.acid->formula == acid && formulaOf(reaction.base) == base) {
+                return reaction;
+            }
+        }
+    }
+    fields.fail("Nothing is asked about '" + quotable(acid) + "' and '" + quotable(base) + "'.");
+    return poolFor(1).members.front();
+}
+
+Exercise make(const Place& place, const Reaction& reaction)
+{
     const AcidRow* const acid = reaction.acid;
     const Base& base = reaction.base;
 
@@ -457,7 +487,8 @@ const Kind neutralisationKind = {
     {"Acids and hydroxides", "Oxides, carbonates, hydrogencarbonates and ammonia",
      "Ratios with a 3 or a 6"},
     false,
-    exerciseAt,
+    drawnExercise<draw, write, levelOf, make>,
+    describedExercise<read, write, levelOf, make>,
 };
 
 } // namespace lesson

@@ -3,13 +3,16 @@
 #include <iterator>
 #include <string>
 #include <utility>
+#include <variant>
 
 #include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/chemistry/solubility.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/classified.hpp"
+#include "lesson/kinds/shared/record.hpp"
 #include "lesson/kinds/shared/salts.hpp"
 #include "lesson/marking/spellings.hpp"
+#include "lesson/paper/seeds.hpp"
 
 namespace lesson
 {
@@ -93,9 +96,8 @@ const Classified<Pair>& pairsOfLevel(int level)
     return levels[level - 1];
 }
 
-Exercise oneCompound(const Place& place)
+Exercise oneCompound(const Place& place, const Pair& pair)
 {
-    const Pair& pair = memberFor(place, pairsOfLevel(place.level));
     Exercise exercise = {};
     exercise.place = place;
     exercise.prompt = line("Does ", nameOf(*pair.cation, *pair.anion), ", ",
@@ -248,12 +250,8 @@ void addSlips(Exercise& exercise, const Mixture& mixture)
     }
 }
 
-Exercise twoSolutions(const Place& place)
+Exercise twoSolutions(const Place& place, const Mixture& mixture)
 {
-    Mixture mixture = memberFor(place, allMixtures());
-    if (drawsFor(place).below(2) == 1) {
-        std::swap(mixture.salts[0], mixture.salts[1]);
-    }
     const Pair& precipitate = mixture.exchanged[0];
     const auto& [a, b] = mixture.salts;
     Exercise exercise = {};
@@ -272,9 +270,74 @@ Exercise twoSolutions(const Place& place)
     return exercise;
 }
 
-Exercise exerciseAt(const Place& place)
+// ---------------------------------------------------------------------- draw, write, read, make
+
+// A compound, or two solutions.
+using Asked = std::variant<Pair, Mixture>;
+
+Mixture drawMixture(const Place& place)
 {
-    return place.level == 3 ? twoSolutions(place) : oneCompound(place);
+    Mixture mixture = memberFor(place, allMixtures());
+    if (drawsFor(place).below(2) == 1) {
+        std::swap(mixture.salts[0], mixture.salts[1]);
+    }
+    return mixture;
+}
+
+Asked draw(const Place& place)
+{
+    return place.level == 3 ? Asked(drawMixture(place))
+                            : Asked(memberFor(place, pairsOfLevel(place.level)));
+}
+
+Description write(const Asked& asked)
+{
+    if (const Pair* const pair = std::get_if<Pair>(&asked)) {
+        return describedPair(*pair);
+    }
+    const auto& [a, b] = std::get<Mixture>(asked).salts;
+    return Description()
+        .with("cation1", describedIon(*a.cation))
+        .with("anion1", describedIon(*a.anion))
+        .with("cation2", describedIon(*b.cation))
+        .with("anion2", describedIon(*b.anion));
+}
+
+Mixture mixtureFrom(FieldReader& fields)
+{
+    const Pair a = pairFrom(fields, "cation1", "anion1", pairsForSolubility());
+    const Pair b = pairFrom(fields, "cation2", "anion2", pairsForSolubility());
+    for (Mixture mixture : allMixtures().members) {
+        const auto& [first, second] = mixture.salts;
+        if (first == b && second == a) {
+            std::swap(mixture.salts[0], mixture.salts[1]);
+        }
+        if (first == a && second == b) {
+            return mixture;
+        }
+    }
+    fields.fail("Nothing is asked about what forms when " + formulaOf(a) + " and " + formulaOf(b) +
+                " are mixed.");
+    return allMixtures().members.front();
+}
+
+Asked read(FieldReader& fields)
+{
+    return fields.has("cation1") ? Asked(mixtureFrom(fields))
+                                 : Asked(pairFrom(fields, "cation", "anion", pairsForSolubility()));
+}
+
+int levelOf(const Asked& asked)
+{
+    const Pair* const pair = std::get_if<Pair>(&asked);
+    return pair == nullptr ? 3 : isException(*pair) ? 2 : 1;
+}
+
+Exercise make(const Place& place, const Asked& asked)
+{
+    const Pair* const pair = std::get_if<Pair>(&asked);
+    return pair == nullptr ? twoSolutions(place, std::get<Mixture>(asked))
+                           : oneCompound(place, *pair);
 }
 
 } // namespace
@@ -286,7 +349,8 @@ const Kind solubilityKind = {
     "Solubility in water",
     {"The rules", "The rules and their exceptions", "The precipitate of two solutions"},
     true,
-    exerciseAt,
+    drawnExercise<draw, write, levelOf, make>,
+    describedExercise<read, write, levelOf, make>,
 };
 
 } // namespace lesson

@@ -7,6 +7,7 @@
 #include "lesson/chemistry/neutralisation.hpp"
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
+#include "lesson/kinds/shared/record.hpp"
 #include "lesson/kinds/shared/salts.hpp"
 
 namespace lesson
@@ -61,11 +62,6 @@ Spans withConcentration(const SoluteRow& solution, const Solutions& solutions,
                                         : solutionOf(solution);
 }
 
-const char* nameOf(Indicator indicator)
-{
-    return indicator == Indicator::phenolphthalein ? "phenolphthalein" : "methyl orange";
-}
-
 // Halfway a carbonate has become a hydrogencarbonate, which other indicators show.
 Spans endOf(const Titration& drawn)
 {
@@ -117,9 +113,8 @@ std::vector<Given> givenOf(const Solutions& solutions, const Quantities& quantit
             quantities.inFlask, quantities.fromBurette, quantities.concentration};
 }
 
-Exercise exerciseAt(const Place& place)
+Exercise make(const Place& place, const Titration& drawn)
 {
-    const Titration drawn = drawTitration(place);
     const Solutions solutions = solutionsOf(drawn);
     const Quantities quantities = quantitiesOf(drawn, solutions);
     const Equation equation = equationOf(drawn);
@@ -144,7 +139,8 @@ const Kind titrationKind = {
     "Acid-base titration",
     {"Ratio 1:1", "Other ratios", "Several titres, equation not given"},
     false,
-    exerciseAt,
+    drawnExercise<drawTitration, descriptionOf, levelOf, make>,
+    describedExercise<titrationFrom, descriptionOf, levelOf, make>,
 };
 
 } // namespace lesson

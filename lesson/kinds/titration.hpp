@@ -6,6 +6,7 @@
 #include "lesson/chemistry/solutes_and_ceilings.hpp"
 #include "lesson/chemistry/titrations.hpp"
 #include "lesson/exercise.hpp"
+#include "lesson/kinds/description.hpp"
 #include "lesson/numbers/ratio.hpp"
 #include "lesson/words/spans.hpp"
 
@@ -32,6 +33,20 @@ struct Titration {
 // exchanges the volumes, does without them, copies the known concentration or averages the rough
 // titre in is told so.
 Titration drawTitration(const Place& place);
+
+// Whether an exercise can be made of it, as `drawTitration` makes sure of.
+bool isAskable(const Titration& titration);
+
+// The mean of the titres but for the rough one, in L; and the answer, from all other quantities.
+Ratio meanTitre(const std::vector<int>& titres);
+Ratio workedOut(const Titration& titration);
+
+// Its description, and the titration of one: values as in `FieldReader`.
+Description descriptionOf(const Titration& drawn);
+Titration titrationFrom(FieldReader& fields);
+int levelOf(const Titration& titration);
+
+const char* nameOf(Indicator indicator);
 
 bool isKnownInBurette(const Titration& drawn);
 

@@ -129,12 +129,11 @@ Titration drawOnce(Draws& draws, const Class& ofClass)
     drawn.inFlask = litres(draws.oneOf(pipettes));
     if (ofClass.titres > 0) {
         drawn.titres = drawTitres(draws, ofClass.titres);
-        drawn.fromBurette = meanOf(drawn.titres.begin() + 1, drawn.titres.end());
+        drawn.fromBurette = meanTitre(drawn.titres);
     } else {
         drawn.fromBurette = litresOf(drawTitre(draws));
     }
-    const auto [known, unknown] = volumesOf(drawn);
-    drawn.answer = drawn.concentration * known * ratioOf(drawn) / unknown;
+    drawn.answer = workedOut(drawn);
     return drawn;
 }
 
@@ -189,10 +188,26 @@ Titration drawTitration(const Place& place)
     const Class ofClass = drawClass(draws, place.level);
     for (;;) {
         Titration drawn = drawOnce(draws, ofClass);
-        if (isInRange(drawn) && showsMistakes(drawn) && bearsEveryOrder(drawn)) {
+        if (isAskable(drawn)) {
             return drawn;
         }
     }
+}
+
+bool isAskable(const Titration& titration)
+{
+    return isInRange(titration) && showsMistakes(titration) && bearsEveryOrder(titration);
+}
+
+Ratio meanTitre(const std::vector<int>& titres)
+{
+    return meanOf(titres.begin() + 1, titres.end());
+}
+
+Ratio workedOut(const Titration& titration)
+{
+    const auto [known, unknown] = volumesOf(titration);
+    return titration.concentration * known * ratioOf(titration) / unknown;
 }
 
 bool isKnownInBurette(const Titration& drawn)

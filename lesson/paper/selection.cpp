@@ -36,30 +36,34 @@ NamedKind error(std::string sentence)
     return {{}, std::move(sentence)};
 }
 
+// Puts a kind in its place among those before it, and tells whether it is not there yet.
+bool insert(std::vector<KindAndLevel>& kinds, KindAndLevel one)
+{
+    const auto place = std::lower_bound(kinds.begin(), kinds.end(), one, isBefore);
+    const bool isNew = place == kinds.end() || isBefore(one, *place);
+    if (isNew) {
+        kinds.insert(place, one);
+    }
+    return isNew;
+}
+
 Selection mixedOf(const KindList& kinds)
 {
     Selection selection;
     for (const Kind* const kind : kinds) {
         if (kind->seed < seedsOfMixed) {
-            selection.kinds.push_back({kind, levelUnlessNamed});
+            insert(selection.kinds, {kind, levelUnlessNamed});
         }
     }
-    std::sort(selection.kinds.begin(), selection.kinds.end(), isBefore);
     return selection;
 }
 
-// Puts a kind in its place among those before it; gives the error, if there is one.
+// Gives the error, if there is one.
 std::string add(std::vector<KindAndLevel>& kinds, const NamedKind& named)
 {
-    if (!named.error.empty()) {
-        return named.error;
-    }
-    const auto place = std::lower_bound(kinds.begin(), kinds.end(), named.kind, isBefore);
-    if (place != kinds.end() && !isBefore(named.kind, *place)) {
-        return "The kind " + nameOf(named.kind) + " is there twice.";
-    }
-    kinds.insert(place, named.kind);
-    return {};
+    return !named.error.empty()        ? named.error
+           : insert(kinds, named.kind) ? std::string()
+                                       : "The kind " + nameOf(named.kind) + " is there twice.";
 }
 
 // The set of the chosen kinds, whatever the order in which they were named: a bit for each kind and

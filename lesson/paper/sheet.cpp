@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
+#include <set>
 #include <tuple>
 
 #include "lesson/paper/list.hpp"
@@ -13,19 +15,6 @@ namespace lesson
 
 namespace
 {
-
-// A whole number, as one more than `most` where it is greater; none where it is no number.
-std::optional<unsigned> wholeIn(std::string_view text, unsigned most)
-{
-    unsigned number = 0;
-    for (const char digit : text) {
-        if (digit < '0' || digit > '9') {
-            return std::nullopt;
-        }
-        number = std::min(number * 10 + static_cast<unsigned>(digit - '0'), most + 1);
-    }
-    return text.empty() ? std::nullopt : std::optional(number);
-}
 
 // "4*titration:2@5" in its parts; "1" where there is no count or no number.
 struct EntryText {
@@ -58,9 +47,24 @@ std::string errorInFirst(std::string_view text, std::optional<unsigned> first, u
                : std::string();
 }
 
+// Adds a description, which stands behind "[".
+std::string addDescribed(Sheet& sheet, std::string_view entry)
+{
+    if (entry.back() != ']') {
+        return "There is no ] behind '[" + quotable(entry) + "'.";
+    }
+    entry.remove_suffix(1);
+    const Reference described = {{}, std::string(entry)};
+    sheet.entries.push_back({{}, 1, 1, described.description});
+    return entry.empty() ? "There is nothing between [ and ]." : exerciseOf(described).error;
+}
+
 // Adds "4*titration" to a sheet; gives the error, if there is one.
 std::string addEntry(Sheet& sheet, std::string_view entry)
 {
+    if (entry.size() > 1 && entry.front() == '[') {
+        return addDescribed(sheet, entry.substr(1));
+    }
     const EntryText parts = partsOf(entry);
     const std::optional<unsigned> count = wholeIn(parts.count, greatestSheet);
     if (!count) {
@@ -94,51 +98,58 @@ std::string errorInTotal(const std::vector<SheetEntry>& entries)
                : std::string();
 }
 
-// Of a sheet that is not too long.
-std::string errorInRepeated(const Sheet& sheet)
+// Of a sheet that is not too long: in its drawn exercises.
+std::string errorInDrawn(const Sheet& sheet)
 {
-    const auto inOrder = [](const Place& place) {
-        return std::tuple(place.kind->seed, place.level, place.number);
-    };
-    std::vector<Place> places = placesOf(sheet, 1);
-    std::sort(places.begin(), places.end(), [inOrder](const Place& one, const Place& other) {
-        return inOrder(one) < inOrder(other);
-    });
-    const auto twice = std::adjacent_find(
-        places.begin(), places.end(),
-        [inOrder](const Place& one, const Place& other) { return inOrder(one) == inOrder(other); });
-    return twice == places.end() ? std::string()
-                                 : "Exercise " + std::to_string(twice->number) + " of " +
-                                       nameOf({twice->kind, twice->level}) + " is there twice.";
+    std::set<std::tuple<std::uint32_t, int, unsigned>> drawn;
+    for (const auto& [place, description] : referencesOf(sheet)) {
+        if (!description.empty()) {
+            continue;
+        }
+        if (sheet.paper == 0) {
+            return errorOfPaper();
+        }
+        if (!drawn.insert({place.kind->seed, place.level, place.number}).second) {
+            return "Exercise " + std::to_string(place.number) + " of " +
+                   nameOf({place.kind, place.level}) + " is there twice.";
+        }
+    }
+    return {};
 }
 
 } // namespace
 
-Sheet readSheet(std::string_view list)
+Sheet readSheet(std::string_view text)
 {
     Sheet sheet;
-    if (!list.empty()) {
+    if (text.find('/') < text.find('[')) {
+        sheet.paper = takePaper(text);
+        sheet.error = sheet.paper == 0 ? errorOfPaper() : "";
+    }
+    if (sheet.error.empty() && !text.empty()) {
         sheet.error =
-            readParts(list, [&sheet](std::string_view entry) { return addEntry(sheet, entry); });
+            readParts(text, [&sheet](std::string_view entry) { return addEntry(sheet, entry); });
     }
     if (sheet.error.empty()) {
         sheet.error = errorInTotal(sheet.entries);
     }
     if (sheet.error.empty()) {
-        sheet.error = errorInRepeated(sheet);
+        sheet.error = errorInDrawn(sheet);
     }
     return sheet;
 }
 
-std::vector<Place> placesOf(const Sheet& sheet, unsigned paper)
+std::vector<Reference> referencesOf(const Sheet& sheet)
 {
-    std::vector<Place> places;
+    std::vector<Reference> references;
     for (const SheetEntry& entry : sheet.entries) {
         for (unsigned at = 0; at < entry.count; ++at) {
-            places.push_back({paper, entry.first + at, entry.kind.kind, entry.kind.level});
+            references.push_back(
+                {{sheet.paper, entry.first + at, entry.kind.kind, entry.kind.level},
+                 entry.description});
         }
     }
-    return places;
+    return references;
 }
 
 } // namespace lesson

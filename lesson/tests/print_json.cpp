@@ -12,6 +12,7 @@
 #include <cstring>
 
 #include "lesson/lesson.h"
+#include "lesson/tests/support/reference.hpp"
 
 namespace
 {
@@ -34,16 +35,17 @@ unsigned numberIn(const char* text)
 int main(int argc, char** argv)
 {
     if (argc == 2 && std::strcmp(argv[1], "kinds") == 0) {
-        std::puts(lesson_kinds());
+        std::puts(lesson_kinds(nullptr));
     } else if (argc == 2 && std::strcmp(argv[1], "tables") == 0) {
-        std::puts(lesson_tables());
+        std::puts(lesson_tables(nullptr));
     } else if (argc == 5 && std::strcmp(argv[1], "exercises") == 0) {
         const unsigned count = numberIn(argv[4]);
         for (unsigned number = 1; number <= count; ++number) {
-            std::puts(lesson_exercise(numberIn(argv[3]), number, argv[2]));
+            std::puts(lesson_exercise(drawn(numberIn(argv[3]), number, argv[2]).c_str(), nullptr));
         }
     } else if (argc == 5 && std::strcmp(argv[1], "export") == 0) {
-        std::fputs(lesson_export(numberIn(argv[3]), argv[4], argv[2]), stdout);
+        std::fputs(lesson_export(sheetOf(numberIn(argv[3]), argv[4]).c_str(), argv[2], nullptr),
+                   stdout);
     } else {
         return tellUsage();
     }

@@ -109,4 +109,9 @@ Span between(Ratio value)
     return number(shownBetween(value, askedFigures + 1));
 }
 
+std::string inMillilitres(Ratio litres)
+{
+    return shown(litres * ratio(1000), askedFigures);
+}
+
 } // namespace lesson

@@ -134,4 +134,41 @@ std::string withOxygens(const IonRow& ion, int more)
     return before + (oxygens + more == 1 ? "O" : "O" + std::to_string(oxygens + more));
 }
 
+std::string describedIon(const IonRow& ion)
+{
+    return std::string(ion.formula) + "^" + chargeText(ion);
+}
+
+Description describedPair(const Pair& pair)
+{
+    return Description()
+        .with("cation", describedIon(*pair.cation))
+        .with("anion", describedIon(*pair.anion));
+}
+
+const IonRow& ionFrom(FieldReader& fields, std::string_view name)
+{
+    const std::string_view text = fields.text(name);
+    for (const auto* const list : {&cations(), &anions(), &furtherIons()}) {
+        for (const IonRow* const ion : *list) {
+            if (describedIon(*ion) == text) {
+                return *ion;
+            }
+        }
+    }
+    fields.failAsNotAsked(name, text);
+    return *cations().front();
+}
+
+Pair pairFrom(FieldReader& fields, std::string_view nameOfCation, std::string_view nameOfAnion,
+              const std::vector<Pair>& known)
+{
+    const Pair pair = {&ionFrom(fields, nameOfCation), &ionFrom(fields, nameOfAnion)};
+    if (std::find(known.begin(), known.end(), pair) != known.end()) {
+        return pair;
+    }
+    fields.failAsNotAsked(nameOfAnion, describedIon(*pair.anion));
+    return known.front();
+}
+
 } // namespace lesson

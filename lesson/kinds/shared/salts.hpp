@@ -4,8 +4,10 @@
 #include <string_view>
 #include <vector>
 
+#include "lesson/chemistry/compounds.hpp"
 #include "lesson/chemistry/ions.hpp"
 #include "lesson/exercise.hpp"
+#include "lesson/kinds/description.hpp"
 #include "lesson/words/spans.hpp"
 
 // What the pages on formulas, ions and solubility share.
@@ -24,6 +26,14 @@ Span spanOf(const IonRow& ion);
 
 // The charge in words of a sentence: "2−", "1+".
 std::string chargeWords(const IonRow& ion);
+
+// An ion as descriptions write it, "SO4^2-", and the ones with such values; a problem, and any one,
+// where there is none or, of two, where they are not among the `known`.
+std::string describedIon(const IonRow& ion);
+Description describedPair(const Pair& pair);
+const IonRow& ionFrom(FieldReader& fields, std::string_view name);
+Pair pairFrom(FieldReader& fields, std::string_view nameOfCation, std::string_view nameOfAnion,
+              const std::vector<Pair>& known);
 
 // Adds a slip to an exercise unless its text is right but for capitals, or that of an earlier slip.
 // `right` holds the right texts, `text` has no blanks, and subscripts as plain digits.

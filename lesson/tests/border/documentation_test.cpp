@@ -27,7 +27,7 @@ struct Example {
 std::vector<Example> examples()
 {
     std::ifstream file(LESSON_DOCUMENTATION);
-    const std::regex call(R"re(lesson_\w+\([0-9]+, .*"\))re");
+    const std::regex call(R"re(lesson_\w+\("[0-9]+/.*"\))re");
     std::vector<Example> found;
     std::string lastCall;
     bool isInside = false;
@@ -49,17 +49,16 @@ std::vector<Example> examples()
 
 std::string resultOf(const std::string& call)
 {
-    const std::regex pattern(R"re((\w+)\((\d+), (\d+), "([^"]*)"(?:, "([^"]*)")?\))re");
+    const std::regex pattern(R"re((\w+)\("([^"]*)"(?:, "([^"]*)")?, "([^"]*)"\))re");
     std::smatch parts;
     if (!std::regex_match(call, parts, pattern)) {
         return "no call: " + call;
     }
-    const auto paper = static_cast<unsigned>(std::stoul(parts[2]));
-    const auto number = static_cast<unsigned>(std::stoul(parts[3]));
-    const std::string kind = parts[4];
-    const std::string typed = parts[5];
-    return parts[1] == "lesson_mark" ? lesson_mark(paper, number, kind.c_str(), typed.c_str())
-                                     : lesson_exercise(paper, number, kind.c_str());
+    const std::string exercise = parts[2];
+    const std::string typed = parts[3];
+    const std::string writing = parts[4];
+    return parts[1] == "lesson_mark" ? lesson_mark(exercise.c_str(), typed.c_str(), writing.c_str())
+                                     : lesson_exercise(exercise.c_str(), writing.c_str());
 }
 
 TEST(LessonDocumentationTest, TheExamplesAreReal)

@@ -18,6 +18,7 @@ Exercise titration()
 {
     Exercise exercise;
     exercise.place = {4821, 3, &titrationKind, 2};
+    exercise.description = "titration;titre=21.70";
     exercise.prompt = line("Titrated with ", measure("0.105", "mol/L"), " ", formula("HCl"), ".");
     exercise.ask = {Form::number, "c", "Na2CO3", "mol/L", 3, {}};
     exercise.given = {
@@ -40,6 +41,7 @@ TEST(ExerciseJsonTest, ATitrationInItsOrder)
 {
     const char* const expected =
         R"({"version":1,"paper":4821,"number":3,"kind":"titration","level":2,
+        "description":"titration;titre=21.70",
         "prompt":[{"text":"Titrated with "},{"number":"0.105"},{"unit":"mol/L"},{"text":" "},
                   {"formula":"HCl"},{"text":"."}],
         "ask":{"form":"number","quantity":"c","of":"Na2CO3","unit":"mol/L","figures":3},

@@ -1,4 +1,5 @@
 #include "lesson/lesson.h"
+#include "lesson/tests/support/reference.hpp"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -30,20 +31,20 @@ std::vector<std::string> members(const Json& object)
 
 Json exercise(unsigned paper, unsigned number, const std::string& kind)
 {
-    return Json::parse(lesson_exercise(paper, number, kind.c_str()));
+    return Json::parse(lesson_exercise(drawn(paper, number, kind).c_str(), nullptr));
 }
 
 Json mark(unsigned paper, unsigned number, const std::string& kind, const std::string& typed)
 {
-    return Json::parse(lesson_mark(paper, number, kind.c_str(), typed.c_str()));
+    return Json::parse(lesson_mark(drawn(paper, number, kind).c_str(), typed.c_str(), nullptr));
 }
 
 TEST(InterfaceTest, TheKindsInOrderWithThreeLevelsEach)
 {
-    const Json rows = Json::parse(lesson_kinds());
+    const Json rows = Json::parse(lesson_kinds(nullptr));
     ASSERT_EQ(rows.size(), allKinds().size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        EXPECT_EQ(members(rows[i]), (std::vector<std::string>{"kind", "title", "levels"}));
+        EXPECT_EQ(members(rows[i]), (std::vector<std::string>{"kind", "version", "title", "levels"}));
         EXPECT_EQ(rows[i]["kind"], std::string(allKinds()[i]->slug));
         EXPECT_FALSE(rows[i]["title"].get<std::string>().empty());
         EXPECT_EQ(rows[i]["levels"].size(), 3U) << rows[i];
@@ -95,32 +96,69 @@ TEST(InterfaceTest, BadArgumentsAreToldBySentences)
     const std::string number = "The number of the exercise has to be from 1 to 999999.";
     const std::string kind = "Name a kind of exercise.";
     struct Case {
-        unsigned paper;
-        unsigned number;
-        const char* kind;
+        const char* exercise;
         std::string error;
     };
     const Case cases[] = {
-        {0, 1, "mixed", paper},
-        {1000000, 1, "mixed", paper},
-        {4294967295U, 1, "mixed", paper},
-        {1, 0, "mixed", number},
-        {1, 1000000, "mixed", number},
-        {1, 4294967295U, "mixed", number},
-        {1, 1, nullptr, kind},
-        {1, 1, "", kind},
-        {1, 1, "tit\"ration", "There is no kind of exercise called 'tit\"ration'."},
-        {1, 1, "titration:4", "The level of titration has to be 1, 2 or 3."},
-        {1, 1, "titration,titration:2", "The kind titration:2 is there twice."},
-        {1, 1, "mixed,titration", "The kind mixed stands alone, without a level."},
+        {"0/1/mixed", paper},
+        {"1000000/1/mixed", paper},
+        {"4294967297/1/mixed", paper},
+        {"/1/mixed", paper},
+        {"-1/1/mixed", paper},
+        {"one/1/mixed", paper},
+        {"1/0/mixed", number},
+        {"1/1000000/mixed", number},
+        {"1/4294967297/mixed", number},
+        {"1//mixed", number},
+        {"1/mixed", number},
+        {"1/1/", kind},
+        {"1/1", kind},
+        {nullptr, kind},
+        {"", kind},
+        {"1/1/tit\"ration", "There is no kind of exercise called 'tit\"ration'."},
+        {"1/1/titration:4", "The level of titration has to be 1, 2 or 3."},
+        {"1/1/titration,titration:2", "The kind titration:2 is there twice."},
+        {"1/1/mixed,titration", "The kind mixed stands alone, without a level."},
+        {"titration:2", "There is no kind of exercise called 'titration:2'."},
+        {"tit;c=1", "There is no kind of exercise called 'tit'."},
+        {"dilution", "The value substance is missing."},
+        {"dilution;substance=HCl;c1=6.00;V1=25.0;V2=500;x=1/2",
+         "This kind of exercise has no value called 'x'."},
     };
     for (const Case& one : cases) {
         const Json expected = {{"error", one.error}};
-        EXPECT_EQ(Json::parse(lesson_exercise(one.paper, one.number, one.kind)), expected);
-        EXPECT_EQ(Json::parse(lesson_mark(one.paper, one.number, one.kind, "1")), expected);
+        const char* const name = one.exercise == nullptr ? "null" : one.exercise;
+        EXPECT_EQ(Json::parse(lesson_exercise(one.exercise, nullptr)), expected) << name;
+        EXPECT_EQ(Json::parse(lesson_mark(one.exercise, "1", nullptr)), expected) << name;
     }
     const Json expected = {{"error", "There is no typed text."}};
-    EXPECT_EQ(Json::parse(lesson_mark(1, 1, "mixed", nullptr)), expected);
+    EXPECT_EQ(Json::parse(lesson_mark("1/1/mixed", nullptr, nullptr)), expected);
+}
+
+TEST(InterfaceTest, BadWritingsAreToldBySentences)
+{
+    struct Case {
+        const char* writing;
+        std::string error;
+    };
+    const Case cases[] = {
+        {"xx", "There is no language called 'xx'."},
+        {"en-GB;decimal=;", "There is no way of writing called 'decimal='."},
+        {"en-GB;x", "There is no way of writing called 'x'."},
+    };
+    for (const Case& one : cases) {
+        const Json expected = {{"error", one.error}};
+        EXPECT_EQ(Json::parse(lesson_exercise("1/1/mixed", one.writing)), expected) << one.writing;
+        EXPECT_EQ(Json::parse(lesson_mark("1/1/mixed", "1", one.writing)), expected) << one.writing;
+        EXPECT_EQ(Json::parse(lesson_kinds(one.writing)), expected) << one.writing;
+        EXPECT_EQ(Json::parse(lesson_tables(one.writing)), expected) << one.writing;
+        EXPECT_EQ(Json::parse(lesson_export("1/titration", "moodle", one.writing)), expected)
+            << one.writing;
+    }
+    for (const char* const writing : {"", "en-GB", "en-GB;decimal=.", ";decimal=,"}) {
+        EXPECT_TRUE(Json::parse(lesson_exercise("1/1/mixed", writing)).contains("prompt"))
+            << writing;
+    }
 }
 
 TEST(InterfaceTest, BadArgumentsOfAnExportAreToldBySentences)
@@ -132,45 +170,62 @@ TEST(InterfaceTest, BadArgumentsOfAnExportAreToldBySentences)
     const std::string noCard =
         "Nothing on this sheet fits a card: formulas, ions and solubility do.";
     struct Case {
-        unsigned paper;
         const char* sheet;
         const char* format;
         std::string error;
     };
     const Case cases[] = {
-        {0, "titration", "moodle", paper},
-        {1000000, "titration", "anki", paper},
-        {4294967295U, nullptr, nullptr, paper},
-        {1, nullptr, "moodle", none},
-        {1, "", "anki", none},
-        {1, "0*titration", "moodle", none},
-        {1, "1001*titration", "moodle", many},
-        {1, "mixed", "moodle", "A sheet names each of its kinds, and mixed is none."},
-        {1, "tit\"ration", "moodle", "There is no kind of exercise called 'tit\"ration'."},
-        {1, "titration", nullptr, format},
-        {1, "titration", "", format},
-        {1, "titration", "Moodle", format},
-        {1, "ion-formula", "anki,moodle", format},
-        {1, "9*titration,neutralisation:3", "anki", noCard},
+        {"0/titration", "moodle", paper},
+        {"1000000/titration", "anki", paper},
+        {"titration", "anki", paper},
+        {nullptr, "moodle", none},
+        {"", "anki", none},
+        {"1/", "anki", none},
+        {"1/0*titration", "moodle", none},
+        {"1/1001*titration", "moodle", many},
+        {"1/mixed", "moodle", "A sheet names each of its kinds, and mixed is none."},
+        {"1/tit\"ration", "moodle", "There is no kind of exercise called 'tit\"ration'."},
+        {"1/titration", nullptr, format},
+        {"1/titration", "", format},
+        {"1/titration", "Moodle", format},
+        {"1/ion-formula", "anki,moodle", format},
+        {"1/9*titration,neutralisation:3", "anki", noCard},
+        {"[dilution]", "moodle", "The value substance is missing."},
+        {"[]", "moodle", "There is nothing between [ and ]."},
+        {"[dilution", "moodle", "There is no ] behind '[dilution'."},
     };
     for (const Case& one : cases) {
         const Json expected = {{"error", one.error}};
-        EXPECT_EQ(Json::parse(lesson_export(one.paper, one.sheet, one.format)), expected)
+        EXPECT_EQ(Json::parse(lesson_export(one.sheet, one.format, nullptr)), expected)
             << (one.sheet == nullptr ? "null" : one.sheet);
     }
 }
 
+TEST(InterfaceTest, DescribedExercisesStandAmongDrawnOnes)
+{
+    const std::string described = exercise(4821, 3, "titration:3")["description"];
+    const std::string sheet = "7/titration:1,[" + described + "],ion-formula";
+    const std::string file = lesson_export(sheet.c_str(), "moodle", nullptr);
+    const std::size_t own = file.find("Exercise 2, titration, level 3");
+    EXPECT_LT(file.find("Paper 7, titration, level 1, number 1"), own) << file;
+    EXPECT_LT(own, file.find("Paper 7, ion-formula, level 2, number 1")) << file;
+    EXPECT_NE(file.find("<idnumber>own-titration-3-2</idnumber>"), std::string::npos) << file;
+    const std::string alone = lesson_export("[ion-formula;ion=SO4^2-]", "anki", nullptr);
+    EXPECT_NE(alone.find("ion-formula level-2\n"), std::string::npos) << alone;
+}
+
 TEST(InterfaceTest, AnExportIsAFileAndNoJson)
 {
-    EXPECT_EQ(std::string(lesson_export(999999, "1000*titration:3", "moodle")).substr(0, 5),
+    EXPECT_EQ(std::string(lesson_export("999999/1000*titration:3", "moodle", nullptr)).substr(0, 5),
               "<?xml");
-    EXPECT_EQ(std::string(lesson_export(1, "solubility", "anki")).substr(0, 11), "#separator:");
+    EXPECT_EQ(std::string(lesson_export("1/solubility", "anki", nullptr)).substr(0, 11),
+              "#separator:");
 }
 
 TEST(InterfaceTest, ExercisesNamedByTheirNumbersAreTheSameInAFile)
 {
     const auto file = [](const char* sheet) {
-        return std::string(lesson_export(4821, sheet, "moodle"));
+        return std::string(lesson_export(sheetOf(4821, sheet).c_str(), "moodle", nullptr));
     };
     EXPECT_EQ(file("titration@1,titration@2,dilution:1@1"), file("2*titration,dilution:1"));
     EXPECT_EQ(file("2*titration@8"), file("titration@8,titration@9"));
@@ -183,13 +238,13 @@ TEST(InterfaceTest, ExercisesNamedByTheirNumbersAreTheSameInAFile)
 
 TEST(InterfaceTest, AResultHoldsUntilTheNextCallOfTheSameFunction)
 {
-    const char* const made = lesson_exercise(4821, 3, "titration");
+    const char* const made = lesson_exercise("4821/3/titration", nullptr);
     const std::string before = made;
-    lesson_kinds();
-    lesson_tables();
-    lesson_mark(4821, 4, "titration", "1");
-    lesson_export(4821, "titration", "moodle");
-    std::thread([] { lesson_exercise(1, 1, "dilution"); }).join();
+    lesson_kinds(nullptr);
+    lesson_tables(nullptr);
+    lesson_mark("4821/4/titration", "1", nullptr);
+    lesson_export("4821/titration", "moodle", nullptr);
+    std::thread([] { lesson_exercise("1/1/dilution", nullptr); }).join();
     EXPECT_EQ(before, made);
 }
 

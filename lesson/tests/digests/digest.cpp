@@ -8,6 +8,7 @@
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/lesson.h"
 #include "lesson/paper/selection.hpp"
+#include "lesson/tests/support/reference.hpp"
 
 namespace lesson
 {
@@ -62,8 +63,9 @@ std::vector<std::string> typedTexts(const Exercise& exercise)
 
 void addMarks(Digest& digest, const Place& place, const std::string& kind)
 {
+    const std::string exercise = drawn(place.paper, place.number, kind);
     for (const std::string& typed : typedTexts(makeExercise(place))) {
-        digest.add(lesson_mark(place.paper, place.number, kind.c_str(), typed.c_str()));
+        digest.add(lesson_mark(exercise.c_str(), typed.c_str(), nullptr));
     }
 }
 
@@ -72,7 +74,7 @@ void addFiles(Digest& digest, const std::string& kind)
     const std::string sheet = std::to_string(numbersExported) + "*" + kind;
     for (unsigned paper = 1; paper <= papersExported; ++paper) {
         for (const char* const format : {"moodle", "anki"}) {
-            digest.add(lesson_export(paper, sheet.c_str(), format));
+            digest.add(lesson_export(sheetOf(paper, sheet).c_str(), format, nullptr));
         }
     }
 }
@@ -99,7 +101,7 @@ std::string digestLine(const std::string& kind)
     addFiles(files, kind);
     for (unsigned paper = 1; paper <= papers; ++paper) {
         for (unsigned number = 1; number <= numbers; ++number) {
-            exercises.add(lesson_exercise(paper, number, kind.c_str()));
+            exercises.add(lesson_exercise(drawn(paper, number, kind).c_str(), nullptr));
         }
         for (unsigned number = 1; number <= numbersMarked; ++number) {
             addMarks(marks, placeOf(choice, paper, number), kind);

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "lesson/lesson.h"
+#include "lesson/tests/support/reference.hpp"
 
 namespace
 {
@@ -65,7 +66,7 @@ const std::vector<std::string>& everyKind()
 {
     static const std::vector<std::string> all = [] {
         std::vector<std::string> kinds;
-        for (const Json& row : Json::parse(lesson_kinds())) {
+        for (const Json& row : Json::parse(lesson_kinds(nullptr))) {
             for (std::size_t level = 1; level <= row["levels"].size(); ++level) {
                 kinds.push_back(row["kind"].get<std::string>() + ":" + std::to_string(level));
             }
@@ -77,12 +78,13 @@ const std::vector<std::string>& everyKind()
 
 Json exerciseAt(const std::string& kind, unsigned paper, unsigned number)
 {
-    return Json::parse(withNumbersAsTexts(lesson_exercise(paper, number, kind.c_str())));
+    return Json::parse(
+        withNumbersAsTexts(lesson_exercise(drawn(paper, number, kind).c_str(), nullptr)));
 }
 
 Json markOn(const std::string& kind, unsigned paper, unsigned number, const std::string& typed)
 {
-    return Json::parse(lesson_mark(paper, number, kind.c_str(), typed.c_str()));
+    return Json::parse(lesson_mark(drawn(paper, number, kind).c_str(), typed.c_str(), nullptr));
 }
 
 std::string verdictOn(const std::string& kind, unsigned paper, unsigned number,

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "lesson/lesson.h"
+#include "lesson/tests/support/reference.hpp"
 
 namespace lesson
 {
@@ -36,7 +37,7 @@ Lines approved(const std::string& name)
 void expectApproved(const std::string& format, const std::string& name)
 {
     const std::string sheet = approved(format + ".sheet").at(0);
-    std::istringstream file(lesson_export(4821, sheet.c_str(), format.c_str()));
+    std::istringstream file(lesson_export(sheetOf(4821, sheet).c_str(), format.c_str(), nullptr));
     const Lines found = linesOf(file);
     const Lines expected = approved(name);
     ASSERT_EQ(found.size(), expected.size());

@@ -189,7 +189,7 @@ TEST(SelectionTest, TheOrderOfTheNamesDoesNotMatter)
 }
 
 // A kind that is none of the library's.
-const Kind toy = {8, 1, "toy", "Toy", {"One", "Two", "Three"}, false, nullptr};
+const Kind toy = {8, 1, "toy", "Toy", {"One", "Two", "Three"}, false, nullptr, nullptr};
 
 // "titration:2#3", and so for the first exercises of a paper.
 std::string placesOf(std::string_view names, const KindList& kinds)
@@ -225,7 +225,7 @@ TEST(SelectionTest, TheOrderOfTheListDoesNotMatter)
 
 TEST(SelectionTest, KindsBeyondTheFirstWordOfTheSetAreToldApart)
 {
-    const Kind far = {40, 1, "far", "Far", {"One", "Two", "Three"}, false, nullptr};
+    const Kind far = {40, 1, "far", "Far", {"One", "Two", "Three"}, false, nullptr, nullptr};
     KindList kinds = allKinds();
     kinds.push_back(&far);
     kinds.push_back(&toy);

@@ -10,6 +10,12 @@ namespace lesson
 namespace
 {
 
+// A sheet of paper 4821.
+Sheet sheetNaming(const std::string& list)
+{
+    return readSheet("4821/" + list);
+}
+
 // "7:2*4 5:2*3@7 ", kinds by their numbers, or the error.
 std::string textOf(const Sheet& sheet)
 {
@@ -45,7 +51,7 @@ TEST(SheetTest, KindsWithTheirCountsInTheOrderOfTheList)
         {"0*titration,titration", "7:2*0 7:2*1 "},
     };
     for (const Case& one : cases) {
-        EXPECT_EQ(textOf(readSheet(one.list)), one.expected) << one.list;
+        EXPECT_EQ(textOf(sheetNaming(one.list)), one.expected) << one.list;
     }
 }
 
@@ -125,7 +131,7 @@ TEST(SheetTest, WhatCannotBeReadIsToldInASentence)
         {"600*titration,401*titration@601", many},
     };
     for (const Case& one : cases) {
-        EXPECT_EQ(readSheet(one.list).error, one.error) << one.list;
+        EXPECT_EQ(sheetNaming(one.list).error, one.error) << one.list;
     }
 }
 
@@ -134,7 +140,7 @@ TEST(SheetTest, ALongTextIsCutInTheSentence)
     for (const std::string& list :
          {std::string(1000000, 'x'), std::string(1000000, 'x') + "*",
           std::string(1000000, '9') + "*titration", "titration@" + std::string(1000000, '9')}) {
-        EXPECT_LT(readSheet(list).error.size(), 200U) << list.substr(0, 20);
+        EXPECT_LT(sheetNaming(list).error.size(), 200U) << list.substr(0, 20);
     }
 }
 
@@ -144,14 +150,14 @@ TEST(SheetTest, ALongListIsReadToItsEnd)
     for (unsigned entry = 0; entry < 300000; ++entry) {
         list += "1000*titration@5,";
     }
-    EXPECT_EQ(readSheet(list + "titration").error, "A sheet has at most 1000 exercises.");
+    EXPECT_EQ(sheetNaming(list + "titration").error, "A sheet has at most 1000 exercises.");
 }
 
 TEST(SheetTest, ExercisesNamedByTheirNumbersComeInTheOrderOfTheList)
 {
     std::string text;
-    for (const Place& place :
-         placesOf(readSheet("titration@9,2*titration,dilution:3@4,2*titration@7"), 4821)) {
+    for (const auto& [place, description] :
+         referencesOf(sheetNaming("titration@9,2*titration,dilution:3@4,2*titration@7"))) {
         text += std::to_string(place.kind->seed) + ":" + std::to_string(place.level) + "#" +
                 std::to_string(place.number) + " ";
     }
@@ -161,12 +167,35 @@ TEST(SheetTest, ExercisesNamedByTheirNumbersComeInTheOrderOfTheList)
 TEST(SheetTest, EachKindAndLevelIsNumberedFromOne)
 {
     std::string text;
-    for (const Place& place : placesOf(readSheet("2*titration,dilution:3,2*titration:1"), 4821)) {
+    for (const auto& [place, description] :
+         referencesOf(sheetNaming("2*titration,dilution:3,2*titration:1"))) {
         EXPECT_EQ(place.paper, 4821U);
         text += std::to_string(place.kind->seed) + ":" + std::to_string(place.level) + "#" +
                 std::to_string(place.number) + " ";
     }
     EXPECT_EQ(text, "7:2#1 7:2#2 5:3#1 7:1#1 7:1#2 ");
+}
+
+TEST(SheetTest, DescriptionsStandInBracketsAmongTheOthersWithTheirCommas)
+{
+    const std::string titration = "titration;acid=H2SO4;base=LiOH;asked=base;c=0.0600;burette=acid;"
+                                  "titre=15.35,14.45,14.55;pipette=25.0;"
+                                  "indicator=phenolphthalein";
+    const Sheet sheet = sheetNaming("dilution:1,[" + titration + "],[ion-formula;ion=Cl^-]");
+    EXPECT_EQ(sheet.error, "");
+    std::string text;
+    for (const auto& [place, description] : referencesOf(sheet)) {
+        text += description.empty() ? nameOf({place.kind, place.level}) : description;
+        text += "|";
+    }
+    EXPECT_EQ(text, "dilution:1|" + titration + "|ion-formula;ion=Cl^-|");
+}
+
+TEST(SheetTest, DescriptionsNeedNoPaper)
+{
+    EXPECT_EQ(readSheet("[ion-formula;ion=Cl^-],[ion-formula;ion=Cl^-]").error, "");
+    EXPECT_EQ(readSheet("[ion-formula;ion=Cl^-],titration").error,
+              "The paper has to be a number from 1 to 999999.");
 }
 
 } // namespace

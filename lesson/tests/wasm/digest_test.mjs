@@ -28,16 +28,17 @@ function digestLine(/** @type {Awaited<ReturnType<typeof loadLesson>>} */ lesson
     let files = 2166136261;
     for (let paper = 1; paper <= 20; ++paper) {
         for (const format of ["moodle", "anki"]) {
-            files = add(files, lesson.bytes("lesson_export", paper, `20*${kind}`, format));
+            files = add(files, lesson.bytes("lesson_export", `${paper}/20*${kind}`, format, null));
         }
     }
     for (let paper = 1; paper <= 100; ++paper) {
         for (let number = 1; number <= 100; ++number) {
-            const bytes = lesson.bytes("lesson_exercise", paper, number, kind);
+            const exercise = `${paper}/${number}/${kind}`;
+            const bytes = lesson.bytes("lesson_exercise", exercise, null);
             exercises = add(exercises, bytes);
             if (number > 5) continue;
             for (const typed of typedTexts(JSON.parse(decoder.decode(bytes)))) {
-                marks = add(marks, lesson.bytes("lesson_mark", paper, number, kind, typed));
+                marks = add(marks, lesson.bytes("lesson_mark", exercise, typed, null));
             }
         }
     }
@@ -45,7 +46,7 @@ function digestLine(/** @type {Awaited<ReturnType<typeof loadLesson>>} */ lesson
 }
 
 test("every kind is approved at each of its levels", async () => {
-    const kinds = (await loadLesson()).json("lesson_kinds");
+    const kinds = (await loadLesson()).json("lesson_kinds", null);
     assert.deepEqual(
         approved.map((line) => line.split(" ")[0]),
         kinds.flatMap((/** @type {{ kind: string, levels: string[] }} */ row) =>

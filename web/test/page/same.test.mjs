@@ -55,11 +55,12 @@ function listen() {
 
 function makeAll(/** @type {Course} */ { paper, count, kinds }) {
     const module = window.lesson;
-    const bytes = new TextEncoder().encode(`${kinds}\0`);
-    const at = module.malloc(bytes.length);
-    new Uint8Array(module.memory.buffer).set(bytes, at);
     return Array.from({ length: count }, (_, made) => {
-        const text = module.lesson_exercise(paper, made + 1, at);
+        const bytes = new TextEncoder().encode(`${paper}/${made + 1}/${kinds}\0`);
+        const at = module.malloc(bytes.length);
+        new Uint8Array(module.memory.buffer).set(bytes, at);
+        const text = module.lesson_exercise(at, 0);
+        module.free(at);
         const memory = new Uint8Array(module.memory.buffer);
         return new TextDecoder().decode(memory.subarray(text, memory.indexOf(0, text)));
     });

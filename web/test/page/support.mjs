@@ -168,18 +168,18 @@ export async function openLesson() {
     /** @type {(name: LessonFunction, ...args: Argument[]) => string} */
     const text = (name, ...args) => textOf(module, name, ...args);
     const exerciseText = (/** @type {number} */ paper, /** @type {number} */ number, /** @type {string} */ kind) =>
-        text("lesson_exercise", paper, number, kind);
+        text("lesson_exercise", `${paper}/${number}/${kind}`, null);
     return {
         exerciseText,
         exportText: (/** @type {number} */ paper, /** @type {string} */ sheet, /** @type {string} */ format) =>
-            text("lesson_export", paper, sheet, format),
+            text("lesson_export", `${paper}/${sheet}`, format, null),
         /** @returns {Exercise} */
         exercise: (/** @type {number} */ paper, /** @type {number} */ number, /** @type {string} */ kind) =>
             JSON.parse(exerciseText(paper, number, kind)),
         /** @returns {KindInfo[]} */
-        kinds: () => JSON.parse(text("lesson_kinds")),
+        kinds: () => JSON.parse(text("lesson_kinds", null)),
         /** @returns {Tables} */
-        tables: () => JSON.parse(text("lesson_tables")),
+        tables: () => JSON.parse(text("lesson_tables", null)),
     };
 }
 
