@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "lesson/lesson.h"
+#include "lesson/tests/support/reference.hpp"
 
 namespace lesson
 {
@@ -14,7 +15,7 @@ namespace
 
 std::string fileOf(const char* sheet)
 {
-    return lesson_export(4821, sheet, "anki");
+    return lesson_export(sheetOf(4821, sheet).c_str(), "anki", nullptr);
 }
 
 // Those of the cards, behind the header.

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "lesson/lesson.h"
+#include "lesson/tests/support/reference.hpp"
 
 namespace lesson
 {
@@ -12,7 +13,7 @@ namespace
 
 std::string fileOf(const char* sheet)
 {
-    return lesson_export(4821, sheet, "moodle");
+    return lesson_export(sheetOf(4821, sheet).c_str(), "moodle", nullptr);
 }
 
 bool holds(const std::string& file, const std::string& part)
