@@ -22,7 +22,7 @@ std::string_view takeUpTo(std::string_view& rest, char separator)
 }
 
 constexpr int mostFigures = 4;
-constexpr int mostDecimals = 4;
+constexpr int mostDecimals = 6;
 
 // Digits with or without a point inside, at most four of them besides zeros at the front.
 std::optional<Ratio> numberOf(std::string_view text)
