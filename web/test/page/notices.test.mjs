@@ -47,16 +47,7 @@ for (const hash of ["#practice/4821/3/titration:3", "#tables", "#sheet/4821/2*io
     });
 }
 
-for (const [name, file] of [
-    ["fflate", new URL("../../node_modules/fflate/LICENSE", import.meta.url)],
-    ["the Apache License", "/usr/share/common-licenses/Apache-2.0"],
-]) {
-    test(`${name} is quoted in full`, async (context) => {
-        const text = await readFile(file, "utf8").catch(() => "");
-        if (text === "") {
-            context.skip("this system has no copy to compare with");
-            return;
-        }
-        assert.ok(wordsOf(notices).join(" ").includes(wordsOf(text).join(" ")), text.slice(0, 200));
-    });
-}
+test("the licence of fflate is quoted in full", async () => {
+    const licence = await readFile(new URL("../../node_modules/fflate/LICENSE", import.meta.url), "utf8");
+    assert.ok(wordsOf(notices).join(" ").includes(wordsOf(licence).join(" ")));
+});
