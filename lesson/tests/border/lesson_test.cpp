@@ -44,7 +44,8 @@ TEST(InterfaceTest, TheKindsInOrderWithThreeLevelsEach)
     const Json rows = Json::parse(lesson_kinds(nullptr));
     ASSERT_EQ(rows.size(), allKinds().size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        EXPECT_EQ(members(rows[i]), (std::vector<std::string>{"kind", "version", "title", "levels"}));
+        EXPECT_EQ(members(rows[i]),
+                  (std::vector<std::string>{"kind", "version", "title", "levels"}));
         EXPECT_EQ(rows[i]["kind"], std::string(allKinds()[i]->slug));
         EXPECT_FALSE(rows[i]["title"].get<std::string>().empty());
         EXPECT_EQ(rows[i]["levels"].size(), 3U) << rows[i];

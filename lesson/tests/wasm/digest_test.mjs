@@ -49,9 +49,7 @@ test("every kind is approved at each of its levels", async () => {
     const kinds = (await loadLesson()).json("lesson_kinds", null);
     assert.deepEqual(
         approved.map((line) => line.split(" ")[0]),
-        kinds.flatMap((/** @type {{ kind: string, levels: string[] }} */ row) =>
-            row.levels.map((_, i) => `${row.kind}:${i + 1}`),
-        ),
+        kinds.flatMap((/** @type {{ kind: string, levels: string[] }} */ row) => row.levels.map((_, i) => `${row.kind}:${i + 1}`)),
     );
 });
 

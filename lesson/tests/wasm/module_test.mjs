@@ -72,7 +72,8 @@ test("a described exercise is the drawn one but for paper and number", async () 
 
 test("a comma before decimals is read as the reader writes", async () => {
     const lesson = await loadLesson();
-    const thousands = (/** @type {string | null} */ writing) => lesson.json("lesson_mark", "molar-mass;formula=NaCl", "58,443", writing).verdict;
+    const thousands = (/** @type {string | null} */ writing) =>
+        lesson.json("lesson_mark", "molar-mass;formula=NaCl", "58,443", writing).verdict;
     assert.equal(thousands(null), "unreadable");
     assert.notEqual(thousands("en-GB;decimal=,"), "unreadable");
 });
