@@ -179,8 +179,8 @@ constexpr Named named[] = {
 
 constexpr bool areNamedRight()
 {
-    for (std::size_t i = 0; i < std::size(named); ++i) {
-        if (rows[named[i].element - 1].symbol != named[i].symbol) {
+    for (const Named& one : named) {
+        if (rows[one.element - 1].symbol != one.symbol) {
             return false;
         }
     }

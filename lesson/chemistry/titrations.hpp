@@ -28,7 +28,7 @@ struct TitrationRow {
     Ion cation; // of the base
     Indicator indicator;
     InBurette inBurette;
-    int times = 3; // how often it comes, beside the others of its ratio
+    int times; // how often it comes, beside the others of its ratio
 };
 const std::vector<TitrationRow>& titrations();
 
