@@ -14,7 +14,7 @@ enum class Said { itDissolves, itDoesNot, unclear };
 
 // Reads whether a compound dissolves, in any words that are usual: "y", "all nitrates are soluble",
 // "no, because it is insoluble". The words are those of `wordsOf`.
-Said saidOf(const std::string& words);
+Said saidOf(const std::string& typed);
 
 // Whether they say that nothing precipitates. Who begins with "none" may go on in any words but
 // those that take it back.
