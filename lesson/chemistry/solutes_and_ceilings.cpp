@@ -116,8 +116,8 @@ constexpr int ceilingOf(const HydrateRow& hydrate)
 
 constexpr bool haveCeilings()
 {
-    for (std::size_t i = 0; i < std::size(hydrateRows); ++i) {
-        if (ceilingOf(hydrateRows[i]) == 0) {
+    for (const HydrateRow& hydrate : hydrateRows) {
+        if (ceilingOf(hydrate) == 0) {
             return false;
         }
     }

@@ -13,7 +13,7 @@ namespace
 std::string takeLine(std::string& lines)
 {
     const std::size_t end = std::min(lines.find('\n'), lines.size());
-    const std::string line = lines.substr(0, end);
+    std::string line = lines.substr(0, end);
     lines.erase(0, std::min(end + 1, lines.size()));
     return line;
 }
