@@ -21,7 +21,7 @@ std::string without(std::string json, const std::string& name)
 
 std::string descriptionIn(const std::string& json)
 {
-    const std::string member = "\"description\":\"";
+    const std::string member = R"("description":")";
     const std::size_t at = json.find(member) + member.size();
     return json.substr(at, json.find('"', at) - at);
 }
