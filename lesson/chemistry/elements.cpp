@@ -179,12 +179,11 @@ constexpr Named named[] = {
 
 constexpr bool areNamedRight()
 {
+    bool areRight = true;
     for (const Named& one : named) {
-        if (rows[one.element - 1].symbol != one.symbol) {
-            return false;
-        }
+        areRight = areRight && rows[one.element - 1].symbol == one.symbol;
     }
-    return true;
+    return areRight;
 }
 static_assert(areNamedRight(), "a name stands for its element");
 

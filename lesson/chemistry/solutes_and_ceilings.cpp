@@ -116,12 +116,11 @@ constexpr int ceilingOf(const HydrateRow& hydrate)
 
 constexpr bool haveCeilings()
 {
+    bool haveAll = true;
     for (const HydrateRow& hydrate : hydrateRows) {
-        if (ceilingOf(hydrate) == 0) {
-            return false;
-        }
+        haveAll = haveAll && ceilingOf(hydrate) != 0;
     }
-    return true;
+    return haveAll;
 }
 static_assert(haveCeilings(), "a hydrate's salt has a row");
 
