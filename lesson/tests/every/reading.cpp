@@ -78,8 +78,12 @@ const std::vector<std::string>& everyKind()
 
 Json exerciseAt(const std::string& kind, unsigned paper, unsigned number)
 {
-    return Json::parse(
-        withNumbersAsTexts(lesson_exercise(drawn(paper, number, kind).c_str(), nullptr)));
+    return Json::parse(withNumbersAsTexts(exerciseText(kind, paper, number)));
+}
+
+std::string exerciseText(const std::string& kind, unsigned paper, unsigned number)
+{
+    return lesson_exercise(drawn(paper, number, kind).c_str(), nullptr);
 }
 
 Json markOn(const std::string& kind, unsigned paper, unsigned number, const std::string& typed)
