@@ -51,7 +51,7 @@ struct GivenIon {
 };
 struct GivenCompound {
     std::string formula;
-    std::string name;
+    Name name;
 };
 using Given = std::variant<GivenQuantity, GivenIon, GivenCompound>;
 
@@ -69,7 +69,7 @@ struct Step {
 struct Slip {
     std::string text;
     std::optional<Ratio> value;
-    std::string sentence;
+    Spans sentence;
 };
 
 // What typed answers are compared with, form by form.
@@ -154,10 +154,10 @@ enum class Verdict {
     unreadable,
 };
 
-// What a typed answer gets. The sentence is for the learner, in plain text with plain formulas.
+// What a typed answer gets, and what is said of it to the learner.
 struct Mark {
     Verdict verdict;
-    std::string sentence;
+    Spans sentence;
 };
 
 // Marks what was typed, whatever bytes it holds, in time proportional to its length; its numbers

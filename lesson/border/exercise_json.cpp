@@ -5,6 +5,7 @@
 
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/numbers/decimal.hpp"
+#include "lesson/words/render.hpp"
 
 namespace lesson
 {
@@ -91,7 +92,10 @@ void addMembers(Json& json, const Span& span)
         break;
     case Span::Kind::name:
         json.member("name", span.text);
-        addUnlessEmpty(json, "american", span.detail);
+        break;
+    case Span::Kind::nameless: // what is rendered has none of these
+    case Span::Kind::sentence:
+    case Span::Kind::line:
         break;
     }
 }
@@ -101,14 +105,14 @@ void add(Json& json, const Spans& spans)
     json.array(spans, [&](const Span& span) { json.object([&] { addMembers(json, span); }); });
 }
 
-void add(Json& json, const Ask& ask)
+void add(Json& json, const Ask& ask, const Writing& writing)
 {
     json.object([&] {
         json.member("form", nameOf(ask.form));
         if (ask.form == Form::number) {
             json.member("quantity", ask.quantity);
             json.member("of", ask.of);
-            json.member("unit", ask.unit);
+            json.member("unit", unitIn(writing, ask.unit));
             json.member("figures", ask.figures);
         }
         if (!ask.choices.empty()) {
@@ -118,14 +122,14 @@ void add(Json& json, const Ask& ask)
     });
 }
 
-void addMembers(Json& json, const GivenQuantity& given)
+void addMembers(Json& json, const GivenQuantity& given, const Writing& writing)
 {
     json.member("quantity", given.quantity);
     json.member("of", given.of);
     json.member("value", given.value);
     json.member("unit", given.unit);
-    json.member("shown", given.shown);
-    json.member("shownUnit", given.shownUnit);
+    json.member("shown", numberIn(writing, given.shown));
+    json.member("shownUnit", unitIn(writing, given.shownUnit));
     if (!given.titres.empty()) {
         json.key("titres").array(given.titres, [&](int hundredths) {
             json.number(plainText({hundredths, -2}));
@@ -133,22 +137,23 @@ void addMembers(Json& json, const GivenQuantity& given)
     }
 }
 
-void addMembers(Json& json, const GivenIon& given)
+void addMembers(Json& json, const GivenIon& given, const Writing& writing)
 {
     json.member("ion", given.ion->formula);
     json.member("charge", given.ion->charge);
-    json.member("name", nameInFull(*given.ion));
+    json.member("name", nameIn(*writing.language, nameOf(*given.ion)));
 }
 
-void addMembers(Json& json, const GivenCompound& given)
+void addMembers(Json& json, const GivenCompound& given, const Writing& writing)
 {
     json.member("compound", given.formula);
-    json.member("name", given.name);
+    json.member("name", nameIn(*writing.language, given.name));
 }
 
-void add(Json& json, const Given& given)
+void add(Json& json, const Given& given, const Writing& writing)
 {
-    json.object([&] { std::visit([&](const auto& one) { addMembers(json, one); }, given); });
+    json.object(
+        [&] { std::visit([&](const auto& one) { addMembers(json, one, writing); }, given); });
 }
 
 using Species = std::pair<int, std::string>;
@@ -187,7 +192,7 @@ void add(Json& json, const Slip& slip)
         if (slip.value) {
             json.member("value", *slip.value);
         }
-        json.member("sentence", slip.sentence);
+        add(json.key("sentence"), slip.sentence);
     });
 }
 
@@ -219,16 +224,18 @@ void addEach(Json& json, std::string_view name, const Table& table)
 
 } // namespace
 
-std::string exerciseJson(const Exercise& exercise)
+std::string exerciseJson(Exercise exercise, const Writing& writing)
 {
+    render(exercise, writing);
     Json json;
     json.object([&] {
         json.member("version", static_cast<int>(exercise.place.kind->version));
         addPlace(json, exercise.place);
         json.member("description", exercise.description);
         add(json.key("prompt"), exercise.prompt);
-        add(json.key("ask"), exercise.ask);
-        addEach(json, "given", exercise.given);
+        add(json.key("ask"), exercise.ask, writing);
+        json.key("given").array(exercise.given,
+                                [&](const Given& given) { add(json, given, writing); });
         if (exercise.equation) {
             add(json.key("equation"), *exercise.equation);
         }
@@ -239,12 +246,12 @@ std::string exerciseJson(const Exercise& exercise)
     return json.take();
 }
 
-std::string markJson(const Mark& mark)
+std::string markJson(const Mark& mark, const Writing& writing)
 {
     Json json;
     json.object([&] {
         json.member("verdict", nameOf(mark.verdict));
-        json.member("sentence", mark.sentence);
+        add(json.key("sentence"), rendered(mark.sentence, writing));
     });
     return json.take();
 }

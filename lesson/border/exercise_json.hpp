@@ -10,8 +10,8 @@ namespace lesson
 {
 
 // An exercise and a mark as front ends get them; docs/lesson.md describes each member.
-std::string exerciseJson(const Exercise& exercise);
-std::string markJson(const Mark& mark);
+std::string exerciseJson(Exercise exercise, const Writing& writing);
+std::string markJson(const Mark& mark, const Writing& writing);
 // {"read":[…]}, the spans that `readAnswer` gives; none where nothing was read.
 std::string readJson(const std::optional<Spans>& read);
 

@@ -72,12 +72,12 @@ std::string withExercise(const char* text, const char* writing, const AnswerTo& 
 std::string markedJson(const Exercise& exercise, const char* typed, const Writing& writing)
 {
     return typed == nullptr ? errorJson("There is no typed text.")
-                            : markJson(markAnswer(exercise, typed, writing));
+                            : markJson(markAnswer(exercise, typed, writing), writing);
 }
 
 struct Format {
     std::string_view name;
-    std::string (*write)(const std::vector<Reference>& exercises);
+    std::string (*write)(const std::vector<Reference>& exercises, const Writing& writing);
 };
 constexpr Format formats[] = {{"moodle", moodleXml}, {"anki", ankiCards}};
 
@@ -89,7 +89,7 @@ const Format* findFormat(std::string_view name)
     return found == std::end(formats) ? nullptr : found;
 }
 
-std::string exported(const char* sheetText, const char* formatName)
+std::string exported(const char* sheetText, const char* formatName, const Writing& writing)
 {
     const Sheet sheet = readSheet(textIn(sheetText));
     if (!sheet.error.empty()) {
@@ -99,7 +99,7 @@ std::string exported(const char* sheetText, const char* formatName)
     if (format == nullptr) {
         return errorJson("The format has to be moodle or anki.");
     }
-    std::string file = format->write(referencesOf(sheet));
+    std::string file = format->write(referencesOf(sheet), writing);
     return file.empty() ? errorJson("Nothing on this sheet fits a card: formulas, ions and "
                                     "solubility do.")
                         : file;
@@ -131,8 +131,8 @@ const char* lesson_exercise(const char* exercise, const char* writing)
     thread_local std::string result;
     return lesson::kept(
         result, lesson::withExercise(exercise, writing,
-                                     [](const lesson::Exercise& made, const lesson::Writing&) {
-                                         return lesson::exerciseJson(made);
+                                     [](const lesson::Exercise& made, const lesson::Writing& written) {
+                                         return lesson::exerciseJson(made, written);
                                      }));
 }
 
@@ -150,16 +150,16 @@ const char* lesson_mark(const char* exercise, const char* typed, const char* wri
 const char* lesson_tables(const char* writing)
 {
     thread_local std::string result;
-    return lesson::kept(result, lesson::withWriting(writing, [](const lesson::Writing&) {
-                            return lesson::tablesJson();
+    return lesson::kept(result, lesson::withWriting(writing, [](const lesson::Writing& written) {
+                            return lesson::tablesJson(*written.language);
                         }));
 }
 
 const char* lesson_export(const char* sheet, const char* format, const char* writing)
 {
     thread_local std::string result;
-    return lesson::kept(result, lesson::withWriting(writing, [&](const lesson::Writing&) {
-                            return lesson::exported(sheet, format);
+    return lesson::kept(result, lesson::withWriting(writing, [&](const lesson::Writing& written) {
+                            return lesson::exported(sheet, format, written);
                         }));
 }
 // NOLINTEND(clang-analyzer-cplusplus.InnerPointer)

@@ -19,30 +19,22 @@ namespace
 // Raised by every change of what they hold.
 constexpr int tablesVersion = 1;
 
-void addName(Json& json, std::string_view name, std::string_view american)
-{
-    json.member("name", name);
-    if (!american.empty()) {
-        json.member("american", american);
-    }
-}
-
-void add(Json& json, const ElementRow& row)
+void add(Json& json, const ElementRow& row, const Language& language)
 {
     json.object([&] {
         json.member("number", row.number);
         json.member("symbol", row.symbol);
-        addName(json, row.name, row.american);
+        json.member("name", nameIn(language, nameOf(row)));
         json.member("mass", shownMass(row));
         json.member("period", row.period);
         json.member("group", row.group);
     });
 }
 
-void add(Json& json, const IonRow& ion)
+void add(Json& json, const IonRow& ion, const Language& language)
 {
     json.object([&] {
-        addName(json, nameInFull(ion), ion.american);
+        json.member("name", nameIn(language, nameOf(ion)));
         json.member("formula", ion.formula);
         json.member("charge", ion.charge);
     });
@@ -53,24 +45,24 @@ std::string_view verdict(bool isSoluble)
     return isSoluble ? "soluble" : "insoluble";
 }
 
-void addNames(Json& json, const IonSet& ofCations)
+void addNames(Json& json, const IonSet& ofCations, const Language& language)
 {
     json.elements([&] {
         for (const IonRow* const cation : cations()) {
             if (ofCations.has(cation->id)) {
-                json.text(nameInFull(*cation));
+                json.text(nameIn(language, nameOf(*cation)));
             }
         }
     });
 }
 
-void add(Json& json, const SolubilityRule& rule)
+void add(Json& json, const SolubilityRule& rule, const Language& language)
 {
     json.object([&] {
-        json.member("anion", nameInFull(rowOf(rule.anion)));
+        json.member("anion", nameIn(language, nameOf(rowOf(rule.anion))));
         json.member("family", rule.family);
         json.member("verdict", verdict(rule.isSoluble));
-        addNames(json.key("exceptions"), rule.exceptions);
+        addNames(json.key("exceptions"), rule.exceptions, language);
         json.member("sentence", rule.sentence);
     });
 }
@@ -82,11 +74,11 @@ void addVerdict(Json& json, const Pair& pair)
     json.member("reason", whyNot.empty() ? ruleFor(*pair.anion)->sentence : whyNot);
 }
 
-void add(Json& json, const Pair& pair)
+void add(Json& json, const Pair& pair, const Language& language)
 {
     json.object([&] {
-        json.member("cation", nameInFull(*pair.cation));
-        json.member("anion", nameInFull(*pair.anion));
+        json.member("cation", nameIn(language, nameOf(*pair.cation)));
+        json.member("anion", nameIn(language, nameOf(*pair.anion)));
         if (whyFormulaIsNotAsked(pair).empty()) {
             json.member("formula", compoundFormula(*pair.cation, *pair.anion));
         }
@@ -94,32 +86,32 @@ void add(Json& json, const Pair& pair)
     });
 }
 
-void addElements(Json& json)
+void addElements(Json& json, const Language& language)
 {
     json.elements([&] {
         for (int number = 1; number <= elementCount; ++number) {
-            add(json, element(number));
+            add(json, element(number), language);
         }
     });
 }
 
-void addIons(Json& json)
+void addIons(Json& json, const Language& language)
 {
     json.elements([&] {
         for (const auto* const list : {&cations(), &anions(), &furtherIons()}) {
             for (const IonRow* const ion : *list) {
-                add(json, *ion);
+                add(json, *ion, language);
             }
         }
     });
 }
 
-void addPairs(Json& json)
+void addPairs(Json& json, const Language& language)
 {
     json.elements([&] {
         for (const IonRow* const cation : cations()) {
             for (const IonRow* const anion : anions()) {
-                add(json, Pair{cation, anion});
+                add(json, Pair{cation, anion}, language);
             }
         }
     });
@@ -127,16 +119,16 @@ void addPairs(Json& json)
 
 } // namespace
 
-std::string tablesJson()
+std::string tablesJson(const Language& language)
 {
     Json json;
     json.object([&] {
         json.member("version", tablesVersion);
-        addElements(json.key("elements"));
-        addIons(json.key("ions"));
+        addElements(json.key("elements"), language);
+        addIons(json.key("ions"), language);
         json.key("rules").array(solubilityRules(),
-                                [&](const SolubilityRule& rule) { add(json, rule); });
-        addPairs(json.key("pairs"));
+                                [&](const SolubilityRule& rule) { add(json, rule, language); });
+        addPairs(json.key("pairs"), language);
     });
     return json.take();
 }

@@ -13,13 +13,13 @@ namespace
 
 // clang-format off
 constexpr AcidRow acidRows[] = {
-    {Acid::hydrochloric, "HCl",     Ion::chloride,     5, "hydrochloric acid", ""},
-    {Acid::hydrobromic,  "HBr",     Ion::bromide,      1, "hydrobromic acid",  ""},
-    {Acid::nitric,       "HNO3",    Ion::nitrate,      5, "nitric acid",       ""},
-    {Acid::sulfuric,     "H2SO4",   Ion::sulfate,      5, "sulfuric acid",     ""},
-    {Acid::phosphoric,   "H3PO4",   Ion::phosphate,    3, "phosphoric acid",   ""},
-    {Acid::ethanoic,     "CH3COOH", Ion::ethanoate,    4, "ethanoic acid",     "acetic acid"},
-    {Acid::ethanedioic,  "H2C2O4",  Ion::ethanedioate, 1, "ethanedioic acid",  "oxalic acid"},
+    {Acid::hydrochloric, "HCl",     Ion::chloride,     5},
+    {Acid::hydrobromic,  "HBr",     Ion::bromide,      1},
+    {Acid::nitric,       "HNO3",    Ion::nitrate,      5},
+    {Acid::sulfuric,     "H2SO4",   Ion::sulfate,      5},
+    {Acid::phosphoric,   "H3PO4",   Ion::phosphate,    3},
+    {Acid::ethanoic,     "CH3COOH", Ion::ethanoate,    4},
+    {Acid::ethanedioic,  "H2C2O4",  Ion::ethanedioate, 1},
 };
 
 struct BaseRow {
@@ -144,29 +144,9 @@ std::string formulaOf(const Base& base)
     return base.anion == nullptr ? "NH3" : compoundFormula(*base.cation, *base.anion);
 }
 
-std::string nameOf(const Base& base)
-{
-    return base.anion == nullptr ? "ammonia solution" : compoundName(*base.cation, *base.anion);
-}
-
-std::string americanNameOf(const Base& base)
-{
-    return base.anion == nullptr ? "" : americanName(*base.cation, *base.anion);
-}
-
 std::string saltFormula(const AcidRow& acid, const Base& base)
 {
     return compoundFormula(*base.cation, anionOf(acid));
-}
-
-std::string saltName(const AcidRow& acid, const Base& base)
-{
-    return compoundName(*base.cation, anionOf(acid));
-}
-
-std::string americanSaltName(const AcidRow& acid, const Base& base)
-{
-    return americanName(*base.cation, anionOf(acid));
 }
 
 } // namespace lesson

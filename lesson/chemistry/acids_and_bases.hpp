@@ -28,8 +28,6 @@ struct AcidRow {
     std::string_view formula;
     Ion anion;                 // what is left without the protons
     int weight;                // how common it is in comparison with others, as IonRow has it
-    std::string_view name;     // "ethanoic acid"
-    std::string_view american; // "acetic acid"; empty where that is the same
 };
 const AcidRow& rowOf(Acid acid);
 const std::vector<const AcidRow*>& acids();
@@ -84,15 +82,7 @@ Uptake uptakeOf(const Base& base);
 
 // "Ca(OH)2", "NH3".
 std::string formulaOf(const Base& base);
-// "calcium hydroxide", "ammonia solution".
-std::string nameOf(const Base& base);
-// Empty where it is the same.
-std::string americanNameOf(const Base& base);
-
-// Their salt, when all protons of the acid are gone: "CaSO4", "calcium sulfate". The American name
-// is empty where it is the same.
+// Their salt, when all protons of the acid are gone: "CaSO4".
 std::string saltFormula(const AcidRow& acid, const Base& base);
-std::string saltName(const AcidRow& acid, const Base& base);
-std::string americanSaltName(const AcidRow& acid, const Base& base);
 
 } // namespace lesson

@@ -24,11 +24,6 @@ std::string shareOf(const IonRow& ion, int count)
     return (ion.isGroup && count > 1 ? "(" + once + ")" : once) + number;
 }
 
-std::string americanNameOf(const IonRow& ion)
-{
-    return ion.american.empty() ? nameInFull(ion) : std::string(ion.american);
-}
-
 } // namespace
 
 bool operator==(const Pair& a, const Pair& b)
@@ -50,29 +45,9 @@ std::string compoundFormula(const IonRow& cation, const IonRow& anion)
     return shareOf(cation, cationsIn(cation, anion)) + shareOf(anion, anionsIn(cation, anion));
 }
 
-std::string compoundName(const IonRow& cation, const IonRow& anion)
-{
-    return nameInFull(cation) + " " + nameInFull(anion);
-}
-
-std::string americanName(const IonRow& cation, const IonRow& anion)
-{
-    if (cation.american.empty() && anion.american.empty()) {
-        return "";
-    }
-    return americanNameOf(cation) + " " + americanNameOf(anion);
-}
-
 std::string hydrateFormula(const std::string& formula, int water)
 {
     return formula + "." + (water == 1 ? "" : std::to_string(water)) + "H2O";
-}
-
-std::string hydrateName(const std::string& name, int water)
-{
-    constexpr const char* numbers[] = {"mono", "di",    "tri",  "tetra", "penta",
-                                       "hexa", "hepta", "octa", "nona",  "deca"};
-    return name + " " + numbers[water - 1] + "hydrate";
 }
 
 int cationsIn(const IonRow& cation, const IonRow& anion)

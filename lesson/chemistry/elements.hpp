@@ -15,8 +15,6 @@ struct ElementRow {
     std::string_view symbol;
     int period;                // row of the periodic table, 1 to 7
     int group;                 // column, 1 to 18; 0 for the lanthanides and actinides
-    std::string_view name;     // "aluminium"
-    std::string_view american; // "aluminum"; empty where that is the same
 };
 
 // The 118 elements by atomic number, 1 to 118.

@@ -4,8 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include "lesson/words/spans.hpp"
-
 namespace lesson
 {
 
@@ -15,8 +13,7 @@ struct Equation {
     std::vector<std::pair<int, std::string>> right;
 };
 
-// As it is typed, "2HCl + Na2CO3 -> 2NaCl + H2O + CO2", and as it is typeset.
+// As it is typed: "2HCl + Na2CO3 -> 2NaCl + H2O + CO2".
 std::string textOf(const Equation& equation);
-Spans spansOf(const Equation& equation);
 
 } // namespace lesson

@@ -76,8 +76,6 @@ struct IonRow {
     bool isGroup;              // of several atoms, which takes brackets where it occurs repeatedly
     int weight;                // how common it is in comparison with others, 1 to 6
     int oxidationNumber;       // that the name tells: 2 of copper(II), 7 of manganate(VII); else 0
-    std::string_view name;     // without that: "copper", "hydrogencarbonate"
-    std::string_view american; // its American name; empty where that is the same
 };
 const IonRow& rowOf(Ion ion);
 
@@ -89,12 +87,8 @@ const std::vector<const IonRow*>& furtherIons();
 
 // The ion with this formula and charge among all of these: "Cu", 2. Null where there is none.
 const IonRow* findIon(std::string_view formula, int charge);
-// The one of that name: "copper(II)", "sulfate". Null where there is none.
-const IonRow* findIon(std::string_view name);
 
-// "copper(II)", "sulfate".
-std::string nameInFull(const IonRow& ion);
-// Whether this tells an oxidation number, by a Roman numeral; of a cation that is its charge.
+// Whether its name tells an oxidation number, by a Roman numeral; of a cation that is its charge.
 bool hasRomanNumeral(const IonRow& ion);
 
 // The element of an ion of one atom; null for a group.

@@ -135,8 +135,7 @@ SoluteRow soluteOf(const SaltRow& row)
             row.ceiling,
             row.weighed,
             row.greatestMass,
-            compoundName(cation, anion),
-            americanName(cation, anion)};
+            nameOf(cation, anion)};
 }
 
 SoluteRow soluteOf(const HydrateRow& row)
@@ -150,16 +149,14 @@ SoluteRow soluteOf(const HydrateRow& row)
             ceilingOf(row),
             Weighed::asItIs,
             0,
-            hydrateName(compoundName(cation, anion), row.water),
-            ""};
+            nameOf(cation, anion, row.water)};
 }
 
 SoluteRow soluteOf(Acid acid, int ceiling, Weighed weighed)
 {
     const AcidRow& row = rowOf(acid);
     const std::string formula(row.formula);
-    return {SoluteKind::acid,         formula, formula, ceiling, weighed, 0, std::string(row.name),
-            std::string(row.american)};
+    return {SoluteKind::acid,         formula, formula, ceiling, weighed, 0, nameOf(row)};
 }
 
 SoluteRow soluteOf(const AcidSolutionRow& row)
@@ -171,7 +168,7 @@ SoluteRow ammoniaSolution()
 {
     const std::string formula = formulaOf(ammonia());
     return {SoluteKind::ammonia,     formula, formula,           0,
-            Weighed::comesDissolved, 0,       nameOf(ammonia()), americanNameOf(ammonia())};
+            Weighed::comesDissolved, 0,       nameOf(ammonia())};
 }
 
 template <typename Row, std::size_t N>

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "lesson/chemistry/acids_and_bases.hpp"
+#include "lesson/chemistry/name.hpp"
 
 namespace lesson
 {
@@ -31,8 +31,7 @@ struct SoluteRow {
                  // a range of their own
     Weighed weighed;
     int greatestMass;     // to weigh, in hundredths of a gram; 0 where the ceiling says enough
-    std::string name;     // "copper(II) sulfate pentahydrate", "hydrochloric acid"
-    std::string american; // "sodium acetate"; empty where that is the same
+    Name name;
 };
 
 // Salts and alkalis whose solutions are diluted.

@@ -3,7 +3,6 @@
 #include <iterator>
 #include <string_view>
 
-#include "lesson/chemistry/acids_and_bases.hpp"
 
 namespace lesson
 {
@@ -15,7 +14,7 @@ constexpr int everyday = 36; // as of sodium chloride
 
 struct MoleculeRow {
     std::string_view formula;
-    std::string_view name;
+    Molecule molecule;
 };
 
 struct CrystalRow {
@@ -27,14 +26,14 @@ struct CrystalRow {
 
 // clang-format off
 constexpr MoleculeRow moleculeRows[] = {
-    {"H2O",     "water"},
-    {"CO2",     "carbon dioxide"},
-    {"NH3",     "ammonia"},
-    {"CH4",     "methane"},
-    {"SO2",     "sulfur dioxide"},
-    {"C2H5OH",  "ethanol"},
-    {"C6H12O6", "glucose"},
-    {"H2O2",    "hydrogen peroxide"},
+    {"H2O",     Molecule::water},
+    {"CO2",     Molecule::carbonDioxide},
+    {"NH3",     Molecule::ammonia},
+    {"CH4",     Molecule::methane},
+    {"SO2",     Molecule::sulfurDioxide},
+    {"C2H5OH",  Molecule::ethanol},
+    {"C6H12O6", Molecule::glucose},
+    {"H2O2",    Molecule::hydrogenPeroxide},
 };
 constexpr Acid acidsOfMolecules[] = {Acid::nitric, Acid::sulfuric};
 
@@ -63,37 +62,28 @@ constexpr CrystalRow crystalRows[] = {
 static_assert(std::size(crystalRows) == 18);
 // clang-format on
 
-SubstanceRow withWater(const SubstanceRow& dry, int water)
-{
-    return {hydrateFormula(dry.formula, water), hydrateName(dry.name, water),
-            dry.american.empty() ? "" : hydrateName(dry.american, water), dry.weight};
-}
-
-SubstanceRow substanceOf(const AcidRow& acid, int weight)
-{
-    return {std::string(acid.formula), std::string(acid.name), std::string(acid.american), weight};
-}
 
 SubstanceRow substanceOf(const CrystalRow& row)
 {
     const IonRow& cation = rowOf(row.cation);
     const IonRow& anion = rowOf(row.anion);
     if (row.cation == Ion::hydrogen) {
-        return withWater(substanceOf(*findAcid(row.anion), row.weight), row.water);
+        const AcidRow& acid = *findAcid(row.anion);
+        return {hydrateFormula(std::string(acid.formula), row.water), nameOf(acid, row.water),
+                row.weight};
     }
-    return withWater({compoundFormula(cation, anion), compoundName(cation, anion),
-                      americanName(cation, anion), row.weight},
-                     row.water);
+    return {hydrateFormula(compoundFormula(cation, anion), row.water),
+            nameOf(cation, anion, row.water), row.weight};
 }
 
 std::vector<SubstanceRow> everyMolecule()
 {
     std::vector<SubstanceRow> all;
     for (const MoleculeRow& row : moleculeRows) {
-        all.push_back({std::string(row.formula), std::string(row.name), "", everyday});
+        all.push_back({std::string(row.formula), nameOf(row.molecule), everyday});
     }
     for (const Acid acid : acidsOfMolecules) {
-        all.push_back(substanceOf(rowOf(acid), everyday));
+        all.push_back({std::string(rowOf(acid).formula), nameOf(rowOf(acid)), everyday});
     }
     return all;
 }

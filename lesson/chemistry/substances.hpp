@@ -3,15 +3,16 @@
 #include <string>
 #include <vector>
 
+#include "lesson/chemistry/name.hpp"
+
 namespace lesson
 {
 
 // A substance whose molar mass is asked for, besides the compounds of two ions.
 struct SubstanceRow {
     std::string formula;
-    std::string name;
-    std::string american; // "oxalic acid dihydrate"; empty where that is the same
-    int weight;           // how common it is in comparison with others of its list
+    Name name;
+    int weight; // how common it is in comparison with others of its list
 };
 
 // What is made of molecules. The weights compare with those of pairs of ions.

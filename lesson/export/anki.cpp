@@ -5,6 +5,7 @@
 
 #include "lesson/export/html.hpp"
 #include "lesson/kinds/kind.hpp"
+#include "lesson/words/render.hpp"
 
 namespace lesson
 {
@@ -47,13 +48,14 @@ void addRemark(std::string& header, std::size_t count, std::string_view one, std
 
 } // namespace
 
-std::string ankiCards(const std::vector<Reference>& exercises)
+std::string ankiCards(const std::vector<Reference>& exercises, const Writing& writing)
 {
     std::string cards;
     std::set<std::string> fronts;
     std::size_t others = 0;
     for (const Reference& reference : exercises) {
-        const Exercise exercise = exerciseOf(reference).exercise;
+        Exercise exercise = exerciseOf(reference).exercise;
+        render(exercise, writing);
         if (!exercise.place.kind->fitsCard) {
             ++others;
             continue;

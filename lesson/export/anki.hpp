@@ -12,6 +12,6 @@ namespace lesson
 // and tags between tabs. Formulas, ions and solubility fit a card; calculations and equations are
 // left out, and so is a question that an earlier card asks already, since Anki tells cards apart by
 // their fronts. The header tells how many are left out. Empty where no exercise fits.
-std::string ankiCards(const std::vector<Reference>& exercises);
+std::string ankiCards(const std::vector<Reference>& exercises, const Writing& writing);
 
 } // namespace lesson

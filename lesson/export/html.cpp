@@ -116,6 +116,9 @@ std::string htmlOfSpan(const Span& span)
     case Span::Kind::text:
     case Span::Kind::unit:
     case Span::Kind::name:
+    case Span::Kind::nameless: // what is rendered has none of these
+    case Span::Kind::sentence:
+    case Span::Kind::line:
         break;
     }
     return escaped(span.text);

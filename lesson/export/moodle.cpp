@@ -11,6 +11,7 @@
 #include "lesson/kinds/kind.hpp"
 #include "lesson/numbers/decimal.hpp"
 #include "lesson/text/scan.hpp"
+#include "lesson/words/render.hpp"
 
 namespace lesson
 {
@@ -271,7 +272,7 @@ std::string categoryOf(const std::vector<Reference>& exercises)
 
 } // namespace
 
-std::string moodleXml(const std::vector<Reference>& exercises)
+std::string moodleXml(const std::vector<Reference>& exercises, const Writing& writing)
 {
     std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<quiz>\n"
                       "<question type=\"category\">\n<category>";
@@ -279,7 +280,8 @@ std::string moodleXml(const std::vector<Reference>& exercises)
                  "</text></category>\n</question>\n"});
     std::size_t placeOnSheet = 0;
     for (const Reference& reference : exercises) {
-        const Exercise exercise = exerciseOf(reference).exercise;
+        Exercise exercise = exerciseOf(reference).exercise;
+        render(exercise, writing);
         addQuestion(xml, exercise, labelOf(exercise.place, ++placeOnSheet));
     }
     return xml + "</quiz>\n";

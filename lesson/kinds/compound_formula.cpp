@@ -104,7 +104,7 @@ std::vector<Step> workedSolution(const IonRow& cation, const IonRow& anion)
     const bool isOneEach = positive == 1 && negative == 1;
     const bool hasBracket = repeatsGroup(cation, anion);
     return {
-        {line(capitalised(nameOf(cation, anion)), " has these ions.",
+        {line(nameOf(cation, anion), " has these ions.",
               hasRomanNumeral(cation) ? " The Roman numeral is the charge of the metal ion." : ""),
          line(spanOf(cation), ", ", spanOf(anion)), line(ionsHint(cation))},
         {line(isOneEach ? "One of each: the charges cancel."

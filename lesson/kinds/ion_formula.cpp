@@ -184,16 +184,11 @@ std::vector<Step> groupSolution(const IonRow& ion)
         hasRomanNumeral(ion) ? " The Roman numeral is not the charge of the ion." : "";
     const std::string plain(ion.formula);
     return {
-        {line(capitalised(nameOf(ion)), " is ", atomsInWords(compositionOf(plain).atoms), "."),
+        {line(nameOf(ion), " is ", atomsInWords(compositionOf(plain).atoms), "."),
          line(formula(plain)), line(hintFor(ion).atoms)},
         {line("The group as a whole has the charge ", chargeWords(ion), ".", remark),
          line(spanOf(ion)), line(chargeHint(hintFor(ion)))},
     };
-}
-
-Span nameOf(const ElementRow& row)
-{
-    return name(std::string(row.name), std::string(row.american));
 }
 
 std::string electrons(int count)
@@ -215,13 +210,13 @@ Spans chargeSentence(const IonRow& ion, const ElementRow& row)
         return line("The atom loses its only electron.");
     }
     if (ion.charge < 0) {
-        return line(capitalised(nameOf(row)), group, "its atom takes up ", electrons(size), ".");
+        return line(nameOf(row), group, "its atom takes up ", electrons(size), ".");
     }
     if (row.group > 2 && row.group < 13) {
         return line("There is no Roman numeral, because it always has the same charge: " +
                     chargeWords(ion) + ".");
     }
-    return line(capitalised(nameOf(row)), group, "its atom loses ", electrons(size), ".");
+    return line(nameOf(row), group, "its atom loses ", electrons(size), ".");
 }
 
 const char* chargeHint(const IonRow& ion, const ElementRow& row)
@@ -241,7 +236,7 @@ std::vector<Step> atomSolution(const IonRow& ion)
 {
     const ElementRow& row = *elementOf(ion);
     const Spans symbol = ion.charge < 0
-                             ? line(capitalised(nameOf(ion)), " is an ion of ", nameOf(row), ".")
+                             ? line(nameOf(ion), " is an ion of ", nameOf(row), ".")
                              : line("Take the symbol of ", nameOf(row), ".");
     const char* const element =
         ion.charge < 0 ? "Its name is that of an element with the ending -ide. Find the symbol."

@@ -25,8 +25,7 @@ constexpr int figures = 4;
 
 struct Substance {
     std::string formula;
-    std::string name;
-    std::string american;
+    Name name;
     int weight; // how common it is
     Composition composition;
 };
@@ -43,13 +42,13 @@ Substance substanceOf(const Pair& pair)
 {
     const auto& [cation, anion] = pair;
     const std::string formula = compoundFormula(*cation, *anion);
-    return {formula, compoundName(*cation, *anion), americanName(*cation, *anion), weightOf(pair),
+    return {formula, nameOf(*cation, *anion), weightOf(pair),
             compositionOf(formula)};
 }
 
 Substance substanceOf(const SubstanceRow& row)
 {
-    return {row.formula, row.name, row.american, row.weight, compositionOf(row.formula)};
+    return {row.formula, row.name, row.weight, compositionOf(row.formula)};
 }
 
 // Level 1 has molecules and the salts without a bracket, level 2 the salts with one, level 3
@@ -297,7 +296,7 @@ Exercise make(const Place& place, const Substance& drawn)
     Exercise exercise =
         numberExercise(place, {Form::number, "M", drawn.formula, "g/mol", figures, {}},
                        {mass, roundedMolarMasses(drawn.formula), true, false});
-    exercise.prompt = line("Calculate the molar mass of ", name(drawn.name, drawn.american), ", ",
+    exercise.prompt = line("Calculate the molar mass of ", drawn.name, ", ",
                            formula(drawn.formula), ", in ", unit("g/mol"), ".");
     exercise.given = {GivenCompound{drawn.formula, drawn.name}};
     exercise.solution = workedSolution(exercise, drawn, mass);

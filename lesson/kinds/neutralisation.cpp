@@ -153,14 +153,14 @@ const Classified<Reaction>& poolFor(int level)
 
 Span nameOfAcid(const AcidRow& acid)
 {
-    return name(acid.name, acid.american);
+    return name(nameOf(acid));
 }
 
 Spans promptFor(const AcidRow& acid, const Base& base)
 {
     return line("Write the balanced equation for the complete neutralisation of ",
-                name(nameOf(base), americanNameOf(base)), " by ", nameOfAcid(acid),
-                ". The salt is ", name(saltName(acid, base), americanSaltName(acid, base)), ".");
+                nameOf(base), " by ", nameOfAcid(acid),
+                ". The salt is ", nameOf(*base.cation, anionOf(acid)), ".");
 }
 
 // ---- The worked solution
@@ -270,7 +270,7 @@ Spans balanceFirst(const Equation& equation, const AcidRow& acid, const Base& ba
     const bool isMetal = equation.left[1].first > 1 || equation.right[0].first > 1;
     const bool isAnion = equation.left[0].first > 1;
     const IonRow& anion = anionOf(acid);
-    const Span metal = plainNameOf(*base.cation);
+    const Span metal = nameAlone(*base.cation);
     const Span group = nameOf(anion);
     if (isMetal && isAnion) {
         return line("Balance the ", metal, ", then the ", group, ".");
@@ -465,7 +465,7 @@ Exercise make(const Place& place, const Reaction& reaction)
     exercise.prompt = promptFor(*acid, base);
     exercise.ask.form = Form::equation;
     exercise.given = {
-        GivenCompound{std::string(acid->formula), std::string(acid->name)},
+        GivenCompound{std::string(acid->formula), nameOf(*acid)},
         GivenCompound{formulaOf(base), nameOf(base)},
         GivenCompound{saltFormula(*acid, base), saltName(*acid, base)},
     };

@@ -59,8 +59,8 @@ Spans verdictOn(const Pair& pair)
 // What to ask of a pair before the rule is told.
 Spans ruleHint(const Pair& pair)
 {
-    return line("What is the rule for ", pluralOf(*pair.anion), "? Does it name ",
-                plainNameOf(*pair.cation), "?");
+    return line("What is the rule for ", nameOfFamily(*pair.anion), "? Does it name ",
+                nameAlone(*pair.cation), "?");
 }
 
 Step ruleStep(const Pair& pair)
@@ -108,7 +108,7 @@ Exercise oneCompound(const Place& place, const Pair& pair)
     exercise.key = isSoluble(pair) ? "yes" : "no";
     exercise.answer = SolubilityAnswer{isSoluble(pair), std::string(ruleOf(pair).sentence)};
     exercise.solution = {
-        {line(capitalised(nameOf(*pair.cation, *pair.anion)), " has these ions."),
+        {line(nameOf(*pair.cation, *pair.anion), " has these ions."),
          line(spanOf(*pair.cation), ", ", spanOf(*pair.anion)),
          line("Each compound here is made of two ions. The negative one tells which rule holds.")},
         ruleStep(pair),

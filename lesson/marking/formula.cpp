@@ -18,6 +18,7 @@
 #include "lesson/reading/lookalikes.hpp"
 #include "lesson/reading/typed.hpp"
 #include "lesson/text/scan.hpp"
+#include "lesson/words/language.hpp"
 
 namespace lesson
 {
@@ -60,8 +61,9 @@ bool isMultiple(const Atoms& atoms, const Atoms& right)
 bool isNameOf(std::string_view plain, const IonRow& cation, const IonRow& anion)
 {
     const std::string typed = lowerCase(plain);
-    return typed == lowerCase(compoundName(cation, anion)) ||
-           typed == lowerCase(americanName(cation, anion));
+    const auto names = namesOf(nameOf(cation, anion));
+    return std::any_of(names.begin(), names.end(),
+                       [&typed](const std::string& name) { return typed == lowerCase(name); });
 }
 
 // ---------------------------------------------------------------- the rules, first that fits

@@ -18,6 +18,7 @@
 #include "lesson/reading/lookalikes.hpp"
 #include "lesson/reading/typed.hpp"
 #include "lesson/text/scan.hpp"
+#include "lesson/words/language.hpp"
 
 namespace lesson
 {
@@ -38,7 +39,8 @@ bool isNameOf(std::string_view plain, const IonRow& ion)
         const std::string known = lowerCase(name);
         return !known.empty() && (typed == known || typed == known + " ion");
     };
-    return isTyped(nameInFull(ion)) || isTyped(ion.american);
+    const auto names = namesOf(nameOf(ion));
+    return std::any_of(names.begin(), names.end(), isTyped);
 }
 
 // What was typed, and all that it is compared with.

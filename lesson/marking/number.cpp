@@ -239,7 +239,7 @@ bool isVisible(const NumberAnswer& answer, int figures, Ratio slip)
     return !isRight(typed, answer, figures) && !isClose(typed, answer.value);
 }
 
-void addSlip(Exercise& exercise, Ratio value, std::string sentence)
+void addSlip(Exercise& exercise, Ratio value, const Spans& sentence)
 {
     const auto* const answer = std::get_if<NumberAnswer>(&exercise.answer);
     if (answer == nullptr || value.numerator <= 0) {
@@ -252,7 +252,7 @@ void addSlip(Exercise& exercise, Ratio value, std::string sentence)
         return;
     }
     exercise.slips.push_back(
-        {shown(value, ask.figures) + " " + ask.unit, value, std::move(sentence)});
+        {shown(value, ask.figures) + " " + ask.unit, value, sentence});
 }
 
 Mark markNumber(const NumberAnswer& answer, const Ask& ask, const std::vector<Slip>& slips,

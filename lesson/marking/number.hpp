@@ -26,6 +26,6 @@ bool isVisible(const NumberAnswer& answer, int figures, Ratio slip);
 // Adds a slip to an exercise whose answer is a number, unless its answer, typed to the figures
 // asked for, would be marked as right or as an earlier slip. `value` is in the asked unit; a slip
 // that is not above 0 is left out.
-void addSlip(Exercise& exercise, Ratio value, std::string sentence);
+void addSlip(Exercise& exercise, Ratio value, const Spans& sentence);
 
 } // namespace lesson

@@ -44,14 +44,14 @@ inline std::string checkSymbol(std::string_view symbol)
 
 inline Mark markOf(Verdict verdict, std::string_view sentence)
 {
-    return {verdict, std::string(sentence)};
+    return {verdict, line(std::string(sentence))};
 }
 
 // For a part that could not be read; a sentence that begins with "Type" goes on with what can be.
 inline Mark unreadable(std::string_view part, std::string_view whatToType)
 {
     return {Verdict::unreadable,
-            "I can't read this part: '" + quotable(part) + "'. " + std::string(whatToType)};
+            line("I can't read this part: '" + quotable(part) + "'. " + std::string(whatToType))};
 }
 
 } // namespace lesson

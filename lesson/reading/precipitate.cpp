@@ -9,6 +9,7 @@
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/states.hpp"
 #include "lesson/text/scan.hpp"
+#include "lesson/words/language.hpp"
 
 namespace lesson
 {
@@ -119,8 +120,9 @@ std::vector<std::string> makeNamesOfSalts()
     std::vector<std::string> names;
     for (const IonRow* const cation : cations()) {
         for (const IonRow* const anion : anions()) {
-            names.push_back(withoutBracket(comparableName(compoundName(*cation, *anion))));
-            names.push_back(withoutBracket(comparableName(americanName(*cation, *anion))));
+            for (const std::string& name : namesOf(nameOf(*cation, *anion))) {
+                names.push_back(withoutBracket(comparableName(name)));
+            }
         }
     }
     std::sort(names.begin(), names.end());
@@ -217,9 +219,9 @@ std::string unreadWords(std::string_view plain)
 bool isNameOf(std::string_view text, const IonRow& cation, const IonRow& anion)
 {
     const std::string typed = comparableName(text);
-    const std::string names[] = {compoundName(cation, anion), americanName(cation, anion)};
+    const auto names = namesOf(nameOf(cation, anion));
     return !typed.empty() &&
-           std::any_of(std::begin(names), std::end(names), [&typed](const std::string& name) {
+           std::any_of(names.begin(), names.end(), [&typed](const std::string& name) {
                const std::string known = comparableName(name);
                return typed == known || typed == withoutBracket(known);
            });

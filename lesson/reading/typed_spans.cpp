@@ -149,6 +149,9 @@ std::string typedText(const Span& span)
     case Span::Kind::quantity:
     case Span::Kind::number:
     case Span::Kind::name:
+    case Span::Kind::nameless:
+    case Span::Kind::sentence:
+    case Span::Kind::line:
         break;
     }
     return span.text;

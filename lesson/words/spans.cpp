@@ -50,10 +50,10 @@ Span fraction(Spans over, Spans under)
     return span;
 }
 
-Span name(std::string_view british, std::string_view american)
+Span name(const Name& named)
 {
-    Span span(Span::Kind::name, british);
-    span.detail = american;
+    Span span(Span::Kind::nameless);
+    span.named = named;
     return span;
 }
 
@@ -92,6 +92,9 @@ void Piece::addTo(Spans& line) const
     case Kind::span:
         addSpan(line, *static_cast<const Span*>(source));
         break;
+    case Kind::name:
+        line.push_back(name(*static_cast<const Name*>(source)));
+        break;
     case Kind::spans:
         for (const Span& span : *static_cast<const Spans*>(source)) {
             addSpan(line, span);
@@ -118,6 +121,85 @@ Spans lineOf(const Piece* pieces, std::size_t count)
 Spans measure(std::string_view shownText, std::string_view unitSymbol)
 {
     return line(number(shownText), unit(unitSymbol));
+}
+
+namespace
+{
+
+void append(Spans& spans, const std::vector<std::pair<int, std::string>>& side)
+{
+    bool isFirst = true;
+    for (const auto& [coefficient, species] : side) {
+        if (!isFirst) {
+            append(spans, " + ");
+        }
+        isFirst = false;
+        if (coefficient != 1) {
+            append(spans, number(std::to_string(coefficient)));
+        }
+        append(spans, formula(species));
+    }
+}
+
+} // namespace
+
+Spans spansOf(const Equation& equation)
+{
+    Spans spans;
+    spans.reserve(3 * (equation.left.size() + equation.right.size()));
+    append(spans, equation.left);
+    append(spans, " → ");
+    append(spans, equation.right);
+    return spans;
+}
+
+Span sentenceOf(Sentence says, const Piece* arguments, std::size_t count)
+{
+    Span span(Span::Kind::sentence);
+    span.says = says;
+    span.over.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        Spans argument = lineOf(arguments + i, 1);
+        if (argument.size() == 1) {
+            span.over.push_back(std::move(argument.front()));
+        } else {
+            span.over.emplace_back(Span::Kind::line);
+            span.over.back().over = std::move(argument);
+        }
+    }
+    return span;
+}
+
+namespace
+{
+
+std::string plainText(const Span& span)
+{
+    switch (span.kind) {
+    case Span::Kind::ion:
+        return span.text + "^" + span.detail;
+    case Span::Kind::quantity:
+        return span.text + span.index + (span.detail.empty() ? "" : "(" + span.detail + ")");
+    case Span::Kind::fraction:
+        return "(" + plainText(span.over) + ")/(" + plainText(span.under) + ")";
+    default:
+        return span.text;
+    }
+}
+
+} // namespace
+
+std::string plainText(const Spans& line)
+{
+    std::string text;
+    const Span* before = nullptr;
+    for (const Span& span : line) {
+        const bool isMeasure = span.kind == Span::Kind::unit && before != nullptr &&
+                               before->kind == Span::Kind::number;
+        text += (isMeasure ? " " : "") + plainText(span);
+        before = &span;
+    }
+    return text;
 }
 
 } // namespace lesson

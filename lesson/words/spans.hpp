@@ -6,6 +6,10 @@
 #include <string_view>
 #include <vector>
 
+#include "lesson/chemistry/equation.hpp"
+#include "lesson/chemistry/name.hpp"
+#include "lesson/words/sentences.hpp"
+
 namespace lesson
 {
 
@@ -20,7 +24,12 @@ struct Span {
         number,   // "0.0456", or with an exponent "5.00e-5"
         unit,     // "mL", "mol/L"
         fraction, // `over` and `under` the line
-        name,     // of a substance: "aluminium sulfate"; `detail` its American name if it differs
+        name,     // of a substance: "aluminium sulfate"
+
+        // These stand where no language is chosen yet, and rendering puts others in their place.
+        nameless, // what `named` tells
+        sentence, // `says` with its arguments in `over`
+        line,     // several pieces, `over`, that are one argument
     };
 
     Kind kind = Kind::text;
@@ -29,6 +38,8 @@ struct Span {
     std::string index;
     std::vector<Span> over;
     std::vector<Span> under;
+    Name named = {};
+    Sentence says = Sentence::last;
 
     // Not inline: exercises make so many spans that the module would be twice as large.
     explicit Span(Kind spanKind, std::string_view spanText = "");
@@ -47,7 +58,7 @@ Span quantity(std::string_view symbol, std::string_view of = "", std::string_vie
 Span number(std::string_view shownText);
 Span unit(std::string_view symbol);
 Span fraction(Spans over, Spans under);
-Span name(std::string_view british, std::string_view american = "");
+Span name(const Name& named);
 
 // Something that a line is made of: words, a span, or a line that stands inside it. It lives as
 // long as the expression that it stands in.
@@ -58,12 +69,13 @@ public:
     Piece(const std::string& words) : kind(Kind::words), source{words.c_str()} {}
     Piece(const Span& span) : kind(Kind::span), source{&span} {}
     Piece(const Spans& spans) : kind(Kind::spans), source{&spans} {}
+    Piece(const Name& name) : kind(Kind::name), source{&name} {}
 
     // Puts it at the end of a line.
     void addTo(Spans& line) const;
 
 private:
-    enum class Kind { words, span, spans };
+    enum class Kind { words, span, spans, name };
 
     Kind kind;
     const void* source;
@@ -86,5 +98,14 @@ Spans line(const Pieces&... pieces)
 // A number with its unit: 250, "mL". No blank stands between: how wide it is, is for the
 // typesetter.
 Spans measure(std::string_view shownText, std::string_view unitSymbol);
+
+// An equation as it is typeset.
+Spans spansOf(const Equation& equation);
+
+// A sentence with its arguments, as many as say.hpp has counted.
+Span sentenceOf(Sentence says, const Piece* arguments, std::size_t count);
+
+// A line as one types it, "0.290 mol/L", "SO4^2-", (c V)/(d).
+std::string plainText(const Spans& line);
 
 } // namespace lesson

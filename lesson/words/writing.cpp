@@ -1,6 +1,7 @@
 #include "lesson/words/writing.hpp"
 
 #include <algorithm>
+#include <iterator>
 
 #include "lesson/text/quotable.hpp"
 
@@ -10,8 +11,6 @@ namespace lesson
 namespace
 {
 
-constexpr std::string_view language = "en-GB";
-
 std::string_view takePart(std::string_view& rest)
 {
     const std::string_view part = rest.substr(0, rest.find(';'));
@@ -19,21 +18,44 @@ std::string_view takePart(std::string_view& rest)
     return part;
 }
 
+struct Option {
+    std::string_view text;
+    void (*set)(Writing& writing);
+};
+constexpr Option options[] = {
+    {"decimal=.", [](Writing& writing) { writing.decimal = '.'; }},
+    {"decimal=,", [](Writing& writing) { writing.decimal = ','; }},
+    {"volume=mL", [](Writing& writing) { writing.isVolumeCubic = false; }},
+    {"volume=cm3", [](Writing& writing) { writing.isVolumeCubic = true; }},
+    {"per=slash", [](Writing& writing) { writing.isPerAPower = false; }},
+    {"per=power", [](Writing& writing) { writing.isPerAPower = true; }},
+};
+
+const Option* findOption(std::string_view text)
+{
+    const auto* const found =
+        std::find_if(std::begin(options), std::end(options),
+                     [text](const Option& option) { return option.text == text; });
+    return found == std::end(options) ? nullptr : found;
+}
+
 } // namespace
 
 NamedWriting readWriting(std::string_view text)
 {
     NamedWriting named;
-    const std::string_view first = takePart(text);
-    if (!first.empty() && first != language) {
-        named.error = "There is no language called '" + quotable(first) + "'.";
+    const std::string_view tag = takePart(text);
+    if (const Language* const language = tag.empty() ? &britishEnglish() : findLanguage(tag)) {
+        named.writing.language = language;
+    } else {
+        named.error = "There is no language called '" + quotable(tag) + "'.";
     }
     while (!text.empty()) {
-        const std::string_view option = takePart(text);
-        if (option == "decimal=," || option == "decimal=.") {
-            named.writing.decimal = option.back();
+        const std::string_view part = takePart(text);
+        if (const Option* const option = findOption(part)) {
+            option->set(named.writing);
         } else if (named.error.empty()) {
-            named.error = "There is no way of writing called '" + quotable(option) + "'.";
+            named.error = "There is no way of writing called '" + quotable(part) + "'.";
         }
     }
     return named;

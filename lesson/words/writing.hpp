@@ -3,12 +3,17 @@
 #include <string>
 #include <string_view>
 
+#include "lesson/words/language.hpp"
+
 namespace lesson
 {
 
 // How the reader writes.
 struct Writing {
+    const Language* language = &britishEnglish();
     char decimal = '.'; // or ',': the sign before the decimals of a number
+    bool isVolumeCubic = false;  // cm3 and dm3 for mL and L
+    bool isPerAPower = false; // "mol L-1" for "mol/L"
 };
 
 // A writing, or what is wrong with the text that names it.
@@ -18,8 +23,9 @@ struct NamedWriting {
 };
 
 // Reads a language, "en-GB", and options behind it, each after a semicolon; an empty text is that
-// language without any.
-//   "en-GB;decimal=," -> a comma before decimals
+// British English without any.
+//   "en-GB;decimal=,"             -> a comma before decimals
+//   "en-US;volume=cm3;per=power"  -> American names; cm3, mol dm-3
 NamedWriting readWriting(std::string_view text);
 
 } // namespace lesson

@@ -62,15 +62,10 @@ Spans told(const GivenQuantity& given)
     return measure(given.shown, given.shownUnit);
 }
 
-Span nameOf(const SoluteRow& solute)
-{
-    return name(solute.name, solute.american);
-}
-
 Spans solutionOf(const SoluteRow& solute)
 {
-    return solute.weighed == Weighed::comesDissolved ? line(nameOf(solute))
-                                                     : line(nameOf(solute), " solution");
+    return solute.weighed == Weighed::comesDissolved ? line(solute.name)
+                                                     : line(solute.name, " solution");
 }
 
 GivenCompound givenCompound(const SoluteRow& solute)

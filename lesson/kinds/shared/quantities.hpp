@@ -35,9 +35,7 @@ GivenQuantity untold(GivenQuantity given);
 // As the prompt tells it: 250, "mL".
 Spans told(const GivenQuantity& given);
 
-// A substance by its name, and a solution of it: "sodium chloride solution", "ammonia solution",
-// "hydrochloric acid".
-Span nameOf(const SoluteRow& solute);
+// A solution of a substance: "sodium chloride solution", "ammonia solution", "hydrochloric acid".
 Spans solutionOf(const SoluteRow& solute);
 GivenCompound givenCompound(const SoluteRow& solute);
 

@@ -51,42 +51,7 @@ constexpr WrongSymbol wrongSymbols[] = {
 };
 // clang-format on
 
-void capitalise(std::string& words)
-{
-    if (!words.empty() && words.front() >= 'a' && words.front() <= 'z') {
-        words.front() = static_cast<char>(words.front() - 'a' + 'A');
-    }
-}
-
 } // namespace
-
-Span nameOf(const IonRow& cation, const IonRow& anion)
-{
-    return name(compoundName(cation, anion), americanName(cation, anion));
-}
-
-Span nameOf(const IonRow& ion)
-{
-    return name(nameInFull(ion), std::string(ion.american));
-}
-
-Span plainNameOf(const IonRow& ion)
-{
-    return name(std::string(ion.name), std::string(ion.american));
-}
-
-Span pluralOf(const IonRow& anion)
-{
-    const std::string american(anion.american);
-    return name(std::string(anion.name) + "s", american.empty() ? "" : american + "s");
-}
-
-Span capitalised(Span nameSpan)
-{
-    capitalise(nameSpan.text);
-    capitalise(nameSpan.detail);
-    return nameSpan;
-}
 
 Span spanOf(const IonRow& ion)
 {
@@ -99,7 +64,7 @@ std::string chargeWords(const IonRow& ion)
 }
 
 void addSlip(Exercise& exercise, const std::vector<std::string>& right, std::string text,
-             std::string_view sentence)
+             const Spans& sentence)
 {
     const std::string folded = lowerCase(text);
     const bool isRight =
@@ -108,7 +73,7 @@ void addSlip(Exercise& exercise, const std::vector<std::string>& right, std::str
     const bool isListed = std::any_of(exercise.slips.begin(), exercise.slips.end(),
                                       [&text](const Slip& slip) { return slip.text == text; });
     if (!isRight && !isListed) {
-        exercise.slips.push_back({std::move(text), std::nullopt, std::string(sentence)});
+        exercise.slips.push_back({std::move(text), std::nullopt, sentence});
     }
 }
 

@@ -14,14 +14,6 @@
 namespace lesson
 {
 
-// "aluminium sulfate", "sulfate", and the same at the beginning of a sentence.
-Span nameOf(const IonRow& cation, const IonRow& anion);
-Span nameOf(const IonRow& ion);
-// Without the Roman numeral: "iron". The same of all compounds of an anion: "sulfates".
-Span plainNameOf(const IonRow& ion);
-Span pluralOf(const IonRow& anion);
-Span capitalised(Span nameSpan);
-
 Span spanOf(const IonRow& ion);
 
 // The charge in words of a sentence: "2−", "1+".
@@ -38,7 +30,7 @@ Pair pairFrom(FieldReader& fields, std::string_view nameOfCation, std::string_vi
 // Adds a slip to an exercise unless its text is right but for capitals, or that of an earlier slip.
 // `right` holds the right texts, `text` has no blanks, and subscripts as plain digits.
 void addSlip(Exercise& exercise, const std::vector<std::string>& right, std::string text,
-             std::string_view sentence);
+             const Spans& sentence);
 
 // What learners write for the symbol of an ion: "P" for potassium, "Ni" for nitride.
 std::vector<std::string_view> wrongSymbolsOf(const IonRow& ion);

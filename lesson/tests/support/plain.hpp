@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "lesson/chemistry/ions.hpp"
+#include "lesson/words/language.hpp"
+#include "lesson/words/render.hpp"
+
+// Lines and names as plain text, in British English.
+namespace lesson
+{
+
+inline std::string plain(const Spans& line)
+{
+    return plainText(line, Writing());
+}
+
+inline std::string british(const Name& name)
+{
+    return nameIn(britishEnglish(), name);
+}
+
+// The ion of a name, "copper(II)", "sulfate"; null where there is none.
+inline const IonRow* findIon(std::string_view name)
+{
+    for (std::size_t id = 0; id < ionCount; ++id) {
+        const IonRow& ion = rowOf(static_cast<Ion>(id));
+        if (british(nameOf(ion)) == name) {
+            return &ion;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace lesson

@@ -1,0 +1,70 @@
+#include "lesson/words/en_GB.hpp"
+
+#include <iterator>
+
+namespace lesson
+{
+
+namespace
+{
+
+// What differs from British English.
+
+// clang-format off
+constexpr Word<Sentence> sentences[] = {
+    {Sentence::last, ""},
+};
+
+constexpr Word<int> elementNames[] = {
+    {13, "aluminum"},
+    {55, "cesium"},
+};
+
+constexpr Word<Ion> ionNames[] = {
+    {Ion::aluminium, "aluminum"},
+    {Ion::hydrogencarbonate, "hydrogen carbonate"},
+    {Ion::ethanoate, "acetate"},
+    {Ion::hydrogensulfate, "hydrogen sulfate"},
+    {Ion::manganate7, "permanganate"},
+    {Ion::hydrogensulfite, "hydrogen sulfite"},
+    {Ion::hydrogenphosphate, "hydrogen phosphate"},
+    {Ion::dihydrogenphosphate, "dihydrogen phosphate"},
+    {Ion::ethanedioate, "oxalate"},
+};
+
+constexpr Word<Acid> acidNames[] = {
+    {Acid::ethanoic, "acetic acid"},
+    {Acid::ethanedioic, "oxalic acid"},
+};
+// clang-format on
+
+constexpr bool haveArgumentsOfBritishOnes()
+{
+    for (const Word<Sentence>& row : sentences) {
+        if (row.id != Sentence::last &&
+            !haveSameArguments(row.text, britishSentences[static_cast<std::size_t>(row.id)].text)) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(haveArgumentsOfBritishOnes(), "a sentence takes what it does in British English");
+
+} // namespace
+
+const Language& americanEnglish()
+{
+    static const Language language = {
+        "en-US",
+        &britishEnglish(),
+        {sentences, std::size(sentences)},
+        {elementNames, std::size(elementNames)},
+        {ionNames, std::size(ionNames)},
+        {acidNames, std::size(acidNames)},
+        {nullptr, 0},
+        "",
+    };
+    return language;
+}
+
+} // namespace lesson

@@ -1,0 +1,105 @@
+#include "lesson/words/language.hpp"
+
+#include <algorithm>
+
+namespace lesson
+{
+
+namespace
+{
+
+template <typename Id>
+const Word<Id>* find(const Words<Id>& words, Id id)
+{
+    const Word<Id>* const end = words.rows + words.count;
+    const Word<Id>* const found = std::lower_bound(
+        words.rows, end, id, [](const Word<Id>& word, Id wanted) { return word.id < wanted; });
+    return found == end || found->id != id ? nullptr : found;
+}
+
+// As the language or the one that it rests upon has it; every id has a row in the last of them.
+template <typename Id>
+std::string_view textOf(const Language& language, Words<Id> Language::*words, Id id)
+{
+    const Word<Id>* const word = find(language.*words, id);
+    return word == nullptr ? textOf(*language.base, words, id) : word->text;
+}
+
+std::string_view ionIn(const Language& language, std::uint8_t id)
+{
+    return textOf(language, &Language::ions, static_cast<Ion>(id));
+}
+
+std::string withWater(std::string_view dry, int water)
+{
+    constexpr const char* numbers[] = {"mono", "di",    "tri",  "tetra", "penta",
+                                       "hexa", "hepta", "octa", "nona",  "deca"};
+    return water == 0 ? std::string(dry) : std::string(dry) + " " + numbers[water - 1] + "hydrate";
+}
+
+std::string_view ammoniaSolutionIn(const Language& language)
+{
+    return language.ammoniaSolution.empty() ? ammoniaSolutionIn(*language.base)
+                                            : language.ammoniaSolution;
+}
+
+constexpr const Language& (*languages[])() = {britishEnglish, americanEnglish};
+
+} // namespace
+
+const Language* findLanguage(std::string_view tag)
+{
+    for (const auto& languageOf : languages) {
+        const Language* const language = &languageOf();
+        if (language->tag == tag) {
+            return language;
+        }
+    }
+    return nullptr;
+}
+
+std::string_view patternIn(const Language& language, Sentence sentence)
+{
+    return textOf(language, &Language::sentences, sentence);
+}
+
+std::string nameIn(const Language& language, const Name& name)
+{
+    switch (name.of) {
+    case Name::Of::nothing:
+        break;
+    case Name::Of::element:
+        return std::string(textOf(language, &Language::elements, int{name.id}));
+    case Name::Of::ion:
+        return std::string(ionIn(language, name.id));
+    case Name::Of::ionAlone: {
+        const std::string_view inFull = ionIn(language, name.id);
+        return std::string(inFull.substr(0, inFull.find('(')));
+    }
+    case Name::Of::family:
+        return std::string(ionIn(language, name.id)) + "s";
+    case Name::Of::compound:
+        return withWater(std::string(ionIn(language, name.id)) + " " +
+                             std::string(ionIn(language, name.anion)),
+                         name.water);
+    case Name::Of::acid:
+        return withWater(textOf(language, &Language::acids, static_cast<Acid>(name.id)),
+                         name.water);
+    case Name::Of::ammoniaSolution:
+        return std::string(ammoniaSolutionIn(language));
+    case Name::Of::molecule:
+        return std::string(textOf(language, &Language::molecules, static_cast<Molecule>(name.id)));
+    }
+    return {};
+}
+
+std::vector<std::string> namesOf(const Name& name)
+{
+    std::vector<std::string> names;
+    for (const auto& language : languages) {
+        names.push_back(nameIn(language(), name));
+    }
+    return names;
+}
+
+} // namespace lesson

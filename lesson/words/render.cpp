@@ -1,0 +1,162 @@
+#include "lesson/words/render.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "lesson/text/scan.hpp"
+#include "lesson/words/pattern.hpp"
+
+namespace lesson
+{
+
+namespace
+{
+
+void addRendered(Spans& line, const Span& span, const Writing& writing);
+
+// What a placeholder says itself: "unit mL", "quantity V 1".
+Span spanOf(std::string_view placeholder)
+{
+    const auto takeWord = [&placeholder] {
+        const std::string_view word = placeholder.substr(0, placeholder.find(' '));
+        placeholder.remove_prefix(std::min(placeholder.size(), word.size() + 1));
+        return word;
+    };
+    const std::string_view kind = takeWord();
+    const std::string_view text = takeWord();
+    return kind == "unit"       ? unit(text)
+           : kind == "formula"  ? formula(text)
+           : kind == "ion"      ? ionSpan(text, takeWord())
+           : kind == "quantity" ? quantity(text, "", takeWord())
+                                : number(text);
+}
+
+void capitalise(std::string& words)
+{
+    if (!words.empty() && words.front() >= 'a' && words.front() <= 'z') {
+        words.front() = static_cast<char>(words.front() - 'a' + 'A');
+    }
+}
+
+void addArgument(Spans& line, const Span& argument, bool isFirstWord, const Writing& writing)
+{
+    Spans spans;
+    addRendered(spans, argument, writing);
+    if (isFirstWord && !spans.empty()) {
+        capitalise(spans.front().text);
+    }
+    append(line, spans);
+}
+
+void addSentence(Spans& line, const Span& said, const Writing& writing)
+{
+    const std::string_view pattern = patternIn(*writing.language, said.says);
+    const std::string_view british = patternIn(britishEnglish(), said.says);
+    std::size_t from = 0;
+    while (from < pattern.size()) {
+        const Placeholder next = nextPlaceholder(pattern, from);
+        append(line, std::string(pattern.substr(from, next.from - from)));
+        if (next.isArgument()) {
+            addArgument(line, said.over[placeOfArgument(british, next.name)],
+                        isCapital(next.name.front()), writing);
+        } else if (next.from != std::string_view::npos) {
+            addRendered(line, spanOf(next.name), writing);
+        }
+        from = next.behind;
+    }
+}
+
+void addAll(Spans& line, const Spans& spans, const Writing& writing)
+{
+    for (const Span& span : spans) {
+        addRendered(line, span, writing);
+    }
+}
+
+void addRendered(Spans& line, const Span& span, const Writing& writing)
+{
+    switch (span.kind) {
+    case Span::Kind::sentence:
+        return addSentence(line, span, writing);
+    case Span::Kind::line:
+        return addAll(line, span.over, writing);
+    case Span::Kind::nameless:
+        return append(line, Span(Span::Kind::name, nameIn(*writing.language, span.named)));
+    case Span::Kind::number:
+        return append(line, number(numberIn(writing, span.text)));
+    case Span::Kind::unit:
+        return append(line, unit(unitIn(writing, span.text)));
+    case Span::Kind::fraction:
+        return append(line, fraction(rendered(span.over, writing), rendered(span.under, writing)));
+    case Span::Kind::text:
+    case Span::Kind::formula:
+    case Span::Kind::ion:
+    case Span::Kind::quantity:
+    case Span::Kind::name:
+        return append(line, span);
+    }
+}
+
+void render(Spans& line, const Writing& writing)
+{
+    line = rendered(line, writing);
+}
+
+std::string cubic(std::string_view unit)
+{
+    if (unit == "mL") {
+        return "cm3";
+    }
+    return endsWith(unit, "L") ? std::string(unit.substr(0, unit.size() - 1)) + "dm3"
+                               : std::string(unit);
+}
+
+} // namespace
+
+Spans rendered(const Spans& line, const Writing& writing)
+{
+    Spans all;
+    all.reserve(line.size());
+    addAll(all, line, writing);
+    return all;
+}
+
+void render(Exercise& exercise, const Writing& writing)
+{
+    render(exercise.prompt, writing);
+    for (Step& step : exercise.solution) {
+        render(step.say, writing);
+        render(step.math, writing);
+        render(step.hint, writing);
+    }
+    for (Slip& slip : exercise.slips) {
+        render(slip.sentence, writing);
+    }
+}
+
+std::string plainText(const Spans& line, const Writing& writing)
+{
+    return plainText(rendered(line, writing));
+}
+
+std::string numberIn(const Writing& writing, std::string_view shownText)
+{
+    std::string text(shownText);
+    std::replace(text.begin(), text.end(), '.', writing.decimal);
+    return text;
+}
+
+std::string unitIn(const Writing& writing, std::string_view unit)
+{
+    const std::string text = writing.isVolumeCubic ? cubic(unit) : std::string(unit);
+    const std::size_t slash = text.find('/');
+    if (!writing.isPerAPower || slash == std::string::npos) {
+        return text;
+    }
+    const std::string below = text.substr(slash + 1);
+    const bool isCubed = endsWith(below, "3");
+    return text.substr(0, slash) + " " + below.substr(0, below.size() - (isCubed ? 1 : 0)) +
+           (isCubed ? "-3" : "-1");
+}
+
+} // namespace lesson
