@@ -138,7 +138,7 @@ struct Exercise {
 // The exercise that a text names, or what is wrong with the text.
 struct NamedExercise {
     Exercise exercise;
-    std::string error; // a sentence; empty where there is an exercise
+    Spans error; // empty where there is an exercise
 };
 
 // The exercise of a place, always the same one.

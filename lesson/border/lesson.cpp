@@ -16,6 +16,8 @@
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/paper/reference.hpp"
 #include "lesson/paper/sheet.hpp"
+#include "lesson/words/render.hpp"
+#include "lesson/words/say.hpp"
 #include "lesson/words/writing.hpp"
 
 namespace lesson
@@ -24,23 +26,23 @@ namespace lesson
 namespace
 {
 
-std::string errorJson(std::string_view sentence)
+std::string errorJson(const Spans& error, const Writing& writing)
 {
     Json json;
-    json.object([&] { json.member("error", sentence); });
+    json.object([&] { json.member("error", plainText(error, writing)); });
     return json.take();
 }
 
-std::string kindsJson()
+std::string kindsJson(const Writing& writing)
 {
+    const auto text = [&writing](Sentence sentence) { return plainText({say(sentence)}, writing); };
     Json json;
     json.array(allKinds(), [&](const Kind* kind) {
         json.object([&] {
             json.member("kind", kind->slug);
             json.member("version", static_cast<int>(kind->version));
-            json.member("title", kind->title);
-            json.key("levels").array(kind->levels,
-                                     [&](std::string_view level) { json.text(level); });
+            json.member("title", text(kind->title));
+            json.key("levels").array(kind->levels, [&](Sentence level) { json.text(text(level)); });
         });
     });
     return json.take();
@@ -51,12 +53,13 @@ std::string_view textIn(const char* text)
     return text == nullptr ? "" : text;
 }
 
-// What `answerTo` makes of the way in which the reader writes, or the error in its name.
+// What `answerTo` makes of the way in which the reader writes, or the error in its name, which is
+// told in British English.
 template <typename AnswerTo>
 std::string withWriting(const char* name, const AnswerTo& answerTo)
 {
     const NamedWriting named = readWriting(textIn(name));
-    return named.error.empty() ? answerTo(named.writing) : errorJson(named.error);
+    return named.error.empty() ? answerTo(named.writing) : errorJson(named.error, Writing());
 }
 
 // What `answerTo` makes of the exercise that a text names as well.
@@ -65,13 +68,14 @@ std::string withExercise(const char* text, const char* writing, const AnswerTo& 
 {
     return withWriting(writing, [&](const Writing& written) {
         const NamedExercise named = exerciseNamed(textIn(text));
-        return named.error.empty() ? answerTo(named.exercise, written) : errorJson(named.error);
+        return named.error.empty() ? answerTo(named.exercise, written)
+                                   : errorJson(named.error, written);
     });
 }
 
 std::string markedJson(const Exercise& exercise, const char* typed, const Writing& writing)
 {
-    return typed == nullptr ? errorJson("There is no typed text.")
+    return typed == nullptr ? errorJson({say<Sentence::errorNoTypedText>()}, writing)
                             : markJson(markAnswer(exercise, typed, writing), writing);
 }
 
@@ -93,16 +97,14 @@ std::string exported(const char* sheetText, const char* formatName, const Writin
 {
     const Sheet sheet = readSheet(textIn(sheetText));
     if (!sheet.error.empty()) {
-        return errorJson(sheet.error);
+        return errorJson(sheet.error, writing);
     }
     const Format* const format = findFormat(textIn(formatName));
     if (format == nullptr) {
-        return errorJson("The format has to be moodle or anki.");
+        return errorJson({say<Sentence::errorFormat>()}, writing);
     }
     std::string file = format->write(referencesOf(sheet), writing);
-    return file.empty() ? errorJson("Nothing on this sheet fits a card: formulas, ions and "
-                                    "solubility do.")
-                        : file;
+    return file.empty() ? errorJson({say<Sentence::errorNoCard>()}, writing) : file;
 }
 
 // Puts a text where it holds until the next one, and gives it to C.
@@ -121,19 +123,17 @@ const char* kept(std::string& place, std::string text)
 const char* lesson_kinds(const char* writing)
 {
     thread_local std::string result;
-    return lesson::kept(result, lesson::withWriting(writing, [](const lesson::Writing&) {
-                            return lesson::kindsJson();
-                        }));
+    return lesson::kept(result, lesson::withWriting(writing, lesson::kindsJson));
 }
 
 const char* lesson_exercise(const char* exercise, const char* writing)
 {
     thread_local std::string result;
-    return lesson::kept(
-        result, lesson::withExercise(exercise, writing,
-                                     [](const lesson::Exercise& made, const lesson::Writing& written) {
-                                         return lesson::exerciseJson(made, written);
-                                     }));
+    return lesson::kept(result, lesson::withExercise(exercise, writing,
+                                                     [](const lesson::Exercise& made,
+                                                        const lesson::Writing& written) {
+                                                         return lesson::exerciseJson(made, written);
+                                                     }));
 }
 
 const char* lesson_mark(const char* exercise, const char* typed, const char* writing)

@@ -11,6 +11,7 @@
 #include "lesson/kinds/shared/quantities.hpp"
 #include "lesson/kinds/shared/record.hpp"
 #include "lesson/paper/seeds.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -224,11 +225,11 @@ Preparation read(FieldReader& fields)
     }
     made.isMolarMassTold = fields.has("M");
     if (made.isMolarMassTold && fields.text("M") != shownMass(made.molarMass)) {
-        fields.fail("The molar mass M of " + std::string(made.substance->formula) + " is " +
-                    shownMass(made.molarMass) + " g/mol.");
+        fields.fail(say<Sentence::errorMolarMass>(formula(made.substance->formula),
+                                                  measure(shownMass(made.molarMass), "g/mol")));
     }
     if (!isSensible(made) || !bearsEveryOrder(made)) {
-        fields.fail(valuesNotAsked);
+        fields.fail(say<Sentence::errorValuesNotAsked>());
     }
     return made;
 }
@@ -258,9 +259,8 @@ const Kind concentrationKind = {
     4,
     1,
     "concentration",
-    "Mass and concentration",
-    {"The concentration of a solution", "The mass for a solution",
-     "Hydrates, molar mass not given"},
+    Sentence::concentrationTitle,
+    {Sentence::concentrationLevel1, Sentence::concentrationLevel2, Sentence::concentrationLevel3},
     false,
     drawnExercise<draw, write, levelOf, make>,
     describedExercise<read, write, levelOf, make>,

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "lesson/text/quotable.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -64,7 +65,7 @@ FieldReader::FieldReader(std::string_view text)
         std::string_view value = takeUpTo(text, ';');
         const std::string_view name = takeUpTo(value, '=');
         if (has(name)) {
-            fail("The value " + quotable(name) + " is there twice.");
+            fail(say<Sentence::errorFieldTwice>(quotable(name)));
         }
         entries.push_back({name, value});
     }
@@ -83,7 +84,7 @@ std::string_view FieldReader::text(std::string_view name)
     const auto entry = std::find_if(entries.begin(), entries.end(),
                                     [name](const Entry& one) { return one.name == name; });
     if (entry == entries.end()) {
-        fail("The value " + std::string(name) + " is missing.");
+        fail(say<Sentence::errorFieldMissing>(std::string(name)));
         return {};
     }
     entry->isTaken = true;
@@ -109,8 +110,7 @@ Ratio FieldReader::numberIn(std::string_view name, std::string_view value)
 {
     const std::optional<Ratio> number = numberOf(value);
     if (!number) {
-        fail("The value " + std::string(name) +
-             " has to be a number of at most four figures, not '" + quotable(value) + "'.");
+        fail(say<Sentence::errorFieldNumber>(std::string(name), quotable(value)));
     }
     return number.value_or(ratio(1));
 }
@@ -122,25 +122,25 @@ int FieldReader::level(int otherwise)
     }
     const std::string_view value = text("level");
     if (value != "1" && value != "2" && value != "3") {
-        fail("The level has to be 1, 2 or 3.");
+        fail(say<Sentence::errorLevel>());
         return otherwise;
     }
     return value.front() - '0';
 }
 
-void FieldReader::fail(std::string_view sentence)
+void FieldReader::fail(const Span& sentence)
 {
     if (firstProblem.empty()) {
-        firstProblem = sentence;
+        firstProblem = line(sentence);
     }
 }
 
 void FieldReader::failAsNotAsked(std::string_view name, std::string_view value)
 {
-    fail("Nothing is asked about '" + quotable(value) + "' as " + std::string(name) + ".");
+    fail(say<Sentence::errorFieldNotAsked>(quotable(value), std::string(name)));
 }
 
-std::string FieldReader::problem() const
+Spans FieldReader::problem() const
 {
     if (!firstProblem.empty()) {
         return firstProblem;
@@ -148,8 +148,8 @@ std::string FieldReader::problem() const
     const auto unknown = std::find_if(entries.begin(), entries.end(),
                                       [](const Entry& entry) { return !entry.isTaken; });
     return unknown == entries.end()
-               ? std::string()
-               : "This kind of exercise has no value called '" + quotable(unknown->name) + "'.";
+               ? Spans()
+               : line(say<Sentence::errorFieldUnknown>(quotable(unknown->name)));
 }
 
 } // namespace lesson

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "lesson/numbers/ratio.hpp"
+#include "lesson/words/spans.hpp"
 
 namespace lesson
 {
@@ -42,12 +43,12 @@ public:
     // 1 to 3; `otherwise` where there is no field "level".
     int level(int otherwise);
 
-    // A sentence on what is wrong with the values.
-    void fail(std::string_view sentence);
+    // What is wrong with the values.
+    void fail(const Span& sentence);
     // "Nothing is asked about 'Xx' as cation."
     void failAsNotAsked(std::string_view name, std::string_view value);
     // The first one, or the one on a field that nobody took; empty where there is none.
-    std::string problem() const;
+    Spans problem() const;
 
 private:
     struct Entry {
@@ -59,7 +60,7 @@ private:
     Ratio numberIn(std::string_view name, std::string_view value);
 
     std::vector<Entry> entries;
-    std::string firstProblem;
+    Spans firstProblem;
 };
 
 } // namespace lesson

@@ -11,6 +11,7 @@
 #include "lesson/kinds/shared/record.hpp"
 #include "lesson/marking/number.hpp"
 #include "lesson/paper/seeds.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -299,7 +300,7 @@ Dilution read(FieldReader& fields)
         made.V2 = made.c1 * made.V1 / made.c2;
     }
     if (!isAskable(made)) {
-        fields.fail(valuesNotAsked);
+        fields.fail(say<Sentence::errorValuesNotAsked>());
     }
     return made;
 }
@@ -326,9 +327,8 @@ const Kind dilutionKind = {
     5,
     1,
     "dilution",
-    "Dilution",
-    {"The new concentration", "The volume to take or the original concentration",
-     "The water to add"},
+    Sentence::dilutionTitle,
+    {Sentence::dilutionLevel1, Sentence::dilutionLevel2, Sentence::dilutionLevel3},
     false,
     drawnExercise<draw, write, levelOf, make>,
     describedExercise<read, write, levelOf, make>,

@@ -18,9 +18,9 @@ struct Kind {
     // Raised by every change of any of its exercises: a number of a paper stands for the same one
     // only within one version.
     unsigned version;
-    std::string_view slug;               // in arguments and addresses: "molar-mass"
-    std::string_view title;              // for a list to choose from
-    std::string_view levels[levelCount]; // what each asks for
+    std::string_view slug;       // in arguments and addresses: "molar-mass"
+    Sentence title;              // for a list to choose from
+    Sentence levels[levelCount]; // what each asks for
     bool fitsCard; // whether question and answer are short enough for the two sides of one
     // Draws an exercise, and writes its prompt, its worked solution and its slips.
     Exercise (*draw)(const Place& place);

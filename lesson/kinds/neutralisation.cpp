@@ -16,6 +16,7 @@
 #include "lesson/marking/equation.hpp"
 #include "lesson/marking/formula.hpp"
 #include "lesson/text/quotable.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -451,7 +452,7 @@ Reaction read(FieldReader& fields)
             }
         }
     }
-    fields.fail("Nothing is asked about '" + quotable(acid) + "' and '" + quotable(base) + "'.");
+    fields.fail(say<Sentence::errorReaction>(quotable(acid), quotable(base)));
     return poolFor(1).members.front();
 }
 
@@ -483,9 +484,9 @@ const Kind neutralisationKind = {
     6,
     1,
     "neutralisation",
-    "Equations of neutralisation",
-    {"Acids and hydroxides", "Oxides, carbonates, hydrogencarbonates and ammonia",
-     "Ratios with a 3 or a 6"},
+    Sentence::neutralisationTitle,
+    {Sentence::neutralisationLevel1, Sentence::neutralisationLevel2,
+     Sentence::neutralisationLevel3},
     false,
     drawnExercise<draw, write, levelOf, make>,
     describedExercise<read, write, levelOf, make>,

@@ -13,6 +13,7 @@
 #include "lesson/kinds/shared/salts.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/paper/seeds.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -316,8 +317,7 @@ Mixture mixtureFrom(FieldReader& fields)
             return mixture;
         }
     }
-    fields.fail("Nothing is asked about what forms when " + formulaOf(a) + " and " + formulaOf(b) +
-                " are mixed.");
+    fields.fail(say<Sentence::errorMixture>(formula(formulaOf(a)), formula(formulaOf(b))));
     return allMixtures().members.front();
 }
 
@@ -346,8 +346,8 @@ const Kind solubilityKind = {
     3,
     1,
     "solubility",
-    "Solubility in water",
-    {"The rules", "The rules and their exceptions", "The precipitate of two solutions"},
+    Sentence::solubilityTitle,
+    {Sentence::solubilityLevel1, Sentence::solubilityLevel2, Sentence::solubilityLevel3},
     true,
     drawnExercise<draw, write, levelOf, make>,
     describedExercise<read, write, levelOf, make>,

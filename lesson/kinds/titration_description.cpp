@@ -5,6 +5,7 @@
 #include "lesson/kinds/shared/quantities.hpp"
 #include "lesson/kinds/titration.hpp"
 #include "lesson/numbers/decimal.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -24,7 +25,8 @@ bool isAcidIn(FieldReader& fields, std::string_view name)
 {
     const std::string_view value = fields.text(name);
     if (value != acidWord && value != baseWord) {
-        fields.fail(std::string(name) + " has to be acid or base.");
+        fields.fail(say<Sentence::errorAcidOrBase>(std::string(name), std::string(acidWord),
+                                                   std::string(baseWord)));
     }
     return value == acidWord;
 }
@@ -53,13 +55,13 @@ std::vector<int> titresFrom(FieldReader& fields)
         const Ratio hundredths = titre * ratio(100);
         const bool isReading = hundredths.denominator == 1 && hundredths <= ratio(greatestReading);
         if (!isReading) {
-            fields.fail("A titre has at most two decimals, and no more than 50.00 mL.");
+            fields.fail(say<Sentence::errorTitre>());
         }
         titres.push_back(isReading ? static_cast<int>(hundredths.numerator) : 1);
     }
     const std::size_t count = titres.size();
     if (count == 0 || count == 2 || count > 4) {
-        fields.fail("There is one titre, or a rough one and two or three others.");
+        fields.fail(say<Sentence::errorTitreCount>());
         return {1};
     }
     return titres;
@@ -139,7 +141,7 @@ Titration titrationFrom(FieldReader& fields)
     made.indicator = indicatorFrom(fields, *made.pair);
     made.answer = workedOut(made);
     if (!isAskable(made)) {
-        fields.fail(valuesNotAsked);
+        fields.fail(say<Sentence::errorValuesNotAsked>());
     }
     return made;
 }

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 #include <string_view>
+
+#include "lesson/words/spans.hpp"
 
 namespace lesson
 {
@@ -23,11 +24,11 @@ inline std::size_t commaIn(std::string_view list)
 // Hands the parts of a list, which commas separate, to `read` up to the first with an error, which
 // it gives; empty where there is none. An empty list has one empty part.
 template <typename Read>
-std::string readParts(std::string_view list, const Read& read)
+Spans readParts(std::string_view list, const Read& read)
 {
     for (std::size_t comma = 0; comma != std::string_view::npos;) {
         comma = commaIn(list);
-        std::string problem = read(list.substr(0, comma));
+        Spans problem = read(list.substr(0, comma));
         if (!problem.empty()) {
             return problem;
         }

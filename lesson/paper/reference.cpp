@@ -7,6 +7,7 @@
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/paper/selection.hpp"
 #include "lesson/text/quotable.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -14,9 +15,14 @@ namespace lesson
 namespace
 {
 
-NamedExercise error(std::string sentence)
+NamedExercise error(Spans sentence)
 {
     return {{}, std::move(sentence)};
+}
+
+Spans errorOfNumber()
+{
+    return line(say<Sentence::errorNumber>(number(std::to_string(greatestNumber))));
 }
 
 std::string_view takePart(std::string_view& rest)
@@ -34,8 +40,7 @@ NamedExercise drawnExercise(std::string_view text)
         return error(errorOfPaper());
     }
     if (number == 0 || number > greatestNumber) {
-        return error("The number of the exercise has to be from 1 to " +
-                     std::to_string(greatestNumber) + ".");
+        return error(errorOfNumber());
     }
     const Selection selection = readSelection(text);
     if (!selection.error.empty()) {
@@ -48,11 +53,11 @@ NamedExercise describedExercise(std::string_view text)
 {
     const std::string_view slug = text.substr(0, text.find(';'));
     if (slug.empty()) {
-        return error("Name a kind of exercise.");
+        return error(line(say<Sentence::errorNoKind>()));
     }
     const Kind* const kind = findKind(slug);
     if (kind == nullptr) {
-        return error("There is no kind of exercise called '" + quotable(slug) + "'.");
+        return error(line(say<Sentence::errorUnknownKind>(quotable(slug))));
     }
     text.remove_prefix(std::min(text.size(), slug.size() + 1));
     return kind->read(*kind, text);
@@ -77,9 +82,9 @@ unsigned takePaper(std::string_view& rest)
     return paper > greatestPaper ? 0 : paper;
 }
 
-std::string errorOfPaper()
+Spans errorOfPaper()
 {
-    return "The paper has to be a number from 1 to " + std::to_string(greatestPaper) + ".";
+    return line(say<Sentence::errorPaper>(number(std::to_string(greatestPaper))));
 }
 
 std::optional<unsigned> wholeIn(std::string_view text, unsigned most)

@@ -26,7 +26,7 @@ NamedExercise exerciseNamed(std::string_view text);
 
 // Takes "4821/" from the front. 0 where there is no number from 1 to greatestPaper.
 unsigned takePaper(std::string_view& rest);
-std::string errorOfPaper();
+Spans errorOfPaper();
 
 // A whole number, as one more than `most` where it is greater; none where it is no number.
 std::optional<unsigned> wholeIn(std::string_view text, unsigned most);

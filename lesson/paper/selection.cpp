@@ -9,6 +9,7 @@
 #include "lesson/paper/draws.hpp"
 #include "lesson/paper/list.hpp"
 #include "lesson/text/quotable.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -31,9 +32,9 @@ int levelNamed(std::string_view text)
     return text.size() == 1 && text[0] >= '1' && text[0] < '1' + levelCount ? text[0] - '0' : 0;
 }
 
-NamedKind error(std::string sentence)
+NamedKind error(const Span& sentence)
 {
-    return {{}, std::move(sentence)};
+    return {{}, line(sentence)};
 }
 
 // Puts a kind in its place among those before it, and tells whether it is not there yet.
@@ -59,11 +60,11 @@ Selection mixedOf(const KindList& kinds)
 }
 
 // Gives the error, if there is one.
-std::string add(std::vector<KindAndLevel>& kinds, const NamedKind& named)
+Spans add(std::vector<KindAndLevel>& kinds, const NamedKind& named)
 {
     return !named.error.empty()        ? named.error
-           : insert(kinds, named.kind) ? std::string()
-                                       : "The kind " + nameOf(named.kind) + " is there twice.";
+           : insert(kinds, named.kind) ? Spans()
+                                       : line(say<Sentence::errorKindTwice>(nameOf(named.kind)));
 }
 
 // The set of the chosen kinds, whatever the order in which they were named: a bit for each kind and
@@ -109,24 +110,24 @@ std::string nameOf(KindAndLevel one)
     return std::string(one.kind->slug) + ":" + std::to_string(one.level);
 }
 
-NamedKind readKind(std::string_view name, std::string_view errorOfMixed, const KindList& kinds)
+NamedKind readKind(std::string_view name, Sentence errorOfMixed, const KindList& kinds)
 {
     const std::size_t colon = name.find(':');
     const std::string_view slug = name.substr(0, colon);
     if (slug.empty()) {
-        return error("Name a kind of exercise.");
+        return error(say<Sentence::errorNoKind>());
     }
     if (slug == mixed) {
-        return error(std::string(errorOfMixed));
+        return error(say(errorOfMixed));
     }
     const Kind* const kind = findKind(slug, kinds);
     if (kind == nullptr) {
-        return error("There is no kind of exercise called '" + quotable(slug) + "'.");
+        return error(say<Sentence::errorUnknownKind>(quotable(slug)));
     }
     const int level =
         colon == std::string_view::npos ? levelUnlessNamed : levelNamed(name.substr(colon + 1));
     if (level == 0) {
-        return error("The level of " + std::string(slug) + " has to be 1, 2 or 3.");
+        return error(say<Sentence::errorLevelOfKind>(std::string(slug)));
     }
     return {{kind, level}, {}};
 }
@@ -138,8 +139,7 @@ Selection readSelection(std::string_view names, const KindList& kinds)
     }
     Selection selection;
     selection.error = readParts(names, [&](std::string_view name) {
-        return add(selection.kinds,
-                   readKind(name, "The kind mixed stands alone, without a level.", kinds));
+        return add(selection.kinds, readKind(name, Sentence::errorMixedWithOthers, kinds));
     });
     if (!selection.error.empty()) {
         selection.kinds.clear();

@@ -6,6 +6,7 @@
 
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/paper/place.hpp"
+#include "lesson/words/spans.hpp"
 
 namespace lesson
 {
@@ -21,19 +22,19 @@ std::string nameOf(KindAndLevel one);
 // What a text names, or what is wrong with it.
 struct NamedKind {
     KindAndLevel kind;
-    std::string error; // a sentence; empty where the text names a kind
+    Spans error; // empty where the text names a kind
 };
 
 // Reads a slug ("dilution", which is level 2) or a slug and a level ("dilution:1") of one of these
-// kinds; `errorOfMixed` is told where it is "mixed".
+// kinds; `errorOfMixed`, which takes no argument, is told where it is "mixed".
 //   "titration:4" -> "The level of titration has to be 1, 2 or 3."
-NamedKind readKind(std::string_view name, std::string_view errorOfMixed,
+NamedKind readKind(std::string_view name, Sentence errorOfMixed,
                    const KindList& kinds = allKinds());
 
 // The kinds among which exercises are drawn, or what is wrong with the text that names them.
 struct Selection {
     std::vector<KindAndLevel> kinds; // none twice, in the order of their seeds and levels
-    std::string error;               // a sentence; empty unless `kinds` is
+    Spans error;                     // empty unless `kinds` is
 };
 
 // Reads the names of kinds, separated by commas, or "mixed", which is for ever the eight kinds with

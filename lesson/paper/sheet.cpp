@@ -9,6 +9,7 @@
 
 #include "lesson/paper/list.hpp"
 #include "lesson/text/quotable.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -34,33 +35,33 @@ EntryText partsOf(std::string_view entry)
             hasNumber ? rest.substr(at + 1) : "1"};
 }
 
-std::string errorInFirst(std::string_view text, std::optional<unsigned> first, unsigned count,
-                         KindAndLevel kind)
+Spans errorInFirst(std::string_view text, std::optional<unsigned> first, unsigned count,
+                   KindAndLevel kind)
 {
     if (!first || *first == 0 || *first > greatestNumber) {
-        return "The number behind @ has to be from 1 to " + std::to_string(greatestNumber) +
-               ", not '" + quotable(text) + "'.";
+        return line(say<Sentence::errorFirstNumber>(number(std::to_string(greatestNumber)),
+                                                    quotable(text)));
     }
     return count > greatestNumber + 1 - *first
-               ? "The exercises of " + nameOf(kind) + " go beyond number " +
-                     std::to_string(greatestNumber) + "."
-               : std::string();
+               ? line(say<Sentence::errorLastNumber>(nameOf(kind),
+                                                     number(std::to_string(greatestNumber))))
+               : Spans();
 }
 
 // Adds a description, which stands behind "[".
-std::string addDescribed(Sheet& sheet, std::string_view entry)
+Spans addDescribed(Sheet& sheet, std::string_view entry)
 {
     if (entry.back() != ']') {
-        return "There is no ] behind '[" + quotable(entry) + "'.";
+        return line(say<Sentence::errorNoClosingBracket>(quotable(entry)));
     }
     entry.remove_suffix(1);
     const Reference described = {{}, std::string(entry)};
     sheet.entries.push_back({{}, 1, 1, described.description});
-    return entry.empty() ? "There is nothing between [ and ]." : exerciseOf(described).error;
+    return entry.empty() ? line(say<Sentence::errorEmptyBrackets>()) : exerciseOf(described).error;
 }
 
 // Adds "4*titration" to a sheet; gives the error, if there is one.
-std::string addEntry(Sheet& sheet, std::string_view entry)
+Spans addEntry(Sheet& sheet, std::string_view entry)
 {
     if (entry.size() > 1 && entry.front() == '[') {
         return addDescribed(sheet, entry.substr(1));
@@ -68,38 +69,36 @@ std::string addEntry(Sheet& sheet, std::string_view entry)
     const EntryText parts = partsOf(entry);
     const std::optional<unsigned> count = wholeIn(parts.count, greatestSheet);
     if (!count) {
-        return "The number of exercises has to be a whole number, not '" + quotable(parts.count) +
-               "'.";
+        return line(say<Sentence::errorCount>(quotable(parts.count)));
     }
-    const NamedKind one =
-        readKind(parts.kind, "A sheet names each of its kinds, and mixed is none.");
+    const NamedKind one = readKind(parts.kind, Sentence::errorMixedOnSheet);
     if (!one.error.empty()) {
         return one.error;
     }
     const std::optional<unsigned> first = wholeIn(parts.first, greatestNumber);
-    std::string problem = errorInFirst(parts.first, first, *count, one.kind);
+    Spans problem = errorInFirst(parts.first, first, *count, one.kind);
     if (problem.empty()) {
         sheet.entries.push_back({one.kind, *count, *first});
     }
     return problem;
 }
 
-std::string errorInTotal(const std::vector<SheetEntry>& entries)
+Spans errorInTotal(const std::vector<SheetEntry>& entries)
 {
     unsigned total = 0;
     for (const SheetEntry& entry : entries) {
         total = std::min(total + entry.count, greatestSheet + 1);
     }
     if (total == 0) {
-        return "A sheet has at least one exercise.";
+        return line(say<Sentence::errorEmptySheet>());
     }
     return total > greatestSheet
-               ? "A sheet has at most " + std::to_string(greatestSheet) + " exercises."
-               : std::string();
+               ? line(say<Sentence::errorLongSheet>(number(std::to_string(greatestSheet))))
+               : Spans();
 }
 
 // Of a sheet that is not too long: in its drawn exercises.
-std::string errorInDrawn(const Sheet& sheet)
+Spans errorInDrawn(const Sheet& sheet)
 {
     std::set<std::tuple<std::uint32_t, int, unsigned>> drawn;
     for (const auto& [place, description] : referencesOf(sheet)) {
@@ -110,8 +109,8 @@ std::string errorInDrawn(const Sheet& sheet)
             return errorOfPaper();
         }
         if (!drawn.insert({place.kind->seed, place.level, place.number}).second) {
-            return "Exercise " + std::to_string(place.number) + " of " +
-                   nameOf({place.kind, place.level}) + " is there twice.";
+            return line(say<Sentence::errorExerciseTwice>(number(std::to_string(place.number)),
+                                                          nameOf({place.kind, place.level})));
         }
     }
     return {};
@@ -124,7 +123,7 @@ Sheet readSheet(std::string_view text)
     Sheet sheet;
     if (text.find('/') < text.find('[')) {
         sheet.paper = takePaper(text);
-        sheet.error = sheet.paper == 0 ? errorOfPaper() : "";
+        sheet.error = sheet.paper == 0 ? errorOfPaper() : Spans();
     }
     if (sheet.error.empty() && !text.empty()) {
         sheet.error =

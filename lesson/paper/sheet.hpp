@@ -22,7 +22,7 @@ struct SheetEntry {
 struct Sheet {
     unsigned paper = 0;              // 0 where no exercise is drawn
     std::vector<SheetEntry> entries; // in the order of the list, no drawn exercise twice
-    std::string error;               // a sentence; empty unless something is wrong
+    Spans error;                     // empty unless something is wrong
 };
 
 constexpr unsigned greatestSheet = 1000;

@@ -12,7 +12,8 @@ namespace
 
 // clang-format off
 constexpr Word<Sentence> sentences[] = {
-    {Sentence::last, ""},
+    {Sentence::neutralisationTitle,  "Equations of neutralization"},
+    {Sentence::neutralisationLevel2, "Oxides, carbonates, hydrogen carbonates and ammonia"},
 };
 
 constexpr Word<int> elementNames[] = {
@@ -41,8 +42,7 @@ constexpr Word<Acid> acidNames[] = {
 constexpr bool haveArgumentsOfBritishOnes()
 {
     for (const Word<Sentence>& row : sentences) {
-        if (row.id != Sentence::last &&
-            !haveSameArguments(row.text, britishSentences[static_cast<std::size_t>(row.id)].text)) {
+        if (!haveSameArguments(row.text, britishSentences[static_cast<std::size_t>(row.id)].text)) {
             return false;
         }
     }

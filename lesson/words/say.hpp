@@ -22,4 +22,10 @@ Span say(const Arguments&... arguments)
     }
 }
 
+// One of a table, which takes no arguments.
+inline Span say(Sentence says)
+{
+    return sentenceOf(says, nullptr, 0);
+}
+
 } // namespace lesson

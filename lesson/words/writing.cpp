@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "lesson/text/quotable.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -48,14 +49,14 @@ NamedWriting readWriting(std::string_view text)
     if (const Language* const language = tag.empty() ? &britishEnglish() : findLanguage(tag)) {
         named.writing.language = language;
     } else {
-        named.error = "There is no language called '" + quotable(tag) + "'.";
+        named.error = line(say<Sentence::errorUnknownLanguage>(quotable(tag)));
     }
     while (!text.empty()) {
         const std::string_view part = takePart(text);
         if (const Option* const option = findOption(part)) {
             option->set(named.writing);
         } else if (named.error.empty()) {
-            named.error = "There is no way of writing called '" + quotable(part) + "'.";
+            named.error = line(say<Sentence::errorUnknownWriting>(quotable(part)));
         }
     }
     return named;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "lesson/words/language.hpp"
+#include "lesson/words/spans.hpp"
 
 namespace lesson
 {
@@ -11,15 +11,15 @@ namespace lesson
 // How the reader writes.
 struct Writing {
     const Language* language = &britishEnglish();
-    char decimal = '.'; // or ',': the sign before the decimals of a number
-    bool isVolumeCubic = false;  // cm3 and dm3 for mL and L
-    bool isPerAPower = false; // "mol L-1" for "mol/L"
+    char decimal = '.';         // or ',': the sign before the decimals of a number
+    bool isVolumeCubic = false; // cm3 and dm3 for mL and L
+    bool isPerAPower = false;   // "mol L-1" for "mol/L"
 };
 
 // A writing, or what is wrong with the text that names it.
 struct NamedWriting {
     Writing writing;
-    std::string error; // a sentence; empty where nothing is wrong
+    Spans error; // empty where nothing is wrong
 };
 
 // Reads a language, "en-GB", and options behind it, each after a semicolon; an empty text is that

@@ -46,9 +46,6 @@ Ratio molesPerLitre(int tenThousandths);
 
 // A volume as descriptions write it: 0.025 -> "25.0".
 std::string inMillilitres(Ratio litres);
-// What is told of a description whose values are out of range, or end at no answer that every order
-// of working it out comes to.
-constexpr std::string_view valuesNotAsked = "Nothing is asked about these values.";
 
 // An exercise that asks for a number; prompt, given, solution and slips are still to be written.
 Exercise numberExercise(const Place& place, Ask ask, NumberAnswer answer);

@@ -11,7 +11,7 @@ std::string textOf(Description description, const Place& place, int levelOfRecor
     return std::string(place.kind->slug) + description.fields;
 }
 
-NamedExercise notMade(std::string problem)
+NamedExercise notMade(Spans problem)
 {
     return {{}, std::move(problem)};
 }

@@ -20,7 +20,7 @@ namespace lesson
 {
 
 std::string textOf(Description description, const Place& place, int levelOfRecord);
-NamedExercise notMade(std::string problem);
+NamedExercise notMade(Spans problem);
 NamedExercise madeOf(Exercise exercise);
 
 template <auto draw, auto write, auto levelOf, auto make>
@@ -38,7 +38,7 @@ NamedExercise describedExercise(const Kind& kind, std::string_view text)
     FieldReader fields(text);
     const auto& record = read(fields); // which may be a row of a table
     const int level = fields.level(levelOf(record));
-    if (std::string problem = fields.problem(); !problem.empty()) {
+    if (Spans problem = fields.problem(); !problem.empty()) {
         return notMade(std::move(problem));
     }
     const Place place = {0, 0, &kind, level};
