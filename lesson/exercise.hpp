@@ -95,14 +95,14 @@ struct IonAnswer {
 // Whether a compound dissolves.
 struct SolubilityAnswer {
     bool isSoluble;
-    std::string rule; // the sentence that tells why
+    Spans rule; // the sentence that tells why
 };
 
 // The precipitate of two solutions; null pointers where there is none.
 struct PrecipitateAnswer {
     const IonRow* cation;
     const IonRow* anion;
-    std::string rule;
+    Spans rule;
 };
 
 // The balanced equation of an acid and a base.

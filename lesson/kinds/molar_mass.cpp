@@ -75,7 +75,7 @@ Classified<Substance> poolOf(int level)
     return classified(
         substancesOf(level),
         [](const Substance& substance) {
-            return ClassKey{0, "", substance.weight};
+            return ClassKey{0, 0, substance.weight};
         },
         allTheSame);
 }

@@ -22,10 +22,12 @@ Span say(const Arguments&... arguments)
     }
 }
 
-// One of a table, which takes no arguments.
-inline Span say(Sentence says)
+// One that a table tells; how many arguments it takes is for who fills the table to see to.
+template <typename... Arguments>
+Span say(Sentence says, const Arguments&... arguments)
 {
-    return sentenceOf(says, nullptr, 0);
+    const std::array<Piece, sizeof...(Arguments)> all = {Piece(arguments)...};
+    return sentenceOf(says, all.data(), all.size());
 }
 
 } // namespace lesson

@@ -12,12 +12,12 @@ namespace
 
 bool isSameClass(const ClassKey& a, const ClassKey& b)
 {
-    return a.group == b.group && a.name == b.name;
+    return a.group == b.group && a.ofGroup == b.ofGroup;
 }
 
 bool operator<(const ClassKey& a, const ClassKey& b)
 {
-    return std::tie(a.group, a.name, a.weight) < std::tie(b.group, b.name, b.weight);
+    return std::tie(a.group, a.ofGroup, a.weight) < std::tie(b.group, b.ofGroup, b.weight);
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -17,10 +16,11 @@ struct Classified {
     Pool pool;
 };
 
-// Where a member belongs: its group, the name of its class in this, and how common it is.
+// Where a member belongs: its group, the number of its class in this, and how common it is.
+// Draws walk through groups and classes in the order of their numbers.
 struct ClassKey {
     int group;
-    std::string name;
+    int ofGroup;
     int weight = 1;
 };
 
