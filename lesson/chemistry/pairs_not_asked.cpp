@@ -17,51 +17,51 @@ struct NotAskedRow {
     Ion anion;
     Of of;
     IonSet cations;
-    std::string_view reason;
+    Sentence reason;
 };
 
 // clang-format off
 constexpr NotAskedRow noFormula[] = {
-    {Ion::hydroxide,         Of::these,  {Ion::ammonium},                  "Ammonia solution holds ammonia and water; ammonium hydroxide cannot be obtained from it."},
-    {Ion::hydroxide,         Of::these,  {Ion::silver},                    "It falls apart into silver oxide and water."},
-    {Ion::hydroxide,         Of::these,  {Ion::tin2},                      "It has no simple formula: it loses some of its water at once."},
-    {Ion::oxide,             Of::these,  {Ion::ammonium},                  "It does not exist."},
-    {Ion::carbonate,         Of::these,  {Ion::aluminium, Ion::chromium3, Ion::iron3}, "It does not exist: with water the hydroxide and carbon dioxide form instead."},
-    {Ion::carbonate,         Of::these,  {Ion::tin2},                      "It is hardly known: it falls apart into tin(II) oxide and carbon dioxide."},
-    {Ion::hydrogencarbonate, Of::allBut, {Ion::sodium, Ion::potassium, Ion::ammonium, Ion::magnesium, Ion::calcium}, "It cannot be obtained as a substance."},
-    {Ion::iodide,            Of::these,  {Ion::iron3},                     "Iron(III) turns iodide into iodine, so that iron(II) iodide forms."},
-    {Ion::iodide,            Of::these,  {Ion::copper2},                   "Copper(II) turns iodide into iodine, so that copper(I) iodide forms."},
-    {Ion::nitrate,           Of::these,  {Ion::tin2},                      "It falls apart: nitrate oxidises tin(II)."},
-    {Ion::sulfide,           Of::these,  {Ion::iron3},                     "It falls apart into iron(II) sulfide and sulfur."},
-    {Ion::nitride,           Of::allBut, {Ion::lithium, Ion::magnesium, Ion::calcium, Ion::barium, Ion::aluminium}, "It is unknown, or too unstable or unusual for school."},
-    {Ion::phosphide,         Of::allBut, {Ion::sodium, Ion::potassium, Ion::magnesium, Ion::calcium, Ion::aluminium, Ion::zinc}, "It is unknown, or has another formula than its ions suggest."},
-    {Ion::ethanoate,         Of::these,  {Ion::aluminium, Ion::chromium3, Ion::iron3}, "What is sold under the name has another formula, with hydroxide or oxide in it."},
-    {Ion::ethanoate,         Of::these,  {Ion::tin2, Ion::iron2},          "It is oxidised by air, and is hardly met at school."},
+    {Ion::hydroxide,         Of::these,  {Ion::ammonium},                  Sentence::notAskedAmmoniumHydroxide},
+    {Ion::hydroxide,         Of::these,  {Ion::silver},                    Sentence::notAskedSilverHydroxide},
+    {Ion::hydroxide,         Of::these,  {Ion::tin2},                      Sentence::notAskedTinHydroxide},
+    {Ion::oxide,             Of::these,  {Ion::ammonium},                  Sentence::notAskedNotThere},
+    {Ion::carbonate,         Of::these,  {Ion::aluminium, Ion::chromium3, Ion::iron3}, Sentence::notAskedCarbonateInWater},
+    {Ion::carbonate,         Of::these,  {Ion::tin2},                      Sentence::notAskedTinCarbonate},
+    {Ion::hydrogencarbonate, Of::allBut, {Ion::sodium, Ion::potassium, Ion::ammonium, Ion::magnesium, Ion::calcium}, Sentence::notAskedNoSubstance},
+    {Ion::iodide,            Of::these,  {Ion::iron3},                     Sentence::notAskedIronIodide},
+    {Ion::iodide,            Of::these,  {Ion::copper2},                   Sentence::notAskedCopperIodide},
+    {Ion::nitrate,           Of::these,  {Ion::tin2},                      Sentence::notAskedTinNitrate},
+    {Ion::sulfide,           Of::these,  {Ion::iron3},                     Sentence::notAskedIronSulfide},
+    {Ion::nitride,           Of::allBut, {Ion::lithium, Ion::magnesium, Ion::calcium, Ion::barium, Ion::aluminium}, Sentence::notAskedNitride},
+    {Ion::phosphide,         Of::allBut, {Ion::sodium, Ion::potassium, Ion::magnesium, Ion::calcium, Ion::aluminium, Ion::zinc}, Sentence::notAskedPhosphide},
+    {Ion::ethanoate,         Of::these,  {Ion::aluminium, Ion::chromium3, Ion::iron3}, Sentence::notAskedBasicSalt},
+    {Ion::ethanoate,         Of::these,  {Ion::tin2, Ion::iron2},          Sentence::notAskedOxidisedByAir},
 };
 
 // Besides the above.
 constexpr NotAskedRow noSolubility[] = {
-    {Ion::oxide,             Of::allBut, {},                               "An oxide does not just dissolve: it reacts with water to a hydroxide, or stays as it is."},
-    {Ion::nitride,           Of::allBut, {},                               "Nitrides do not dissolve: they react with water or stay as they are."},
-    {Ion::phosphide,         Of::allBut, {},                               "Phosphides do not dissolve: they react with water."},
-    {Ion::fluoride,          Of::allBut, {},                               "School tables differ on fluorides."},
-    {Ion::chloride,          Of::these,  {Ion::tin2},                      "Tin(II) compounds react with water unless there is acid."},
-    {Ion::bromide,           Of::these,  {Ion::tin2},                      "Tin(II) compounds react with water unless there is acid."},
-    {Ion::iodide,            Of::these,  {Ion::tin2},                      "Tin(II) compounds react with water unless there is acid."},
-    {Ion::sulfide,           Of::these,  {Ion::tin2},                      "School tables leave out the compounds of tin(II)."},
-    {Ion::sulfate,           Of::these,  {Ion::tin2},                      "Tin(II) compounds react with water unless there is acid."},
-    {Ion::phosphate,         Of::these,  {Ion::tin2},                      "School tables leave out the compounds of tin(II)."},
-    {Ion::carbonate,         Of::these,  {Ion::lithium},                   "It dissolves a little: school tables differ."},
-    {Ion::phosphate,         Of::these,  {Ion::lithium},                   "It hardly dissolves, unlike other alkali salts: school tables differ."},
-    {Ion::hydrogencarbonate, Of::allBut, {Ion::sodium, Ion::potassium, Ion::ammonium}, "It exists only in solution."},
-    {Ion::hydroxide,         Of::these,  {Ion::calcium, Ion::barium},      "It dissolves a little: school tables differ."},
-    {Ion::sulfate,           Of::these,  {Ion::calcium, Ion::silver},      "It dissolves a little: school tables differ."},
-    {Ion::chloride,          Of::these,  {Ion::lead2},                     "It dissolves in hot water, but hardly in cold water: school tables differ."},
-    {Ion::bromide,           Of::these,  {Ion::lead2},                     "It dissolves in hot water, but hardly in cold water: school tables differ."},
-    {Ion::ethanoate,         Of::these,  {Ion::silver},                    "It dissolves a little: school tables differ."},
-    {Ion::sulfide,           Of::these,  {Ion::magnesium, Ion::calcium, Ion::barium, Ion::aluminium, Ion::chromium3}, "It reacts with water."},
-    {Ion::bromide,           Of::these,  {Ion::aluminium, Ion::chromium3}, "It reacts violently with water, or dissolves too slowly to tell."},
-    {Ion::iodide,            Of::these,  {Ion::aluminium, Ion::chromium3}, "It reacts violently with water, or dissolves too slowly to tell."},
+    {Ion::oxide,             Of::allBut, {},                               Sentence::notAskedWhetherOxideDissolves},
+    {Ion::nitride,           Of::allBut, {},                               Sentence::notAskedWhetherNitrideDissolves},
+    {Ion::phosphide,         Of::allBut, {},                               Sentence::notAskedWhetherPhosphideDissolves},
+    {Ion::fluoride,          Of::allBut, {},                               Sentence::notAskedTablesOnFluorides},
+    {Ion::chloride,          Of::these,  {Ion::tin2},                      Sentence::notAskedTinWithoutAcid},
+    {Ion::bromide,           Of::these,  {Ion::tin2},                      Sentence::notAskedTinWithoutAcid},
+    {Ion::iodide,            Of::these,  {Ion::tin2},                      Sentence::notAskedTinWithoutAcid},
+    {Ion::sulfide,           Of::these,  {Ion::tin2},                      Sentence::notAskedTablesWithoutTin},
+    {Ion::sulfate,           Of::these,  {Ion::tin2},                      Sentence::notAskedTinWithoutAcid},
+    {Ion::phosphate,         Of::these,  {Ion::tin2},                      Sentence::notAskedTablesWithoutTin},
+    {Ion::carbonate,         Of::these,  {Ion::lithium},                   Sentence::notAskedDissolvesALittle},
+    {Ion::phosphate,         Of::these,  {Ion::lithium},                   Sentence::notAskedHardlyDissolves},
+    {Ion::hydrogencarbonate, Of::allBut, {Ion::sodium, Ion::potassium, Ion::ammonium}, Sentence::notAskedOnlyInSolution},
+    {Ion::hydroxide,         Of::these,  {Ion::calcium, Ion::barium},      Sentence::notAskedDissolvesALittle},
+    {Ion::sulfate,           Of::these,  {Ion::calcium, Ion::silver},      Sentence::notAskedDissolvesALittle},
+    {Ion::chloride,          Of::these,  {Ion::lead2},                     Sentence::notAskedDissolvesInHotWater},
+    {Ion::bromide,           Of::these,  {Ion::lead2},                     Sentence::notAskedDissolvesInHotWater},
+    {Ion::ethanoate,         Of::these,  {Ion::silver},                    Sentence::notAskedDissolvesALittle},
+    {Ion::sulfide,           Of::these,  {Ion::magnesium, Ion::calcium, Ion::barium, Ion::aluminium, Ion::chromium3}, Sentence::notAskedReactsWithWater},
+    {Ion::bromide,           Of::these,  {Ion::aluminium, Ion::chromium3}, Sentence::notAskedReactsOrTooSlow},
+    {Ion::iodide,            Of::these,  {Ion::aluminium, Ion::chromium3}, Sentence::notAskedReactsOrTooSlow},
 };
 // clang-format on
 
@@ -71,19 +71,19 @@ bool covers(const NotAskedRow& row, const Pair& pair)
 }
 
 template <std::size_t N>
-std::string_view reasonIn(const NotAskedRow (&rows)[N], const Pair& pair)
+std::optional<Sentence> reasonIn(const NotAskedRow (&rows)[N], const Pair& pair)
 {
     const auto* const row = std::find_if(std::begin(rows), std::end(rows),
                                          [&pair](const NotAskedRow& r) { return covers(r, pair); });
-    return row == std::end(rows) ? std::string_view() : row->reason;
+    return row == std::end(rows) ? std::nullopt : std::optional(row->reason);
 }
 
-std::vector<Pair> pairsWithout(std::string_view (*reason)(const Pair&))
+std::vector<Pair> pairsWithout(std::optional<Sentence> (*reason)(const Pair&))
 {
     std::vector<Pair> pairs;
     for (const IonRow* const cation : cations()) {
         for (const IonRow* const anion : anions()) {
-            if (reason({cation, anion}).empty()) {
+            if (!reason({cation, anion})) {
                 pairs.push_back({cation, anion});
             }
         }
@@ -93,15 +93,15 @@ std::vector<Pair> pairsWithout(std::string_view (*reason)(const Pair&))
 
 } // namespace
 
-std::string_view whyFormulaIsNotAsked(const Pair& pair)
+std::optional<Sentence> whyFormulaIsNotAsked(const Pair& pair)
 {
     return reasonIn(noFormula, pair);
 }
 
-std::string_view whySolubilityIsNotAsked(const Pair& pair)
+std::optional<Sentence> whySolubilityIsNotAsked(const Pair& pair)
 {
-    const std::string_view reason = whyFormulaIsNotAsked(pair);
-    return reason.empty() ? reasonIn(noSolubility, pair) : reason;
+    const std::optional<Sentence> reason = whyFormulaIsNotAsked(pair);
+    return reason ? reason : reasonIn(noSolubility, pair);
 }
 
 const std::vector<Pair>& pairsForFormulas()

@@ -11,17 +11,17 @@ namespace
 
 // clang-format off
 constexpr SolubilityRule rules[] = {
-    {Ion::nitrate,           true,  {},                                                      "nitrates",                  "All nitrates are soluble."},
-    {Ion::ethanoate,         true,  {},                                                      "ethanoates",                "Ethanoates are soluble."},
-    {Ion::chloride,          true,  {Ion::silver, Ion::lead2},                               "halides",                   "Chlorides are soluble, except those of silver and lead."},
-    {Ion::bromide,           true,  {Ion::silver, Ion::lead2},                               "halides",                   "Bromides are soluble, except those of silver and lead."},
-    {Ion::iodide,            true,  {Ion::silver, Ion::lead2},                               "halides",                   "Iodides are soluble, except those of silver and lead."},
-    {Ion::sulfate,           true,  {Ion::barium, Ion::lead2},                               "sulfates",                  "Sulfates are soluble, except those of barium and lead, and in part calcium and silver."},
-    {Ion::hydrogencarbonate, true,  {},                                                      "hydrogencarbonates",        "The hydrogencarbonates of sodium, potassium and ammonium are soluble."},
-    {Ion::hydroxide,         false, {Ion::lithium, Ion::sodium, Ion::potassium},             "hydroxides",                "Hydroxides are insoluble, except those of lithium, sodium and potassium, and in part calcium and barium."},
-    {Ion::carbonate,         false, {Ion::sodium, Ion::potassium, Ion::ammonium},            "carbonates and phosphates", "Carbonates are insoluble, except those of sodium, potassium and ammonium."},
-    {Ion::phosphate,         false, {Ion::sodium, Ion::potassium, Ion::ammonium},            "carbonates and phosphates", "Phosphates are insoluble, except those of sodium, potassium and ammonium."},
-    {Ion::sulfide,           false, {Ion::lithium, Ion::sodium, Ion::potassium, Ion::ammonium}, "sulfides",               "Sulfides are insoluble, except those of lithium, sodium, potassium and ammonium."},
+    {Ion::nitrate,           true,  {},                                                           Family::nitrates,                Sentence::ruleAllSoluble},
+    {Ion::ethanoate,         true,  {},                                                           Family::ethanoates,              Sentence::ruleSoluble},
+    {Ion::chloride,          true,  {Ion::silver, Ion::lead2},                                    Family::halides,                 Sentence::ruleSolubleButSilverLead},
+    {Ion::bromide,           true,  {Ion::silver, Ion::lead2},                                    Family::halides,                 Sentence::ruleSolubleButSilverLead},
+    {Ion::iodide,            true,  {Ion::silver, Ion::lead2},                                    Family::halides,                 Sentence::ruleSolubleButSilverLead},
+    {Ion::sulfate,           true,  {Ion::barium, Ion::lead2},                                    Family::sulfates,                Sentence::ruleSolubleButBariumLead},
+    {Ion::hydrogencarbonate, true,  {},                                                           Family::hydrogencarbonates,      Sentence::ruleOfThreeSoluble},
+    {Ion::hydroxide,         false, {Ion::lithium, Ion::sodium, Ion::potassium},                  Family::hydroxides,              Sentence::ruleInsolubleButAlkaliMetals},
+    {Ion::carbonate,         false, {Ion::sodium, Ion::potassium, Ion::ammonium},                 Family::carbonatesAndPhosphates, Sentence::ruleInsolubleButThree},
+    {Ion::phosphate,         false, {Ion::sodium, Ion::potassium, Ion::ammonium},                 Family::carbonatesAndPhosphates, Sentence::ruleInsolubleButThree},
+    {Ion::sulfide,           false, {Ion::lithium, Ion::sodium, Ion::potassium, Ion::ammonium},   Family::sulfides,                Sentence::ruleInsolubleButFour},
 };
 // clang-format on
 

@@ -1,20 +1,32 @@
 #pragma once
 
-#include <string_view>
 #include <vector>
 
 #include "lesson/chemistry/compounds.hpp"
+#include "lesson/words/sentences.hpp"
 
 namespace lesson
 {
 
+// The rules that are learnt as one; draws walk through them in this order.
+enum class Family {
+    carbonatesAndPhosphates,
+    ethanoates,
+    halides,
+    hydrogencarbonates,
+    hydroxides,
+    nitrates,
+    sulfates,
+    sulfides,
+};
+
 // What school tables say about the compounds of one anion.
 struct SolubilityRule {
     Ion anion;
-    bool isSoluble;            // all but the exceptions
-    IonSet exceptions;         // cations
-    std::string_view family;   // rules that are learnt as one have the same: "halides"
-    std::string_view sentence; // for a learner
+    bool isSoluble;    // all but the exceptions
+    IonSet exceptions; // cations
+    Family family;
+    Sentence sentence; // for a learner; it takes the compounds: "chlorides"
 };
 const std::vector<SolubilityRule>& solubilityRules();
 

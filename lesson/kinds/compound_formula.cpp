@@ -12,8 +12,8 @@
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/formula.hpp"
 #include "lesson/marking/ions_within.hpp"
-#include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -31,18 +31,13 @@ int levelOf(const Pair& pair)
     return pair.cation->isGroup || pair.anion->isGroup ? 2 : 1;
 }
 
-std::string sizes(int cation, int anion)
-{
-    return std::to_string(cation) + ":" + std::to_string(anion);
-}
-
 // The ratio of the ions is drawn first, then their charges, then the pair: else half of the
 // formulas would be of one ion each. A ratio or charges that only rare compounds have come rarely.
 ClassKey classOf(const Pair& pair)
 {
     const int positive = cationsIn(*pair.cation, *pair.anion);
     const int negative = anionsIn(*pair.cation, *pair.anion);
-    return {positive * 10 + negative, sizes(pair.cation->charge, -pair.anion->charge),
+    return {positive * 10 + negative, pair.cation->charge * 10 - pair.anion->charge,
             weightOf(pair)};
 }
 
@@ -74,27 +69,26 @@ std::string chargeTerm(int times, int charge)
     return times == 1 ? inBrackets : std::to_string(times) + inBrackets;
 }
 
-std::string lastSentence(bool hasBracket, bool repeatsNothing)
+Spans ionsSentence(const IonRow& cation, const IonRow& anion)
+{
+    const Span ions = say<Sentence::saltIons>(nameOf(cation, anion));
+    return hasRomanNumeral(cation) ? line(ions, " ", say<Sentence::markChargeOfMetal>())
+                                   : line(ions);
+}
+
+Spans ionsHint(const IonRow& cation)
+{
+    return line(say<Sentence::hintCompoundFormulaName>(), " ",
+                say(hasRomanNumeral(cation) ? Sentence::hintCompoundFormulaRomanNumeral
+                                            : Sentence::hintCompoundFormulaCharges));
+}
+
+Sentence lastSentence(bool hasBracket, bool isOneEach)
 {
     if (hasBracket) {
-        return std::string(sentences::bracketForGroups);
+        return Sentence::markBracketForGroups;
     }
-    return repeatsNothing ? "Write the positive ion first, and leave out the charges."
-                          : "Write the positive ion first; small numbers count the ions.";
-}
-
-std::string ionsHint(const IonRow& cation)
-{
-    const std::string charges = hasRomanNumeral(cation)
-                                    ? " A Roman numeral tells the charge of the one in front of it."
-                                    : " What are their charges?";
-    return "The name begins with the positive ion and ends with the negative one." + charges;
-}
-
-std::string lastHint(bool hasBracket)
-{
-    return hasBracket ? "Which number belongs to a whole group of atoms?"
-                      : "Which ion comes first? A number stands behind what it counts.";
+    return isOneEach ? Sentence::compoundFormulaNoCharges : Sentence::compoundFormulaSmallNumbers;
 }
 
 std::vector<Step> workedSolution(const IonRow& cation, const IonRow& anion)
@@ -104,16 +98,16 @@ std::vector<Step> workedSolution(const IonRow& cation, const IonRow& anion)
     const bool isOneEach = positive == 1 && negative == 1;
     const bool hasBracket = repeatsGroup(cation, anion);
     return {
-        {line(nameOf(cation, anion), " has these ions.",
-              hasRomanNumeral(cation) ? " The Roman numeral is the charge of the metal ion." : ""),
-         line(spanOf(cation), ", ", spanOf(anion)), line(ionsHint(cation))},
-        {line(isOneEach ? "One of each: the charges cancel."
-                        : "Find the fewest ions whose charges cancel."),
+        {ionsSentence(cation, anion), line(spanOf(cation), ", ", spanOf(anion)), ionsHint(cation)},
+        {line(say(isOneEach ? Sentence::compoundFormulaOneOfEach
+                            : Sentence::compoundFormulaFewestIons)),
          line(chargeTerm(positive, cation.charge) + " + " + chargeTerm(negative, anion.charge) +
               " = 0"),
-         line("A compound has no charge. How many of each ion does that take?")},
-        {line(lastSentence(hasBracket, isOneEach)), line(formula(compoundFormula(cation, anion))),
-         line(lastHint(hasBracket))},
+         line(say<Sentence::hintCompoundFormulaHowMany>())},
+        {line(say(lastSentence(hasBracket, isOneEach))),
+         line(formula(compoundFormula(cation, anion))),
+         line(say(hasBracket ? Sentence::hintCompoundFormulaBracket
+                             : Sentence::hintCompoundFormulaOrder))},
     };
 }
 
@@ -159,12 +153,12 @@ public:
     }
 
 private:
-    void add(const Part& one, const Part& other, std::string_view sentence)
+    void add(const Part& one, const Part& other, const Span& sentence)
     {
         addSlip(exercise, right, written(one) + written(other), sentence);
     }
 
-    void addTimes(int positive, int negative, std::string_view sentence)
+    void addTimes(int positive, int negative, const Span& sentence)
     {
         add({first.ion, first.isGroup, positive}, {second.ion, second.isGroup, negative}, sentence);
     }
@@ -177,17 +171,17 @@ private:
         constexpr int greatest = 7;
         for (int charge = 1; charge <= greatest; ++charge) {
             if (hasOtherCharge(cation, charge)) {
-                addCharge(charge, sentences::chargeOfMetal);
+                addCharge(charge, say<Sentence::markChargeOfMetal>());
             }
         }
-        addTimes(cation.charge, 1, sentences::romanNumeral);
+        addTimes(cation.charge, 1, say<Sentence::markRomanNumeral>());
         if (second.times > 1) {
-            addTimes(cation.charge, second.times, sentences::romanNumeral);
+            addTimes(cation.charge, second.times, say<Sentence::markRomanNumeral>());
         }
     }
 
     // As if the cation had another charge.
-    void addCharge(int charge, std::string_view sentence)
+    void addCharge(int charge, const Span& sentence)
     {
         const int common = std::gcd(charge, anion.charge);
         addTimes(-anion.charge / common, charge / common, sentence);
@@ -196,21 +190,21 @@ private:
     void addBracket()
     {
         add({first.ion, false, first.times}, {second.ion, false, second.times},
-            sentences::bracketMissing);
+            say<Sentence::markBracketMissing>());
         if (anion.isGroup && second.times == 1) {
             addSlip(exercise, right, written(first) + "(" + second.ion + ")",
-                    sentences::bracketNotNeeded);
+                    say<Sentence::markBracketNotNeeded>());
         }
     }
 
     void addCharges()
     {
         if (first.times == 1 && second.times == 1) {
-            addTimes(cation.charge, cation.charge, sentences::simplify);
+            addTimes(cation.charge, cation.charge, say<Sentence::markSimplify>());
             return;
         }
-        addTimes(1, 1, sentences::chargesDoNotCancel);
-        addTimes(second.times, first.times, sentences::chargesDoNotCancel);
+        addTimes(1, 1, say<Sentence::markChargesDoNotCancel>());
+        addTimes(second.times, first.times, say<Sentence::markChargesDoNotCancel>());
     }
 
     void addOtherAnions()
@@ -219,7 +213,7 @@ private:
             const int common = std::gcd(cation.charge, other->charge);
             add({first.ion, first.isGroup, -other->charge / common},
                 {std::string(other->formula), other->isGroup, cation.charge / common},
-                other->sentence);
+                say(other->sentence));
         }
     }
 
@@ -227,24 +221,24 @@ private:
     {
         for (const Confusion* const other : confusionsOf(cation)) {
             add({std::string(other->formula), other->isGroup, first.times}, second,
-                other->sentence);
+                say(other->sentence));
         }
     }
 
     void addSymbols()
     {
         for (const std::string_view symbol : wrongSymbolsOf(cation)) {
-            add({std::string(symbol), false, first.times}, second, sentences::checkSymbol(symbol));
+            add({std::string(symbol), false, first.times}, second, say<Sentence::markCheckSymbol>(formula(symbol)));
         }
         for (const std::string_view symbol : wrongSymbolsOf(anion)) {
-            add(first, {std::string(symbol), false, second.times}, sentences::checkSymbol(symbol));
+            add(first, {std::string(symbol), false, second.times}, say<Sentence::markCheckSymbol>(formula(symbol)));
         }
     }
 
     void addChargesLeftIn()
     {
         add({first.ion + "^" + chargeText(cation), true, first.times},
-            {second.ion + "^" + chargeText(anion), true, second.times}, sentences::chargesLeftIn);
+            {second.ion + "^" + chargeText(anion), true, second.times}, say<Sentence::markChargesLeftIn>());
     }
 
     void addOxygens()
@@ -252,7 +246,7 @@ private:
         for (const int more : {-1, 1}) {
             const std::string other = withOxygens(anion, more);
             if (!other.empty()) {
-                add(first, {other, true, second.times}, sentences::oxygens);
+                add(first, {other, true, second.times}, say<Sentence::markOxygens>());
             }
         }
     }
@@ -288,7 +282,7 @@ Exercise make(const Place& place, const Pair& pair)
     const IonRow& anion = *pair.anion;
     Exercise exercise = {};
     exercise.place = place;
-    exercise.prompt = line("Write the formula of ", nameOf(cation, anion), ".");
+    exercise.prompt = line(say<Sentence::compoundFormulaPrompt>(nameOf(cation, anion)));
     exercise.ask.form = Form::formula;
     exercise.given = {GivenIon{&cation}, GivenIon{&anion}};
     exercise.key = compoundFormula(cation, anion);

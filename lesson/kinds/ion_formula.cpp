@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "lesson/chemistry/acids_and_bases.hpp"
 #include "lesson/chemistry/composition.hpp"
 #include "lesson/chemistry/elements.hpp"
 #include "lesson/kinds/kinds.hpp"
@@ -13,8 +14,8 @@
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/formula.hpp"
 #include "lesson/marking/ion.hpp"
-#include "lesson/marking/sentences.hpp"
 #include "lesson/marking/spellings.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -70,13 +71,13 @@ Ions ionsOfLevel(int level)
 ClassKey classAt(int level, const IonRow& ion)
 {
     if (level == 1) {
-        return {ion.charge < 0 ? 1 : 0, chargeText(ion), ion.weight};
+        return {ion.charge < 0 ? 1 : 0, std::abs(ion.charge), ion.weight};
     }
     if (level == 2) {
-        return {0, "", ion.weight};
+        return {0, 0, ion.weight};
     }
     const bool isNew = ion.isGroup && !isCommonGroup(ion);
-    return {isNew ? 1 : 0, ion.isGroup ? "group" : "atom", ion.weight};
+    return {isNew ? 1 : 0, ion.isGroup ? 1 : 0, ion.weight};
 }
 
 Classified<const IonRow*> poolOf(int level)
@@ -94,73 +95,57 @@ const Classified<const IonRow*>& poolOfLevel(int level)
 
 // ------------------------------------------------------------------------------ the solution
 
-std::string inWords(int count)
+// "four oxygens"
+Span countOf(const AtomCount& atoms)
 {
-    constexpr const char* words[] = {"no", "one", "two", "three", "four", "five", "six", "seven"};
-    return words[count];
+    constexpr Sentence counts[] = {
+        Sentence::ionFormulaOneAtom,   Sentence::ionFormulaTwoAtoms,  Sentence::ionFormulaThreeAtoms,
+        Sentence::ionFormulaFourAtoms, Sentence::ionFormulaFiveAtoms, Sentence::ionFormulaSixAtoms,
+        Sentence::ionFormulaSevenAtoms};
+    return say(counts[atoms.count - 1], nameOf(element(atoms.element)));
 }
 
 // "one sulfur and four oxygens"
-std::string atomsInWords(const Atoms& atoms)
+Span countsOf(const Atoms& atoms)
 {
-    std::string words;
-    for (std::size_t i = 0; i < atoms.size(); ++i) {
+    Span counts = countOf(atoms.front());
+    for (std::size_t i = 1; i < atoms.size(); ++i) {
         const bool isLast = i + 1 == atoms.size();
-        words += i == 0 ? "" : isLast ? " and " : ", ";
-        words += inWords(atoms[i].count) + " " + std::string(element(atoms[i].element).name);
-        words += atoms[i].count > 1 ? "s" : "";
+        counts = say(isLast ? Sentence::ionFormulaLastAtoms : Sentence::ionFormulaMoreAtoms, counts,
+                     countOf(atoms[i]));
     }
-    return words;
+    return counts;
 }
 
-// What helps to find the atoms of a group, and its charge. The charge follows from the acid of that
-// name, where there is one.
+// What helps to find the atoms of a group, and its charge.
 struct GroupHint {
     Ion ion;
-    const char* atoms;
-    const char* acid;
-    const char* charge;
+    Sentence atoms;
+    Sentence charge;
 };
-
-constexpr const char* endingAte =
-    "The ending -ate tells of oxygen, the rest of the name of the other element.";
-constexpr const char* endingIte = "The ending -ite tells of oxygen, one atom less than -ate.";
-constexpr const char* hydrogenFirst = "Hydrogen comes first. What is the ion without it?";
-constexpr const char* withHydrogen =
-    "What is the charge without the hydrogen, and what does a hydrogen ion add?";
 
 // clang-format off
 constexpr GroupHint groupHints[] = {
-    {Ion::ammonium, "It is a molecule of ammonia joined to a hydrogen ion.", "",
-     "The hydrogen ion brings its charge along."},
-    {Ion::hydroxide, "Its name is made of those of two elements.", "",
-     "It is a water molecule that has given a hydrogen ion away."},
-    {Ion::cyanide, "The ending -ide: there is no oxygen in it. It has two elements, one atom of each.",
-     "", "Its charge is that of chloride."},
-    {Ion::ethanoate, "Its acid is the one in vinegar, which has one hydrogen more.",
-     "the acid in vinegar", ""},
-    {Ion::nitrate, endingAte, "nitric acid", ""},
-    {Ion::sulfate, endingAte, "sulfuric acid", ""},
-    {Ion::carbonate, endingAte, "carbonic acid", ""},
-    {Ion::phosphate, endingAte, "phosphoric acid", ""},
-    {Ion::chlorate, endingAte, "", "Its charge is that of chloride."},
-    {Ion::nitrite, endingIte, "", "Its charge is that of nitrate."},
-    {Ion::sulfite, endingIte, "", "Its charge is that of sulfate."},
-    {Ion::hydrogencarbonate, hydrogenFirst, "", withHydrogen},
-    {Ion::hydrogensulfate, hydrogenFirst, "", withHydrogen},
-    {Ion::hydrogensulfite, hydrogenFirst, "", withHydrogen},
-    {Ion::hydrogenphosphate, hydrogenFirst, "", withHydrogen},
-    {Ion::dihydrogenphosphate,
-     "The beginning di- means two. Hydrogen comes first. What is the ion without it?", "",
-     "What is the charge without the hydrogen, and what does each hydrogen ion add?"},
-    {Ion::chromate, endingAte, "", "Its charge is that of sulfate."},
-    {Ion::dichromate, "The beginning di- means two, the ending -ate tells of oxygen.", "",
-     "Its charge is that of chromate."},
-    {Ion::thiosulfate,
-     "Thio- stands for a sulfur in the place of an oxygen. What is the ion without it?", "",
-     "Its charge is that of sulfate."},
-    {Ion::manganate7, endingAte, "",
-     "Manganese has the oxidation number +7, each oxygen −2. They add up to the charge."},
+    {Ion::ammonium,            Sentence::hintIonFormulaAmmonium,     Sentence::hintIonFormulaBroughtAlong},
+    {Ion::hydroxide,           Sentence::hintIonFormulaHydroxide,    Sentence::hintIonFormulaGivenAway},
+    {Ion::cyanide,             Sentence::hintIonFormulaCyanide,      Sentence::hintIonFormulaOfChloride},
+    {Ion::ethanoate,           Sentence::hintIonFormulaVinegar,      Sentence::hintIonFormulaLeftByVinegar},
+    {Ion::nitrate,             Sentence::hintIonFormulaAte,          Sentence::hintIonFormulaLeftByAcid},
+    {Ion::sulfate,             Sentence::hintIonFormulaAte,          Sentence::hintIonFormulaLeftByAcid},
+    {Ion::carbonate,           Sentence::hintIonFormulaAte,          Sentence::hintIonFormulaLeftByCarbonicAcid},
+    {Ion::phosphate,           Sentence::hintIonFormulaAte,          Sentence::hintIonFormulaLeftByAcid},
+    {Ion::chlorate,            Sentence::hintIonFormulaAte,          Sentence::hintIonFormulaOfChloride},
+    {Ion::nitrite,             Sentence::hintIonFormulaIte,          Sentence::hintIonFormulaOfNitrate},
+    {Ion::sulfite,             Sentence::hintIonFormulaIte,          Sentence::hintIonFormulaOfSulfate},
+    {Ion::hydrogencarbonate,   Sentence::hintIonFormulaHydrogen,     Sentence::hintIonFormulaWithoutHydrogen},
+    {Ion::hydrogensulfate,     Sentence::hintIonFormulaHydrogen,     Sentence::hintIonFormulaWithoutHydrogen},
+    {Ion::hydrogensulfite,     Sentence::hintIonFormulaHydrogen,     Sentence::hintIonFormulaWithoutHydrogen},
+    {Ion::hydrogenphosphate,   Sentence::hintIonFormulaHydrogen,     Sentence::hintIonFormulaWithoutHydrogen},
+    {Ion::dihydrogenphosphate, Sentence::hintIonFormulaTwoHydrogens, Sentence::hintIonFormulaWithoutHydrogens},
+    {Ion::chromate,            Sentence::hintIonFormulaAte,          Sentence::hintIonFormulaOfSulfate},
+    {Ion::dichromate,          Sentence::hintIonFormulaDichromate,   Sentence::hintIonFormulaOfChromate},
+    {Ion::thiosulfate,         Sentence::hintIonFormulaThio,         Sentence::hintIonFormulaOfSulfate},
+    {Ion::manganate7,          Sentence::hintIonFormulaAte,          Sentence::hintIonFormulaManganate},
 };
 // clang-format on
 
@@ -170,80 +155,90 @@ const GroupHint& hintFor(const IonRow& ion)
                          [&ion](const GroupHint& row) { return row.ion == ion.id; });
 }
 
-std::string chargeHint(const GroupHint& hint)
+Span hintOnCharge(const IonRow& group)
 {
-    const std::string acid = hint.acid;
-    return acid.empty()
-               ? hint.charge
-               : "Each hydrogen ion that " + acid + " gives away leaves a charge of 1− behind.";
+    const Sentence charge = hintFor(group).charge;
+    return charge == Sentence::hintIonFormulaLeftByAcid ? say(charge, nameOf(*findAcid(group.id)))
+                                                        : say(charge);
 }
 
 std::vector<Step> groupSolution(const IonRow& ion)
 {
-    const std::string remark =
-        hasRomanNumeral(ion) ? " The Roman numeral is not the charge of the ion." : "";
     const std::string plain(ion.formula);
+    Spans charge = line(say<Sentence::ionFormulaChargeOfGroup>(chargeWords(ion)));
+    if (hasRomanNumeral(ion)) {
+        append(charge, line(" ", say<Sentence::ionFormulaNumeralIsNoCharge>()));
+    }
     return {
-        {line(nameOf(ion), " is ", atomsInWords(compositionOf(plain).atoms), "."),
-         line(formula(plain)), line(hintFor(ion).atoms)},
-        {line("The group as a whole has the charge ", chargeWords(ion), ".", remark),
-         line(spanOf(ion)), line(chargeHint(hintFor(ion)))},
+        {line(say<Sentence::ionFormulaAtoms>(nameOf(ion), countsOf(compositionOf(plain).atoms))),
+         line(formula(plain)), line(say(hintFor(ion).atoms))},
+        {charge, line(spanOf(ion)), line(hintOnCharge(ion))},
     };
 }
 
-std::string electrons(int count)
+Span electrons(int count)
 {
-    return inWords(count) + (count == 1 ? " electron" : " electrons");
+    constexpr Sentence counts[] = {Sentence::ionFormulaOneElectron,
+                                   Sentence::ionFormulaTwoElectrons,
+                                   Sentence::ionFormulaThreeElectrons};
+    return say(counts[count - 1]);
+}
+
+// The outer electrons of its atom, which the group tells, give an ion its charge.
+Span groupSentence(const IonRow& ion, const ElementRow& row)
+{
+    const Span group = number(std::to_string(row.group));
+    const Span count = electrons(std::abs(ion.charge));
+    if (row.group < 13) {
+        return say<Sentence::ionFormulaLoses>(nameOf(row), group, count);
+    }
+    // Groups 13 to 18 were numbered 3 to 8 before.
+    const Span former = number(std::to_string(row.group - 10));
+    return say(ion.charge < 0 ? Sentence::ionFormulaTakesUp : Sentence::ionFormulaLosesInLaterGroup,
+               nameOf(row), group, former, count);
+}
+
+bool hasAlwaysTheSameCharge(const IonRow& ion, const ElementRow& row)
+{
+    return ion.charge > 0 && row.group > 2 && row.group < 13;
 }
 
 // Why an ion of one atom has its charge.
-Spans chargeSentence(const IonRow& ion, const ElementRow& row)
+Span chargeSentence(const IonRow& ion, const ElementRow& row)
 {
-    const int size = std::abs(ion.charge);
-    // Groups 13 to 18 were numbered 3 to 8 before.
-    const std::string former = row.group > 12 ? " (" + std::to_string(row.group - 10) + ")" : "";
-    const std::string group = " is in group " + std::to_string(row.group) + former + ": ";
     if (hasRomanNumeral(ion)) {
-        return line("The Roman numeral tells the charge: " + chargeWords(ion) + ".");
+        return say<Sentence::ionFormulaChargeInName>(chargeWords(ion));
     }
     if (ion.id == Ion::hydrogen) {
-        return line("The atom loses its only electron.");
+        return say<Sentence::ionFormulaOnlyElectron>();
     }
-    if (ion.charge < 0) {
-        return line(nameOf(row), group, "its atom takes up ", electrons(size), ".");
-    }
-    if (row.group > 2 && row.group < 13) {
-        return line("There is no Roman numeral, because it always has the same charge: " +
-                    chargeWords(ion) + ".");
-    }
-    return line(nameOf(row), group, "its atom loses ", electrons(size), ".");
+    return hasAlwaysTheSameCharge(ion, row)
+               ? say<Sentence::ionFormulaSameCharge>(chargeWords(ion))
+               : groupSentence(ion, row);
 }
 
-const char* chargeHint(const IonRow& ion, const ElementRow& row)
+Sentence chargeHint(const IonRow& ion, const ElementRow& row)
 {
     if (hasRomanNumeral(ion)) {
-        return "The name itself tells the charge.";
+        return Sentence::hintIonFormulaChargeInName;
     }
     if (ion.charge < 0) {
-        return "How many electrons are missing from the outer shell of its atom?";
+        return Sentence::hintIonFormulaElectronsMissing;
     }
-    return row.group > 2 && row.group < 13
-               ? "Its charge is always the same and has to be looked up."
-               : "How many electrons are in the outer shell of its atom? It loses them.";
+    return hasAlwaysTheSameCharge(ion, row) ? Sentence::hintIonFormulaSameCharge
+                                            : Sentence::hintIonFormulaElectronsLost;
 }
 
 std::vector<Step> atomSolution(const IonRow& ion)
 {
     const ElementRow& row = *elementOf(ion);
-    const Spans symbol = ion.charge < 0
-                             ? line(nameOf(ion), " is an ion of ", nameOf(row), ".")
-                             : line("Take the symbol of ", nameOf(row), ".");
-    const char* const element =
-        ion.charge < 0 ? "Its name is that of an element with the ending -ide. Find the symbol."
-                       : "Which element is it? Find it in the periodic table.";
+    const bool isNegative = ion.charge < 0;
+    const Span symbol = isNegative ? say<Sentence::ionFormulaOfElement>(nameOf(ion), nameOf(row))
+                                   : say<Sentence::ionFormulaSymbol>(nameOf(row));
     return {
-        {symbol, line(formula(std::string(row.symbol))), line(element)},
-        {chargeSentence(ion, row), line(spanOf(ion)), line(chargeHint(ion, row))},
+        {line(symbol), line(formula(row.symbol)),
+         line(say(isNegative ? Sentence::hintIonFormulaIde : Sentence::hintIonFormulaElement))},
+        {line(chargeSentence(ion, row)), line(spanOf(ion)), line(say(chargeHint(ion, row)))},
     };
 }
 
@@ -260,34 +255,28 @@ std::string textOf(std::string_view formulaWithoutCharge, int charge)
 struct Mistaken {
     Ion of;
     std::string_view text; // with the charge
-    std::string_view sentence;
+    Sentence sentence;
 };
-
-constexpr std::string_view hydrogens = "Check the number of hydrogen atoms.";
-constexpr std::string_view carbons = "Check the number of carbon atoms.";
-constexpr std::string_view ownCharge = "Hydrogen brings a charge of its own.";
-constexpr std::string_view notItsCharge =
-    "The Roman numeral is the oxidation number of manganese, not the charge of the ion.";
 
 // clang-format off
 constexpr Mistaken mistakes[] = {
-    {Ion::hydrogen, "H3O^+", "That is a hydrogen ion joined to a water molecule."},
-    {Ion::hydrogen, "OH^-", "That is the hydroxide ion, which bases have."},
-    {Ion::ammonium, "NH3", sentences::ammonia},
-    {Ion::ammonium, "NH2^+", hydrogens},
-    {Ion::hydrogencarbonate, "HCO3^2-", ownCharge},
-    {Ion::hydrogensulfate, "HSO4^2-", ownCharge},
-    {Ion::oxide, "O2^2-", "That is the peroxide ion, which has two atoms."},
-    {Ion::ethanoate, "HCOO^-", carbons},
-    {Ion::ethanoate, "C2H5COO^-", carbons},
-    {Ion::ethanoate, "CH3CH2COO^-", carbons},
-    {Ion::ethanoate, "CH3COOH", "That is the acid, which is no ion."},
-    {Ion::manganate7, "MnO4^7+", notItsCharge},
-    {Ion::manganate7, "MnO4^7-", notItsCharge},
-    {Ion::dichromate, "CrO4^2-", "That is chromate. What does di- tell you?"},
-    {Ion::hydrogensulfite, "HSO3^2-", ownCharge},
-    {Ion::hydrogenphosphate, "HPO4^3-", ownCharge},
-    {Ion::dihydrogenphosphate, "H2PO4^3-", ownCharge},
+    {Ion::hydrogen,            "H3O^+",       Sentence::slipIonFormulaHydronium},
+    {Ion::hydrogen,            "OH^-",        Sentence::slipIonFormulaHydroxide},
+    {Ion::ammonium,            "NH3",         Sentence::markAmmonia},
+    {Ion::ammonium,            "NH2^+",       Sentence::slipIonFormulaHydrogens},
+    {Ion::hydrogencarbonate,   "HCO3^2-",     Sentence::slipIonFormulaOwnCharge},
+    {Ion::hydrogensulfate,     "HSO4^2-",     Sentence::slipIonFormulaOwnCharge},
+    {Ion::oxide,               "O2^2-",       Sentence::slipIonFormulaPeroxide},
+    {Ion::ethanoate,           "HCOO^-",      Sentence::slipIonFormulaCarbons},
+    {Ion::ethanoate,           "C2H5COO^-",   Sentence::slipIonFormulaCarbons},
+    {Ion::ethanoate,           "CH3CH2COO^-", Sentence::slipIonFormulaCarbons},
+    {Ion::ethanoate,           "CH3COOH",     Sentence::slipIonFormulaAcid},
+    {Ion::manganate7,          "MnO4^7+",     Sentence::slipIonFormulaOxidationNumber},
+    {Ion::manganate7,          "MnO4^7-",     Sentence::slipIonFormulaOxidationNumber},
+    {Ion::dichromate,          "CrO4^2-",     Sentence::slipIonFormulaChromate},
+    {Ion::hydrogensulfite,     "HSO3^2-",     Sentence::slipIonFormulaOwnCharge},
+    {Ion::hydrogenphosphate,   "HPO4^3-",     Sentence::slipIonFormulaOwnCharge},
+    {Ion::dihydrogenphosphate, "H2PO4^3-",    Sentence::slipIonFormulaOwnCharge},
 };
 // clang-format on
 
@@ -295,7 +284,7 @@ void addMistakes(Exercise& exercise, const IonRow& ion, const std::vector<std::s
 {
     for (const Mistaken& row : mistakes) {
         if (row.of == ion.id) {
-            addSlip(exercise, right, std::string(row.text), row.sentence);
+            addSlip(exercise, right, std::string(row.text), say(row.sentence));
         }
     }
 }
@@ -304,30 +293,30 @@ void addCharges(Exercise& exercise, const IonRow& ion, const std::vector<std::st
 {
     const std::string plain(ion.formula);
     const int size = std::abs(ion.charge);
-    addSlip(exercise, right, plain, sentences::noCharge);
+    addSlip(exercise, right, plain, say<Sentence::markNoCharge>());
     if (size > 1) {
-        addSlip(exercise, right, plain + std::to_string(size), sentences::chargeAsSubscript);
+        addSlip(exercise, right, plain + std::to_string(size), say<Sentence::markChargeAsSubscript>());
     }
-    addSlip(exercise, right, textOf(plain, -ion.charge), sentences::wrongSign);
+    addSlip(exercise, right, textOf(plain, -ion.charge), say<Sentence::markWrongSign>());
     const bool isTold = hasRomanNumeral(ion) && ion.charge > 0;
     for (const int other : {1, 2, 3}) {
         addSlip(exercise, right, textOf(plain, ion.charge < 0 ? -other : other),
-                isTold ? sentences::romanCharge : sentences::wrongSize);
+                isTold ? say<Sentence::markRomanCharge>() : say<Sentence::markWrongSize>());
     }
 }
 
 void addFormulas(Exercise& exercise, const IonRow& ion, const std::vector<std::string>& right)
 {
     for (const Confusion* const other : confusionsOf(ion)) {
-        addSlip(exercise, right, textOf(other->formula, other->charge), other->sentence);
+        addSlip(exercise, right, textOf(other->formula, other->charge), say(other->sentence));
     }
     for (const std::string_view symbol : wrongSymbolsOf(ion)) {
-        addSlip(exercise, right, textOf(symbol, ion.charge), sentences::checkSymbol(symbol));
+        addSlip(exercise, right, textOf(symbol, ion.charge), say<Sentence::markCheckSymbol>(formula(symbol)));
     }
     for (const int more : {-1, 1}) {
         const std::string other = withOxygens(ion, more);
         if (!other.empty()) {
-            addSlip(exercise, right, textOf(other, ion.charge), sentences::oxygens);
+            addSlip(exercise, right, textOf(other, ion.charge), say<Sentence::markOxygens>());
         }
     }
 }
@@ -369,7 +358,7 @@ Exercise make(const Place& place, const IonRow& ion)
     Exercise exercise = {};
     exercise.place = place;
     exercise.prompt =
-        line("Write the formula of the ", nameOf(ion), " ion, together with its charge.");
+        line(say<Sentence::ionFormulaPrompt>(nameOf(ion)));
     exercise.ask.form = Form::ion;
     exercise.given = {GivenIon{&ion}};
     exercise.key = textOf(ion.formula, ion.charge);

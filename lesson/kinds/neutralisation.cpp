@@ -14,7 +14,6 @@
 #include "lesson/kinds/shared/record.hpp"
 #include "lesson/kinds/shared/salts.hpp"
 #include "lesson/marking/equation.hpp"
-#include "lesson/marking/formula.hpp"
 #include "lesson/text/quotable.hpp"
 #include "lesson/words/say.hpp"
 
@@ -129,7 +128,7 @@ int weightOf(const Reaction& reaction)
 ClassKey classOf(const Reaction& reaction)
 {
     const auto [acid, base] = ratioOf(reaction);
-    return {acid * 10 + base, "", weightOf(reaction)};
+    return {acid * 10 + base, 0, weightOf(reaction)};
 }
 
 Classified<Reaction> poolOfLevel(int level)
@@ -152,16 +151,10 @@ const Classified<Reaction>& poolFor(int level)
 
 // ---- The prompt
 
-Span nameOfAcid(const AcidRow& acid)
-{
-    return name(nameOf(acid));
-}
-
 Spans promptFor(const AcidRow& acid, const Base& base)
 {
-    return line("Write the balanced equation for the complete neutralisation of ",
-                nameOf(base), " by ", nameOfAcid(acid),
-                ". The salt is ", nameOf(*base.cation, anionOf(acid)), ".");
+    return line(say<Sentence::neutralisationPrompt>(nameOf(base), nameOf(acid),
+                                                    nameOf(*base.cation, anionOf(acid))));
 }
 
 // ---- The worked solution
@@ -198,30 +191,27 @@ Equation withSinglesBehindTheSalt(Equation equation)
 
 Step ionsOfTheSalt(const AcidRow& acid, const Base& base)
 {
-    return {
-        line("The salt has these ions, as many of each as make the charges cancel."),
-        line(spanOf(*base.cation), ", ", spanOf(anionOf(acid)), ": ",
-             formula(saltFormula(acid, base))),
-        base.anion == nullptr
-            ? line("Ammonia takes up a hydrogen ion of the acid. Which ion does it become?")
-            : line("The salt is made of the positive ion of the base and of what the acid leaves. "
-                   "What are their charges?")};
+    return {line(say<Sentence::neutralisationIonsOfSalt>()),
+            line(spanOf(*base.cation), ", ", spanOf(anionOf(acid)), ": ",
+                 formula(saltFormula(acid, base))),
+            line(say(base.anion == nullptr ? Sentence::hintNeutralisationAmmonium
+                                           : Sentence::hintNeutralisationSalt))};
 }
 
-Spans productsHint(const Base& base)
+Span productsHint(const Base& base)
 {
     switch (kindOf(base)) {
     case BaseKind::ammonia:
-        return line("All the hydrogen of the acid goes to the ammonia. What is left over?");
+        return say<Sentence::hintNeutralisationOfAmmonia>();
     case BaseKind::hydroxide:
-        return line("What do the hydrogen of the acid and the OH of the base become?");
+        return say<Sentence::hintNeutralisationOfHydroxide>();
     case BaseKind::oxide:
-        return line("What do the hydrogen of the acid and the oxygen of the base become?");
+        return say<Sentence::hintNeutralisationOfOxide>();
     case BaseKind::carbonate:
     case BaseKind::hydrogencarbonate:
         break;
     }
-    return line("Each ", nameOf(*base.anion), " gives carbon dioxide as well as water.");
+    return say<Sentence::hintNeutralisationOfCarbonate>(nameOf(*base.anion));
 }
 
 // Of a base that becomes water.
@@ -231,38 +221,35 @@ Spans waterHint(const Base& base)
     case BaseKind::ammonia:
         return {};
     case BaseKind::hydroxide:
-        return line("Each OH of the base makes one water with one hydrogen of the acid.");
+        return line(say<Sentence::hintNeutralisationWaterOfHydroxide>());
     case BaseKind::oxide:
-        return line("Each oxygen of the base makes one water with two hydrogens of the acid.");
+        return line(say<Sentence::hintNeutralisationWaterOfOxide>());
     case BaseKind::carbonate:
     case BaseKind::hydrogencarbonate:
         break;
     }
-    return line("Each ", nameOf(*base.anion), " gives one water and one carbon dioxide.");
+    return line(say<Sentence::hintNeutralisationWaterOfCarbonate>(nameOf(*base.anion)));
 }
 
-Spans productsOf(const Base& base)
+Span productsOf(const Base& base)
 {
     switch (kindOf(base)) {
     case BaseKind::ammonia:
-        return line("Write the formulas: an acid and ammonia give a salt alone.");
+        return say<Sentence::neutralisationOfAmmonia>();
     case BaseKind::hydroxide:
-        return line("Write the formulas: an acid and a ", nameOf(*base.anion),
-                    " give a salt and water.");
+        return say<Sentence::neutralisationOfHydroxide>();
     case BaseKind::oxide:
-        return line("Write the formulas: an acid and an ", nameOf(*base.anion),
-                    " give a salt and water.");
+        return say<Sentence::neutralisationOfOxide>();
     case BaseKind::carbonate:
     case BaseKind::hydrogencarbonate:
         break;
     }
-    return line("Write the formulas: an acid and a ", nameOf(*base.anion),
-                " give a salt, water and carbon dioxide.");
+    return say<Sentence::neutralisationOfCarbonate>(nameOf(*base.anion));
 }
 
 Step writeFormulas(const Equation& equation, const Base& base)
 {
-    return {productsOf(base), spansOf(skeletonOf(equation)), productsHint(base)};
+    return {line(productsOf(base)), spansOf(skeletonOf(equation)), line(productsHint(base))};
 }
 
 // What of metal and anion takes a coefficient to balance; empty where neither does.
@@ -270,16 +257,15 @@ Spans balanceFirst(const Equation& equation, const AcidRow& acid, const Base& ba
 {
     const bool isMetal = equation.left[1].first > 1 || equation.right[0].first > 1;
     const bool isAnion = equation.left[0].first > 1;
-    const IonRow& anion = anionOf(acid);
-    const Span metal = nameAlone(*base.cation);
-    const Span group = nameOf(anion);
+    const Name metal = nameAlone(*base.cation);
+    const Name anion = nameOf(anionOf(acid));
     if (isMetal && isAnion) {
-        return line("Balance the ", metal, ", then the ", group, ".");
+        return line(say<Sentence::neutralisationBalanceBoth>(metal, anion));
     }
     if (isMetal) {
-        return line("Balance the ", metal, ".");
+        return line(say<Sentence::neutralisationBalance>(metal));
     }
-    return isAnion ? line("Balance the ", group, ".") : Spans();
+    return isAnion ? line(say<Sentence::neutralisationBalance>(anion)) : Spans();
 }
 
 // "H 12, S 3, Al 2, O 18", oxygen last.
@@ -312,9 +298,12 @@ Spans countsOf(const Equation& equation)
 
 Step balanceWater(const Equation& equation, const Base& base, bool isFirst)
 {
-    const std::string what =
-        givesCarbonDioxide(kindOf(base)) ? "the water and the carbon dioxide." : "the water.";
-    return {line((isFirst ? "Balance " : "Then ") + what), spansOf(equation), waterHint(base)};
+    const bool isWithGas = givesCarbonDioxide(kindOf(base));
+    const Sentence first = isWithGas ? Sentence::neutralisationBalanceWaterAndGas
+                                     : Sentence::neutralisationBalanceWater;
+    const Sentence then =
+        isWithGas ? Sentence::neutralisationThenWaterAndGas : Sentence::neutralisationThenWater;
+    return {line(say(isFirst ? first : then)), spansOf(equation), waterHint(base)};
 }
 
 std::vector<Step> solutionFor(const Equation& equation, const AcidRow& acid, const Base& base)
@@ -323,14 +312,14 @@ std::vector<Step> solutionFor(const Equation& equation, const AcidRow& acid, con
     const Spans first = balanceFirst(equation, acid, base);
     if (!first.empty()) {
         steps.push_back({first, spansOf(withSinglesBehindTheSalt(equation)),
-                         line("How many of each ion are in one unit of the salt? The left side has "
-                              "to bring as many.")});
+                         line(say<Sentence::hintNeutralisationBalance>())});
     }
     if (equation.right.size() > 1 && equation.right[1].first > 1) {
         steps.push_back(balanceWater(equation, base, first.empty()));
     }
-    steps.push_back({line("Count the atoms to check."), line(countsOf(equation), " on each side"),
-                     line("Is each element there as often on the left as on the right?")});
+    steps.push_back({line(say<Sentence::neutralisationCheck>()),
+                     line(say<Sentence::neutralisationOnEachSide>(countsOf(equation))),
+                     line(say<Sentence::hintNeutralisationCheck>())});
     return steps;
 }
 
@@ -364,9 +353,9 @@ std::string wrongSalt(const IonRow& cation, const IonRow& anion)
 
 using Slips = std::vector<Slip>;
 
-void add(Slips& slips, const Equation& wrong, std::string_view sentence)
+void add(Slips& slips, const Equation& wrong, const Piece& sentence)
 {
-    slips.push_back({textOf(wrong), std::nullopt, std::string(sentence)});
+    slips.push_back({textOf(wrong), std::nullopt, line(sentence)});
 }
 
 void addUnbalanced(Slips& slips, const Equation& equation, const EquationAnswer& answer)
@@ -380,7 +369,7 @@ void addUnbalanced(Slips& slips, const Equation& equation, const EquationAnswer&
 void addForgotten(Slips& slips, Equation equation)
 {
     equation.right.pop_back();
-    add(slips, equation, sentences::oneMoreProduct);
+    add(slips, equation, say<Sentence::markOneMoreProduct>());
 }
 
 void addWrongSalt(Slips& slips, const Equation& equation, const IonRow& cation, const IonRow& anion)
@@ -393,7 +382,8 @@ void addWrongSalt(Slips& slips, const Equation& equation, const IonRow& cation, 
     salt = wrongSalt(cation, anion);
     const bool isNeutral = cation.charge + anion.charge == 0;
     add(slips, wrong,
-        sentences::isNot(salt, "salt", isNeutral ? sentences::simplify : sentences::charges));
+        line(say<Sentence::markNotTheSalt>(formula(salt)), " ",
+             say(isNeutral ? Sentence::markSimplify : Sentence::markCharges)));
 }
 
 // With carbonic acid or hydrogen for the water and what else would form.
@@ -401,14 +391,15 @@ void addWrongProduct(Slips& slips, Equation equation, bool isCarbonicAcid)
 {
     equation.right.resize(2);
     equation.right[1].second = isCarbonicAcid ? "H2CO3" : "H2";
-    add(slips, equation, isCarbonicAcid ? sentences::carbonicAcid : sentences::hydrogenGas);
+    add(slips, equation,
+        say(isCarbonicAcid ? Sentence::markCarbonicAcid : Sentence::markHydrogenGas));
 }
 
 void addAcidSalt(Slips& slips, const AcidRow& acid, const Base& base)
 {
     for (const AcidSaltRow& row : acidSalts) {
         if (row.acid == acid.id && row.cationCharge == base.cation->charge) {
-            add(slips, neutralisationTo(rowOf(row.anion), acid, base), sentences::lessBase);
+            add(slips, neutralisationTo(rowOf(row.anion), acid, base), say<Sentence::markLessBase>());
         }
     }
 }
@@ -422,7 +413,7 @@ Slips slipsFor(const Equation& equation, const EquationAnswer& answer)
         addWrongProduct(slips, equation, givesCarbonDioxide(kindOf(answer.base)));
     }
     addWrongSalt(slips, equation, *answer.base.cation, anionOf(*answer.acid));
-    add(slips, doubled(equation), sentences::smallestNumbers);
+    add(slips, doubled(equation), say<Sentence::markSmallestNumbers>());
     addAcidSalt(slips, *answer.acid, answer.base);
     return slips;
 }
@@ -468,7 +459,7 @@ Exercise make(const Place& place, const Reaction& reaction)
     exercise.given = {
         GivenCompound{std::string(acid->formula), nameOf(*acid)},
         GivenCompound{formulaOf(base), nameOf(base)},
-        GivenCompound{saltFormula(*acid, base), saltName(*acid, base)},
+        GivenCompound{saltFormula(*acid, base), nameOf(*base.cation, anionOf(*acid))},
     };
     exercise.equation = neutralisationOf(*acid, base);
     exercise.key = textOf(*exercise.equation);

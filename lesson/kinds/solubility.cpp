@@ -31,42 +31,26 @@ const SolubilityRule& ruleOf(const Pair& pair)
     return *ruleFor(*pair.anion);
 }
 
-std::string familyOf(const Pair& pair)
+int familyOf(const Pair& pair)
 {
-    return std::string(ruleOf(pair).family);
-}
-
-// The rule for a learner, with the anion's name as one that may differ in American English.
-Spans ruleWords(const Pair& pair)
-{
-    const std::string sentence(ruleOf(pair).sentence);
-    const std::string anion(pair.anion->name);
-    const Span small = nameOf(*pair.anion);
-    for (const Span& anionName : {small, capitalised(small)}) {
-        const std::size_t place = sentence.find(anionName.text);
-        if (place != std::string::npos) {
-            return line(sentence.substr(0, place), anionName,
-                        sentence.substr(place + anion.size()));
-        }
-    }
-    return line(sentence);
+    return static_cast<int>(ruleOf(pair).family);
 }
 
 Spans verdictOn(const Pair& pair)
 {
-    return line(formula(formulaOf(pair)), isSoluble(pair) ? " is soluble" : " is insoluble");
+    return line(say(isSoluble(pair) ? Sentence::solubilityIsSoluble : Sentence::solubilityIsInsoluble,
+                    formula(formulaOf(pair))));
 }
 
 // What to ask of a pair before the rule is told.
 Spans ruleHint(const Pair& pair)
 {
-    return line("What is the rule for ", nameOfFamily(*pair.anion), "? Does it name ",
-                nameAlone(*pair.cation), "?");
+    return line(say<Sentence::hintSolubilityRule>(nameOfFamily(*pair.anion), nameAlone(*pair.cation)));
 }
 
 Step ruleStep(const Pair& pair)
 {
-    return {ruleWords(pair), verdictOn(pair), ruleHint(pair)};
+    return {line(sentenceOf(ruleOf(pair))), verdictOn(pair), ruleHint(pair)};
 }
 
 // ------------------------------------------------------------- levels 1 and 2: does it dissolve
@@ -101,17 +85,17 @@ Exercise oneCompound(const Place& place, const Pair& pair)
 {
     Exercise exercise = {};
     exercise.place = place;
-    exercise.prompt = line("Does ", nameOf(*pair.cation, *pair.anion), ", ",
-                           formula(formulaOf(pair)), ", dissolve in water?");
+    exercise.prompt = line(say<Sentence::solubilityPrompt>(
+        nameOf(*pair.cation, *pair.anion), formula(formulaOf(pair))));
     exercise.ask.form = Form::solubility;
     exercise.ask.choices = {"yes", "no"};
     exercise.given = {GivenIon{pair.cation}, GivenIon{pair.anion}};
     exercise.key = isSoluble(pair) ? "yes" : "no";
-    exercise.answer = SolubilityAnswer{isSoluble(pair), std::string(ruleOf(pair).sentence)};
+    exercise.answer = SolubilityAnswer{isSoluble(pair), line(sentenceOf(ruleOf(pair)))};
     exercise.solution = {
-        {line(nameOf(*pair.cation, *pair.anion), " has these ions."),
+        {line(say<Sentence::saltIons>(nameOf(*pair.cation, *pair.anion))),
          line(spanOf(*pair.cation), ", ", spanOf(*pair.anion)),
-         line("Each compound here is made of two ions. The negative one tells which rule holds.")},
+         line(say<Sentence::hintSolubilityIons>())},
         ruleStep(pair),
     };
     return exercise;
@@ -128,7 +112,7 @@ struct Mixture {
 
 bool isAsked(const Pair& pair)
 {
-    return whySolubilityIsNotAsked(pair).empty();
+    return !whySolubilityIsNotAsked(pair);
 }
 
 bool hasPrecipitate(const Mixture& mixture)
@@ -153,7 +137,7 @@ ClassKey classOf(const Mixture& mixture)
     const auto count =
         std::count_if(std::begin(mixture.salts), std::end(mixture.salts),
                       [](const Pair& salt) { return isAlwaysSoluble(*salt.cation); });
-    return {1, std::to_string(count), weight};
+    return {1, static_cast<int>(count), weight};
 }
 
 std::vector<Pair> solublePairs()
@@ -200,12 +184,12 @@ const Classified<Mixture>& allMixtures()
     return mixtures;
 }
 
-// The rules of the new pairs, one sentence where it is the same for both.
-std::string rulesFor(const Mixture& mixture)
+// What tells which of the new pairs dissolve.
+Spans rulesFor(const Mixture& mixture)
 {
-    const std::string first(ruleOf(mixture.exchanged[0]).sentence);
-    const std::string second(ruleOf(mixture.exchanged[1]).sentence);
-    return first == second || hasPrecipitate(mixture) ? first : first + " " + second;
+    const Span first = sentenceOf(ruleOf(mixture.exchanged[0]));
+    return hasPrecipitate(mixture) ? line(first)
+                                   : line(first, " ", sentenceOf(ruleOf(mixture.exchanged[1])));
 }
 
 std::vector<Step> workedSolution(const Mixture& mixture)
@@ -213,24 +197,23 @@ std::vector<Step> workedSolution(const Mixture& mixture)
     const auto& [a, b] = mixture.salts;
     const auto& [first, second] = mixture.exchanged;
     std::vector<Step> steps = {
-        {line("These ions come together."),
+        {line(say<Sentence::solubilityIonsTogether>()),
          line(spanOf(*a.cation), ", ", spanOf(*a.anion), ", ", spanOf(*b.cation), ", ",
               spanOf(*b.anion)),
-         line("Each salt falls apart into its ions in water. Which four are in the mixture?")},
-        {line("Exchange the partners: these are the new pairs."),
+         line(say<Sentence::hintSolubilityIonsTogether>())},
+        {line(say<Sentence::solubilityPartners>()),
          line(formula(formulaOf(first)), ", ", formula(formulaOf(second))),
-         line("Which compounds can the positive ions make with the negative ions of the other "
-              "solution?")},
+         line(say<Sentence::hintSolubilityPartners>())},
         ruleStep(second),
         ruleStep(first),
     };
-    const Spans hint = line("Which of the new pairs does not stay in solution, if any?");
+    const Spans hint = line(say<Sentence::hintSolubilityPrecipitate>());
     if (hasPrecipitate(mixture)) {
-        steps.push_back(
-            {line("So this is the precipitate."), line(formula(formulaOf(first))), hint});
+        steps.push_back({line(say<Sentence::solubilityPrecipitate>()),
+                         line(formula(formulaOf(first))), hint});
     } else {
-        steps.push_back(
-            {line("Both are soluble, so there is no precipitate."), line("none"), hint});
+        steps.push_back({line(say<Sentence::solubilityNoPrecipitate>()),
+                         line(say<Sentence::solubilityNone>()), hint});
     }
     return steps;
 }
@@ -243,11 +226,10 @@ void addSlips(Exercise& exercise, const Mixture& mixture)
                                 : std::vector<std::string>();
     for (const Pair& pair : mixture.exchanged) {
         addSlip(exercise, right, formulaOf(pair),
-                "That one stays in solution. " + std::string(ruleOf(pair).sentence));
+                line(say<Sentence::slipSolubilityStaysDissolved>(), " ", sentenceOf(ruleOf(pair))));
     }
     for (const Pair& pair : mixture.salts) {
-        addSlip(exercise, right, formulaOf(pair),
-                "That one was dissolved at the start. Look at the new pairs of ions.");
+        addSlip(exercise, right, formulaOf(pair), say<Sentence::slipSolubilityWasDissolved>());
     }
 }
 
@@ -258,8 +240,7 @@ Exercise twoSolutions(const Place& place, const Mixture& mixture)
     Exercise exercise = {};
     exercise.place = place;
     exercise.prompt =
-        line("Solutions of ", nameOf(*a.cation, *a.anion), " and ", nameOf(*b.cation, *b.anion),
-             " are mixed. Write the formula of the precipitate, or “none”.");
+        line(say<Sentence::solubilityOfTwoSolutions>(nameOf(*a.cation, *a.anion), nameOf(*b.cation, *b.anion)));
     exercise.ask.form = Form::solubility;
     exercise.given = {GivenIon{a.cation}, GivenIon{a.anion}, GivenIon{b.cation}, GivenIon{b.anion}};
     exercise.key = hasPrecipitate(mixture) ? formulaOf(precipitate) : "none";

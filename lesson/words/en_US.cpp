@@ -14,6 +14,9 @@ namespace
 constexpr Word<Sentence> sentences[] = {
     {Sentence::neutralisationTitle,  "Equations of neutralization"},
     {Sentence::neutralisationLevel2, "Oxides, carbonates, hydrogen carbonates and ammonia"},
+    {Sentence::neutralisationPrompt, "Write the balanced equation for the complete neutralization of {base} by {acid}. The salt is {salt}."},
+    {Sentence::notAskedTinNitrate,     "It falls apart: nitrate oxidizes tin(II)."},
+    {Sentence::notAskedOxidisedByAir,  "It is oxidized by air, and is hardly met at school."},
 };
 
 constexpr Word<int> elementNames[] = {

@@ -7,6 +7,7 @@
 #include "lesson/chemistry/composition.hpp"
 #include "lesson/chemistry/elements.hpp"
 #include "lesson/text/scan.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -63,8 +64,13 @@ std::string chargeWords(const IonRow& ion)
     return std::to_string(std::abs(ion.charge)) + (ion.charge < 0 ? "−" : "+");
 }
 
+Span sentenceOf(const SolubilityRule& rule)
+{
+    return say(rule.sentence, nameOfFamily(rowOf(rule.anion)));
+}
+
 void addSlip(Exercise& exercise, const std::vector<std::string>& right, std::string text,
-             const Spans& sentence)
+             const Piece& sentence)
 {
     const std::string folded = lowerCase(text);
     const bool isRight =
@@ -73,7 +79,7 @@ void addSlip(Exercise& exercise, const std::vector<std::string>& right, std::str
     const bool isListed = std::any_of(exercise.slips.begin(), exercise.slips.end(),
                                       [&text](const Slip& slip) { return slip.text == text; });
     if (!isRight && !isListed) {
-        exercise.slips.push_back({std::move(text), std::nullopt, sentence});
+        exercise.slips.push_back({std::move(text), std::nullopt, line(sentence)});
     }
 }
 
