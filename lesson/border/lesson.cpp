@@ -151,7 +151,7 @@ const char* lesson_tables(const char* writing)
 {
     thread_local std::string result;
     return lesson::kept(result, lesson::withWriting(writing, [](const lesson::Writing& written) {
-                            return lesson::tablesJson(*written.language);
+                            return lesson::tablesJson(written);
                         }));
 }
 

@@ -2,13 +2,13 @@
 
 #include <string>
 
-#include "lesson/words/language.hpp"
+#include "lesson/words/writing.hpp"
 
 namespace lesson
 {
 
-// The data that the exercises rest on, for a front end to show; docs/lesson.md describes each
-// member.
-std::string tablesJson(const Language& language);
+// The data that the exercises rest on, for a front end to show, in the language of the reader;
+// docs/lesson.md describes each member.
+std::string tablesJson(const Writing& writing);
 
 } // namespace lesson

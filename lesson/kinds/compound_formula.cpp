@@ -228,17 +228,20 @@ private:
     void addSymbols()
     {
         for (const std::string_view symbol : wrongSymbolsOf(cation)) {
-            add({std::string(symbol), false, first.times}, second, say<Sentence::markCheckSymbol>(formula(symbol)));
+            add({std::string(symbol), false, first.times}, second,
+                say<Sentence::markCheckSymbol>(formula(symbol)));
         }
         for (const std::string_view symbol : wrongSymbolsOf(anion)) {
-            add(first, {std::string(symbol), false, second.times}, say<Sentence::markCheckSymbol>(formula(symbol)));
+            add(first, {std::string(symbol), false, second.times},
+                say<Sentence::markCheckSymbol>(formula(symbol)));
         }
     }
 
     void addChargesLeftIn()
     {
         add({first.ion + "^" + chargeText(cation), true, first.times},
-            {second.ion + "^" + chargeText(anion), true, second.times}, say<Sentence::markChargesLeftIn>());
+            {second.ion + "^" + chargeText(anion), true, second.times},
+            say<Sentence::markChargesLeftIn>());
     }
 
     void addOxygens()

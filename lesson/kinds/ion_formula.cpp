@@ -98,10 +98,10 @@ const Classified<const IonRow*>& poolOfLevel(int level)
 // "four oxygens"
 Span countOf(const AtomCount& atoms)
 {
-    constexpr Sentence counts[] = {
-        Sentence::ionFormulaOneAtom,   Sentence::ionFormulaTwoAtoms,  Sentence::ionFormulaThreeAtoms,
-        Sentence::ionFormulaFourAtoms, Sentence::ionFormulaFiveAtoms, Sentence::ionFormulaSixAtoms,
-        Sentence::ionFormulaSevenAtoms};
+    constexpr Sentence counts[] = {Sentence::ionFormulaOneAtom,    Sentence::ionFormulaTwoAtoms,
+                                   Sentence::ionFormulaThreeAtoms, Sentence::ionFormulaFourAtoms,
+                                   Sentence::ionFormulaFiveAtoms,  Sentence::ionFormulaSixAtoms,
+                                   Sentence::ionFormulaSevenAtoms};
     return say(counts[atoms.count - 1], nameOf(element(atoms.element)));
 }
 
@@ -212,9 +212,8 @@ Span chargeSentence(const IonRow& ion, const ElementRow& row)
     if (ion.id == Ion::hydrogen) {
         return say<Sentence::ionFormulaOnlyElectron>();
     }
-    return hasAlwaysTheSameCharge(ion, row)
-               ? say<Sentence::ionFormulaSameCharge>(chargeWords(ion))
-               : groupSentence(ion, row);
+    return hasAlwaysTheSameCharge(ion, row) ? say<Sentence::ionFormulaSameCharge>(chargeWords(ion))
+                                            : groupSentence(ion, row);
 }
 
 Sentence chargeHint(const IonRow& ion, const ElementRow& row)
@@ -295,7 +294,8 @@ void addCharges(Exercise& exercise, const IonRow& ion, const std::vector<std::st
     const int size = std::abs(ion.charge);
     addSlip(exercise, right, plain, say<Sentence::markNoCharge>());
     if (size > 1) {
-        addSlip(exercise, right, plain + std::to_string(size), say<Sentence::markChargeAsSubscript>());
+        addSlip(exercise, right, plain + std::to_string(size),
+                say<Sentence::markChargeAsSubscript>());
     }
     addSlip(exercise, right, textOf(plain, -ion.charge), say<Sentence::markWrongSign>());
     const bool isTold = hasRomanNumeral(ion) && ion.charge > 0;
@@ -311,7 +311,8 @@ void addFormulas(Exercise& exercise, const IonRow& ion, const std::vector<std::s
         addSlip(exercise, right, textOf(other->formula, other->charge), say(other->sentence));
     }
     for (const std::string_view symbol : wrongSymbolsOf(ion)) {
-        addSlip(exercise, right, textOf(symbol, ion.charge), say<Sentence::markCheckSymbol>(formula(symbol)));
+        addSlip(exercise, right, textOf(symbol, ion.charge),
+                say<Sentence::markCheckSymbol>(formula(symbol)));
     }
     for (const int more : {-1, 1}) {
         const std::string other = withOxygens(ion, more);
@@ -357,8 +358,7 @@ Exercise make(const Place& place, const IonRow& ion)
 {
     Exercise exercise = {};
     exercise.place = place;
-    exercise.prompt =
-        line(say<Sentence::ionFormulaPrompt>(nameOf(ion)));
+    exercise.prompt = line(say<Sentence::ionFormulaPrompt>(nameOf(ion)));
     exercise.ask.form = Form::ion;
     exercise.given = {GivenIon{&ion}};
     exercise.key = textOf(ion.formula, ion.charge);

@@ -399,7 +399,8 @@ void addAcidSalt(Slips& slips, const AcidRow& acid, const Base& base)
 {
     for (const AcidSaltRow& row : acidSalts) {
         if (row.acid == acid.id && row.cationCharge == base.cation->charge) {
-            add(slips, neutralisationTo(rowOf(row.anion), acid, base), say<Sentence::markLessBase>());
+            add(slips, neutralisationTo(rowOf(row.anion), acid, base),
+                say<Sentence::markLessBase>());
         }
     }
 }

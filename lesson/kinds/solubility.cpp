@@ -38,14 +38,16 @@ int familyOf(const Pair& pair)
 
 Spans verdictOn(const Pair& pair)
 {
-    return line(say(isSoluble(pair) ? Sentence::solubilityIsSoluble : Sentence::solubilityIsInsoluble,
-                    formula(formulaOf(pair))));
+    return line(
+        say(isSoluble(pair) ? Sentence::solubilityIsSoluble : Sentence::solubilityIsInsoluble,
+            formula(formulaOf(pair))));
 }
 
 // What to ask of a pair before the rule is told.
 Spans ruleHint(const Pair& pair)
 {
-    return line(say<Sentence::hintSolubilityRule>(nameOfFamily(*pair.anion), nameAlone(*pair.cation)));
+    return line(
+        say<Sentence::hintSolubilityRule>(nameOfFamily(*pair.anion), nameAlone(*pair.cation)));
 }
 
 Step ruleStep(const Pair& pair)
@@ -85,8 +87,8 @@ Exercise oneCompound(const Place& place, const Pair& pair)
 {
     Exercise exercise = {};
     exercise.place = place;
-    exercise.prompt = line(say<Sentence::solubilityPrompt>(
-        nameOf(*pair.cation, *pair.anion), formula(formulaOf(pair))));
+    exercise.prompt = line(say<Sentence::solubilityPrompt>(nameOf(*pair.cation, *pair.anion),
+                                                           formula(formulaOf(pair))));
     exercise.ask.form = Form::solubility;
     exercise.ask.choices = {"yes", "no"};
     exercise.given = {GivenIon{pair.cation}, GivenIon{pair.anion}};
@@ -209,8 +211,8 @@ std::vector<Step> workedSolution(const Mixture& mixture)
     };
     const Spans hint = line(say<Sentence::hintSolubilityPrecipitate>());
     if (hasPrecipitate(mixture)) {
-        steps.push_back({line(say<Sentence::solubilityPrecipitate>()),
-                         line(formula(formulaOf(first))), hint});
+        steps.push_back(
+            {line(say<Sentence::solubilityPrecipitate>()), line(formula(formulaOf(first))), hint});
     } else {
         steps.push_back({line(say<Sentence::solubilityNoPrecipitate>()),
                          line(say<Sentence::solubilityNone>()), hint});
@@ -239,8 +241,8 @@ Exercise twoSolutions(const Place& place, const Mixture& mixture)
     const auto& [a, b] = mixture.salts;
     Exercise exercise = {};
     exercise.place = place;
-    exercise.prompt =
-        line(say<Sentence::solubilityOfTwoSolutions>(nameOf(*a.cation, *a.anion), nameOf(*b.cation, *b.anion)));
+    exercise.prompt = line(say<Sentence::solubilityOfTwoSolutions>(nameOf(*a.cation, *a.anion),
+                                                                   nameOf(*b.cation, *b.anion)));
     exercise.ask.form = Form::solubility;
     exercise.given = {GivenIon{a.cation}, GivenIon{a.anion}, GivenIon{b.cation}, GivenIon{b.anion}};
     exercise.key = hasPrecipitate(mixture) ? formulaOf(precipitate) : "none";
