@@ -9,7 +9,8 @@
 #include "lesson/chemistry/elements.hpp"
 #include "lesson/marking/equation_extras.hpp"
 #include "lesson/marking/equation_roles.hpp"
-#include "lesson/marking/sentences.hpp"
+#include "lesson/marking/ions_by_atoms.hpp"
+#include "lesson/marking/marks.hpp"
 #include "lesson/numbers/decimal.hpp"
 #include "lesson/reading/equation.hpp"
 #include "lesson/reading/formula.hpp"
@@ -43,7 +44,7 @@ int forgottenProducts(const Roles& roles, const Assignment& assignment,
         if (!isMissing(assignment, i) || standsFor(extras, roles[i])) {
             continue;
         }
-        if (!roles[i].noun.empty()) {
+        if (roles[i].kind != SpeciesKind::molecule) {
             return 0;
         }
         ++forgotten;
@@ -55,10 +56,9 @@ int forgottenProducts(const Roles& roles, const Assignment& assignment,
 
 Mark markOfWrong(const Extra& extra)
 {
-    const std::string formula = quotable(extra.typed.term->formula.text);
-    const std::string what =
-        extra.typed.isOnTheLeft ? " does not react here." : " does not form here.";
-    return {Verdict::wrong, "Not right yet. " + formula + what};
+    return markOf(Verdict::wrong, say(extra.typed.isOnTheLeft ? Sentence::markDoesNotReact
+                                                              : Sentence::markDoesNotForm,
+                                      typedFormula(*extra.typed.term)));
 }
 
 // How often an element is there on a side; none where that is beyond all range.
@@ -130,7 +130,7 @@ bool isBackwards(const TypedEquation& typed, const Roles& roles)
 Mark markSubstances(const TypedEquation& typed, const Roles& roles, const Assignment& assignment)
 {
     if (isBackwards(typed, roles)) {
-        return markOf(Verdict::slip, "The arrow points from acid and base to the products.");
+        return markOf(Verdict::slip, Sentence::markArrowTurned);
     }
     const std::vector<Extra> extras = explainedExtras(roles, assignment);
     if (const Extra* const extra = firstOf(extras, Mistake::ammoniaAndWater)) {
@@ -144,8 +144,8 @@ Mark markSubstances(const TypedEquation& typed, const Roles& roles, const Assign
     }
     const int forgotten = forgottenProducts(roles, assignment, extras);
     if (forgotten > 0) {
-        return markOf(Verdict::slip,
-                      forgotten == 1 ? sentences::oneMoreProduct : "Two more products.");
+        return markOf(Verdict::slip, forgotten == 1 ? Sentence::markOneMoreProduct
+                                                    : Sentence::markTwoMoreProducts);
     }
     if (const Extra* const extra = firstOf(extras, Mistake::misspelt)) {
         return slipOf(*extra);
@@ -156,10 +156,11 @@ Mark markSubstances(const TypedEquation& typed, const Roles& roles, const Assign
             return !isTrueHalfWay(typed, extras)
                        ? slipOf(*extra)
                        : markOf(Verdict::slip,
-                                isAcidSalt ? sentences::lessBase : sentences::lessAcid);
+                                isAcidSalt ? Sentence::markLessBase : Sentence::markLessAcid);
         }
     }
-    return extras.empty() ? markOf(Verdict::wrong, sentences::notYet) : markOfWrong(extras.front());
+    return extras.empty() ? markOf(Verdict::wrong, Sentence::markNotYet)
+                          : markOfWrong(extras.front());
 }
 
 // ---- The coefficients are not the right ones
@@ -175,14 +176,15 @@ Ratio atomsOnSide(const Roles& roles, const Assignment& assignment, bool isOnThe
     return sum;
 }
 
-// "5", "2.5", "5/3"
-std::string countText(Ratio count)
+// 5, 2.5, 5/3
+Spans counted(Ratio count)
 {
     constexpr std::int64_t mostDecimals = 10000;
     if (mostDecimals % count.denominator == 0) {
-        return exactText(count);
+        return {number(exactText(count))};
     }
-    return std::to_string(count.numerator) + "/" + std::to_string(count.denominator);
+    return line(number(std::to_string(count.numerator)), "/",
+                number(std::to_string(count.denominator)));
 }
 
 // In the order in which one balances: the metal, what the salt has besides, carbon, and hydrogen
@@ -205,19 +207,19 @@ std::vector<int> elementsToCount(const Roles& roles)
 // The substances are right, their coefficients are not.
 Mark markUnbalanced(const TypedEquation& typed, const Roles& roles, const Assignment& assignment)
 {
-    for (const int counted : elementsToCount(roles)) {
-        Ratio left = atomsOnSide(roles, assignment, true, counted);
-        Ratio right = atomsOnSide(roles, assignment, false, counted);
+    for (const int atomicNumber : elementsToCount(roles)) {
+        Ratio left = atomsOnSide(roles, assignment, true, atomicNumber);
+        Ratio right = atomsOnSide(roles, assignment, false, atomicNumber);
         if (left != right) {
             if (typed.arrow == Arrow::toTheLeft) {
                 std::swap(left, right);
             }
-            return {Verdict::slip, "Count the " + std::string(element(counted).name) +
-                                       " atoms: " + countText(left) + " on the left, " +
-                                       countText(right) + " on the right."};
+            return markOf(Verdict::slip,
+                          say<Sentence::markCountAtoms>(nameOf(element(atomicNumber)),
+                                                        counted(left), counted(right)));
         }
     }
-    return markOf(Verdict::wrong, sentences::notYet); // GCOVR_EXCL_LINE: some element differs
+    return markOf(Verdict::wrong, Sentence::markNotYet); // GCOVR_EXCL_LINE: some element differs
 }
 
 Mark markCoefficients(const TypedEquation& typed, const Roles& roles, const Assignment& assignment)
@@ -227,21 +229,19 @@ Mark markCoefficients(const TypedEquation& typed, const Roles& roles, const Assi
         return markUnbalanced(typed, roles, assignment);
     }
     if (*times != ratio(1)) {
-        return markOf(Verdict::slip, sentences::smallestNumbers);
+        return markOf(Verdict::slip, Sentence::markSmallestNumbers);
     }
     if (assignment.wrongState != nullptr) {
-        const std::string formula = quotable(assignment.wrongState->formula.text);
-        return {Verdict::slip, "Check the state of " + formula + "."};
+        return markOf(Verdict::slip,
+                      say<Sentence::markState>(typedFormula(*assignment.wrongState)));
     }
     if (typed.arrow == Arrow::twoWay) {
-        return {Verdict::correct, "Correct. A one-way arrow is usual here."};
+        return markOf(Verdict::correct, Sentence::markOneWayArrow);
     }
-    return markOf(Verdict::correct, sentences::correct);
+    return markOf(Verdict::correct, Sentence::markCorrect);
 }
 
 // ---- What cannot be read
-
-constexpr std::string_view typeEquation = "Type formulas on both sides of an arrow: ->.";
 
 using IsSuch = bool (*)(const TypedTerm&);
 
@@ -278,7 +278,7 @@ Mark markName(const TypedEquation& typed)
     const auto* const side =
         std::any_of(typed.left.begin(), typed.left.end(), isTypedName) ? &typed.left : &typed.right;
     const auto term = std::find_if(side->begin(), side->end(), isTypedName);
-    return {Verdict::unreadable, "'" + quotable(term->text) + "' is a name. Type its formula."};
+    return markOf(Verdict::unreadable, say<Sentence::markName>(quotable(term->text)));
 }
 
 Mark markUnread(const TypedEquation& typed, const std::string& plain, const Roles& roles)
@@ -288,54 +288,50 @@ Mark markUnread(const TypedEquation& typed, const std::string& plain, const Role
         const Assignment assignment = assigned(meant, roles, false);
         if (meant.unread.empty() && hasRightSubstances(assignment)) {
             return markOf(isRight(meant, assignment, roles) ? Verdict::slip : Verdict::unreadable,
-                          sentences::of(other.mixup));
+                          sentenceOf(other.mixup));
         }
     }
     if (hasRightSubstances(assigned(typed, roles, true))) {
-        return markOf(Verdict::unreadable, sentences::capitals);
+        return markOf(Verdict::unreadable, Sentence::markCapitals);
     }
     if (typed.arrow != Arrow::none && countTerms(typed, hasMinusForPlus) > 0) {
-        return markOf(Verdict::unreadable, "Put a plus sign between substances.");
+        return markOf(Verdict::unreadable, Sentence::markPlusSigns);
     }
     const std::ptrdiff_t names = countTerms(typed, isTypedName);
     if (names > 1 || (names == 1 && typed.arrow == Arrow::none)) {
-        return markOf(Verdict::unreadable, sentences::names);
+        return markOf(Verdict::unreadable, Sentence::markNames);
     }
     if (names == 1) {
         return markName(typed);
     }
-    return countTerms(typed, hasCharge) > 0 ? markOf(Verdict::unreadable, sentences::wholeFormulas)
-                                            : unreadable(typed.unread, typeEquation);
+    return countTerms(typed, hasCharge) > 0
+               ? markOf(Verdict::unreadable, Sentence::markWholeFormulas)
+               : unreadable(typed.unread, Sentence::markTypeEquation);
 }
 
 } // namespace
-
-std::string sentences::isNot(std::string_view formula, std::string_view role, std::string_view hint)
-{
-    return quotable(formula) + " is not the " + std::string(role) + ". " + std::string(hint);
-}
 
 Mark markEquation(const EquationAnswer& answer, std::string_view typed)
 {
     const std::string plain = spelledOut(plainTyped(typed));
     if (plain.empty()) {
-        return markOf(Verdict::unreadable, typeEquation);
+        return markOf(Verdict::unreadable, Sentence::markTypeEquation);
     }
     const TypedEquation equation = readEquation(plain);
     const Roles roles = rolesOf(answer);
     const Assignment assignment = assigned(equation, roles, false);
     if (!hasRightSubstances(assignment) &&
         isRight(equation, assigned(equation, roles, true), roles)) {
-        return markOf(Verdict::slip, sentences::capitals);
+        return markOf(Verdict::slip, Sentence::markCapitals);
     }
     if (!equation.unread.empty()) {
         return markUnread(equation, plain, roles);
     }
     if (equation.arrow == Arrow::none) {
-        return {Verdict::unreadable, "Put an arrow between the two sides. You can type ->."};
+        return markOf(Verdict::unreadable, Sentence::markPutArrow);
     }
     if (assignment.tooMany != nullptr) {
-        return unreadable(assignment.tooMany->text, typeEquation);
+        return unreadable(assignment.tooMany->text, Sentence::markTypeEquation);
     }
     return hasRightSubstances(assignment) ? markCoefficients(equation, roles, assignment)
                                           : markSubstances(equation, roles, assignment);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "lesson/marking/equation_roles.hpp"
@@ -23,9 +22,12 @@ enum class Mistake {
 struct Extra {
     TermOnSide typed;
     Mistake mistake = Mistake::unknown;
-    std::string sentence = {};
+    Spans sentence = {};
     const Role* meant = nullptr; // the species instead of which it stands
 };
+
+// The formula of a term as sentences have it.
+Span typedFormula(const TypedTerm& term);
 
 // All of them, in the order in which they were typed.
 std::vector<Extra> explainedExtras(const Roles& roles, const Assignment& assignment);

@@ -6,6 +6,7 @@
 #include "lesson/chemistry/pairs_not_asked.hpp"
 #include "lesson/chemistry/solubility.hpp"
 #include "lesson/marking/equation_spellings.hpp"
+#include "lesson/marking/ions_by_atoms.hpp"
 #include "lesson/reading/coefficient.hpp"
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/formula_spelling.hpp"
@@ -79,14 +80,6 @@ void assign(const TermOnSide& typed, const Roles& roles, bool isAnyCase, Assignm
 
 } // namespace
 
-Atoms atomsOf(std::string_view formula)
-{
-    Atoms atoms = compositionOf(formula).atoms;
-    std::sort(atoms.begin(), atoms.end(),
-              [](AtomCount a, AtomCount b) { return a.element < b.element; });
-    return atoms;
-}
-
 Roles rolesOf(const EquationAnswer& answer)
 {
     const Equation equation = neutralisationOf(*answer.acid, answer.base);
@@ -95,12 +88,13 @@ Roles rolesOf(const EquationAnswer& answer)
     const IonRow* const baseAnion = answer.base.anion;
     const States saltStates = statesOfSalt({cation, acidAnion});
     const Role inOrder[] = {
-        {"acid", {"aq"}, &rowOf(Ion::hydrogen), acidAnion},
-        baseAnion == nullptr ? Role{"base", {"aq", "g"}, nullptr, nullptr}
-                             : Role{"base", statesOfBase({cation, baseAnion}), cation, baseAnion},
-        {"salt", saltStates, cation, acidAnion},
-        {"", {"l"}, nullptr, nullptr},
-        {"", {"g"}, nullptr, nullptr},
+        {SpeciesKind::acid, {"aq"}, &rowOf(Ion::hydrogen), acidAnion},
+        baseAnion == nullptr
+            ? Role{SpeciesKind::base, {"aq", "g"}, nullptr, nullptr}
+            : Role{SpeciesKind::base, statesOfBase({cation, baseAnion}), cation, baseAnion},
+        {SpeciesKind::salt, saltStates, cation, acidAnion},
+        {SpeciesKind::molecule, {"l"}, nullptr, nullptr},
+        {SpeciesKind::molecule, {"g"}, nullptr, nullptr},
     };
     Roles roles;
     for (const bool isOnTheLeft : {true, false}) {

@@ -17,9 +17,16 @@ namespace lesson
 // The states that may be typed for a species, the second one empty where there is only one.
 using States = std::array<std::string_view, 2>;
 
+enum class SpeciesKind {
+    acid,
+    base,
+    salt,
+    molecule, // water or carbon dioxide
+};
+
 // A species of the equation that is asked for, and what may be typed for it.
 struct Role {
-    std::string_view noun; // "acid", "base", "salt"; empty for water and carbon dioxide
+    SpeciesKind kind;
     States states;
     const IonRow* cation; // null for a molecule
     const IonRow* anion;
@@ -46,9 +53,6 @@ inline const Role& saltOf(const Roles& roles)
 {
     return roles[2];
 }
-
-// Of a formula of the tables, by atomic number.
-Atoms atomsOf(std::string_view formula);
 
 bool isSpelledRightButForCapitals(const TypedTerm& term, const Role& role);
 

@@ -10,7 +10,7 @@
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/formula_mistakes.hpp"
 #include "lesson/marking/ions_within.hpp"
-#include "lesson/marking/sentences.hpp"
+#include "lesson/marking/marks.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/formula_spelling.hpp"
@@ -30,7 +30,7 @@ namespace
 struct Attempt {
     const FormulaAnswer& answer;
     const std::vector<Slip>& slips;
-    std::string_view whatToType;
+    Sentence whatToType;
     std::string plain; // with its curly brackets as they were typed
     std::string round; // with round ones for them
     TypedFormula read;
@@ -70,9 +70,9 @@ bool isNameOf(std::string_view plain, const IonRow& cation, const IonRow& anion)
 
 using Rule = std::optional<Mark> (*)(const Attempt&);
 
-std::optional<Mark> slipWhen(bool isMade, std::string_view sentence)
+std::optional<Mark> slipWhen(bool isMade, Sentence says)
 {
-    return isMade ? std::optional(markOf(Verdict::slip, sentence)) : std::nullopt;
+    return isMade ? std::optional(markOf(Verdict::slip, says)) : std::nullopt;
 }
 
 std::optional<Mark> nothingTyped(const Attempt& attempt)
@@ -89,7 +89,7 @@ std::optional<Mark> right(const Attempt& attempt)
         (isAmong(attempt.right, read.text) && !read.hasCharge && !read.hasRaisedNumber) ||
         isAmong(attempt.right, bareFormula(attempt.plain)) ||
         isAmong(attempt.right, bareFormula(withAllBracesRound(attempt.plain)));
-    return isRight ? std::optional(markOf(Verdict::correct, sentences::correct)) : std::nullopt;
+    return isRight ? std::optional(markOf(Verdict::correct, Sentence::markCorrect)) : std::nullopt;
 }
 
 std::optional<Mark> capitals(const Attempt& attempt)
@@ -100,7 +100,7 @@ std::optional<Mark> capitals(const Attempt& attempt)
             const std::string wanted = withoutCapitals(text);
             return wanted == folded[0] || wanted == folded[1];
         });
-    return slipWhen(isSame, sentences::capitals);
+    return slipWhen(isSame, Sentence::markCapitals);
 }
 
 // A text that is no formula may still be a slip but for its capitals.
@@ -114,14 +114,14 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
             return known.text == bare || (!isRead && lowerCase(known.text) == folded);
         });
     return slip == attempt.slips.end() ? std::nullopt
-                                       : std::optional(markOf(Verdict::slip, slip->sentence));
+                                       : std::optional(Mark{Verdict::slip, slip->sentence});
 }
 
 std::optional<Mark> lookalikes(const Attempt& attempt)
 {
     for (const Lookalike& other : lookalikesOf(attempt.plain)) {
         if (isAmong(attempt.right, readFormula(other.meant).text)) {
-            return markOf(Verdict::slip, sentences::of(other.mixup));
+            return markOf(Verdict::slip, sentenceOf(other.mixup));
         }
     }
     return std::nullopt;
@@ -133,7 +133,7 @@ std::optional<Mark> notRead(const Attempt& attempt)
         return std::nullopt;
     }
     if (isNameOf(attempt.plain, *attempt.answer.cation, *attempt.answer.anion)) {
-        return markOf(Verdict::unreadable, "That is its name. Type its formula.");
+        return markOf(Verdict::unreadable, Sentence::markItsName);
     }
     return unreadable(attempt.read.unread, attempt.whatToType);
 }
@@ -155,7 +155,7 @@ std::optional<Mark> sum(const Attempt& attempt)
         }
         isApart = isApart || startsWithDigit(part) || part.front() == ' ' || part.back() == ' ';
         if (plus >= left.size()) {
-            return slipWhen(isApart, "Write one formula, without a plus sign.");
+            return slipWhen(isApart, Sentence::markOneFormula);
         }
         left.remove_prefix(plus + 1);
         plus = left.find('+');
@@ -164,19 +164,18 @@ std::optional<Mark> sum(const Attempt& attempt)
 
 std::optional<Mark> chargesLeftIn(const Attempt& attempt)
 {
-    return slipWhen(attempt.read.hasCharge, sentences::chargesLeftIn);
+    return slipWhen(attempt.read.hasCharge, Sentence::markChargesLeftIn);
 }
 
 std::optional<Mark> raisedNumber(const Attempt& attempt)
 {
-    return slipWhen(attempt.read.hasRaisedNumber,
-                    "Small numbers stand below the line: type them as plain digits.");
+    return slipWhen(attempt.read.hasRaisedNumber, Sentence::markRaisedNumber);
 }
 
 std::optional<Mark> numberInFront(const Attempt& attempt)
 {
     const char first = attempt.read.text.front();
-    return slipWhen(first >= '0' && first <= '9', "Leave out the number in front.");
+    return slipWhen(first >= '0' && first <= '9', Sentence::markNumberBefore);
 }
 
 // "Fe(III)2O3" is read as one with iodine. Where no iodide is asked for, the numeral shows even if
@@ -191,7 +190,7 @@ std::optional<Mark> numeralLeftIn(const Attempt& attempt)
         std::any_of(others.begin(), others.end(), [&attempt](const std::string& other) {
             return isAmong(attempt.right, readFormula(other).simplest);
         });
-    return slipWhen(isRightWithout || (hasNumeral && !isIodide), sentences::romanNumeral);
+    return slipWhen(isRightWithout || (hasNumeral && !isIodide), Sentence::markRomanNumeral);
 }
 
 std::optional<Mark> waterLeftIn(const Attempt& attempt)
@@ -199,12 +198,12 @@ std::optional<Mark> waterLeftIn(const Attempt& attempt)
     const std::size_t dot = attempt.read.text.find('.');
     return slipWhen(dot != std::string::npos &&
                         isAmong(attempt.right, attempt.read.text.substr(0, dot)),
-                    "Leave out the water: it belongs to the crystals, not to the compound.");
+                    Sentence::markWaterLeftIn);
 }
 
 std::optional<Mark> bracketNotNeeded(const Attempt& attempt)
 {
-    return slipWhen(isAmong(attempt.right, attempt.read.simplest), sentences::bracketNotNeeded);
+    return slipWhen(isAmong(attempt.right, attempt.read.simplest), Sentence::markBracketNotNeeded);
 }
 
 std::optional<Mark> bracketMissing(const Attempt& attempt)
@@ -213,12 +212,12 @@ std::optional<Mark> bracketMissing(const Attempt& attempt)
     const bool isSame =
         std::any_of(attempt.right.begin(), attempt.right.end(),
                     [&typed](const std::string& text) { return withoutBrackets(text) == typed; });
-    return slipWhen(isSame, sentences::bracketMissing);
+    return slipWhen(isSame, Sentence::markBracketMissing);
 }
 
 std::optional<Mark> notSimplified(const Attempt& attempt)
 {
-    return slipWhen(isMultiple(attempt.read.atoms, attempt.rightAtoms), sentences::simplify);
+    return slipWhen(isMultiple(attempt.read.atoms, attempt.rightAtoms), Sentence::markSimplify);
 }
 
 // The right ions in wrong numbers; those of a metal may be right for another charge of it, "PbO2".
@@ -234,7 +233,7 @@ std::optional<Mark> chargesDoNotCancel(const Attempt& attempt)
     const bool isNeutral = hasRomanNumeral(cation) && charge % counts.positive == 0 &&
                            hasOtherCharge(cation, charge / counts.positive);
     return markOf(Verdict::slip,
-                  isNeutral ? sentences::chargeOfMetal : sentences::chargesDoNotCancel);
+                  isNeutral ? Sentence::markChargeOfMetal : Sentence::markChargesDoNotCancel);
 }
 
 // Another ion for one of the two, whatever their numbers: "Na2SO3", "NaHSO4", "NH3Cl".
@@ -266,7 +265,7 @@ std::optional<Mark> writtenOut(const Attempt& attempt)
     const std::string& typed = attempt.read.simplest;
     const bool lacksBracket = repeatsGroup(cation, anion) && typed.find('(') == std::string::npos;
     return slipWhen(attempt.read.atoms == attempt.rightAtoms && isWrittenOut(typed, cation, anion),
-                    lacksBracket ? sentences::bracketForGroups : sentences::numberForIons);
+                    lacksBracket ? Sentence::markBracketForGroups : Sentence::markNumberForIons);
 }
 
 std::optional<Mark> otherOrder(const Attempt& attempt)
@@ -276,27 +275,28 @@ std::optional<Mark> otherOrder(const Attempt& attempt)
     const std::string reversed = repeated(written(anion), anionsIn(cation, anion)) +
                                  repeated(written(cation), cationsIn(cation, anion));
     if (attempt.read.simplest == reversed) {
-        return markOf(Verdict::slip, sentences::positiveFirst);
+        return markOf(Verdict::slip, Sentence::markPositiveFirst);
     }
-    return slipWhen(attempt.read.atoms == attempt.rightAtoms,
-                    "The atoms are right. Write ion after ion, the positive one first.");
+    return slipWhen(attempt.read.atoms == attempt.rightAtoms, Sentence::markIonAfterIon);
 }
 
 std::optional<Mark> symbol(const Attempt& attempt)
 {
     const std::string wrong = wrongSymbol(attempt.read.simplest, attempt.right);
-    return slipWhen(!wrong.empty(), sentences::checkSymbol(wrong));
+    return wrong.empty() ? std::nullopt
+                         : std::optional(markOf(Verdict::slip,
+                                                say<Sentence::markCheckSymbol>(formula(wrong))));
 }
 
 std::optional<Mark> ending(const Attempt& attempt)
 {
     return slipWhen(mistakesEnding(*attempt.answer.anion, attempt.read.atoms, attempt.rightAtoms),
-                    sentences::ending);
+                    Sentence::markEnding);
 }
 
 std::optional<Mark> oxygens(const Attempt& attempt)
 {
-    return slipWhen(differInOxygens(attempt.read.atoms, attempt.rightAtoms), sentences::oxygens);
+    return slipWhen(differInOxygens(attempt.read.atoms, attempt.rightAtoms), Sentence::markOxygens);
 }
 
 constexpr Rule rules[] = {
@@ -310,7 +310,7 @@ constexpr Rule rules[] = {
 } // namespace
 
 Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
-                 std::string_view typed, std::string_view whatToType)
+                 std::string_view typed, Sentence whatToType)
 {
     Attempt attempt = {answer, slips, whatToType, withoutBond(spelledOut(plainTyped(typed))),
                        {},     {},    {},         {}};
@@ -323,7 +323,7 @@ Mark markFormula(const FormulaAnswer& answer, const std::vector<Slip>& slips,
             return *mark;
         }
     }
-    return markOf(Verdict::wrong, sentences::notYet);
+    return markOf(Verdict::wrong, Sentence::markNotYet);
 }
 
 } // namespace lesson

@@ -9,7 +9,7 @@
 #include "lesson/marking/confusions.hpp"
 #include "lesson/marking/formula.hpp"
 #include "lesson/marking/formula_mistakes.hpp"
-#include "lesson/marking/sentences.hpp"
+#include "lesson/marking/marks.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/formula_spelling.hpp"
@@ -25,9 +25,6 @@ namespace lesson
 
 namespace
 {
-
-// Of an ion that is never asked for.
-constexpr std::string_view typeIon = "Type a formula with its charge, such as Sr2+.";
 
 constexpr std::string_view signs = "+-";
 
@@ -91,21 +88,22 @@ bool hasChargeAsSubscript(const Attempt& attempt, const IonReading& reading)
 
 using Rule = std::optional<Mark> (*)(const Attempt&);
 
-std::optional<Mark> slipWhen(bool isMade, std::string_view sentence)
+std::optional<Mark> slipWhen(bool isMade, Sentence says)
 {
-    return isMade ? std::optional(markOf(Verdict::slip, sentence)) : std::nullopt;
+    return isMade ? std::optional(markOf(Verdict::slip, says)) : std::nullopt;
 }
 
 std::optional<Mark> nothingTyped(const Attempt& attempt)
 {
-    return attempt.marked.empty() ? std::optional(markOf(Verdict::unreadable, typeIon))
-                                  : std::nullopt;
+    return attempt.marked.empty()
+               ? std::optional(markOf(Verdict::unreadable, Sentence::markTypeIon))
+               : std::nullopt;
 }
 
 std::optional<Mark> right(const Attempt& attempt)
 {
     return anyReading(attempt, [&](const IonReading& reading) { return isRight(attempt, reading); })
-               ? std::optional(markOf(Verdict::correct, sentences::correct))
+               ? std::optional(markOf(Verdict::correct, Sentence::markCorrect))
                : std::nullopt;
 }
 
@@ -117,7 +115,7 @@ std::optional<Mark> capitals(const Attempt& attempt)
                std::any_of(attempt.right.begin(), attempt.right.end(),
                            [&](const std::string& text) { return lowerCase(text) == folded; });
     };
-    return slipWhen(anyReading(attempt, differsInCapitals), sentences::capitals);
+    return slipWhen(anyReading(attempt, differsInCapitals), Sentence::markCapitals);
 }
 
 // "Fe^3": who raises a number means a charge, so none of the slips with a number of atoms is made.
@@ -125,7 +123,7 @@ std::optional<Mark> raisedWithoutSign(const Attempt& attempt)
 {
     return slipWhen(attempt.read.hasRaised && !attempt.read.hasSign &&
                         attempt.read.readings.front().formula.isRead,
-                    "A charge has a sign: + or -.");
+                    Sentence::markSignMissing);
 }
 
 // "N₃⁻", "NO³⁻": the right formula, were it not for what stands below and above.
@@ -142,8 +140,8 @@ std::optional<Mark> misplaced(const Attempt& attempt)
     if (found == others.end() || anyReading(attempt, agrees)) {
         return std::nullopt;
     }
-    return markOf(Verdict::slip, found->hasRaisedCount ? "Which number stands below, which above?"
-                                                       : "The charge stands above, not below.");
+    return markOf(Verdict::slip,
+                  found->hasRaisedCount ? Sentence::markWhichNumber : Sentence::markChargeAbove);
 }
 
 bool isSlip(const IonReading& typed, const Slip& slip)
@@ -158,7 +156,7 @@ std::optional<Mark> listedSlip(const Attempt& attempt)
 {
     for (const Slip& slip : attempt.slips) {
         if (anyReading(attempt, [&](const IonReading& reading) { return isSlip(reading, slip); })) {
-            return markOf(Verdict::slip, slip.sentence);
+            return Mark{Verdict::slip, slip.sentence};
         }
     }
     return std::nullopt;
@@ -170,7 +168,7 @@ std::optional<Mark> lookalikes(const Attempt& attempt)
         Attempt mended = attempt;
         mended.read = readIon(other.meant);
         if (right(mended).has_value()) {
-            return markOf(Verdict::slip, sentences::of(other.mixup));
+            return markOf(Verdict::slip, sentenceOf(other.mixup));
         }
     }
     return std::nullopt;
@@ -193,9 +191,9 @@ std::optional<Mark> notRead(const Attempt& attempt)
         return std::nullopt;
     }
     if (isNameOf(attempt.marked, attempt.ion)) {
-        return markOf(Verdict::unreadable, "That is its name. Type its formula with its charge.");
+        return markOf(Verdict::unreadable, Sentence::markItsNameOfIon);
     }
-    return unreadable(unreadPart(attempt), typeIon);
+    return unreadable(unreadPart(attempt), Sentence::markTypeIon);
 }
 
 std::optional<Mark> wrongCharge(const Attempt& attempt)
@@ -209,10 +207,10 @@ std::optional<Mark> wrongCharge(const Attempt& attempt)
         }
     }
     if (hasWrongSign) {
-        return markOf(Verdict::slip, sentences::wrongSign);
+        return markOf(Verdict::slip, Sentence::markWrongSign);
     }
     const bool isTold = hasRomanNumeral(attempt.ion) && attempt.ion.charge > 0;
-    return slipWhen(hasWrongSize, isTold ? sentences::romanCharge : sentences::wrongSize);
+    return slipWhen(hasWrongSize, isTold ? Sentence::markRomanCharge : Sentence::markWrongSize);
 }
 
 // "Fe(III)", "FeIII", "Fe^III", "Fe(III)3+", "Fe(III)+"
@@ -225,15 +223,15 @@ std::optional<Mark> numeralLeftIn(const Attempt& attempt)
         Attempt mended = attempt;
         mended.read = readIon(other);
         if (right(mended).has_value()) {
-            return markOf(Verdict::slip, "The charge is right. Leave out the Roman numeral.");
+            return markOf(Verdict::slip, Sentence::markNumeralLeftIn);
         }
         if (std::optional<Mark> mark = misplaced(mended)) {
             return mark;
         }
         const IonReading& first = mended.read.readings.front();
         if (first.charge == 0 && hasRightFormula(mended, first)) {
-            return markOf(Verdict::slip,
-                          attempt.ion.charge > 0 ? sentences::romanCharge : sentences::noCharge);
+            return markOf(Verdict::slip, attempt.ion.charge > 0 ? Sentence::markRomanCharge
+                                                                : Sentence::markNoCharge);
         }
         if (const std::optional<Mark> charge = wrongCharge(mended)) {
             return *charge;
@@ -250,8 +248,8 @@ std::optional<Mark> noCharge(const Attempt& attempt)
         return std::nullopt;
     }
     return markOf(Verdict::slip, hasChargeAsSubscript(attempt, reading)
-                                     ? sentences::chargeAsSubscript
-                                     : sentences::noCharge);
+                                     ? Sentence::markChargeAsSubscript
+                                     : Sentence::markNoCharge);
 }
 
 // "SO4^-2-"
@@ -259,7 +257,7 @@ std::optional<Mark> chargeTypedTwice(const Attempt& attempt)
 {
     const TypedFormula& formula = attempt.read.readings.front().formula;
     return slipWhen(formula.hasCharge && isAmong(attempt.right, formula.simplest),
-                    "Write the charge once: its size and its sign.");
+                    Sentence::markChargeTwice);
 }
 
 std::optional<Mark> chargeAsSubscript(const Attempt& attempt)
@@ -268,7 +266,7 @@ std::optional<Mark> chargeAsSubscript(const Attempt& attempt)
                                [&](const IonReading& reading) {
                                    return hasChargeAsSubscript(attempt, reading);
                                }),
-                    sentences::chargeAsSubscript);
+                    Sentence::markChargeAsSubscript);
 }
 
 std::optional<Mark> otherOrder(const Attempt& attempt)
@@ -277,7 +275,7 @@ std::optional<Mark> otherOrder(const Attempt& attempt)
         return reading.charge == attempt.ion.charge && !reading.formula.hasCharge &&
                reading.formula.atoms == attempt.rightAtoms;
     };
-    return slipWhen(anyReading(attempt, hasItsAtoms), "The atoms are right. Check their order.");
+    return slipWhen(anyReading(attempt, hasItsAtoms), Sentence::markOrder);
 }
 
 // Whatever its charge.
@@ -301,7 +299,7 @@ std::optional<Mark> ending(const Attempt& attempt)
                                    return mistakesEnding(attempt.ion, reading.formula.atoms,
                                                          attempt.rightAtoms);
                                }),
-                    sentences::ending);
+                    Sentence::markEnding);
 }
 
 std::optional<Mark> oxygens(const Attempt& attempt)
@@ -311,7 +309,7 @@ std::optional<Mark> oxygens(const Attempt& attempt)
                                    return differInOxygens(reading.formula.atoms,
                                                           attempt.rightAtoms);
                                }),
-                    sentences::oxygens);
+                    Sentence::markOxygens);
 }
 
 std::optional<Mark> symbol(const Attempt& attempt)
@@ -319,7 +317,7 @@ std::optional<Mark> symbol(const Attempt& attempt)
     for (const IonReading& reading : attempt.read.readings) {
         const std::string wrong = wrongSymbol(reading.formula.simplest, attempt.right);
         if (reading.charge == attempt.ion.charge && !wrong.empty()) {
-            return markOf(Verdict::slip, sentences::checkSymbol(wrong));
+            return markOf(Verdict::slip, say<Sentence::markCheckSymbol>(formula(wrong)));
         }
     }
     return std::nullopt;
@@ -346,7 +344,7 @@ Mark markIon(const IonAnswer& answer, const std::vector<Slip>& slips, std::strin
             return *mark;
         }
     }
-    return markOf(Verdict::wrong, sentences::notYet);
+    return markOf(Verdict::wrong, Sentence::markNotYet);
 }
 
 } // namespace lesson

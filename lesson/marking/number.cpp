@@ -9,8 +9,8 @@
 #include <variant>
 
 #include "lesson/chemistry/composition.hpp"
+#include "lesson/marking/marks.hpp"
 #include "lesson/marking/number_fit.hpp"
-#include "lesson/marking/sentences.hpp"
 #include "lesson/reading/measure.hpp"
 #include "lesson/reading/typed.hpp"
 #include "lesson/reading/typed_number.hpp"
@@ -54,27 +54,25 @@ int powerMissed(TypedNumber number, const NumberAnswer& answer, int figures)
     return 0;
 }
 
-std::string toFigures(int figures)
+Span figuresOf(const Target& key)
 {
-    return std::to_string(figures) + " significant figures";
+    return number(std::to_string(key.figures));
 }
 
-Mark correctMark(const TypedNumber& number, const Target& key, const std::string& rounded)
+Mark correctMark(const TypedNumber& number, const Target& key, const Spans& rounded)
 {
     const bool isKey = isEqual(number, roundedTo(key.value, key.figures));
-    return {Verdict::correct,
-            isKey ? "Correct."
-                  : "Correct. To " + toFigures(key.figures) + " it is " + rounded + "."};
+    return markOf(Verdict::correct, isKey ? say<Sentence::markCorrect>()
+                                          : say<Sentence::markCorrectTo>(figuresOf(key), rounded));
 }
 
-Mark figuresMark(const TypedNumber& number, const Target& key, const std::string& rounded)
+Mark figuresMark(const TypedNumber& number, const Target& key, const Spans& rounded)
 {
     const Decimal answer = roundedTo(key.value, key.figures);
     const bool lacksZeros =
         number.mostFigures < key.figures && answer.digits % 10 == 0 && isEqual(number, answer);
-    return {Verdict::figures,
-            lacksZeros ? "Keep the zero: " + rounded + "."
-                       : "The value is right. Now give it to " + toFigures(key.figures) + "."};
+    return markOf(Verdict::figures, lacksZeros ? say<Sentence::markKeepZero>(rounded)
+                                               : say<Sentence::markFigures>(figuresOf(key)));
 }
 
 // A wrong volume, and no wrong mass, is what leads three places off.
@@ -83,9 +81,8 @@ Mark powerMark(int power, const NumberAnswer& answer, const Ask& ask)
     const std::optional<Unit> unit = unitOf(ask.unit);
     const bool isMass = unit && unit->dimension == Dimension::mass;
     const bool mayBeVolume = answer.hasGivenVolumes && !isMass && (power == 3 || power == -3);
-    return {Verdict::powerOfTen, mayBeVolume
-                                     ? "Right digits, wrong size. Check each volume: mL or L?"
-                                     : "Right digits, wrong size."};
+    return markOf(Verdict::powerOfTen,
+                  mayBeVolume ? Sentence::markSizeOfVolumes : Sentence::markSize);
 }
 
 // Whether a molar mass is right but for a few hydrogen atoms too many or too few.
@@ -112,65 +109,58 @@ bool missesHydrogens(const TypedNumber& number, const NumberAnswer& answer, cons
 Mark closeMark(const TypedNumber& number, const NumberAnswer& answer, const Ask& ask)
 {
     if (!answer.isMolarMass) {
-        return {Verdict::close, "Very close. Did you round a number on the way?"};
+        return markOf(Verdict::close, Sentence::markClose);
     }
-    return {Verdict::close, missesHydrogens(number, answer, ask)
-                                ? "Very close. Count the hydrogen atoms again."
-                                : "Very close. Check the atomic masses."};
+    return markOf(Verdict::close, missesHydrogens(number, answer, ask)
+                                      ? Sentence::markCloseHydrogens
+                                      : Sentence::markCloseMasses);
 }
 
 // ---- What could not be read
 
 struct Misread {
     std::string_view letter;
-    std::string_view sentence;
+    Sentence sentence;
 };
 constexpr Misread misreads[] = {
-    {"l", "There is a small letter l where the digit 1 should be."},
-    {"I", "There is a large letter I where the digit 1 should be."},
-    {"i", "There is a small letter i where the digit 1 should be."},
-    {"|", "There is a stroke where the digit 1 should be."},
-    {"O", "There is a letter O where a zero should be."},
-    {"o", "There is a letter o where a zero should be."},
+    {"l", Sentence::markSmallLForOne},  {"I", Sentence::markLargeIForOne},
+    {"i", Sentence::markSmallIForOne},  {"|", Sentence::markStrokeForOne},
+    {"O", Sentence::markLargeOForZero}, {"o", Sentence::markSmallOForZero},
 };
 
-std::string_view misreadSentence(std::string_view letter)
+Sentence misreadSentence(std::string_view letter)
 {
     return std::find_if(std::begin(misreads), std::end(misreads),
                         [letter](const Misread& misread) { return misread.letter == letter; })
         ->sentence;
 }
 
-// "Do you mean 1250 or 1.250?", in the reader's writing
-std::string pointOrComma(const std::string& number, const Writing& writing)
+// "1.250" may be 1250.
+Span pointOrComma(const std::string& decimals)
 {
-    const std::size_t point = number.find('.');
-    std::string thousands = number;
-    std::string decimals = number;
-    thousands.erase(point, 1);
-    decimals[point] = writing.decimal;
-    return "Do you mean " + thousands + " or " + decimals + "?";
+    std::string thousands = decimals;
+    thousands.erase(thousands.find('.'), 1);
+    return say<Sentence::markPointOrComma>(number(thousands), number(decimals));
 }
 
-Mark markUnread(const TypedMeasure& measure, const Ask& ask, const Writing& writing)
+Mark markUnread(const TypedMeasure& measure, const Ask& ask)
 {
-    constexpr std::string_view typeNumber = "Type a number, such as 0.125.";
     switch (measure.problem) {
     case NumberProblem::unread:
-        return unreadable(measure.part, typeNumber);
+        return unreadable(measure.part, Sentence::markTypeNumber);
     case NumberProblem::pointOrComma:
-        return {Verdict::unreadable, pointOrComma(measure.part, writing)};
+        return markOf(Verdict::unreadable, pointOrComma(measure.part));
     case NumberProblem::otherUnit:
-        return {Verdict::unreadable, "The answer should be in " + ask.unit + "."};
+        return markOf(Verdict::unreadable, say<Sentence::markUnit>(unit(ask.unit)));
     case NumberProblem::minus:
-        return markOf(Verdict::unreadable, "Leave out the minus sign.");
+        return markOf(Verdict::unreadable, Sentence::markMinus);
     case NumberProblem::letterForDigit:
         return markOf(Verdict::unreadable, misreadSentence(measure.part));
     case NumberProblem::none:
     case NumberProblem::nothingTyped:
         break;
     }
-    return markOf(Verdict::unreadable, typeNumber);
+    return markOf(Verdict::unreadable, Sentence::markTypeNumber);
 }
 
 // ---- What was read
@@ -187,10 +177,10 @@ TypedNumber numberOf(const TypedMeasure& measure, int figures)
 }
 
 // The answer as the sentences tell it: in the unit that was typed, where that is not the asked one.
-std::string roundedAsTyped(const Target& key, const TypedMeasure& reading)
+Spans roundedAsTyped(const Target& key, const TypedMeasure& reading)
 {
     const std::string rounded = shown(key.value * powerOfTen(-reading.power), key.figures);
-    return reading.power == 0 ? rounded : rounded + " " + std::string(reading.unit);
+    return reading.power == 0 ? line(number(rounded)) : measure(rounded, reading.unit);
 }
 
 Mark markRead(const TypedMeasure& reading, const NumberAnswer& answer,
@@ -198,7 +188,7 @@ Mark markRead(const TypedMeasure& reading, const NumberAnswer& answer,
 {
     const TypedNumber number = numberOf(reading, ask.figures);
     const Target key = {answer.value, ask.figures, answer.isMolarMass};
-    const std::string rounded = roundedAsTyped(key, reading);
+    const Spans rounded = roundedAsTyped(key, reading);
     const Fit fit = fitOf(number, key);
     if (fit == Fit::correct) {
         return correctMark(number, key, rounded);
@@ -210,8 +200,7 @@ Mark markRead(const TypedMeasure& reading, const NumberAnswer& answer,
         return figuresMark(number, key, rounded);
     }
     if (isCorrectWithRoundedMasses(number, answer, ask.figures)) {
-        return {Verdict::correct,
-                "Correct with rounded atomic masses. With this table it is " + rounded + "."};
+        return markOf(Verdict::correct, say<Sentence::markCorrectByTable>(rounded));
     }
     if (isOtherFigures) {
         return figuresMark(number, key, rounded);
@@ -225,7 +214,7 @@ Mark markRead(const TypedMeasure& reading, const NumberAnswer& answer,
     if (isClose(number, answer.value)) {
         return closeMark(number, answer, ask);
     }
-    return markOf(Verdict::wrong, sentences::notYet);
+    return markOf(Verdict::wrong, Sentence::markNotYet);
 }
 
 } // namespace
@@ -251,8 +240,7 @@ void addSlip(Exercise& exercise, Ratio value, const Spans& sentence)
     if (isRight(typed, *answer, ask.figures) || slipOf(typed, exercise.slips, key) != nullptr) {
         return;
     }
-    exercise.slips.push_back(
-        {shown(value, ask.figures) + " " + ask.unit, value, sentence});
+    exercise.slips.push_back({shown(value, ask.figures) + " " + ask.unit, value, sentence});
 }
 
 Mark markNumber(const NumberAnswer& answer, const Ask& ask, const std::vector<Slip>& slips,
@@ -260,7 +248,7 @@ Mark markNumber(const NumberAnswer& answer, const Ask& ask, const std::vector<Sl
 {
     const TypedMeasure measure = readMeasure(plainTyped(typed), {ask.unit, ask.of}, writing);
     return measure.problem == NumberProblem::none ? markRead(measure, answer, slips, ask)
-                                                  : markUnread(measure, ask, writing);
+                                                  : markUnread(measure, ask);
 }
 
 } // namespace lesson

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "lesson/marking/formula.hpp"
-#include "lesson/marking/sentences.hpp"
+#include "lesson/marking/marks.hpp"
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/formula_spelling.hpp"
 #include "lesson/reading/precipitate.hpp"
@@ -19,27 +19,19 @@ namespace lesson
 namespace
 {
 
-std::string joined(std::string_view first, std::string_view second)
+Mark withRule(Verdict verdict, Sentence says, const Spans& rule)
 {
-    return std::string(first).append(" ").append(second);
+    return {verdict, line(say(says), " ", rule)};
 }
-
-constexpr std::string_view lookAgain =
-    "Not right yet. Check each new pair of ions against the rules.";
-
-// Where it is not typed it is chosen by two buttons.
-constexpr std::string_view chooseYesOrNo = "Choose yes or no.";
-constexpr std::string_view typeFormulaOrNone = "Type a formula, or none.";
 
 Mark unreadPrecipitate(const std::string& plain)
 {
-    return unreadable(unreadWords(plain), typeFormulaOrNone);
+    return unreadable(unreadWords(plain), Sentence::markTypeFormulaOrNone);
 }
 
 Mark markName(const std::string& name)
 {
-    return {Verdict::unreadable,
-            "'" + quotable(name) + "' is a name. " + std::string(typeFormulaOrNone)};
+    return markOf(Verdict::unreadable, say<Sentence::markNameOrNone>(quotable(name)));
 }
 
 // No precipitate forms, so that every formula is wrong.
@@ -50,12 +42,12 @@ Mark markNone(const std::vector<Slip>& slips, const std::string& plain)
     const auto slip = std::find_if(slips.begin(), slips.end(),
                                    [&bare](const Slip& known) { return known.text == bare; });
     if (slip != slips.end()) {
-        return markOf(Verdict::slip, slip->sentence);
+        return Mark{Verdict::slip, slip->sentence};
     }
     if (isNameOfSalt(typed.formula)) {
         return markName(typed.formula);
     }
-    return readFormula(typed.formula).isRead ? markOf(Verdict::wrong, lookAgain)
+    return readFormula(typed.formula).isRead ? markOf(Verdict::wrong, Sentence::markLookAgain)
                                              : unreadPrecipitate(plain);
 }
 
@@ -64,22 +56,22 @@ Mark markFormulaOf(const PrecipitateAnswer& answer, const std::vector<Slip>& sli
 {
     const TypedPrecipitate typed = readPrecipitate(plain);
     if (isNameOf(typed.formula, *answer.cation, *answer.anion)) {
-        return markOf(Verdict::unreadable, "That is its name. Type its formula.");
+        return markOf(Verdict::unreadable, Sentence::markItsName);
     }
     if (isNameOfSalt(typed.formula)) {
         return markName(typed.formula);
     }
-    const Mark mark =
-        markFormula({answer.cation, answer.anion}, slips, typed.formula, typeFormulaOrNone);
+    const Mark mark = markFormula({answer.cation, answer.anion}, slips, typed.formula,
+                                  Sentence::markTypeFormulaOrNone);
     if (mark.verdict == Verdict::correct) {
         return typed.state.empty() || typed.state == "s"
-                   ? Mark{Verdict::correct, joined(sentences::correct, answer.rule)}
-                   : markOf(Verdict::slip, "A precipitate is a solid: (s).");
+                   ? withRule(Verdict::correct, Sentence::markCorrect, answer.rule)
+                   : markOf(Verdict::slip, Sentence::markSolid);
     }
     if (mark.verdict == Verdict::unreadable) {
         return unreadPrecipitate(plain);
     }
-    return mark.verdict == Verdict::wrong ? markOf(Verdict::wrong, lookAgain) : mark;
+    return mark.verdict == Verdict::wrong ? markOf(Verdict::wrong, Sentence::markLookAgain) : mark;
 }
 
 } // namespace
@@ -88,15 +80,15 @@ Mark markSolubility(const SolubilityAnswer& answer, std::string_view typed)
 {
     const std::string words = wordsOf(typed);
     if (words.empty()) {
-        return markOf(Verdict::unreadable, chooseYesOrNo);
+        return markOf(Verdict::unreadable, Sentence::markChooseYesOrNo);
     }
     const Said said = saidOf(words);
     if (said == Said::unclear) {
-        return unreadable(plainTyped(typed), chooseYesOrNo);
+        return unreadable(plainTyped(typed), Sentence::markChooseYesOrNo);
     }
     return (said == Said::itDissolves) == answer.isSoluble
-               ? Mark{Verdict::correct, joined(sentences::correct, answer.rule)}
-               : Mark{Verdict::wrong, joined("Not right yet.", answer.rule)};
+               ? withRule(Verdict::correct, Sentence::markCorrect, answer.rule)
+               : withRule(Verdict::wrong, Sentence::markNotRight, answer.rule);
 }
 
 Mark markPrecipitate(const PrecipitateAnswer& answer, const std::vector<Slip>& slips,
@@ -105,18 +97,18 @@ Mark markPrecipitate(const PrecipitateAnswer& answer, const std::vector<Slip>& s
     const std::string words = wordsOf(typed);
     const bool hasPrecipitate = answer.cation != nullptr;
     if (words.empty()) {
-        return markOf(Verdict::unreadable, typeFormulaOrNone);
+        return markOf(Verdict::unreadable, Sentence::markTypeFormulaOrNone);
     }
     const std::string plain = plainTyped(typed);
     if (saysNone(words)) {
         if (isTakenBack(words, plain)) {
             return unreadPrecipitate(plain);
         }
-        return hasPrecipitate ? markOf(Verdict::wrong, lookAgain)
-                              : Mark{Verdict::correct, joined(sentences::correct, answer.rule)};
+        return hasPrecipitate ? markOf(Verdict::wrong, Sentence::markLookAgain)
+                              : withRule(Verdict::correct, Sentence::markCorrect, answer.rule);
     }
     if (areSeveral(plain)) {
-        return markOf(Verdict::unreadable, "Type the formula of the precipitate alone, or none.");
+        return markOf(Verdict::unreadable, Sentence::markPrecipitateAlone);
     }
     return hasPrecipitate ? markFormulaOf(answer, slips, plain) : markNone(slips, plain);
 }
