@@ -12,21 +12,21 @@ namespace
 
 // clang-format off
 constexpr Word<Sentence> sentences[] = {
-    {Sentence::neutralisationTitle,  "Equations of neutralization"},
-    {Sentence::neutralisationLevel2, "Oxides, carbonates, hydrogen carbonates and ammonia"},
-    {Sentence::neutralisationPrompt, "Write the balanced equation for the complete neutralization of {base} by {acid}. The salt is {salt}."},
-    {Sentence::notAskedTinNitrate,     "It falls apart: nitrate oxidizes tin(II)."},
-    {Sentence::notAskedOxidisedByAir,  "It is oxidized by air, and is hardly met at school."},
-    {Sentence::markCarbonates, "Carbonate and hydrogen carbonate are two different ions."},
-    {Sentence::markSulfates, "Sulfate and hydrogen sulfate are two different ions."},
-    {Sentence::markSulfites, "Sulfite and hydrogen sulfite are two different ions."},
-    {Sentence::markPhosphates, "Phosphate and hydrogen phosphate are two different ions."},
+    {Sentence::neutralisationTitle,      "Equations of neutralization"},
+    {Sentence::neutralisationLevel2,     "Oxides, carbonates, hydrogen carbonates and ammonia"},
+    {Sentence::neutralisationPrompt,     "Write the balanced equation for the complete neutralization of {base} by {acid}. The salt is {salt}."},
+    {Sentence::notAskedTinNitrate,       "It falls apart: nitrate oxidizes tin(II)."},
+    {Sentence::notAskedOxidisedByAir,    "It is oxidized by air, and is hardly met at school."},
+    {Sentence::markCarbonates,           "Carbonate and hydrogen carbonate are two different ions."},
+    {Sentence::markSulfates,             "Sulfate and hydrogen sulfate are two different ions."},
+    {Sentence::markSulfites,             "Sulfite and hydrogen sulfite are two different ions."},
+    {Sentence::markPhosphates,           "Phosphate and hydrogen phosphate are two different ions."},
     {Sentence::markDihydrogenphosphates, "Phosphate and dihydrogen phosphate are two different ions."},
-    {Sentence::markHydrogenphosphate, "How many hydrogens has a hydrogen phosphate?"},
-    {Sentence::markLessBase, "True with less base. Neutralize completely."},
-    {Sentence::markLessAcid, "True with less acid. Neutralize completely."},
-    {Sentence::markAcidSalt, "{formula} is an acid salt. Neutralize completely."},
-    {Sentence::markHalfCarbonate, "{formula} still reacts with the acid. Neutralize completely."},
+    {Sentence::markHydrogenphosphate,    "How many hydrogens has a hydrogen phosphate?"},
+    {Sentence::markLessBase,             "True with less base. Neutralize completely."},
+    {Sentence::markLessAcid,             "True with less acid. Neutralize completely."},
+    {Sentence::markAcidSalt,             "{formula} is an acid salt. Neutralize completely."},
+    {Sentence::markHalfCarbonate,        "{formula} still reacts with the acid. Neutralize completely."},
 };
 
 constexpr Word<int> elementNames[] = {
