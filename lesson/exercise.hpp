@@ -29,11 +29,11 @@ enum class Form {
 // What is asked for. All but the form are for numbers only, except `choices`.
 struct Ask {
     Form form;
-    std::string quantity;             // "c", "M"; "V1" for the first of two
-    std::string of;                   // formula of the substance
-    std::string unit;                 // "mol/L", "g/mol", "g", "mL"
-    int figures = 0;                  // significant figures of the answer
-    std::vector<std::string> choices; // where the answer is one of a few words: "yes", "no"
+    std::string quantity;          // "c", "M"; "V1" for the first of two
+    std::string of;                // formula of the substance
+    std::string unit;              // "mol/L", "g/mol", "g", "mL"
+    int figures = 0;               // significant figures of the answer
+    std::vector<Sentence> choices; // where the answer is one of a few words: yes, no
 };
 
 // What the answer rests on: a quantity, an ion or a compound.
@@ -121,7 +121,7 @@ struct Exercise {
     Ask ask;
     std::vector<Given> given;
     std::optional<Equation> equation;
-    std::string key; // what a perfect learner types, with its unit
+    Spans key; // what a perfect learner types, with its unit
     Answer answer;
     std::vector<Step> solution;
     std::vector<Slip> slips; // the commoner ones first

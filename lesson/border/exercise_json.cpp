@@ -7,6 +7,7 @@
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/numbers/decimal.hpp"
 #include "lesson/words/render.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -63,8 +64,9 @@ void add(Json& json, const Ask& ask, const Writing& writing)
             json.member("figures", ask.figures);
         }
         if (!ask.choices.empty()) {
-            json.key("choices").array(ask.choices,
-                                      [&](const std::string& choice) { json.text(choice); });
+            json.key("choices").array(ask.choices, [&](Sentence choice) {
+                json.text(plainText({say(choice)}, writing));
+            });
         }
     });
 }
@@ -143,10 +145,11 @@ void add(Json& json, const Slip& slip)
     });
 }
 
-void addKey(Json& json, const Exercise& exercise)
+void addKey(Json& json, const Exercise& exercise, const Writing& writing)
 {
     json.key("key").object([&] {
-        json.member("text", exercise.key);
+        json.member("text", keyText(exercise, writing));
+        add(json.key("spans"), exercise.key);
         if (const auto* const number = std::get_if<NumberAnswer>(&exercise.answer)) {
             json.member("value", number->value);
         }
@@ -186,7 +189,7 @@ std::string exerciseJson(Exercise exercise, const Writing& writing)
         if (exercise.equation) {
             add(json.key("equation"), *exercise.equation);
         }
-        addKey(json, exercise);
+        addKey(json, exercise, writing);
         addEach(json, "solution", exercise.solution);
         addEach(json, "slips", exercise.slips);
     });

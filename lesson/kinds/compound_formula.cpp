@@ -288,7 +288,7 @@ Exercise make(const Place& place, const Pair& pair)
     exercise.prompt = line(say<Sentence::compoundFormulaPrompt>(nameOf(cation, anion)));
     exercise.ask.form = Form::formula;
     exercise.given = {GivenIon{&cation}, GivenIon{&anion}};
-    exercise.key = compoundFormula(cation, anion);
+    exercise.key = {formula(compoundFormula(cation, anion))};
     exercise.answer = FormulaAnswer{&cation, &anion};
     exercise.solution = workedSolution(cation, anion);
     Slips(exercise, cation, anion).addAll();

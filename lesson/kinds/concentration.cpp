@@ -248,7 +248,7 @@ Exercise make(const Place& place, const Preparation& drawn)
         {answerFor(drawn, drawn.molarMass), answersWithRoundedMasses(drawn), false, true});
     exercise.prompt = promptOf(drawn, quantities);
     exercise.given = givenOf(drawn, quantities);
-    exercise.solution = concentrationSolution(drawn, keyMeasure(exercise));
+    exercise.solution = concentrationSolution(drawn, exercise.key);
     addConcentrationSlips(exercise, drawn);
     return exercise;
 }

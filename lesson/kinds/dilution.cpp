@@ -316,7 +316,7 @@ Exercise make(const Place& place, const Dilution& drawn)
     Exercise exercise = numberExercise(place, askOf(drawn), numberOf(drawn));
     exercise.prompt = promptOf(drawn, quantities);
     exercise.given = givenOf(drawn, quantities);
-    exercise.solution = dilutionSolution(drawn, keyMeasure(exercise));
+    exercise.solution = dilutionSolution(drawn, exercise.key);
     addDilutionSlips(exercise, drawn);
     return exercise;
 }

@@ -361,7 +361,7 @@ Exercise make(const Place& place, const IonRow& ion)
     exercise.prompt = line(say<Sentence::ionFormulaPrompt>(nameOf(ion)));
     exercise.ask.form = Form::ion;
     exercise.given = {GivenIon{&ion}};
-    exercise.key = textOf(ion.formula, ion.charge);
+    exercise.key = {spanOf(ion)};
     exercise.answer = IonAnswer{&ion};
     exercise.solution = ion.isGroup ? groupSolution(ion) : atomSolution(ion);
     const std::vector<std::string> right = rightTexts(ion);

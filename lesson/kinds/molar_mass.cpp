@@ -161,7 +161,7 @@ Spans total(const Exercise& exercise, Ratio mass)
 {
     const bool isRounded = valueOf(roundedTo(mass, figures)) != toHundredths(mass);
     const Spans unrounded = isRounded ? line(" = ", number(shownMass(mass))) : Spans();
-    return line(quantity("M"), unrounded, " = ", keyMeasure(exercise));
+    return line(quantity("M"), unrounded, " = ", exercise.key);
 }
 
 std::vector<Step> workedSolution(const Exercise& exercise, const Substance& drawn, Ratio mass)

@@ -463,7 +463,7 @@ Exercise make(const Place& place, const Reaction& reaction)
         GivenCompound{saltFormula(*acid, base), nameOf(*base.cation, anionOf(*acid))},
     };
     exercise.equation = neutralisationOf(*acid, base);
-    exercise.key = textOf(*exercise.equation);
+    exercise.key = spansOf(*exercise.equation);
     exercise.solution = solutionFor(*exercise.equation, *acid, base);
     exercise.slips = slipsFor(*exercise.equation, {acid, base});
     exercise.answer = EquationAnswer{acid, base};

@@ -90,9 +90,9 @@ Exercise oneCompound(const Place& place, const Pair& pair)
     exercise.prompt = line(say<Sentence::solubilityPrompt>(nameOf(*pair.cation, *pair.anion),
                                                            formula(formulaOf(pair))));
     exercise.ask.form = Form::solubility;
-    exercise.ask.choices = {"yes", "no"};
+    exercise.ask.choices = {Sentence::answerYes, Sentence::answerNo};
     exercise.given = {GivenIon{pair.cation}, GivenIon{pair.anion}};
-    exercise.key = isSoluble(pair) ? "yes" : "no";
+    exercise.key = {say(isSoluble(pair) ? Sentence::answerYes : Sentence::answerNo)};
     exercise.answer = SolubilityAnswer{isSoluble(pair), line(sentenceOf(ruleOf(pair)))};
     exercise.solution = {
         {line(say<Sentence::saltIons>(nameOf(*pair.cation, *pair.anion))),
@@ -245,7 +245,8 @@ Exercise twoSolutions(const Place& place, const Mixture& mixture)
                                                                    nameOf(*b.cation, *b.anion)));
     exercise.ask.form = Form::solubility;
     exercise.given = {GivenIon{a.cation}, GivenIon{a.anion}, GivenIon{b.cation}, GivenIon{b.anion}};
-    exercise.key = hasPrecipitate(mixture) ? formulaOf(precipitate) : "none";
+    exercise.key = {hasPrecipitate(mixture) ? formula(formulaOf(precipitate))
+                                           : say<Sentence::answerNone>()};
     exercise.answer =
         PrecipitateAnswer{hasPrecipitate(mixture) ? precipitate.cation : nullptr,
                           hasPrecipitate(mixture) ? precipitate.anion : nullptr, rulesFor(mixture)};

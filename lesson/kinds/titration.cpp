@@ -125,7 +125,7 @@ Exercise make(const Place& place, const Titration& drawn)
     exercise.prompt = promptOf(drawn, solutions, quantities, equation);
     exercise.given = givenOf(solutions, quantities);
     exercise.equation = equation;
-    exercise.solution = titrationSteps(drawn, solutions, equation, keyMeasure(exercise));
+    exercise.solution = titrationSteps(drawn, solutions, equation, exercise.key);
     addTitrationSlips(exercise, drawn);
     return exercise;
 }

@@ -14,6 +14,8 @@
 #include "lesson/reading/typed.hpp"
 #include "lesson/reading/typed_spans.hpp"
 #include "lesson/reading/words.hpp"
+#include "lesson/words/render.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -58,13 +60,13 @@ Readings readings(const EquationAnswer& /*answer*/, const Ask& /*ask*/, std::str
 
 // As one of the choices, which are yes and no.
 Readings readings(const SolubilityAnswer& /*answer*/, const Ask& ask, std::string_view typed,
-                  const Writing& /*writing*/)
+                  const Writing& writing)
 {
     const Said said = saidOf(wordsOf(typed));
     if (said == Said::unclear || ask.choices.size() != 2) {
         return {};
     }
-    return {{Span(Span::Kind::text, ask.choices[said == Said::itDissolves ? 0 : 1])}};
+    return {rendered({say(ask.choices[said == Said::itDissolves ? 0 : 1])}, writing)};
 }
 
 Readings readings(const PrecipitateAnswer& /*answer*/, const Ask& /*ask*/, std::string_view typed,

@@ -45,6 +45,11 @@ constexpr Word<Sentence> britishSentences[] = {
     {Sentence::titrationLevel2,       "Other ratios"},
     {Sentence::titrationLevel3,       "Several titres, equation not given"},
 
+    // ---- answers that are words
+    {Sentence::answerYes,  "yes"},
+    {Sentence::answerNo,   "no"},
+    {Sentence::answerNone, "none"},
+
     // ---- kinds/molar_mass
 
     // ---- kinds/compound_formula

@@ -132,6 +132,15 @@ void render(Exercise& exercise, const Writing& writing)
     for (Slip& slip : exercise.slips) {
         render(slip.sentence, writing);
     }
+    render(exercise.key, writing);
+}
+
+std::string keyText(const Exercise& exercise, const Writing& writing)
+{
+    std::string text = plainText(exercise.key, writing);
+    constexpr std::string_view arrow = "→";
+    const std::size_t place = text.find(arrow);
+    return place == std::string::npos ? text : text.replace(place, arrow.size(), "->");
 }
 
 std::string plainText(const Spans& line, const Writing& writing)

@@ -17,7 +17,10 @@ Spans rendered(const Spans& line, const Writing& writing);
 // The same for all that an exercise says: its lines, the words of its answer, and its key.
 void render(Exercise& exercise, const Writing& writing);
 
-// The same as plain text: "Correct. To 3 significant figures it is 0.290."
+// The key as it is typed: "0.290 mol/L", "SO4^2-", "HCl + NaOH -> NaCl + H2O", "yes".
+std::string keyText(const Exercise& exercise, const Writing& writing);
+
+// A line as plain text: "Correct. To 3 significant figures it is 0.290."
 std::string plainText(const Spans& line, const Writing& writing);
 
 // A number and a unit as the reader writes them: "0.250" -> "0,250", "mol/L" -> "mol dm-3".

@@ -42,6 +42,11 @@ enum class Sentence : std::uint16_t {
     titrationLevel2,
     titrationLevel3,
 
+    // ---- answers that are words
+    answerYes,
+    answerNo,
+    answerNone,
+
     // ---- kinds/molar_mass
 
     // ---- kinds/compound_formula

@@ -87,16 +87,10 @@ Exercise numberExercise(const Place& place, Ask ask, NumberAnswer answer)
 {
     Exercise exercise = {};
     exercise.place = place;
-    exercise.key = shown(answer.value, ask.figures) + " " + ask.unit;
+    exercise.key = measure(shown(answer.value, ask.figures), ask.unit);
     exercise.ask = std::move(ask);
     exercise.answer = std::move(answer);
     return exercise;
-}
-
-Spans keyMeasure(const Exercise& exercise)
-{
-    const auto* const answer = std::get_if<NumberAnswer>(&exercise.answer);
-    return measure(shown(answer->value, exercise.ask.figures), exercise.ask.unit);
 }
 
 Span between(Ratio value)

@@ -50,9 +50,6 @@ std::string inMillilitres(Ratio litres);
 // An exercise that asks for a number; prompt, given, solution and slips are still to be written.
 Exercise numberExercise(const Place& place, Ask ask, NumberAnswer answer);
 
-// The asked number with its unit, as the last step shows it.
-Spans keyMeasure(const Exercise& exercise);
-
 // A value that a solution goes on with: one figure more than answers of three figures have.
 Span between(Ratio value);
 
