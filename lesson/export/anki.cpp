@@ -6,6 +6,7 @@
 #include "lesson/export/html.hpp"
 #include "lesson/kinds/kind.hpp"
 #include "lesson/words/render.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -16,7 +17,7 @@ namespace
 std::string backOf(const Exercise& exercise)
 {
     std::string html;
-    addAll(html, {"<b>", htmlOfKey(exercise), "</b>"});
+    addAll(html, {"<b>", htmlOf(exercise.key), "</b>"});
     for (const Step& step : exercise.solution) {
         addAll(html, {"<br>", htmlOf(step.say), " ", htmlOf(step.math)});
     }
@@ -39,11 +40,20 @@ void addCard(std::string& cards, const Exercise& exercise, std::string_view fron
 }
 
 // Anki passes over lines that begin with this sign and set nothing.
-void addRemark(std::string& header, std::size_t count, std::string_view one, std::string_view more)
+void addRemark(std::string& header, std::size_t count, const Span& ofOne, const Span& ofSeveral,
+               const Writing& writing)
 {
     if (count > 0) {
-        addAll(header, {"# ", std::to_string(count), count == 1 ? one : more, "\n"});
+        addAll(header, {"# ", plainText({count == 1 ? ofOne : ofSeveral}, writing), "\n"});
     }
+}
+
+std::string headerIn(const Writing& writing)
+{
+    std::string header;
+    addAll(header, {"#separator:Tab\n#html:true\n#notetype:Basic\n#deck:",
+                    plainText({say<Sentence::exportTitle>()}, writing), "\n#tags column:3\n"});
+    return header;
 }
 
 } // namespace
@@ -68,13 +78,12 @@ std::string ankiCards(const std::vector<Reference>& exercises, const Writing& wr
     if (cards.empty()) {
         return cards;
     }
-    std::string text = "#separator:Tab\n#html:true\n#notetype:Basic\n"
-                       "#deck:Chemical calculations practice\n#tags column:3\n";
-    addRemark(text, others, " calculation or equation is left out, since it fits no card.",
-              " calculations and equations are left out, since they fit no card.");
-    addRemark(text, exercises.size() - others - fronts.size(),
-              " exercise is left out that an earlier card asks already.",
-              " exercises are left out that earlier cards ask already.");
+    std::string text = headerIn(writing);
+    const std::size_t again = exercises.size() - others - fronts.size();
+    addRemark(text, others, say<Sentence::exportOneFitsNoCard>(),
+              say<Sentence::exportSomeFitNoCard>(number(std::to_string(others))), writing);
+    addRemark(text, again, say<Sentence::exportOneAskedAlready>(),
+              say<Sentence::exportSomeAskedAlready>(number(std::to_string(again))), writing);
     return text + cards;
 }
 

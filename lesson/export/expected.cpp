@@ -1,9 +1,10 @@
 #include "lesson/export/expected.hpp"
 
-#include <string_view>
 #include <utility>
+#include <variant>
 
-#include "lesson/marking/sentences.hpp"
+#include "lesson/words/render.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -25,47 +26,38 @@ int percentFor(Verdict verdict)
     return 0;
 }
 
-std::vector<Expected> expectedChoices(const Exercise& exercise)
+std::vector<Expected> expectedChoices(const Exercise& exercise, const Writing& writing)
 {
     std::vector<Expected> expected;
-    for (const std::string& choice : exercise.ask.choices) {
-        Mark mark = markAnswer(exercise, choice);
-        expected.push_back({percentFor(mark.verdict), choice, "", std::move(mark.sentence)});
+    for (const Sentence choice : exercise.ask.choices) {
+        std::string text = plainText({say(choice)}, writing);
+        const Mark mark = markAnswer(exercise, text);
+        expected.push_back(
+            {percentFor(mark.verdict), std::move(text), "", plainText(mark.sentence, writing)});
     }
     return expected;
 }
 
-namespace
+bool isNone(const Exercise& exercise)
 {
-
-// A file has no button that shows a step.
-constexpr std::string_view notYet = "Not right yet. Write down what you know.";
-constexpr std::string_view notYetInSymbols = "Not right yet. Check each symbol and each number.";
-
-void leaveOutButtons(std::vector<Expected>& expected)
-{
-    for (Expected& one : expected) {
-        if (one.sentence == sentences::notYet) {
-            one.sentence = notYet;
-        }
-    }
+    const auto* const answer = std::get_if<PrecipitateAnswer>(&exercise.answer);
+    return answer != nullptr && answer->cation == nullptr;
 }
 
-} // namespace
-
-std::vector<Expected> expectedAnswers(const Exercise& exercise)
+std::vector<Expected> expectedAnswers(const Exercise& exercise, const Writing& writing)
 {
     if (exercise.ask.form == Form::equation) {
         return {};
     }
     if (!exercise.ask.choices.empty()) {
-        return expectedChoices(exercise);
+        return expectedChoices(exercise, writing);
     }
     const bool isNumber = exercise.ask.form == Form::number;
-    std::vector<Expected> expected = isNumber ? expectedNumbers(exercise) : expectedTexts(exercise);
-    leaveOutButtons(expected);
-    expected.push_back({0, std::string(anything), isNumber ? "0" : "",
-                        std::string(isNumber ? notYet : notYetInSymbols)});
+    std::vector<Expected> expected =
+        isNumber ? expectedNumbers(exercise, writing) : expectedTexts(exercise, writing);
+    const Sentence notYet = isNumber ? Sentence::markNotYet : Sentence::exportNotYetInSymbols;
+    expected.push_back(
+        {0, std::string(anything), isNumber ? "0" : "", plainText({say(notYet)}, writing)});
     return expected;
 }
 

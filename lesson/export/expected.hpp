@@ -23,14 +23,18 @@ constexpr std::string_view anything = "*";
 // The answers to recognise, in the order in which to try them, the key first unless they are
 // choices, and behind all others what is said of anything else; none for an equation. Percent and
 // sentences are those of the marking: what it calls right gets 100, what is no failed try for it
-// (other figures, very close) 50, mistakes 0.
-std::vector<Expected> expectedAnswers(const Exercise& exercise);
+// (other figures, very close) 50, mistakes 0. Words and sentences are in the language of the
+// reader; numbers have a point, whatever the reader writes.
+std::vector<Expected> expectedAnswers(const Exercise& exercise, const Writing& writing);
 
 // The same for one form of answer each: a number; a few words to choose from; a formula, an ion,
 // or a formula or none.
-std::vector<Expected> expectedNumbers(const Exercise& exercise);
-std::vector<Expected> expectedChoices(const Exercise& exercise);
-std::vector<Expected> expectedTexts(const Exercise& exercise);
+std::vector<Expected> expectedNumbers(const Exercise& exercise, const Writing& writing);
+std::vector<Expected> expectedChoices(const Exercise& exercise, const Writing& writing);
+std::vector<Expected> expectedTexts(const Exercise& exercise, const Writing& writing);
+
+// Whether the answer is that two solutions have no precipitate.
+bool isNone(const Exercise& exercise);
 
 // What a mark is worth.
 int percentFor(Verdict verdict);

@@ -6,6 +6,8 @@
 #include "lesson/marking/number.hpp"
 #include "lesson/numbers/decimal.hpp"
 #include "lesson/numbers/ratio.hpp"
+#include "lesson/words/render.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -89,8 +91,8 @@ Ratio inner(const Run& run)
 class Numbers
 {
 public:
-    explicit Numbers(const Exercise& asked)
-        : exercise(asked), answer(*std::get_if<NumberAnswer>(&asked.answer)),
+    Numbers(const Exercise& asked, const Writing& written)
+        : exercise(asked), writing(written), answer(*std::get_if<NumberAnswer>(&asked.answer)),
           run(around(answer.value)), right{rangeOf(run)}
     {
     }
@@ -119,6 +121,11 @@ private:
         return markAnswer(exercise, plainText(typed));
     }
 
+    std::string told(const Mark& mark) const
+    {
+        return plainText(mark.sentence, writing);
+    }
+
     void add(int percent, std::string text, Ratio tolerance, std::string sentence)
     {
         expected.push_back({percent, std::move(text), exactText(tolerance), std::move(sentence)});
@@ -138,9 +145,9 @@ private:
         for (int steps = -other.below; steps <= other.above; ++steps) {
             const Decimal typed = stepped(other.rounded, steps);
             if (valueOf(typed) < low || high < valueOf(typed)) {
-                Mark marked = mark(typed);
+                const Mark marked = mark(typed);
                 if (marked.verdict == Verdict::correct) {
-                    return std::move(marked.sentence);
+                    return told(marked);
                 }
             }
         }
@@ -168,7 +175,7 @@ private:
     void addKey()
     {
         const Ratio rounded = valueOf(run.rounded);
-        add(100, plainText(run.rounded), inner(run), mark(run.rounded).sentence);
+        add(100, plainText(run.rounded), inner(run), told(mark(run.rounded)));
         if (run.below != run.above) {
             addBetween(100, least(run), greatest(run), sentenceOfOther(run, rounded, rounded));
         }
@@ -182,10 +189,10 @@ private:
         std::string sentence;
         for (const Ratio value : answer.withRoundedMasses) {
             const Run other = around(value);
-            std::string told = sentenceOfOther(other, least(run), greatest(run));
-            if (!told.empty()) {
+            std::string ofOther = sentenceOfOther(other, least(run), greatest(run));
+            if (!ofOther.empty()) {
                 ranges.push_back(rangeOf(other));
-                sentence = std::move(told);
+                sentence = std::move(ofOther);
             }
         }
         const std::vector<Range> apart =
@@ -200,13 +207,13 @@ private:
     void addMoreFigures()
     {
         const Decimal end = stepped(run.rounded, run.above);
-        Mark marked = mark({end.digits * 10 + 4, end.exponent - 1});
+        const Mark marked = mark({end.digits * 10 + 4, end.exponent - 1});
         const int percent = percentFor(marked.verdict);
         if (percent == 0) {
             return;
         }
         const Range all = withMoreFigures(rangeOf(run));
-        addBetween(percent, all.low, all.high, std::move(marked.sentence));
+        addBetween(percent, all.low, all.high, told(marked));
     }
 
     // Whether something else has to be told of a value that rounding to fewer figures leads to.
@@ -233,9 +240,9 @@ private:
         for (int figures = exercise.ask.figures - 1; figures >= 1; --figures) {
             const Decimal upper = roundedTo(answer.value, figures);
             for (const Decimal fewer : {upper, stepped(upper, -1)}) {
-                Mark marked = mark(fewer);
+                const Mark marked = mark(fewer);
                 if (marked.verdict == Verdict::figures && !isTaken(fewer, figures)) {
-                    add(50, plainText(fewer), ratio(0), std::move(marked.sentence));
+                    add(50, plainText(fewer), ratio(0), told(marked));
                 }
             }
         }
@@ -244,9 +251,9 @@ private:
     // With the tolerance on the smaller side, so that none takes the place of another one.
     void addMistake(Decimal typed, Ratio tolerance, Verdict wanted)
     {
-        Mark marked = mark(typed);
+        const Mark marked = mark(typed);
         if (marked.verdict == wanted) {
-            add(0, plainText(typed), tolerance, std::move(marked.sentence));
+            add(0, plainText(typed), tolerance, told(marked));
         }
     }
 
@@ -276,9 +283,9 @@ private:
         Decimal probe = {begin.digits * 10 + half * direction, begin.exponent - 1};
         do {
             probe.digits += direction;
-            Mark marked = mark(probe);
+            const Mark marked = mark(probe);
             if (marked.verdict == Verdict::close) {
-                return std::move(marked.sentence);
+                return told(marked);
             }
         } while (magnitude(valueOf(probe) - answer.value) < greatestMiss);
         return {};
@@ -295,7 +302,7 @@ private:
             return;
         }
         if (answer.isMolarMass) { // where a forgotten hydrogen cannot be told from wrong masses
-            sentence = "Very close. Check the atoms and their masses.";
+            sentence = plainText({say<Sentence::exportCloseMolarMass>()}, writing);
         }
         const Ratio hundredth = answer.value * ratio(1, 100);
         Decimal tolerance = roundedTo(hundredth, 9);
@@ -304,6 +311,7 @@ private:
     }
 
     const Exercise& exercise;
+    const Writing& writing;
     const NumberAnswer& answer;
     Run run;
     std::vector<Range> right; // of this run, and of those with rounded masses
@@ -312,9 +320,9 @@ private:
 
 } // namespace
 
-std::vector<Expected> expectedNumbers(const Exercise& exercise)
+std::vector<Expected> expectedNumbers(const Exercise& exercise, const Writing& writing)
 {
-    return Numbers(exercise).all();
+    return Numbers(exercise, writing).all();
 }
 
 } // namespace lesson

@@ -8,6 +8,8 @@
 #include "lesson/export/spelt.hpp"
 #include "lesson/marking/spellings.hpp"
 #include "lesson/text/scan.hpp"
+#include "lesson/words/render.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -28,12 +30,6 @@ constexpr std::string_view noneWords[] = {
     "none is formed", "-",
 };
 
-bool isNone(const Exercise& exercise)
-{
-    const auto* const answer = std::get_if<PrecipitateAnswer>(&exercise.answer);
-    return answer != nullptr && answer->cation == nullptr;
-}
-
 Texts rightIons(const IonRow& ion)
 {
     Texts texts = spellingsOf(ion);
@@ -44,7 +40,7 @@ Texts rightIons(const IonRow& ion)
 }
 
 // The key, and its formula in other orders: "CH3COO^-", "CH3CO2^-".
-Texts rightFormulas(const Exercise& exercise)
+Texts rightFormulas(const Exercise& exercise, std::string_view key)
 {
     if (const auto* const ion = std::get_if<IonAnswer>(&exercise.answer)) {
         return rightIons(*ion->ion);
@@ -55,7 +51,7 @@ Texts rightFormulas(const Exercise& exercise)
     if (const auto* const solid = std::get_if<PrecipitateAnswer>(&exercise.answer)) {
         return spellingsOf(*solid->cation, *solid->anion);
     }
-    return {exercise.key};
+    return {std::string(key)};
 }
 
 // What is said of a solid may be said of a precipitate.
@@ -73,24 +69,21 @@ void addAll(Texts& texts, const Texts& more)
     texts.insert(texts.end(), more.begin(), more.end());
 }
 
-Texts rightTexts(const Exercise& exercise)
+Texts rightTexts(const Exercise& exercise, std::string_view key)
 {
     if (isNone(exercise)) {
         return {std::begin(noneWords), std::end(noneWords)};
     }
     Texts texts;
-    for (const std::string& right : rightFormulas(exercise)) {
+    for (const std::string& right : rightFormulas(exercise, key)) {
         addAll(texts, usualSpellings(right));
     }
-    addAll(texts, rareSpellings(exercise.key));
+    addAll(texts, rareSpellings(key));
     if (exercise.ask.form == Form::solubility) {
         addStates(texts);
     }
     return texts;
 }
-
-// For zeros that the marking cannot read.
-constexpr std::string_view zeroTyped = "There is a zero where the letter O should be.";
 
 std::string inCapitals(std::string text)
 {
@@ -121,17 +114,17 @@ Texts withZeros(std::string_view key)
 
 // What shows a mistake, besides the slips: a charge below, capitals, and none where there is a
 // precipitate.
-Texts wrongTexts(const Exercise& exercise)
+Texts wrongTexts(const Exercise& exercise, std::string_view key)
 {
     Texts texts;
     for (const Slip& slip : exercise.slips) {
         const bool hasSeveralCharges = slip.text.find('^') != slip.text.rfind('^');
         addAll(texts, hasSeveralCharges ? Texts{slip.text} : usualSpellings(slip.text));
     }
-    addAll(texts, withLoweredCharge(exercise.key));
+    addAll(texts, withLoweredCharge(key));
     if (!isNone(exercise)) {
-        texts.push_back(lowerCase(exercise.key));
-        addAll(texts, usualSpellings(inCapitals(exercise.key)));
+        texts.push_back(lowerCase(key));
+        addAll(texts, usualSpellings(inCapitals(std::string(key))));
         texts.emplace_back(noneWords[0]);
     }
     return texts;
@@ -140,27 +133,28 @@ Texts wrongTexts(const Exercise& exercise)
 class Answers
 {
 public:
-    explicit Answers(const Exercise& asked) : exercise(asked) {}
+    Answers(const Exercise& asked, const Writing& written) : exercise(asked), writing(written) {}
 
     // Those of the texts of which the marking says what is wanted, each once.
     void add(const Texts& texts, std::initializer_list<Verdict> wanted)
     {
         for (const std::string& text : texts) {
-            Mark mark = markAnswer(exercise, text);
+            const Mark mark = markAnswer(exercise, text);
             const bool isWanted =
                 std::find(wanted.begin(), wanted.end(), mark.verdict) != wanted.end();
             if (isWanted && !isThere(text)) {
-                expected.push_back({percentFor(mark.verdict), text, "", std::move(mark.sentence)});
+                expected.push_back(
+                    {percentFor(mark.verdict), text, "", plainText(mark.sentence, writing)});
             }
         }
     }
 
     // Wrong ones that the marking does not know.
-    void add(const Texts& texts, std::string_view sentence)
+    void add(const Texts& texts, Sentence sentence)
     {
         for (const std::string& text : texts) {
             if (!isThere(text)) {
-                expected.push_back({0, text, "", std::string(sentence)});
+                expected.push_back({0, text, "", plainText({say(sentence)}, writing)});
             }
         }
     }
@@ -175,20 +169,22 @@ private:
     }
 
     const Exercise& exercise;
+    const Writing& writing;
 };
 
 } // namespace
 
 // The marking tells what each text gets, so that nothing here can contradict it.
-std::vector<Expected> expectedTexts(const Exercise& exercise)
+std::vector<Expected> expectedTexts(const Exercise& exercise, const Writing& writing)
 {
-    Answers answers(exercise);
-    answers.add(rightTexts(exercise), {Verdict::correct});
-    answers.add(wrongTexts(exercise), {Verdict::slip, Verdict::wrong});
-    if (!isNone(exercise) && exercise.key.find('O') != std::string::npos) {
-        const Texts zeros = withZeros(exercise.key);
+    const std::string key = keyText(exercise, writing);
+    Answers answers(exercise, writing);
+    answers.add(rightTexts(exercise, key), {Verdict::correct});
+    answers.add(wrongTexts(exercise, key), {Verdict::slip, Verdict::wrong});
+    if (!isNone(exercise) && key.find('O') != std::string::npos) {
+        const Texts zeros = withZeros(key);
         answers.add(zeros, {Verdict::slip});
-        answers.add(zeros, zeroTyped);
+        answers.add(zeros, Sentence::markZeroForLargeO); // those that the marking cannot read
     }
     return std::move(answers.expected);
 }

@@ -170,13 +170,4 @@ std::string htmlOf(const Spans& line)
     return html;
 }
 
-std::string htmlOfKey(const Exercise& exercise)
-{
-    const std::string_view key = exercise.key;
-    const std::size_t charge = key.find('^');
-    return charge == std::string_view::npos
-               ? htmlOfFormula(key)
-               : htmlOfFormula(key.substr(0, charge)) + raised(key.substr(charge + 1));
-}
-
 } // namespace lesson

@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "lesson/exercise.hpp"
 #include "lesson/words/spans.hpp"
 
 namespace lesson
@@ -17,13 +16,10 @@ void addAll(std::string& text, std::initializer_list<std::string_view> parts);
 //   "1 < 2" -> "1 &lt; 2"
 std::string escaped(std::string_view text);
 
-// A line in the least HTML that shows it, with British names, and no attribute that could need a
+// A line that is rendered in the least HTML that shows it, without an attribute that could need a
 // quotation mark.
 //   H2SO4 -> H<sub>2</sub>SO<sub>4</sub>    5.00e-5 -> 5.00 × 10<sup>−5</sup>
 //   a fraction of two quantities -> <i>m</i>/<i>M</i>
 std::string htmlOf(const Spans& line);
-
-// The answer of an exercise that asks for a formula, an ion or solubility, typeset.
-std::string htmlOfKey(const Exercise& exercise);
 
 } // namespace lesson

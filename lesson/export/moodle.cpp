@@ -4,14 +4,13 @@
 #include <string_view>
 #include <utility>
 
-#include "lesson/chemistry/neutralisation.hpp"
 #include "lesson/export/expected.hpp"
 #include "lesson/export/html.hpp"
 #include "lesson/export/units.hpp"
 #include "lesson/kinds/kind.hpp"
-#include "lesson/numbers/decimal.hpp"
 #include "lesson/text/scan.hpp"
 #include "lesson/words/render.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -35,17 +34,11 @@ void addHtml(std::string& xml, std::string_view tag, std::string_view html)
 
 enum class Type { numerical, shortAnswer, multipleChoice, cloze };
 
-struct TypeRow {
-    std::string_view name;
-    std::string_view advice; // what to type, below the question
-};
-
-constexpr TypeRow typeRows[] = {
-    {"numerical", ""},
-    {"shortanswer", "Type subscripts as ordinary digits, such as H2O."},
-    {"multichoice", ""},
-    {"cloze", "Type the smallest whole numbers, and 1 where a formula needs none."},
-};
+std::string_view nameOf(Type type)
+{
+    constexpr std::string_view names[] = {"numerical", "shortanswer", "multichoice", "cloze"};
+    return names[static_cast<int>(type)];
+}
 
 Type typeOf(const Ask& ask)
 {
@@ -58,63 +51,66 @@ Type typeOf(const Ask& ask)
     return ask.choices.empty() ? Type::shortAnswer : Type::multipleChoice;
 }
 
-const TypeRow& rowOf(Type type)
+// What to type, below the question.
+Spans adviceFor(const Ask& ask)
 {
-    return typeRows[static_cast<int>(type)];
-}
-
-std::string adviceFor(const Ask& ask)
-{
-    if (ask.form == Form::number) {
-        return "The number alone, such as 1.23e-4, to " + std::to_string(ask.figures) +
-               " significant figures.";
+    switch (typeOf(ask)) {
+    case Type::numerical:
+        return {say<Sentence::exportTypeNumber>(number(std::to_string(ask.figures)))};
+    case Type::cloze:
+        return {say<Sentence::exportTypeCoefficients>()};
+    case Type::multipleChoice:
+        return {};
+    case Type::shortAnswer:
+        break;
     }
-    const std::string advice(rowOf(typeOf(ask)).advice);
-    return ask.form == Form::ion ? advice + " The charge stands behind a ^, such as ClO4^-."
-                                 : advice;
+    const Span subscripts = say<Sentence::exportTypeSubscripts>();
+    return ask.form == Form::ion ? line(subscripts, " ", say<Sentence::exportTypeCharge>())
+                                 : Spans{subscripts};
 }
 
 // --------------------------------------------------------------------------------- the question
 
 // A gap knows nothing of the other ones, so that a sentence about one number has to leave open what
 // they are. What would end it early (braces, ~, #) is in no sentence.
-std::string gap(int coefficient)
+std::string gap(int coefficient, const Writing& writing)
 {
     const std::string twice = std::to_string(2 * coefficient);
     std::string text = "{1:NUMERICAL:=" + std::to_string(coefficient) + ":0";
-    addAll(text, {"~%0%", twice, ":0#Are all doubled? Use the smallest whole numbers."});
+    addAll(text, {"~%0%", twice, ":0#", plainText({say<Sentence::exportGapDoubled>()}, writing)});
     if (coefficient % 2 != 0) {
         const std::string half = std::to_string(coefficient / 2) + ".5";
-        addAll(text, {"~%0%", half, ":0#Use whole numbers."});
+        addAll(text, {"~%0%", half, ":0#", plainText({say<Sentence::exportGapHalf>()}, writing)});
     }
     return text + "}";
 }
 
-std::string sideOf(const std::vector<std::pair<int, std::string>>& side)
+std::string sideOf(const std::vector<std::pair<int, std::string>>& side, const Writing& writing)
 {
     std::string html;
     for (const auto& [coefficient, species] : side) {
-        addAll(html,
-               {html.empty() ? "" : " + ", gap(coefficient), " ", htmlOf({formula(species)})});
+        addAll(html, {html.empty() ? "" : " + ", gap(coefficient, writing), " ",
+                      htmlOf({formula(species)})});
     }
     return html;
 }
 
-std::string gapsOf(const Equation& equation)
+std::string gapsOf(const Equation& equation, const Writing& writing)
 {
-    return "<p>" + sideOf(equation.left) + " → " + sideOf(equation.right) + "</p>";
+    return "<p>" + sideOf(equation.left, writing) + " → " + sideOf(equation.right, writing) +
+           "</p>";
 }
 
-std::string questionOf(const Exercise& exercise)
+std::string questionOf(const Exercise& exercise, const Writing& writing)
 {
     std::string html;
     addAll(html, {"<p>", htmlOf(exercise.prompt), "</p>"});
     if (exercise.ask.form == Form::equation) {
-        html += gapsOf(*exercise.equation);
+        html += gapsOf(*exercise.equation, writing);
     }
-    const std::string advice = adviceFor(exercise.ask);
+    const Spans advice = adviceFor(exercise.ask);
     if (!advice.empty()) {
-        addAll(html, {"<p>", advice, "</p>"});
+        addAll(html, {"<p>", htmlOf(rendered(advice, writing)), "</p>"});
     }
     return html;
 }
@@ -137,13 +133,8 @@ std::string solutionOf(const Exercise& exercise)
 // is asked for, the last step alone tells.
 std::string htmlOfResult(const Exercise& exercise)
 {
-    if (const auto* const asked = std::get_if<NumberAnswer>(&exercise.answer)) {
-        return htmlOf(measure(shown(asked->value, exercise.ask.figures), exercise.ask.unit));
-    }
-    if (const auto* const asked = std::get_if<EquationAnswer>(&exercise.answer)) {
-        return htmlOf(spansOf(neutralisationOf(*asked->acid, asked->base)));
-    }
-    return {};
+    const bool isShown = exercise.ask.form == Form::number || exercise.ask.form == Form::equation;
+    return isShown ? htmlOf(exercise.key) : std::string();
 }
 
 // Each is shown behind a wrong try, and there is one try more than hints: first what helps without
@@ -201,17 +192,17 @@ void addUnits(std::string& xml, const Exercise& exercise)
            "<showunits>0</showunits>\n<unitsleft>0</unitsleft>\n";
 }
 
-void addAnswers(std::string& xml, const Exercise& exercise)
+void addAnswers(std::string& xml, const Exercise& exercise, const Writing& writing)
 {
     const Type type = typeOf(exercise.ask);
     if (type == Type::shortAnswer) {
         // Capitals matter in formulas, and in "none" they do not.
-        xml += exercise.key == "none" ? "<usecase>0</usecase>\n" : "<usecase>1</usecase>\n";
+        xml += isNone(exercise) ? "<usecase>0</usecase>\n" : "<usecase>1</usecase>\n";
     } else if (type == Type::multipleChoice) {
         xml += "<single>true</single>\n<shuffleanswers>false</shuffleanswers>\n"
                "<answernumbering>none</answernumbering>\n";
     }
-    for (const Expected& expected : expectedAnswers(exercise)) {
+    for (const Expected& expected : expectedAnswers(exercise, writing)) {
         addAnswer(xml, expected, type == Type::multipleChoice ? "html" : "moodle_auto_format");
     }
     if (type == Type::numerical) {
@@ -227,47 +218,48 @@ struct Label {
     std::string id;   // "4821-titration-2-3"
 };
 
-Label labelOf(const Place& place, std::size_t placeOnSheet)
+Label labelOf(const Place& place, std::size_t placeOnSheet, const Writing& writing)
 {
     const std::string slug(place.kind->slug);
     const std::string level = std::to_string(place.level);
-    if (place.paper == 0) {
-        const std::string own = std::to_string(placeOnSheet);
-        return {"Exercise " + own + ", " + slug + ", level " + level,
-                "own-" + slug + "-" + level + "-" + own};
-    }
-    const std::string paper = std::to_string(place.paper);
-    const std::string number = std::to_string(place.number);
-    return {"Paper " + paper + ", " + slug + ", level " + level + ", number " + number,
-            paper + "-" + slug + "-" + level + "-" + number};
+    const bool isDrawn = place.paper != 0;
+    const std::string paper = isDrawn ? std::to_string(place.paper) : "own";
+    const std::string at = std::to_string(isDrawn ? place.number : placeOnSheet);
+    const Span name =
+        isDrawn ? say<Sentence::exportNameOfDrawn>(number(paper), slug, number(level), number(at))
+                : say<Sentence::exportNameOfDescribed>(number(at), slug, number(level));
+    return {plainText({name}, writing), paper + "-" + slug + "-" + level + "-" + at};
 }
 
-void addQuestion(std::string& xml, const Exercise& exercise, const Label& label)
+void addQuestion(std::string& xml, const Exercise& exercise, const Label& label,
+                 const Writing& writing)
 {
     const Place& place = exercise.place;
     const Type type = typeOf(exercise.ask);
-    addAll(xml, {"<question type=\"", rowOf(type).name, "\">\n<name><text>", label.name,
+    addAll(xml, {"<question type=\"", nameOf(type), "\">\n<name><text>", escaped(label.name),
                  "</text></name>\n"});
-    addHtml(xml, "questiontext", questionOf(exercise));
+    addHtml(xml, "questiontext", questionOf(exercise, writing));
     addHtml(xml, "generalfeedback", solutionOf(exercise));
     if (type != Type::cloze) { // whose grade is that of its gaps
         xml += "<defaultgrade>1</defaultgrade>\n";
     }
     addAll(xml, {"<penalty>0.3333333</penalty>\n<hidden>0</hidden>\n<idnumber>", label.id,
                  "</idnumber>\n"});
-    addAnswers(xml, exercise);
+    addAnswers(xml, exercise, writing);
     addHints(xml, exercise);
     addAll(xml, {"<tags>\n<tag><text>", place.kind->slug, "</text></tag>\n<tag><text>level ",
                  std::to_string(place.level), "</text></tag>\n</tags>\n</question>\n"});
 }
 
 // Drawn exercises have their paper, others have none.
-std::string categoryOf(const std::vector<Reference>& exercises)
+Span categoryOf(const std::vector<Reference>& exercises)
 {
     const auto drawn =
         std::find_if(exercises.begin(), exercises.end(),
                      [](const Reference& reference) { return reference.description.empty(); });
-    return drawn == exercises.end() ? "Exercises" : "Paper " + std::to_string(drawn->place.paper);
+    return drawn == exercises.end()
+               ? say<Sentence::exportExercises>()
+               : say<Sentence::exportPaper>(number(std::to_string(drawn->place.paper)));
 }
 
 } // namespace
@@ -276,13 +268,13 @@ std::string moodleXml(const std::vector<Reference>& exercises, const Writing& wr
 {
     std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<quiz>\n"
                       "<question type=\"category\">\n<category>";
-    addAll(xml, {"<text>top/Chemical calculations practice/", categoryOf(exercises),
-                 "</text></category>\n</question>\n"});
+    const Spans path = line("top/", say<Sentence::exportTitle>(), "/", categoryOf(exercises));
+    addAll(xml, {"<text>", escaped(plainText(path, writing)), "</text></category>\n</question>\n"});
     std::size_t placeOnSheet = 0;
     for (const Reference& reference : exercises) {
         Exercise exercise = exerciseOf(reference).exercise;
         render(exercise, writing);
-        addQuestion(xml, exercise, labelOf(exercise.place, ++placeOnSheet));
+        addQuestion(xml, exercise, labelOf(exercise.place, ++placeOnSheet, writing), writing);
     }
     return xml + "</quiz>\n";
 }

@@ -392,6 +392,23 @@ constexpr Word<Sentence> britishSentences[] = {
     {Sentence::errorUnknownWriting,   "There is no way of writing called '{option}'."},
 
     // ---- export
+    {Sentence::exportTitle,            "Chemical calculations practice"},
+    {Sentence::exportPaper,            "Paper {paper}"},
+    {Sentence::exportExercises,        "Exercises"},
+    {Sentence::exportNameOfDrawn,      "Paper {paper}, {kind}, level {level}, number {number}"},
+    {Sentence::exportNameOfDescribed,  "Exercise {number}, {kind}, level {level}"},
+    {Sentence::exportNotYetInSymbols,  "Not right yet. Check each symbol and each number."},
+    {Sentence::exportCloseMolarMass,   "Very close. Check the atoms and their masses."},
+    {Sentence::exportTypeNumber,       "The number alone, such as 1.23e-4, to {figures} significant figures."},
+    {Sentence::exportTypeSubscripts,   "Type subscripts as ordinary digits, such as H2O."},
+    {Sentence::exportTypeCharge,       "The charge stands behind a ^, such as ClO4^-."},
+    {Sentence::exportTypeCoefficients, "Type the smallest whole numbers, and 1 where a formula needs none."},
+    {Sentence::exportGapDoubled,       "Are all doubled? Use the smallest whole numbers."},
+    {Sentence::exportGapHalf,          "Use whole numbers."},
+    {Sentence::exportOneFitsNoCard,    "1 calculation or equation is left out, since it fits no card."},
+    {Sentence::exportSomeFitNoCard,    "{count} calculations and equations are left out, since they fit no card."},
+    {Sentence::exportOneAskedAlready,  "1 exercise is left out that an earlier card asks already."},
+    {Sentence::exportSomeAskedAlready, "{count} exercises are left out that earlier cards ask already."},
 
     // ---- border
     {Sentence::errorNoTypedText, "There is no typed text."},

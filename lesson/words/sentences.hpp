@@ -389,6 +389,23 @@ enum class Sentence : std::uint16_t {
     errorUnknownWriting,
 
     // ---- export
+    exportTitle,
+    exportPaper,
+    exportExercises,
+    exportNameOfDrawn,
+    exportNameOfDescribed,
+    exportNotYetInSymbols,
+    exportCloseMolarMass,
+    exportTypeNumber,
+    exportTypeSubscripts,
+    exportTypeCharge,
+    exportTypeCoefficients,
+    exportGapDoubled,
+    exportGapHalf,
+    exportOneFitsNoCard,
+    exportSomeFitNoCard,
+    exportOneAskedAlready,
+    exportSomeAskedAlready,
 
     // ---- border
     errorNoTypedText,
