@@ -8,7 +8,8 @@
 // number and kinds ("dilution", "dilution:1,titration" or "mixed"), or described, "dilution;
 // substance=HCl;c1=6.00;V1=25.0;V2=500" without the blank, as every exercise tells it of itself.
 //
-// `writing` tells how the reader writes, "en-GB;decimal=,"; null or empty is "en-GB" with a point.
+// `writing` tells the language of the reader and how the reader writes numbers and units:
+// "en-US;decimal=,;volume=cm3;per=power". Null or empty is "en-GB" with a point, mL and mol/L.
 //
 // Arguments that mean nothing give {"error": "…"}, a sentence: a null pointer, a paper or a number
 // outside 1 to 999999, kinds, a description, a sheet or a writing that cannot be read, an unknown
@@ -27,6 +28,10 @@ const char* lesson_exercise(const char* exercise, const char* writing);
 
 // Marks what was typed for an exercise; any text gets a mark.
 const char* lesson_mark(const char* exercise, const char* typed, const char* writing);
+
+// What is read of what was typed for it, as a front end shows it while it is being typed; nothing
+// where it says nothing that could be read. It gets the mark of what is shown.
+const char* lesson_read(const char* exercise, const char* typed, const char* writing);
 
 // The data that the exercises rest on.
 const char* lesson_tables(const char* writing);

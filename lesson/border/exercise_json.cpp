@@ -206,10 +206,10 @@ std::string markJson(const Mark& mark, const Writing& writing)
     return json.take();
 }
 
-std::string readJson(const std::optional<Spans>& read)
+std::string readJson(const std::optional<Spans>& read, const Writing& writing)
 {
     Json json;
-    json.object([&] { add(json.key("read"), read.value_or(Spans())); });
+    json.object([&] { add(json.key("read"), rendered(read.value_or(Spans()), writing)); });
     return json.take();
 }
 

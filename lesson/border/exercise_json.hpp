@@ -13,6 +13,6 @@ namespace lesson
 std::string exerciseJson(Exercise exercise, const Writing& writing);
 std::string markJson(const Mark& mark, const Writing& writing);
 // {"read":[…]}, the spans that `readAnswer` gives; none where nothing was read.
-std::string readJson(const std::optional<Spans>& read);
+std::string readJson(const std::optional<Spans>& read, const Writing& writing);
 
 } // namespace lesson

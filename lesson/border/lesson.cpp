@@ -14,6 +14,7 @@
 #include "lesson/export/anki.hpp"
 #include "lesson/export/moodle.hpp"
 #include "lesson/kinds/kinds.hpp"
+#include "lesson/marking/read_answer.hpp"
 #include "lesson/paper/reference.hpp"
 #include "lesson/paper/sheet.hpp"
 #include "lesson/words/render.hpp"
@@ -73,10 +74,25 @@ std::string withExercise(const char* text, const char* writing, const AnswerTo& 
     });
 }
 
-std::string markedJson(const Exercise& exercise, const char* typed, const Writing& writing)
+// What `answerTo` makes of what was typed for it, too.
+template <typename AnswerTo>
+std::string withTyped(const char* text, const char* typed, const char* writing,
+                      const AnswerTo& answerTo)
 {
-    return typed == nullptr ? errorJson({say<Sentence::errorNoTypedText>()}, writing)
-                            : markJson(markAnswer(exercise, typed, writing), writing);
+    return withExercise(text, writing, [&](const Exercise& exercise, const Writing& written) {
+        return typed == nullptr ? errorJson({say<Sentence::errorNoTypedText>()}, written)
+                                : answerTo(exercise, typed, written);
+    });
+}
+
+std::string markedJson(const Exercise& exercise, std::string_view typed, const Writing& writing)
+{
+    return markJson(markAnswer(exercise, typed, writing), writing);
+}
+
+std::string readingJson(const Exercise& exercise, std::string_view typed, const Writing& writing)
+{
+    return readJson(readAnswer(exercise, typed, writing), writing);
 }
 
 struct Format {
@@ -129,22 +145,19 @@ const char* lesson_kinds(const char* writing)
 const char* lesson_exercise(const char* exercise, const char* writing)
 {
     thread_local std::string result;
-    return lesson::kept(result, lesson::withExercise(exercise, writing,
-                                                     [](const lesson::Exercise& made,
-                                                        const lesson::Writing& written) {
-                                                         return lesson::exerciseJson(made, written);
-                                                     }));
+    return lesson::kept(result, lesson::withExercise(exercise, writing, lesson::exerciseJson));
 }
 
 const char* lesson_mark(const char* exercise, const char* typed, const char* writing)
 {
     thread_local std::string result;
-    return lesson::kept(
-        result,
-        lesson::withExercise(exercise, writing,
-                             [typed](const lesson::Exercise& made, const lesson::Writing& written) {
-                                 return lesson::markedJson(made, typed, written);
-                             }));
+    return lesson::kept(result, lesson::withTyped(exercise, typed, writing, lesson::markedJson));
+}
+
+const char* lesson_read(const char* exercise, const char* typed, const char* writing)
+{
+    thread_local std::string result;
+    return lesson::kept(result, lesson::withTyped(exercise, typed, writing, lesson::readingJson));
 }
 
 const char* lesson_tables(const char* writing)

@@ -1,7 +1,7 @@
 // The lesson's WebAssembly module from JavaScript, in a browser or in Node: the one place that touches its memory.
 
 /**
- * @typedef {"lesson_kinds" | "lesson_exercise" | "lesson_mark" | "lesson_tables" | "lesson_export"} LessonFunction
+ * @typedef {"lesson_kinds" | "lesson_exercise" | "lesson_mark" | "lesson_read" | "lesson_tables" | "lesson_export"} LessonFunction
  * @typedef {string | Uint8Array | null} Argument Bytes are UTF-8; null is the null pointer.
  * @typedef {Record<LessonFunction, (...values: number[]) => number> & {
  *     memory: WebAssembly.Memory,

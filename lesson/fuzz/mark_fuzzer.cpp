@@ -1,5 +1,5 @@
 // Any text as an answer of one form, which `markedKinds` names by the exercises that ask for it: it
-// gets a verdict and a sentence, and blanks around it change neither. The first byte of an input
+// gets a verdict and a sentence, of which blanks around it change neither, and is read. The first byte of an input
 // chooses kind and level, the second one the paper, the others are the answer up to the first NUL.
 
 #include <algorithm>
@@ -12,7 +12,7 @@
 namespace
 {
 
-constexpr std::size_t longestSentence = 1000; // In bytes: what it quotes is cut.
+constexpr std::size_t longestSentence = 2000; // In bytes of its JSON: what it quotes is cut.
 
 const std::set<std::string>& verdicts()
 {
@@ -35,11 +35,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const nlohmann::json mark = parsed(lesson_mark(exercise.c_str(), typed.c_str(), nullptr));
     require(verdicts().count(textIn(mark, "verdict")) == 1, "the verdict is one of seven");
-    require(!textIn(mark, "sentence").empty(), "there is a sentence");
-    require(textIn(mark, "sentence").size() <= longestSentence, "the sentence is no page");
+    require(!mark["sentence"].empty(), "there is a sentence");
+    require(mark["sentence"].dump().size() <= longestSentence, "the sentence is no page");
 
     const std::string amongBlanks = " \t" + typed + "\u2009\u00A0";
     require(parsed(lesson_mark(exercise.c_str(), amongBlanks.c_str(), nullptr)) == mark,
             "blanks at the ends do not matter");
+
+    const nlohmann::json read = parsed(lesson_read(exercise.c_str(), typed.c_str(), nullptr));
+    require(read.contains("read") && read["read"].is_array(), "what is read is a line");
     return 0;
 }
