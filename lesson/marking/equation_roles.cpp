@@ -22,7 +22,7 @@ constexpr States solidOrDissolved = {"s", "aq"};
 
 States statesOfSalt(const Pair& pair)
 {
-    if (ruleFor(*pair.anion) == nullptr || !whySolubilityIsNotAsked(pair).empty()) {
+    if (ruleFor(*pair.anion) == nullptr || whySolubilityIsNotAsked(pair).has_value()) {
         return solidOrDissolved;
     }
     return isSoluble(pair) ? States{"aq", ""} : States{"s", ""};
