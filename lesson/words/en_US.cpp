@@ -1,5 +1,6 @@
 #include "lesson/words/en_GB.hpp"
 
+#include <cstddef>
 #include <iterator>
 
 namespace lesson
@@ -61,6 +62,15 @@ constexpr bool haveArgumentsOfBritishOnes()
     }
     return true;
 }
+constexpr bool areInOrder()
+{
+    bool isAbove = true;
+    for (std::size_t i = 1; i < std::size(sentences); ++i) {
+        isAbove = isAbove && sentences[i - 1].id < sentences[i].id;
+    }
+    return isAbove;
+}
+static_assert(areInOrder(), "a sentence is looked up by its id");
 static_assert(haveArgumentsOfBritishOnes(), "a sentence takes what it does in British English");
 
 } // namespace

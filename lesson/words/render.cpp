@@ -104,11 +104,10 @@ void render(Spans& line, const Writing& writing)
 
 std::string cubic(std::string_view unit)
 {
-    if (unit == "mL") {
-        return "cm3";
+    if (takeEnd(unit, "mL")) {
+        return std::string(unit) + "cm3";
     }
-    return endsWith(unit, "L") ? std::string(unit.substr(0, unit.size() - 1)) + "dm3"
-                               : std::string(unit);
+    return takeEnd(unit, "L") ? std::string(unit) + "dm3" : std::string(unit);
 }
 
 } // namespace
@@ -162,10 +161,9 @@ std::string unitIn(const Writing& writing, std::string_view unit)
     if (!writing.isPerAPower || slash == std::string::npos) {
         return text;
     }
-    const std::string below = text.substr(slash + 1);
-    const bool isCubed = endsWith(below, "3");
-    return text.substr(0, slash) + " " + below.substr(0, below.size() - (isCubed ? 1 : 0)) +
-           (isCubed ? "-3" : "-1");
+    std::string_view below = std::string_view(text).substr(slash + 1);
+    const bool isCubed = takeEnd(below, "3") || takeEnd(below, "³");
+    return text.substr(0, slash) + " " + std::string(below) + (isCubed ? "-3" : "-1");
 }
 
 } // namespace lesson
