@@ -1,6 +1,6 @@
 // Wires the page together; imported by none.
 import packed from "lesson.bin";
-import { instantiate } from "../../lesson/border/module.mjs";
+import { instantiate, type LessonModule } from "../../lesson/border/module.mjs";
 import { addressOf, mainRoad, routeOf } from "./address";
 import { lessonOf } from "./lesson/lesson";
 import { withLists } from "./lesson/listed-exercises";
@@ -21,8 +21,7 @@ import { unpacked } from "./shared/unpacked";
 import { usualSheet } from "./sheet/sheet";
 import { showSheets } from "./sheet/sheets";
 import { showTables } from "./tables/tables";
-import { namesOf } from "./text/sentences";
-import type { Lesson, PracticeRoute, Route, SheetRoute } from "./types";
+import type { PracticeRoute, Route, SheetRoute } from "./types";
 import { texts } from "./words/texts";
 
 type Focus = () => void;
@@ -49,11 +48,13 @@ function keepPlaces(): void {
     }
 }
 
-function pageOf(lesson: Lesson): Page {
+function pageOf(module: LessonModule): Page {
+    const lesson = withLists(lessonOf(module, () => page.settings));
     const page: Page = {
         lesson,
-        kinds: lesson.kinds(),
-        names: namesOf(() => lesson.tables()),
+        get kinds() {
+            return lesson.kinds();
+        },
         settings: storage.settings(),
         go(address) {
             if (location.hash === address) {
@@ -208,7 +209,7 @@ function keepClock(): void {
 async function start(): Promise<void> {
     const instantiated = instantiate(await unpacked(packed));
     storage.open(); // while the module is compiled
-    const page = pageOf(withLists(lessonOf(await instantiated)));
+    const page = pageOf(await instantiated);
     rememberPlaces();
     show(byId("home"), texts.title);
     render(page);

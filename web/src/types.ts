@@ -9,7 +9,7 @@ export type Span =
     | { number: string }
     | { unit: string }
     | { fraction: [Span[], Span[]] }
-    | { name: string; american?: string };
+    | { name: string };
 
 export type Form = "number" | "formula" | "ion" | "equation" | "solubility";
 
@@ -29,6 +29,7 @@ export interface GivenQuantity {
     unit: string;
     shown: string;
     shownUnit: string;
+    role?: "titre" | "aliquot"; // of a titration's volumes
     titres?: number[];
 }
 
@@ -50,29 +51,31 @@ export interface Exercise {
     ask: Ask;
     given: Given[];
     equation?: { left: [number, string][]; right: [number, string][] };
-    key: { text: string; value?: number };
+    key: { text: string; spans: Span[]; value?: number };
     solution: Step[];
-    slips: { text: string; value?: number; sentence: string }[];
+    slips: { text: string; value?: number; sentence: Span[] }[];
 }
 
 export type Verdict = "correct" | "figures" | "slip" | "power-of-ten" | "close" | "wrong" | "unreadable";
 
 export interface Mark {
     verdict: Verdict;
-    sentence: string;
+    sentence: Span[];
 }
 
 export interface KindInfo {
     kind: string;
+    version: number; // of its exercises
     title: string;
     levels: string[];
+    drawing?: "dilution" | "titration";
+    masses: boolean; // whether relative atomic masses may be needed
 }
 
 export interface ElementInfo {
     number: number;
     symbol: string;
     name: string;
-    american?: string;
     mass: string;
     period: number;
     group: number;
@@ -80,7 +83,6 @@ export interface ElementInfo {
 
 export interface IonInfo {
     name: string;
-    american?: string;
     formula: string;
     charge: number;
 }
@@ -90,13 +92,13 @@ export interface PairInfo {
     anion: string;
     formula?: string; // where the compound exists
     verdict: "soluble" | "insoluble" | "not asked";
-    reason: string;
+    reason: Span[];
 }
 
 // What is learnt of the salts of one anion.
 export interface RuleInfo {
     anion: string;
-    sentence: string;
+    sentence: Span[];
 }
 
 export interface Tables {
@@ -106,12 +108,14 @@ export interface Tables {
     pairs: PairInfo[];
 }
 
-// The lesson library. `exercise` gives null where the address names none.
+// The lesson library, which tells and reads all as the reader writes it. `exercise` gives null where the
+// address names none.
 export interface Lesson {
     kinds(): KindInfo[];
     exercise(paper: number, number: number, kinds: string): Exercise | null;
-    mark(paper: number, number: number, kinds: string, typed: string): Mark;
-    tables(): Tables;
+    mark(paper: number, number: number, kinds: string, typed: string, decimal?: Settings["decimal"]): Mark;
+    read(paper: number, number: number, kinds: string, typed: string): Span[]; // empty where nothing is read
+    tables(names?: Settings["names"]): Tables;
     // The text of a file, or why there is none.
     exported(paper: number, sheet: string, format: ExportFormat): { file: string } | { error: string };
 }
@@ -175,7 +179,3 @@ export interface Settings {
     names: "british" | "american";
     masses: "shown" | "table"; // below a question that cannot be answered without: the numbers, or where they are
 }
-
-// Names that differ, British to American. Asked for only where they are wanted: the tables that tell
-// them take longer to make than an exercise.
-export type Names = () => ReadonlyMap<string, string>;

@@ -16,7 +16,7 @@ const allowed = {
     types: [],
     words: [],
     shared: ["types", "words", "fflate"],
-    text: ["types", "shared"],
+    text: ["types", "words", "shared"],
     lesson: ["types", "shared", border],
     address: ["types", "words", "shared", "sheet/address"],
     practice: ["types", "words", "shared", "text", "address"],

@@ -17,9 +17,13 @@ export function withLists(lesson: Lesson): Lesson {
             const asked = resolve(number, kinds);
             return asked === undefined ? null : lesson.exercise(paper, asked.number, asked.kinds);
         },
-        mark(paper, number, kinds, typed) {
+        mark(paper, number, kinds, typed, decimal) {
             const asked = resolve(number, kinds) ?? { number, kinds };
-            return lesson.mark(paper, asked.number, asked.kinds, typed);
+            return lesson.mark(paper, asked.number, asked.kinds, typed, decimal);
+        },
+        read(paper, number, kinds, typed) {
+            const asked = resolve(number, kinds) ?? { number, kinds };
+            return lesson.read(paper, asked.number, asked.kinds, typed);
         },
     };
 }

@@ -2,8 +2,8 @@
 import { element, isTouched, spoken } from "../shared/dom";
 import { typeset } from "../text/line";
 import { quantityOf } from "../text/quantity";
-import { localUnit, plainUnit, spokenUnit } from "../text/units";
-import type { Ask, Settings } from "../types";
+import { plainUnit, spokenUnit } from "../text/units";
+import type { Ask, Settings, Span } from "../types";
 import { texts } from "../words/texts";
 import { answerKeys } from "./answer-keys";
 import { keepFieldInView } from "./field-in-view";
@@ -20,8 +20,16 @@ export interface AnswerField {
     focus(): void;
 }
 
-export function answerField(ask: Ask, settings: Settings, changed: () => void): AnswerField {
-    return ask.choices === undefined ? typedField(ask, settings, changed) : choiceField(ask.choices, changed);
+// What is asked, how the reader writes, and what the library reads in what is typed.
+export interface Asked {
+    ask: Ask;
+    settings: Settings;
+    read(typed: string): Span[];
+}
+
+export function answerField(asked: Asked, changed: () => void): AnswerField {
+    const { choices } = asked.ask;
+    return choices === undefined ? typedField(asked, changed) : choiceField(choices, changed);
 }
 
 // fieldset
@@ -42,9 +50,9 @@ function choiceField(words: string[], changed: () => void): AnswerField {
     };
 }
 
-function typedField(ask: Ask, settings: Settings, changed: () => void): AnswerField {
+function typedField({ ask, settings, read }: Asked, changed: () => void): AnswerField {
     const input = inputOf(ask);
-    const preview = typedPreview(ask, settings);
+    const preview = typedPreview(read);
     const update = () => {
         preview.update(input.value);
         changed();
@@ -146,8 +154,8 @@ function hintOf(ask: Ask, settings: Settings): Node | string {
     if (ask.unit === undefined || ask.figures === undefined) {
         return withExamples(texts.hints[ask.form] ?? "");
     }
-    const seen = texts.numberHint(ask.figures, plainUnit(ask.unit, settings));
-    const said = texts.numberHint(ask.figures, spokenUnit(localUnit(ask.unit, settings)));
+    const seen = texts.numberHint(ask.figures, plainUnit(ask.unit));
+    const said = texts.numberHint(ask.figures, spokenUnit(ask.unit, settings));
     const hint = document.createDocumentFragment();
     hint.append(element("span", { "aria-hidden": "true" }, seen), spoken(said));
     return hint;

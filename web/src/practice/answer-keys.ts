@@ -1,8 +1,8 @@
 // The signs to insert into an answer, as buttons.
 import { button, element, spoken } from "../shared/dom";
+import { signed } from "../text/pieces";
 import type { Ask } from "../types";
 import { texts } from "../words/texts";
-import { previewOf } from "./typed-preview";
 
 const signs: Partial<Record<Ask["form"], string[]>> = {
     formula: ["(", ")", "."],
@@ -24,8 +24,13 @@ function keyOf(sign: string, input: HTMLInputElement, update: () => void): HTMLE
         update();
     };
     const made = button("", press);
-    made.replaceChildren(element("span", { "aria-hidden": "true" }, ...previewOf(sign)), spoken(texts.keyNames[sign] ?? sign));
+    made.replaceChildren(element("span", { "aria-hidden": "true" }, signOf(sign)), spoken(texts.keyNames[sign] ?? sign));
     // The field keeps the focus, and a tablet its keyboard.
     made.addEventListener("pointerdown", (event) => event.preventDefault());
     return made;
+}
+
+// As it is printed: "->" is an arrow, "^2-" a charge.
+function signOf(sign: string): Node | string {
+    return sign.startsWith("^") ? element("sup", {}, signed(sign.slice(1))) : sign.replace("->", "→");
 }

@@ -112,16 +112,25 @@ export function openerOf(panel: HTMLElement, changed: (isOpen: boolean) => void 
     return { button: made, open };
 }
 
+export interface Choice {
+    button: HTMLElement;
+    panel: HTMLElement;
+    rename(): void; // in the reader's words of now
+}
+
 // div.choice      filled when it is opened first: most readers only want the exercise
 //   form
-export function choicePanel(route: PracticeRoute, exercise: Exercise, page: Page): { button: HTMLElement; panel: HTMLElement } {
+export function choicePanel(route: PracticeRoute, exercise: Exercise, page: Page): Choice {
     const panel = element("div", { class: "choice" });
+    let rename = () => {};
     const opener = openerOf(panel, (isOpen) => {
         if (isOpen && panel.childElementCount === 0) {
-            panel.append(choiceForm(route, exercise, page));
+            const form = choiceForm(route, exercise, page);
+            panel.append(form.element);
+            rename = form.rename;
         }
     });
-    return { button: opener.button, panel };
+    return { button: opener.button, panel, rename: () => rename() };
 }
 
 // form
@@ -129,23 +138,32 @@ export function choicePanel(route: PracticeRoute, exercise: Exercise, page: Page
 //   div.kinds
 //   div.paper
 //   div.length      how many, Start
-function choiceForm(route: PracticeRoute, exercise: Exercise, page: Page): HTMLElement {
+function choiceForm(route: PracticeRoute, exercise: Exercise, page: Page): { element: HTMLElement; rename(): void } {
     const fields = fieldsOf(route, page);
+    const only = onlyThis(route, exercise, page);
     const form = element(
         "form",
         { autocomplete: "off", "aria-label": texts.chooseTitle },
-        ...onlyThis(route, exercise, page),
+        ...only,
         fields.kinds.element,
         fields.paper.element,
         lengthAndStart(fields.length, element("button", { type: "submit", class: "main" }, texts.start)),
     );
     beginWith(form, fields, page);
-    return form;
+    const rename = () => {
+        fields.kinds.rename(page.kinds);
+        only.forEach((one) => (one.textContent = nameOfOnly(exercise, page)));
+    };
+    return { element: form, rename };
 }
 
 // Nothing where that is the choice already.
 function onlyThis(route: PracticeRoute, { kind, level }: Exercise, page: Page): HTMLElement[] {
     const only: PracticeRoute = { ...route, number: 1, kinds: shortest([`${kind}:${level}`], page.kinds), set: 0 };
     const isAlready = !isList(route.kinds) && shortest(entriesOf(route.kinds, page.kinds), page.kinds) === only.kinds;
-    return isAlready ? [] : [button(texts.onlyKind(titleOf(page, kind), level), () => page.go(addressOf(only)))];
+    return isAlready ? [] : [button(nameOfOnly({ kind, level }, page), () => page.go(addressOf(only)))];
+}
+
+function nameOfOnly({ kind, level }: Pick<Exercise, "kind" | "level">, page: Page): string {
+    return texts.onlyKind(titleOf(page, kind), level);
 }

@@ -1,8 +1,6 @@
 // The burette over the flask, as shapes. Text in them repeats what the labels beside them say, so they are for
 // the eye alone.
 import { svg } from "../shared/dom";
-import { localNumber, plainUnit } from "../text/units";
-import type { Settings } from "../types";
 
 // A burette of 50 mL as it is drawn: its marks from 0 at the top down to 50.
 export const burette = { full: 50, at0: 22, perMillilitre: 2.5 };
@@ -12,10 +10,16 @@ export function heightOf(reading: number): number | null {
     return reading >= 0 && reading <= burette.full ? burette.at0 + reading * burette.perMillilitre : null;
 }
 
+// What stands in the drawing, as the reader writes it.
+interface Written {
+    reading: string;
+    unit: string;
+}
+
 // svg
 //   g.burette   liquid, meniscus, glass, marks with their numbers, the reading
 //   g.flask     liquid, glass
-export function titrationShapes(reading: number, settings: Settings): SVGElement | null {
+export function titrationShapes(reading: number, written: Written): SVGElement | null {
     const level = heightOf(reading);
     if (level === null) {
         return null;
@@ -23,7 +27,7 @@ export function titrationShapes(reading: number, settings: Settings): SVGElement
     return svg(
         "svg",
         { viewBox: "0 0 96 252", "aria-hidden": "true", class: "shape" },
-        svg("g", { class: "burette" }, ...buretteShapes(level), ...numbers(settings), ...readingShapes(level, reading, settings)),
+        svg("g", { class: "burette" }, ...buretteShapes(level), ...numbers(written), ...readingShapes(level, written)),
         svg("g", { class: "flask" }, ...flaskShapes()),
     );
 }
@@ -48,18 +52,18 @@ function marks(): string {
     }).join(" ");
 }
 
-function numbers(settings: Settings): SVGElement[] {
+function numbers({ unit }: Written): SVGElement[] {
     const tens = [0, 10, 20, 30, 40, 50];
     return [
-        svg("text", { x: 24, y: 11, class: "scale end" }, plainUnit("mL", settings)),
+        svg("text", { x: 24, y: 11, class: "scale end" }, unit),
         ...tens.map((ten) => svg("text", { x: 24, y: burette.at0 + ten * burette.perMillilitre + 4, class: "scale end" }, String(ten))),
     ];
 }
 
-function readingShapes(level: number, reading: number, settings: Settings): SVGElement[] {
+function readingShapes(level: number, { reading }: Written): SVGElement[] {
     return [
         svg("path", { d: `M46 ${level} l7 -4 v8 Z`, class: "pointer" }),
-        svg("text", { x: 56, y: level + 4, class: "scale reading" }, localNumber(reading.toFixed(2), settings)),
+        svg("text", { x: 56, y: level + 4, class: "scale reading" }, reading),
     ];
 }
 

@@ -1,6 +1,7 @@
 // The burette over the flask, and what is known of each.
 import { element, spoken } from "../shared/dom";
 import { speech } from "../text/seen-and-spoken";
+import { localNumber, plainUnit } from "../text/units";
 import type { Exercise, GivenQuantity, Settings, Span } from "../types";
 import { texts } from "../words/texts";
 import { titrationShapes } from "./drawing-burette";
@@ -13,17 +14,15 @@ import { titresOf } from "./drawing-titres";
 //     div.label   the burette: what is in it, the titres, how it is read
 //     div.label   the flask
 export function titration(exercise: Exercise, settings: Settings): HTMLElement | null {
-    const volumes = quantitiesOf(exercise).filter((given) => given.quantity === "V");
-    // A burette is read to two decimals, a pipette delivers to one.
-    const titre = volumes.find((given) => given.titres !== undefined || /\.\d\d$/.test(given.shown));
-    const aliquot = volumes.find((given) => given !== titre);
+    const [titre, aliquot] = (["titre", "aliquot"] as const).map((role) => quantitiesOf(exercise).find((given) => given.role === role));
     if (titre === undefined || aliquot === undefined) {
         return null;
     }
-    const reading = lastReading(titre);
-    const shapes = titrationShapes(reading, settings);
-    const burette = label(texts.burette, titre.of, linesFor(exercise, titre.of), settings, ...titresOf(titre, settings));
-    burette.append(...readingTold(titre, reading, settings));
+    const unit = aliquot.shownUnit; // Of several titres the mean is not shown.
+    const reading = { number: localNumber(lastReading(titre).toFixed(2), settings) };
+    const shapes = titrationShapes(lastReading(titre), { reading: reading.number, unit: plainUnit(unit) });
+    const burette = label(texts.burette, titre.of, linesFor(exercise, titre.of), settings, ...titresOf(titre, unit, settings));
+    burette.append(...readingTold(titre, speech([reading, { unit }], settings)));
     const flask = label(texts.flask, aliquot.of, linesFor(exercise, aliquot.of), settings);
     return element(
         "figure",
@@ -34,12 +33,13 @@ export function titration(exercise: Exercise, settings: Settings): HTMLElement |
 }
 
 // Of several titres the mean is for the learner to take: the burette shows the last.
-function lastReading({ titres, shown }: GivenQuantity): number {
-    return titres?.[titres.length - 1] ?? Number(shown);
+function lastReading({ titres, value }: GivenQuantity): number {
+    return titres?.[titres.length - 1] ?? value * millilitres;
 }
 
-function readingTold({ titres }: GivenQuantity, reading: number, settings: Settings): HTMLElement[] {
-    const told = speech([{ number: reading.toFixed(2) }, { unit: "mL" }], settings);
+const millilitres = 1000; // in a litre
+
+function readingTold({ titres }: GivenQuantity, told: string): HTMLElement[] {
     const whole = spoken(texts.drawings.reads(told));
     return titres === undefined ? [whole] : [element("p", { class: "place" }, texts.drawings.after(titres.length - 1)), whole];
 }

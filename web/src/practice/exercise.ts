@@ -5,14 +5,15 @@ import type { Page } from "../shared/page";
 import { withdraw } from "../shared/question";
 import { typesetLine } from "../text/line";
 import { speech } from "../text/seen-and-spoken";
-import type { Exercise, Mark, PracticeRoute } from "../types";
+import type { Exercise, Mark, PracticeRoute, Settings } from "../types";
 import { texts } from "../words/texts";
 import { type AnswerField, answerField, markId } from "./answer-field";
+import type { Choice } from "./choice";
 import { drawingOf } from "./drawing";
 import { finish, isLastOfSet } from "./finish";
 import { headerOf, nameOf } from "./head";
 import { addToRecord } from "./kept-record";
-import { showMark, spokenMark, withoutStep } from "./mark";
+import { showMark, spokenMark, withStep } from "./mark";
 import { massesBelow } from "./masses-line";
 import { overviewOf } from "./overview";
 import { keepProgress, keepTyped, progressOf } from "./progress";
@@ -24,7 +25,7 @@ export interface Place {
     route: PracticeRoute;
     exercise: Exercise;
     page: Page;
-    choice: { button: HTMLElement; panel: HTMLElement }; // of other exercises
+    choice: Choice; // of other exercises
     solved(): void; // a result was added to the record
 }
 
@@ -61,7 +62,7 @@ export function showExercise(article: HTMLElement, place: Place): () => void {
     });
     parts.field.set(work.progress.typed);
     if (work.progress.marked !== null) {
-        work.mark = markOf(work, work.progress.marked);
+        work.mark = markOfBefore(work, work.progress.marked);
     }
     update(work, parts);
     article.replaceChildren(...contentsOf(work, parts));
@@ -90,7 +91,7 @@ function arrive({ route, exercise, page }: Place, { field }: Parts): void {
 // div.help     Next or Back to exercise 4, Another like this
 // figure       here where a keyboard on the screen leaves room for little more than the question and the field
 function contentsOf({ route, exercise, page, choice }: Place, parts: Parts): HTMLElement[] {
-    const drawing = drawingOf(exercise, page.settings);
+    const drawing = drawingOf(exercise, page);
     const drawn = drawing === null ? [] : [drawing];
     const isBelow = isTouched() && isNarrow();
     return [
@@ -113,7 +114,8 @@ function contentsOf({ route, exercise, page, choice }: Place, parts: Parts): HTM
 function partsOf(work: Work): Parts {
     const { route, exercise, page } = work;
     const steps = exercise.solution.length;
-    const field = answerField(exercise.ask, page.settings, () => {
+    const read = (text: string) => page.lesson.read(route.paper, route.number, route.kinds, text);
+    const field = answerField({ ask: exercise.ask, settings: page.settings, read }, () => {
         work.progress = state.typed(work.progress, field.text());
         keepTyped(route, work.progress);
         updateMark(work, parts);
@@ -187,9 +189,10 @@ function updateMark(work: Work, parts: Parts): void {
 
 function check(work: Work, parts: Parts): void {
     const text = parts.field.text();
-    const mark = markOf(work, text);
+    const { decimal } = work.page.settings;
+    const mark = markOf(work, text, decimal);
     work.mark = mark;
-    keep(work, (before) => state.afterMark(before, text, mark));
+    keep(work, (before) => state.afterMark(before, { text, decimal }, mark));
     update(work, parts);
     announce([spokenMark(markToShow(work)!, work.page), ...(parts.offer.hidden ? [] : [texts.wouldHelp])].join(" "));
     if (mark.verdict === "correct") {
@@ -213,12 +216,22 @@ function advance(work: Work, parts: Parts, step: Step): void {
     bringIntoView(parts.solution, parts.goOn);
 }
 
-function markOf({ route, page }: Work, text: string): Mark {
-    return page.lesson.mark(route.paper, route.number, route.kinds, text);
+function markOf({ route, page }: Work, text: string, decimal: Settings["decimal"]): Mark {
+    return page.lesson.mark(route.paper, route.number, route.kinds, text, decimal);
 }
 
+// The mark that was given, as the reader writes now. Where another decimal sign would make another one of it,
+// it stays what it was.
+function markOfBefore(work: Work, text: string): Mark {
+    const given = markOf(work, text, work.progress.decimal);
+    const anew = markOf(work, text, work.page.settings.decimal);
+    return anew.verdict === given.verdict ? anew : given;
+}
+
+// Once all is shown there is no step left to press for; where one is offered, it need not be told twice.
 function markToShow(work: Work): Mark | null {
-    return work.mark !== null && isShownWhole(work) ? withoutStep(work.mark) : work.mark;
+    const isTold = isShownWhole(work) || state.offersHelp(work.progress);
+    return work.mark === null || isTold ? work.mark : withStep(work.mark);
 }
 
 function isShownWhole({ progress, exercise }: Work): boolean {

@@ -2,7 +2,7 @@
 // of what was solved how. Each is an entry of its own in the store, so that two tabs with two sets never
 // write over each other; two tabs with one set read it anew before each write.
 import { addressOfSet, routeOf } from "../address";
-import { countOf, fieldsOf, keysBehind, read, remove, write } from "../shared/storage";
+import { countOf, decimalOf, fieldsOf, keysBehind, read, remove, write } from "../shared/storage";
 import type { PracticeRoute } from "../types";
 import { type Progress, resultOf } from "./tries";
 
@@ -59,17 +59,23 @@ function setIn(key: string, length: number): KeptSet | null {
 }
 
 function doneOf(kept: unknown): Done {
-    const { failed, marked, steps, result } = fieldsOf(kept);
-    return { failed: countOf(failed), marked: typeof marked === "string" ? marked : null, steps: countOf(steps), result: resultOf(result) };
+    const { failed, marked, decimal, steps, result } = fieldsOf(kept);
+    return {
+        failed: countOf(failed),
+        marked: typeof marked === "string" ? marked : null,
+        decimal: decimalOf(decimal),
+        steps: countOf(steps),
+        result: resultOf(result),
+    };
 }
 
 function isTried({ marked, steps, result }: Done): boolean {
     return marked !== null || steps > 0 || result !== null;
 }
 
-export function keepInSet(route: PracticeRoute, { failed, marked, steps, result }: Done, spent: Spent): void {
+export function keepInSet(route: PracticeRoute, { failed, marked, decimal, steps, result }: Done, spent: Spent): void {
     const before = keptSet(route);
-    const exercises = new Map(before?.exercises).set(route.number, { failed, marked, steps, result });
+    const exercises = new Map(before?.exercises).set(route.number, { failed, marked, decimal, steps, result });
     writeSet(route, { begun: spent.begun, worked: 0, touched: 0, ...before, exercises }, spent);
     if (before === null) {
         dropOldest();

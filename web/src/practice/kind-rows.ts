@@ -10,6 +10,7 @@ export interface KindRows {
     element: HTMLElement;
     // As an address has it; empty where none is chosen.
     read(): string;
+    rename(named: KindInfo[]): void; // the same kinds in other words
     problems(): Problem[];
 }
 
@@ -19,10 +20,12 @@ export interface KindRows {
 //     div.kind …        a row
 export function kindRows(kinds: string, all: KindInfo[]): KindRows {
     const chosen = new Set(entriesOf(kinds, all));
-    const rows = all.map((info) => kindRow(info, chosen));
+    const boxes = all.flatMap(({ kind, levels }) => levels.map((_, at) => boxOf(`${kind}:${at + 1}`, chosen)));
+    const rows = element("div", { class: "rows" });
+    const rename = (named: KindInfo[]) => rows.replaceChildren(...named.map((info) => kindRow(info, boxes)));
+    rename(all);
     const title = element("span", { id: "kinds-title", class: "title" }, texts.chooseKinds);
     const box = element("div", { class: "kinds asked", role: "group", "aria-labelledby": title.id });
-    const boxes = rows.flatMap((row) => [...row.querySelectorAll("input")]);
     const read = () =>
         changedTo(
             boxes.filter((one) => one.checked).map((one) => one.value),
@@ -41,17 +44,18 @@ export function kindRows(kinds: string, all: KindInfo[]): KindRows {
         button(texts.all, () => setAll(true)),
         button(texts.none, () => setAll(false)),
     );
-    box.append(whole, element("div", { class: "rows" }, ...rows));
-    return { element: box, read, problems: () => (read() === "" ? [{ field: boxes[0]!, sentence: texts.chooseNone }] : []) };
+    box.append(whole, rows);
+    return { element: box, read, rename, problems: () => (read() === "" ? [{ field: boxes[0]!, sentence: texts.chooseNone }] : []) };
 }
 
 // div.kind
 //   span             the kind's title
 //   div.boxes        label.level with box and number, for each
 //   p.meanings
-function kindRow(info: KindInfo, chosen: ReadonlySet<string>): HTMLElement {
+function kindRow(info: KindInfo, boxes: HTMLInputElement[]): HTMLElement {
     const title = element("span", { id: `kind-${info.kind}`, class: "title" }, info.title);
-    const levels = info.levels.map((text, at) => levelBox(`${info.kind}:${at + 1}`, at + 1, text, chosen));
+    const own = boxes.filter((box) => box.value.startsWith(`${info.kind}:`));
+    const levels = info.levels.map((text, at) => levelBox(own[at]!, at + 1, text));
     return element(
         "div",
         { class: "kind", role: "group", "aria-labelledby": title.id },
@@ -61,8 +65,11 @@ function kindRow(info: KindInfo, chosen: ReadonlySet<string>): HTMLElement {
     );
 }
 
-function levelBox(value: string, level: number, text: string, chosen: ReadonlySet<string>): HTMLElement {
-    const box = element("input", { id: `level-${value}`, type: "checkbox", value, checked: chosen.has(value) });
+function boxOf(value: string, chosen: ReadonlySet<string>): HTMLInputElement {
+    return element("input", { id: `level-${value}`, type: "checkbox", value, checked: chosen.has(value) });
+}
+
+function levelBox(box: HTMLElement, level: number, text: string): HTMLElement {
     return element(
         "label",
         { class: "level" },

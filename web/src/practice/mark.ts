@@ -2,7 +2,7 @@
 import { element, show } from "../shared/dom";
 import type { Page } from "../shared/page";
 import { wholeSpoken } from "../text/line";
-import { seenSentence, spokenSentence } from "../text/sentences";
+import { seenOf, speech } from "../text/seen-and-spoken";
 import type { Mark } from "../types";
 import { texts } from "../words/texts";
 
@@ -19,17 +19,17 @@ export function showMark(line: HTMLElement, mark: Mark | null, of: string | null
     line.dataset.verdict = mark.verdict;
     const word = element("strong", {}, texts.verdicts[mark.verdict] ?? "");
     const text = of === null ? [] : [element("span", { class: "marked" }, texts.markOf(of))];
-    const seen = element("span", { "aria-hidden": "true" }, ...text, word, " ", seenSentence(mark.sentence, page.settings, page.names));
+    const seen = element("span", { "aria-hidden": "true" }, ...text, word, " ", seenOf(mark.sentence));
     const said = `${of === null ? "" : `${texts.markOf(of)}: `}${spokenMark(mark, page)}`;
     show(line, seen, wholeSpoken(said));
 }
 
 export function spokenMark(mark: Mark, page: Page): string {
     const word = mark.verdict === "correct" ? "" : (texts.verdicts[mark.verdict] ?? "");
-    return `${word} ${spokenSentence(mark.sentence, page.settings, page.names)}`.trim();
+    return `${word} ${speech(mark.sentence, page.settings)}`.trim();
 }
 
-// Once all is shown there is no button any more that could be pressed for a step.
-export function withoutStep(mark: Mark): Mark {
-    return { ...mark, sentence: mark.sentence.replace(texts.orPressStep, "") };
+// With a way on, where the library knows nothing of the mistake.
+export function withStep(mark: Mark): Mark {
+    return mark.verdict === "wrong" ? { ...mark, sentence: [...mark.sentence, { text: ` ${texts.orStep}` }] } : mark;
 }

@@ -2,9 +2,10 @@
 import { element } from "../shared/dom";
 import type { Page } from "../shared/page";
 import { typesetLine } from "../text/line";
+import { localNumber } from "../text/units";
 import type { ElementInfo, Exercise, Span } from "../types";
 import { texts } from "../words/texts";
-import { massesNeeded, needsMasses } from "./masses-needed";
+import { massesNeeded } from "./masses-needed";
 
 // "Relative atomic masses: H 1.008; O 16.00", which breaks between elements only.
 export function massesLine(masses: ElementInfo[], page: Page): HTMLElement {
@@ -12,17 +13,18 @@ export function massesLine(masses: ElementInfo[], page: Page): HTMLElement {
         { text: at === 0 ? `${texts.massesLine}: ` : "; " },
         { formula: symbol },
         { text: "\u00A0" },
-        { number: mass },
+        { number: localNumber(mass, page.settings) },
     ]);
     return element("p", { class: "masses" }, ...typesetLine(pairs, page.settings));
 }
 
 // Below a question: the masses, or the way to the table that has them; none where it needs none.
 export function massesBelow(exercise: Exercise, page: Page): HTMLElement[] {
-    if (!needsMasses(exercise)) {
+    const masses = massesNeeded([exercise], page);
+    if (masses.length === 0) {
         return [];
     }
-    return [page.settings.masses === "table" ? useTheTable() : massesLine(massesNeeded([exercise], page.lesson.tables().elements), page)];
+    return [page.settings.masses === "table" ? useTheTable() : massesLine(masses, page)];
 }
 
 function useTheTable(): HTMLElement {

@@ -1,19 +1,20 @@
 // The relative atomic masses that exercises cannot be worked out without.
+import { kindInfo, type Page } from "../shared/page";
 import type { ElementInfo, Exercise, Given, GivenQuantity } from "../types";
 
 // In the order of the periodic table; none where each molar mass is given.
-export function massesNeeded(exercises: Exercise[], elements: ElementInfo[]): ElementInfo[] {
-    const symbols = new Set(exercises.flatMap(formulasToWeigh).flatMap((formula) => formula.match(/[A-Z][a-z]?/g) ?? []));
-    return elements.filter((element) => symbols.has(element.symbol));
-}
-
-// Tells so without the elements, which take a while to get.
-export function needsMasses(exercise: Exercise): boolean {
-    return formulasToWeigh(exercise).length > 0;
+export function massesNeeded(exercises: Exercise[], page: Page): ElementInfo[] {
+    const formulas = exercises.flatMap((exercise) => formulasToWeigh(exercise, page));
+    const symbols = new Set(formulas.flatMap((formula) => formula.match(/[A-Z][a-z]?/g) ?? []));
+    // The elements take a while to get.
+    return symbols.size === 0 ? [] : page.lesson.tables().elements.filter(({ symbol }) => symbols.has(symbol));
 }
 
 // Of the substances whose molar mass is asked for, or needed and not told.
-function formulasToWeigh({ ask, given }: Exercise): string[] {
+function formulasToWeigh({ kind, ask, given }: Exercise, page: Page): string[] {
+    if (kindInfo(page, kind)?.masses !== true) {
+        return [];
+    }
     const hidden = given.filter((one): one is GivenQuantity => isMolarMass(one) && one.shown === "");
     return ask.quantity === "M" ? [ask.of ?? ""] : hidden.map((one) => one.of);
 }

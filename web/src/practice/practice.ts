@@ -16,11 +16,19 @@ import { recordPanel } from "./record";
 // stays in view, which is read first.
 export function showPractice(main: HTMLElement, route: PracticeRoute, exercise: Exercise, page: Page): () => void {
     const article = element("article", { class: "exercise" });
-    const record = recordPanel(page, () => draw());
+    const record = recordPanel(page, () => drawAnew());
     const choice = choicePanel(mainRoad(route), exercise, page);
-    const draw = (): (() => void) => showExercise(article, { route, exercise, page, choice, solved: record.update });
-    const focus = draw();
-    const display = displayPanel(page, draw, () => [massesChoice(page, draw)]);
+    const draw = (present: Exercise) => showExercise(article, { route, exercise: present, page, choice, solved: record.update });
+    const drawAnew = () => {
+        draw(page.lesson.exercise(route.paper, route.number, route.kinds) ?? exercise);
+    };
+    const rewrite = () => {
+        drawAnew();
+        choice.rename();
+        record.update();
+    };
+    const focus = draw(exercise);
+    const display = displayPanel(page, rewrite, () => [massesChoice(page, drawAnew)]);
     main.replaceChildren(
         article,
         element("aside", { "aria-label": texts.around }, ...(route.set > 0 ? [linkPanel(route)] : []), display, record.element),

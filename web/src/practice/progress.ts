@@ -1,7 +1,7 @@
 // What an exercise has come to, so that a reload loses nothing. Outside sets the tab keeps it. In a set the
 // device does, and the tab what is being typed.
 import { isInSet, placeOf } from "../address";
-import { countOf, fieldsOf, keysBehind, read, remove, write } from "../shared/storage";
+import { countOf, decimalOf, fieldsOf, keysBehind, read, remove, write } from "../shared/storage";
 import type { PracticeRoute } from "../types";
 import * as sets from "./kept-sets";
 import { spend, workAt } from "./time-worked";
@@ -15,11 +15,12 @@ export function progressOf(route: PracticeRoute): Progress {
 }
 
 function progressIn(kept: unknown): Progress {
-    const { typed, failed, marked, steps, result } = fieldsOf(kept);
+    const { typed, failed, marked, decimal, steps, result } = fieldsOf(kept);
     return {
         typed: typeof typed === "string" ? typed : "",
         failed: countOf(failed),
         marked: typeof marked === "string" ? marked : null,
+        decimal: decimalOf(decimal),
         steps: countOf(steps),
         result: resultOf(result),
     };
@@ -27,11 +28,11 @@ function progressIn(kept: unknown): Progress {
 
 // What was marked in this tab goes with its set, where that was cleared.
 function joined(inTab: unknown, inSet: sets.Done | undefined): Progress {
-    const { typed, marked } = progressIn(inTab);
+    const { typed, marked, decimal } = progressIn(inTab);
     if (inSet === undefined) {
         return { ...progressIn(null), typed: typed === marked ? "" : typed };
     }
-    return inTab === null ? { ...inSet, typed: inSet.marked ?? "" } : { ...inSet, typed, marked: marked ?? inSet.marked };
+    return inTab === null ? { ...inSet, typed: inSet.marked ?? "" } : { ...inSet, typed, ...(marked === null ? {} : { marked, decimal }) };
 }
 
 export function keepTyped(route: PracticeRoute, progress: Progress): void {

@@ -38,7 +38,7 @@ export function recordPanel(page: Page, setsCleared: () => void): { element: HTM
         sets.update();
         body.replaceChildren(element("p", { class: "hint" }, texts.recordNote), tallies, sets.element);
     };
-    return { element: disclosure(summary, body, fill), update: () => body.hasChildNodes() && update() };
+    return { element: disclosure(summary, body, fill), update: () => body.hasChildNodes() && fill() };
 }
 
 function contents(page: Page, clear: HTMLElement): Node[] {

@@ -3,7 +3,6 @@ import { element, show } from "../shared/dom";
 import type { Page } from "../shared/page";
 import { typesetLine } from "../text/line";
 import { speech } from "../text/seen-and-spoken";
-import { spansOfKey } from "../text/sentences";
 import type { Exercise, Span, Step } from "../types";
 import { texts } from "../words/texts";
 
@@ -18,7 +17,7 @@ export function showSolution(box: HTMLElement, exercise: Exercise, steps: number
         return;
     }
     const next = exercise.solution[steps - 1];
-    const end = next === undefined ? labelled("key", texts.key, spansOfKey(exercise), page) : labelled("next", texts.hint, next.hint, page);
+    const end = next === undefined ? labelled("key", texts.key, exercise.key.spans, page) : labelled("next", texts.hint, next.hint, page);
     const list = element("ol", {}, ...exercise.solution.slice(0, steps - 1).map((step) => rowOf(step, page)));
     show(box, element("h2", { tabindex: -1 }, texts.solution), ...(steps === 1 ? [] : [list]), end);
 }
@@ -46,7 +45,7 @@ export function newlySpoken(exercise: Exercise, before: number, after: number, p
     const said = (line: Span[]) => speech(line, page.settings);
     const step = after - before > 1 ? undefined : exercise.solution[after - 2];
     const next = exercise.solution[after - 1];
-    const end = next === undefined ? `${texts.key}: ${said(spansOfKey(exercise))}` : `${texts.hint}: ${said(next.hint)}`;
+    const end = next === undefined ? `${texts.key}: ${said(exercise.key.spans)}` : `${texts.hint}: ${said(next.hint)}`;
     const lines = step === undefined ? [end] : [said(step.say), said(step.math ?? []), end];
     return lines
         .filter((line) => line !== "")

@@ -1,5 +1,5 @@
 // What one exercise has come to, as data and pure steps from one state to the next.
-import type { Mark, Verdict } from "../types";
+import type { Mark, Settings, Verdict } from "../types";
 
 // At the first try; at a later one, wrong before; with a hint or a step; shown before it was solved.
 export const results = ["first", "later", "help", "shown"] as const;
@@ -9,8 +9,14 @@ export interface Progress {
     typed: string;
     failed: number; // tries that count and were wrong, until there is a result
     marked: string | null; // the text that the mark was given for
+    decimal: Settings["decimal"]; // the sign by which it was read
     steps: number; // presses of "Show a step", so one more than there are steps once all is shown
     result: Result | null;
+}
+
+export interface Typed {
+    text: string;
+    decimal: Settings["decimal"];
 }
 
 export function resultOf(value: unknown): Result | null {
@@ -23,8 +29,8 @@ export const triesBeforeHelp = 2;
 const harmless: ReadonlySet<Verdict> = new Set(["unreadable", "figures", "close"]);
 
 // A try that counts is one that was read and was neither nearly right nor only badly rounded.
-export function afterMark(progress: Progress, text: string, mark: Mark): Progress {
-    const marked = { ...progress, typed: text, marked: text };
+export function afterMark(progress: Progress, { text, decimal }: Typed, mark: Mark): Progress {
+    const marked = { ...progress, typed: text, marked: text, decimal };
     if (progress.result !== null) {
         return marked;
     }

@@ -1,10 +1,9 @@
-import type { ElementInfo, IonInfo, KindInfo, Lesson, Names, Settings, SheetRoute } from "../types";
+import type { KindInfo, Lesson, Settings, SheetRoute } from "../types";
 
 // What every view gets from the page around it.
 export interface Page {
     readonly lesson: Lesson;
-    readonly kinds: KindInfo[];
-    readonly names: Names;
+    readonly kinds: KindInfo[]; // in the reader's words of now
     settings: Settings;
     // Goes to another address, which the reader can leave with Back.
     go(address: string): void;
@@ -15,9 +14,9 @@ export interface Page {
 }
 
 export function titleOf(page: Page, kind: string): string {
-    return page.kinds.find((info) => info.kind === kind)?.title ?? kind;
+    return kindInfo(page, kind)?.title ?? kind;
 }
 
-export function nameOf(row: ElementInfo | IonInfo, page: Page): string {
-    return page.settings.names === "american" && row.american ? row.american : row.name;
+export function kindInfo(page: Page, kind: string): KindInfo | undefined {
+    return page.kinds.find((info) => info.kind === kind);
 }

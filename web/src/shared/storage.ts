@@ -77,12 +77,16 @@ export function countOf(value: unknown): number {
     return Number.isSafeInteger(value) && (value as number) >= 0 ? (value as number) : 0;
 }
 
+export function decimalOf(value: unknown): Settings["decimal"] {
+    return value === "," ? "," : ".";
+}
+
 export function settings(): Settings {
     const { volume, per, decimal, names, masses } = fieldsOf(read("localStorage", settingsKey));
     return {
         volume: volume === "cm3" ? "cm3" : "mL",
         per: per === "power" ? "power" : "slash",
-        decimal: decimal === "," ? "," : ".",
+        decimal: decimalOf(decimal),
         names: names === "american" ? "american" : "british",
         masses: masses === "table" ? "table" : "shown",
     };

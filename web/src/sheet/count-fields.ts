@@ -9,7 +9,6 @@ import { withCounts } from "./picks";
 
 interface CountField {
     entry: Omit<SheetEntry, "count">;
-    place: string; // as it is called where it is not seen
     input: HTMLInputElement;
 }
 
@@ -17,11 +16,18 @@ export interface Counts {
     element: HTMLElement;
     read(): { entries: SheetEntry[]; problems: Problem[] };
     pick(entries: SheetEntry[]): void; // others in their place, as many of each
+    rename(named: KindInfo[]): void; // the same kinds in other words
 }
 
 export function countFields(opened: SheetEntry[], kinds: KindInfo[]): Counts {
-    const counts = kinds.flatMap((info) => info.levels.map((_, at) => countField(opened, info, at + 1)));
-    const box = countRows(counts, kinds);
+    const counts = kinds.flatMap(({ kind, levels }) => levels.map((_, at) => countField(opened, { kind, level: at + 1 })));
+    const box = element("fieldset", { class: "counts" });
+    let present = kinds;
+    const rename = (named: KindInfo[]) => {
+        present = named;
+        box.replaceChildren(...countRows(counts, named));
+    };
+    rename(kinds);
     let last = counts[0]!.input;
     // To which what is typed comes and from which it goes, so that nothing is lost on the way to a number.
     let picked = opened;
@@ -35,7 +41,11 @@ export function countFields(opened: SheetEntry[], kinds: KindInfo[]): Counts {
         if (wrong.length > 0) {
             return {
                 entries: [],
-                problems: wrong.map(({ input, place }) => ({ field: input, sentence: texts.wrongCount(mostExercises), where: place })),
+                problems: wrong.map(({ input, entry }) => ({
+                    field: input,
+                    sentence: texts.wrongCount(mostExercises),
+                    where: texts.placeOf(present.find(({ kind }) => kind === entry.kind)!.title, entry.level),
+                })),
             };
         }
         const wanted = counts.map(({ entry, input }) => ({ ...entry, count: Number(input.value) }));
@@ -47,25 +57,20 @@ export function countFields(opened: SheetEntry[], kinds: KindInfo[]): Counts {
         picked = entries;
     }
 
-    return { element: box, read, pick };
+    return { element: box, read, pick, rename };
 }
 
-function countField(opened: SheetEntry[], info: KindInfo, level: number): CountField {
-    const entry = { kind: info.kind, level };
+function countField(opened: SheetEntry[], entry: CountField["entry"]): CountField {
     const count = countOf(opened.filter((one) => kindOf(one) === kindOf(entry)));
-    const label = texts.fieldOf(info.title, level, info.levels[level - 1]!);
-    const id = `count-${info.kind}-${level}`;
     return {
         entry,
-        place: texts.placeOf(info.title, level),
         input: element("input", {
-            id,
+            id: `count-${entry.kind}-${entry.level}`,
             type: "number",
             min: 0,
             max: mostExercises,
             value: count === 0 ? "" : count,
             class: "count",
-            "aria-label": label,
         }),
     };
 }
@@ -76,7 +81,7 @@ function countField(opened: SheetEntry[], info: KindInfo, level: number): CountF
 //   div.asked        for each kind
 //     div.row        its title, and in div.levels a field a level
 //     p.meanings     what each level asks for, as each field's own label says
-function countRows(counts: CountField[], kinds: KindInfo[]): HTMLElement {
+function countRows(counts: CountField[], kinds: KindInfo[]): HTMLElement[] {
     const hint = element("p", { class: "hint" }, texts.howManyHint);
     const heads = [1, 2, 3].map((level) => element("span", { class: "count" }, texts.level(level)));
     const head = element(
@@ -87,6 +92,7 @@ function countRows(counts: CountField[], kinds: KindInfo[]): HTMLElement {
     );
     const rows = kinds.map((info) => {
         const fields = counts.filter(({ entry }) => entry.kind === info.kind).map(({ input }) => input);
+        fields.forEach((input, at) => input.setAttribute("aria-label", texts.fieldOf(info.title, at + 1, info.levels[at]!)));
         const row = element(
             "div",
             { class: "row" },
@@ -95,5 +101,5 @@ function countRows(counts: CountField[], kinds: KindInfo[]): HTMLElement {
         );
         return element("div", { class: "asked" }, row, meaningsOf(info));
     });
-    return element("fieldset", { class: "counts" }, element("legend", {}, texts.howMany), hint, head, ...rows);
+    return [element("legend", {}, texts.howMany), hint, head, ...rows];
 }

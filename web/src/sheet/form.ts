@@ -15,6 +15,7 @@ export interface SheetForm {
     element: HTMLElement;
     read(): Reading;
     pick(entries: SheetEntry[]): void; // others in their place, as many of each
+    rename(named: KindInfo[]): void; // the same kinds in other words
 }
 
 type Controls = ReturnType<typeof controlsOf>;
@@ -63,7 +64,7 @@ export function sheetForm(opened: SheetRoute, kinds: KindInfo[], changed: () => 
         changed();
     });
     relate(controls);
-    return { element: form, read: () => readingOf(counts.read(), controls, lastNumber), pick: counts.pick };
+    return { element: form, read: () => readingOf(counts.read(), controls, lastNumber), pick: counts.pick, rename: counts.rename };
 }
 
 function fieldsOf(controls: Controls, changed: () => void): HTMLElement {

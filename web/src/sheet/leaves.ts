@@ -16,13 +16,12 @@ export function* leaves(box: HTMLElement, route: SheetRoute, page: Page): Genera
     box.append(measuring);
     const paper = paperMeasures(measuring);
     const measure = measureIn(measuring, paper.across);
-    const elements = page.lesson.tables().elements;
     const places = exercisesOf(route.entries);
     const keys: { label: string; run: Run }[] = [];
     const put = putInto(box, route);
     for (const [at, number] of papersOf(route).entries()) {
         const version: Version = { paper: number, number: at + 1, exercises: yield* exercisesOfPaper(number, places, page) };
-        const { sheet, key } = yield* runsOf(version, route, elements, measure, page);
+        const { sheet, key } = yield* runsOf(version, route, measure, page);
         const label = labelOf(version, route);
         put(label, leavesOf(label, sheet, paper.room));
         keys.push({ label, run: key });

@@ -7,7 +7,6 @@ import type { Page } from "../shared/page";
 import { typesetLine } from "../text/line";
 import { quantityOf } from "../text/quantity";
 import { seenOf } from "../text/seen-and-spoken";
-import { spansOfKey } from "../text/sentences";
 import type { Ask, Exercise, Form, SheetRoute, Span } from "../types";
 import { texts } from "../words/texts";
 import { ownPartOf } from "./common-words";
@@ -35,14 +34,14 @@ const lines: Record<SheetRoute["room"], Record<Form, number>> = {
 export function exerciseItem(exercise: Exercise, place: Place, route: SheetRoute, page: Page): HTMLElement {
     const { ask } = exercise;
     const count = linesFor(exercise, route);
-    const drawing = route.drawings ? drawingOf(exercise, page.settings) : null;
+    const drawing = route.drawings ? drawingOf(exercise, page) : null;
     if (place.isFramed) {
         return framedItem(exercise, count, page);
     }
     const figures = place.saysFigures && ask.figures !== undefined ? [{ text: ` ${texts.figures(ask.figures)}` }] : [];
     const question = typesetLine([...exercise.prompt, ...figures], page.settings);
     const marks = route.marks ? texts.worth(marksOf(exercise)) : "";
-    return element("li", {}, line("asks", question, marks), ...(drawing === null ? [] : [drawing]), ...roomFor(ask, count, page));
+    return element("li", {}, line("asks", question, marks), ...(drawing === null ? [] : [drawing]), ...roomFor(ask, count));
 }
 
 function linesFor(exercise: Exercise, { room }: SheetRoute): number {
@@ -54,7 +53,7 @@ function linesFor(exercise: Exercise, { room }: SheetRoute): number {
 function framedItem(exercise: Exercise, count: number, page: Page): HTMLElement {
     const own = typesetLine(ownPartOf(exercise), page.settings);
     if (count !== 1) {
-        return element("li", { class: "half" }, element("p", { class: "asks" }, ...own), ...roomFor(exercise.ask, count, page));
+        return element("li", { class: "half" }, element("p", { class: "asks" }, ...own), ...roomFor(exercise.ask, count));
     }
     return element("li", { class: "half" }, element("p", { class: "asks beside" }, element("span", {}, ...own), gap()));
 }
@@ -79,28 +78,22 @@ function line(kind: string, content: Node[], marks: string): HTMLElement {
     return element("p", { class: `${kind} with-marks` }, ...content, element("span", { class: "marks" }, marks));
 }
 
-function roomFor(ask: Ask, count: number, page: Page): HTMLElement[] {
+function roomFor(ask: Ask, count: number): HTMLElement[] {
     if (count === 0) {
         return [];
     }
     const rules = Array.from({ length: count - 1 }, () => element("div", { class: "rule" }));
-    const room = element("div", { class: "room" }, ...rules, answerLine(ask, page));
+    const room = element("div", { class: "room" }, ...rules, answerLine(ask));
     room.style.setProperty("--lines", String(count));
     return [room];
 }
 
 // p.answer-line     "c(KOH) = ____ mol/L", "Answer: ____"
 // For the pen alone: what it says, the question says as well.
-function answerLine({ quantity, of, unit }: Ask, page: Page): HTMLElement {
+function answerLine({ quantity, of, unit }: Ask): HTMLElement {
     const before = quantity === undefined ? [{ text: `${texts.key}:` }] : [quantityOf(quantity, of), { text: " =" }];
-    const behind = unit === undefined ? [] : [seenOf([{ unit }], page.settings)];
-    return element(
-        "p",
-        { class: "answer-line", "aria-hidden": "true" },
-        element("span", {}, seenOf(before, page.settings)),
-        gap(),
-        ...behind,
-    );
+    const behind = unit === undefined ? [] : [seenOf([{ unit }])];
+    return element("p", { class: "answer-line", "aria-hidden": "true" }, element("span", {}, seenOf(before)), gap(), ...behind);
 }
 
 function gap(): HTMLElement {
@@ -111,5 +104,5 @@ function gap(): HTMLElement {
 function answerOf(exercise: Exercise, page: Page): Node[] {
     const { ask } = exercise;
     const asked: Span[] = ask.quantity === undefined ? [] : [quantityOf(ask.quantity, ask.of), { text: " = " }];
-    return typesetLine([...asked, ...spansOfKey(exercise)], page.settings);
+    return typesetLine([...asked, ...exercise.key.spans], page.settings);
 }

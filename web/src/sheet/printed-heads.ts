@@ -5,7 +5,7 @@ import { massesNeeded } from "../practice/masses-needed";
 import { element } from "../shared/dom";
 import type { Page } from "../shared/page";
 import { typesetLine } from "../text/line";
-import type { ElementInfo, Exercise, SheetRoute } from "../types";
+import type { Exercise, SheetRoute } from "../types";
 import { texts } from "../words/texts";
 import { agreedFigures, type Group } from "./common-words";
 import { goesOn, marksOf } from "./worth";
@@ -20,14 +20,14 @@ export interface Version {
 //   h2, p.blanks
 //   p.notes     how many figures are wanted, the marks of all
 //   p.masses
-export function sheetHead(version: Version, route: SheetRoute, elements: ElementInfo[], page: Page): HTMLElement {
+export function sheetHead(version: Version, route: SheetRoute, page: Page): HTMLElement {
     return element(
         "div",
         { class: "head" },
         ...(route.title.trim() === "" ? [] : [element("h2", {}, route.title)]),
         element("p", { class: "blanks" }, ...blanksOf(version, route)),
         ...notesOf(version, route),
-        ...massesOf(version, route, elements, page),
+        ...massesOf(version, route, page),
     );
 }
 
@@ -36,7 +36,7 @@ export function sheetHead(version: Version, route: SheetRoute, elements: Element
 //   h2
 //   p.notes  how lines that are worked out are rounded; once too
 //   p.masses
-export function keyHead(version: Version, route: SheetRoute, elements: ElementInfo[], page: Page): HTMLElement {
+export function keyHead(version: Version, route: SheetRoute, page: Page): HTMLElement {
     const isFirst = version.number === 1 || route.keys === "apart";
     const title = isFirst && route.title.trim() !== "" ? [element("p", { class: "title" }, route.title)] : [];
     const isRounded = isFirst && route.key === "working" && version.exercises.some(goesOn);
@@ -47,13 +47,13 @@ export function keyHead(version: Version, route: SheetRoute, elements: ElementIn
         ...title,
         element("h2", {}, texts.keyTo(labelOf(version, route))),
         ...notes,
-        ...massesOfKey(version, route, elements, page),
+        ...massesOfKey(version, route, page),
     );
 }
 
 // Where the learners take them from a table, which may have others, the key tells its own.
-function massesOfKey({ exercises }: Version, route: SheetRoute, elements: ElementInfo[], page: Page): HTMLElement[] {
-    const masses = route.masses === "table" ? massesNeeded(exercises, elements) : [];
+function massesOfKey({ exercises }: Version, route: SheetRoute, page: Page): HTMLElement[] {
+    const masses = route.masses === "table" ? massesNeeded(exercises, page) : [];
     return masses.length === 0 ? [] : [massesLine(masses, page)];
 }
 
@@ -106,8 +106,8 @@ function totalOf(exercises: Exercise[]): number {
 }
 
 // Where the table is used, the sheet says so, lest a pupil looks for them on it.
-function massesOf({ exercises }: Version, route: SheetRoute, elements: ElementInfo[], page: Page): HTMLElement[] {
-    const masses = massesNeeded(exercises, elements);
+function massesOf({ exercises }: Version, route: SheetRoute, page: Page): HTMLElement[] {
+    const masses = massesNeeded(exercises, page);
     if (masses.length === 0) {
         return [];
     }

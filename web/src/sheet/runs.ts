@@ -2,7 +2,7 @@
 
 import { element } from "../shared/dom";
 import type { Page } from "../shared/page";
-import type { ElementInfo, SheetRoute } from "../types";
+import type { SheetRoute } from "../types";
 import { agreedFigures, type Group, groupsOf } from "./common-words";
 import { type Row, rowsOf } from "./page-breaks";
 import { exerciseItem, keyItem } from "./printed-exercise";
@@ -31,19 +31,13 @@ export const atOnce = 25; // exercises that are made and measured in one step
 const oneLine = 11; // millimetres; an item of the key that is higher has two
 
 // What is not printed is not made.
-export function* runsOf(
-    version: Version,
-    route: SheetRoute,
-    elements: ElementInfo[],
-    measure: Measure,
-    page: Page,
-): Generator<void, { sheet: Run[]; key: Run }> {
+export function* runsOf(version: Version, route: SheetRoute, measure: Measure, page: Page): Generator<void, { sheet: Run[]; key: Run }> {
     const groups = groupsOf(version.exercises, route);
     const heads: Item[] = [];
     const sheet: Item[] = [];
     const key: Item[] = [];
     for (let from = 0; from < version.exercises.length; from += atOnce) {
-        const headings = from > 0 ? [] : headingsOf(version, groups, route, elements, page);
+        const headings = from > 0 ? [] : headingsOf(version, groups, route, page);
         const asked = route.parts === "key" ? [] : askedItems(version, groups, from, route, page);
         const answered =
             route.parts === "sheet" ? [] : version.exercises.slice(from, from + atOnce).map((exercise) => keyItem(exercise, route, page));
@@ -58,12 +52,12 @@ export function* runsOf(
 }
 
 // Those of the key, that of the sheet, and the words of each group that shares some.
-function headingsOf(version: Version, groups: Group[], route: SheetRoute, elements: ElementInfo[], page: Page): HTMLElement[] {
+function headingsOf(version: Version, groups: Group[], route: SheetRoute, page: Page): HTMLElement[] {
     const framed = groups.filter(({ frame }) => frame !== null);
     return [
-        keyHead(version, route, elements, page),
+        keyHead(version, route, page),
         keyHeadAgain(version, route),
-        sheetHead(version, route, elements, page),
+        sheetHead(version, route, page),
         ...framed.map((group) => frameHead(group, version, route, page)),
     ];
 }

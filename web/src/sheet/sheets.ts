@@ -129,6 +129,7 @@ function turnTo(work: Work, route: SheetRoute, byPick: boolean): void {
 }
 
 function restyle(work: Work): void {
+    work.form.rename(work.page.kinds);
     settle(work);
     if ("problems" in work.form.read()) {
         work.preview.show(work.present, (size) => isMade(work, size));

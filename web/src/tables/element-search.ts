@@ -8,11 +8,12 @@ export interface Meant {
 
 const mostOfABeginning = 6;
 
-export function elementsMeant(typed: string, elements: ElementInfo[]): Meant {
+// `others` are the elements by other names that they have as well.
+export function elementsMeant(typed: string, elements: ElementInfo[], others: ElementInfo[] = []): Meant {
     const plain = typed.normalize("NFKC").trim();
     const all = isListOfNumbers(plain)
         ? plain.match(/\d+/g)!.map((number) => numbered(number, elements))
-        : wordsOf(plain).map((word) => named(word, elements));
+        : wordsOf(plain).map((word) => named(word, elements, others));
     return {
         elements: [...new Set(all.flatMap((one) => one.elements))],
         unknown: [...new Set(all.flatMap((one) => one.unknown))],
@@ -41,7 +42,7 @@ function numbered(word: string, elements: ElementInfo[]): Meant {
 
 // A symbol or a formula with its capitals as they are; else in any letters a symbol, a name, or the
 // beginning of names.
-function named(word: string, elements: ElementInfo[]): Meant {
+function named(word: string, elements: ElementInfo[], others: ElementInfo[]): Meant {
     const formula = formulaOf(word, elements);
     if (formula !== null && formula.unknown.length === 0) {
         return formula;
@@ -50,7 +51,7 @@ function named(word: string, elements: ElementInfo[]): Meant {
         .toLowerCase()
         .replace(/^\d+/, "")
         .replace(/^sulph/, "sulf"); // spelt so until lately
-    const namesOf = ({ name, american = name }: ElementInfo) => [name, american];
+    const namesOf = (one: ElementInfo) => [one, ...others.filter(({ number }) => number === one.number)].map(({ name }) => name);
     const exact = elements.filter((one) => one.symbol.toLowerCase() === wanted || namesOf(one).includes(wanted));
     const begun = elements.filter((one) => namesOf(one).some((name) => name.startsWith(wanted)));
     const found = exact.length > 0 ? exact : begun.slice(0, mostOfABeginning);

@@ -1,6 +1,6 @@
 // The elements: a field that finds them, above the periodic table.
 import { announce, bringIntoView, element, scrollBox, show } from "../shared/dom";
-import { nameOf, type Page } from "../shared/page";
+import type { Page } from "../shared/page";
 import { spokenFormula } from "../text/formula";
 import { localNumber } from "../text/units";
 import type { ElementInfo } from "../types";
@@ -26,9 +26,10 @@ export function elementsWithSearch(elements: ElementInfo[], page: Page): HTMLEle
         element("p", { class: "hint", id: "find-hint" }, texts.findHint),
         results,
     );
-    const tell = afterAPause(input, () => announce(toldOf(elementsMeant(input.value, elements), page)));
+    const find = () => elementsMeant(input.value, elements, otherNames(page));
+    const tell = afterAPause(input, () => announce(toldOf(find(), page)));
     input.addEventListener("input", () => {
-        const meant = elementsMeant(input.value, elements);
+        const meant = find();
         show(results, ...resultsOf(meant, page));
         const cell = table.mark(meant.elements);
         bringIntoView(form, wholeTableFits() && cell !== null ? cell : results);
@@ -40,6 +41,11 @@ export function elementsWithSearch(elements: ElementInfo[], page: Page): HTMLEle
         closeKeyboard(input);
     });
     return element("div", {}, form, table.element, element("p", { class: "hint" }, texts.elementsNote));
+}
+
+// In the names that the reader has not chosen: who looks for one of them finds its element.
+function otherNames({ lesson, settings }: Page): ElementInfo[] {
+    return lesson.tables(settings.names === "british" ? "american" : "british").elements;
 }
 
 function findField(): HTMLInputElement {
@@ -94,7 +100,7 @@ function resultTable(elements: ElementInfo[], page: Page): HTMLElement {
             "tr",
             {},
             element("th", { scope: "row" }, one.symbol),
-            element("td", {}, nameOf(one, page)),
+            element("td", {}, one.name),
             element("td", {}, String(one.number)),
             element("td", {}, localNumber(one.mass, page.settings)),
         ),
@@ -105,7 +111,7 @@ function resultTable(elements: ElementInfo[], page: Page): HTMLElement {
 // The same to be heard: "N a, sodium, number 11, relative atomic mass 22.99."
 function toldOf({ elements, unknown }: Meant, page: Page): string {
     const found = elements.map((one) =>
-        texts.foundElement(spokenFormula(one.symbol), nameOf(one, page), one.number, localNumber(one.mass, page.settings)),
+        texts.foundElement(spokenFormula(one.symbol), one.name, one.number, localNumber(one.mass, page.settings)),
     );
     return [...found, ...(unknown.length === 0 ? [] : [texts.noElement(unknown)])].join(" ");
 }

@@ -1,6 +1,6 @@
 // The ions with their charges, cations beside anions.
 import { element, scrollBox } from "../shared/dom";
-import { nameOf, type Page } from "../shared/page";
+import type { Page } from "../shared/page";
 import { typeset } from "../text/line";
 import type { IonInfo } from "../types";
 import { texts } from "../words/texts";
@@ -27,7 +27,7 @@ function ionRow(ion: IonInfo, page: Page): HTMLElement {
     return element(
         "tr",
         {},
-        element("th", { scope: "row" }, nameOf(ion, page)),
+        element("th", { scope: "row" }, ion.name),
         element("td", {}, typeset([{ ion: ion.formula, charge }], page.settings)),
     );
 }

@@ -1,6 +1,6 @@
 // The periodic table, in a box that scrolls where the window is narrow.
 import { element, scrollBox, spoken } from "../shared/dom";
-import { nameOf, type Page } from "../shared/page";
+import type { Page } from "../shared/page";
 import { localNumber } from "../text/units";
 import type { ElementInfo } from "../types";
 import { texts } from "../words/texts";
@@ -81,8 +81,8 @@ function elementCell(row: ElementInfo, page: Page): HTMLElement {
         "td",
         {},
         element("span", { class: "atomic" }, String(row.number)),
-        element("abbr", { title: nameOf(row, page) }, row.symbol),
-        spoken(` ${nameOf(row, page)} `),
+        element("abbr", { title: row.name }, row.symbol),
+        spoken(` ${row.name} `),
         element("span", { class: "mass" }, localNumber(row.mass, page.settings)),
     );
 }

@@ -1,7 +1,7 @@
 // The solubility of salts: the rules, and a grid of all pairs that tells the reason of the chosen one.
 import { bringIntoView, button, element, scrollBox, show } from "../shared/dom";
-import { nameOf, type Page } from "../shared/page";
-import { typesetSentence } from "../text/sentences";
+import type { Page } from "../shared/page";
+import { typesetLine } from "../text/line";
 import type { IonInfo, PairInfo, Tables } from "../types";
 import { texts } from "../words/texts";
 import { labelOf, reasonOf } from "./pairs";
@@ -48,15 +48,11 @@ export function solubility(tables: Tables, page: Page): HTMLElement {
 }
 
 function ruleList({ rules }: Tables, page: Page): HTMLElement {
-    return element(
-        "ul",
-        { class: "rules" },
-        ...rules.map(({ sentence }) => element("li", {}, typesetSentence(sentence, page.settings, page.names))),
-    );
+    return element("ul", { class: "rules" }, ...rules.map(({ sentence }) => element("li", {}, ...typesetLine(sentence, page.settings))));
 }
 
 function leftOut(grid: Grid): HTMLElement {
-    const never = neverAsked(grid.tables).map((ion) => nameOf(ion, grid.page));
+    const never = neverAsked(grid.tables).map(({ name }) => name);
     const fold = button(texts.showNever, () => {
         grid.isWhole = !grid.isWhole;
         fold.textContent = grid.isWhole ? texts.hideNever : texts.showNever;
@@ -92,7 +88,7 @@ function draw(grid: Grid): void {
 }
 
 function headOf(grid: Grid, ion: IonInfo, scope: "row" | "col"): HTMLElement {
-    const head = element("th", { scope }, element("span", {}, nameOf(ion, grid.page)));
+    const head = element("th", { scope }, element("span", {}, ion.name));
     grid.heads.set(ion.name, head);
     return head;
 }
@@ -110,7 +106,7 @@ function cellOf(grid: Grid, pair: PairInfo): HTMLButtonElement {
         uncover(cell);
         bringIntoView(cell, grid.reason);
     };
-    const attributes = { "aria-label": labelOf(pair, grid.page), "data-verdict": pair.verdict, "tabindex": -1 };
+    const attributes = { "aria-label": labelOf(pair), "data-verdict": pair.verdict, "tabindex": -1 };
     const cell = button(texts.signs[pair.verdict] ?? pair.verdict, choose, attributes);
     grid.cells.set(pair, cell);
     return cell;

@@ -12,7 +12,7 @@ export function typeset(spans: Span[], settings: Settings): DocumentFragment {
 // A whole sentence or line of mathematics. A screen reader gets it as one text, laid over what is seen
 // (.spoken.whole), so that it is read without a stop at each formula and is found where it stands.
 export function typesetLine(spans: Span[], settings: Settings): Node[] {
-    const seenLine = seenOf(spans, settings);
+    const seenLine = seenOf(spans);
     const isPlain = spans.every((span) => isSaidAsSeen(span, settings));
     return isPlain ? [seenLine] : [element("span", { "aria-hidden": "true" }, seenLine), wholeSpoken(speech(spans, settings))];
 }
@@ -23,9 +23,9 @@ export function wholeSpoken(text: string): HTMLElement {
 
 function typesetSpan(span: Span, settings: Settings): Piece {
     if (isSaidAsSeen(span, settings)) {
-        return seenSpan(span, settings);
+        return seenSpan(span);
     }
-    const visible = element("span", { "aria-hidden": "true" }, ...seenPieces(span, settings));
+    const visible = element("span", { "aria-hidden": "true" }, ...seenPieces(span));
     // The blank in front keeps it off what stands before, and no full stop off what it ends.
     return element("span", { class: classOf(span) }, visible, spoken(` ${spokenSpan(span, settings)}`));
 }

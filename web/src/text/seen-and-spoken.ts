@@ -4,13 +4,13 @@ import type { Settings, Span } from "../types";
 import { formulaPieces, spokenCharge, spokenFormula } from "./formula";
 import { type Part, partsOf } from "./kept-together";
 import { joined, type Piece, shifted, signed, thin } from "./pieces";
-import { localNumber, localUnit, spokenUnit } from "./units";
+import { spokenUnit } from "./units";
 
 type Kind = "text" | "name" | "formula" | "ion" | "quantity" | "number" | "unit" | "fraction";
 type SpanOf<One extends Kind> = Extract<Span, Record<One, unknown>>;
 
 interface Form<One extends Span> {
-    seen(span: One, settings: Settings): Piece[];
+    seen(span: One): Piece[];
     spoken(span: One, settings: Settings): string;
 }
 
@@ -20,8 +20,8 @@ const forms: { [One in Kind]: Form<SpanOf<One>> } = {
         spoken: ({ text }) => saidSigns.reduce((said, [sign, word]) => said.replaceAll(sign, word), text),
     },
     name: {
-        seen: (span, settings) => [nameOf(span, settings)],
-        spoken: nameOf,
+        seen: ({ name }) => [name],
+        spoken: ({ name }) => name,
     },
     formula: {
         seen: ({ formula }) => formulaPieces(formula),
@@ -41,31 +41,29 @@ const forms: { [One in Kind]: Form<SpanOf<One>> } = {
             `${quantity}${index === undefined ? "" : ` ${index}`}${of === undefined ? "" : ` of ${spokenFormula(of)}`}`,
     },
     number: {
-        seen: ({ number }, settings) => {
-            const [digits = "", exponent] = localNumber(number, settings).split("e");
+        seen: ({ number }) => {
+            const [digits = "", exponent] = number.split("e");
             return exponent === undefined ? [digits] : [`${digits}${thin}×${thin}10`, element("sup", {}, signed(exponent))];
         },
-        spoken: ({ number }, settings) => {
-            const [digits = "", exponent = ""] = localNumber(number, settings).split("e");
+        spoken: ({ number }) => {
+            const [digits = "", exponent = ""] = number.split("e");
             return exponent === "" ? digits : `${digits} times 10 to the ${exponent.replace("-", "minus ")}`;
         },
     },
     unit: {
-        seen: ({ unit }, settings) => shifted(localUnit(unit, settings).replaceAll(" ", thin), /(.*?[A-Za-z])(-?\d)|.+/gs, "sup"),
-        spoken: ({ unit }, settings) => spokenUnit(localUnit(unit, settings)),
+        seen: ({ unit }) => shifted(unit.replaceAll(" ", thin), /(.*?[A-Za-z])(-?\d)|.+/gs, "sup"),
+        spoken: ({ unit }, settings) => spokenUnit(unit, settings),
     },
     fraction: {
-        seen: ({ fraction: [over, under] }, settings) => [
+        seen: ({ fraction: [over, under] }) => [
             element(
                 "span",
                 { class: "stacked" },
-                element("span", { class: "over" }, seenOf(over, settings)),
-                element("span", { class: "under" }, seenOf(under, settings)),
+                element("span", { class: "over" }, seenOf(over)),
+                element("span", { class: "under" }, seenOf(under)),
             ),
         ],
-        // Of a sum the last number alone would be heard as what is divided.
-        spoken: ({ fraction: [over, under] }, settings) =>
-            `${speech(over, settings)}${isSum(over) ? ", all" : ""} over ${speech(under, settings)}`,
+        spoken: ({ fraction: [over, under] }, settings) => `${speech(over, settings)}${endOf(over)} over ${speech(under, settings)}`,
     },
 };
 
@@ -80,16 +78,12 @@ function formOf(span: Span): Form<Span> {
     return forms[classOf(span)] as Form<Span>;
 }
 
-export function seenPieces(span: Span, settings: Settings): Piece[] {
-    return formOf(span).seen(span, settings);
+export function seenPieces(span: Span): Piece[] {
+    return formOf(span).seen(span);
 }
 
 export function spokenSpan(span: Span, settings: Settings): string {
     return formOf(span).spoken(span, settings);
-}
-
-function nameOf(span: { name: string; american?: string }, settings: Settings): string {
-    return settings.names === "american" && span.american !== undefined ? span.american : span.name;
 }
 
 // A sign begins a line rather than ends one.
@@ -107,22 +101,26 @@ const saidSigns: [string, string][] = [
     ["/", " over "],
 ];
 
-function isSum(spans: Span[]): boolean {
-    return spans.some((span) => "text" in span && /[+−]/.test(span.text));
+// What is over the line ends before it is divided: of a sum its last number alone, and of a power of ten its
+// exponent, would be heard as what is.
+function endOf(over: Span[]): string {
+    const isSum = over.some((span) => "text" in span && /[+−]/.test(span.text));
+    const last = over[over.length - 1];
+    return isSum ? ", all" : last !== undefined && "number" in last && last.number.includes("e") ? "," : "";
 }
 
 // The line for the eye alone.
-export function seenOf(spans: Span[], settings: Settings): DocumentFragment {
+export function seenOf(spans: Span[]): DocumentFragment {
     const line = document.createDocumentFragment();
-    line.append(...partsOf(spans).map((part) => seenPart(part, settings)));
+    line.append(...partsOf(spans).map(seenPart));
     return line;
 }
 
 // span.equation      on a line of its own
 //   span             its left side, with the arrow
 //   span             its right side
-function seenPart(part: Part, settings: Settings): Node {
-    const seen = (spans: Span[]) => lineOf(spans, (span) => seenSpan(span, settings));
+function seenPart(part: Part): Node {
+    const seen = (spans: Span[]) => lineOf(spans, seenSpan);
     if ("spans" in part) {
         return seen(part.spans);
     }
@@ -163,8 +161,8 @@ function withoutSign(span: Span): Span {
 }
 
 // One piece a span. Text alone needs no element where a line breaks in it at its blanks only.
-export function seenSpan(span: Span, settings: Settings): Piece {
-    const pieces = seenPieces(span, settings);
+export function seenSpan(span: Span): Piece {
+    const pieces = seenPieces(span);
     const [first] = pieces;
     const isText = "text" in span || (pieces.length === 1 && typeof first === "string" && !/[/·]/.test(first));
     return isText && first !== undefined ? first : element("span", { class: classOf(span) }, ...joined(pieces));
@@ -174,7 +172,7 @@ export function seenSpan(span: Span, settings: Settings): Piece {
 export function speech(spans: Span[], settings: Settings): string {
     const told = spans.filter((span) => !("text" in span) || span.text !== " ");
     const said = told.map((span, at) => {
-        return `${isFactor(span, told[at - 1]) ? "times " : ""}${spokenSpan(span, settings)}`;
+        return `${goesOn(span, told[at - 1]) ? ", " : ""}${isFactor(span, told[at - 1]) ? " times " : ""}${spokenSpan(span, settings)}`;
     });
     const line = said.reduce((before, next, at) => `${before}${isWritten(told[at - 1], told[at]!) ? "" : " "}${next}`, "");
     return line
@@ -184,9 +182,14 @@ export function speech(spans: Span[], settings: Settings): string {
         .trim();
 }
 
-// A name and a text have the blanks between them that they need: "Sulfate" and "s are soluble" none.
+// A text has the blanks that it needs beside it: "s are soluble" behind "sulfate" none.
 function isWritten(before: Span | undefined, span: Span): boolean {
-    return before !== undefined && (("name" in before && "text" in span) || ("text" in before && "name" in span));
+    return before !== undefined && ("text" in before || "text" in span);
+}
+
+// What would be heard as standing under the line of the fraction before it.
+function goesOn(span: Span, before: Span | undefined): boolean {
+    return before !== undefined && "fraction" in before && (!("text" in span) || /^ ?[+×−(]/.test(span.text));
 }
 
 // Where the eye needs no sign: "2(16.00)", a fraction of a quantity.

@@ -38,7 +38,7 @@ export const texts = {
     anotherLike: (number: number) => `Another like exercise ${number}`,
     backTo: (number: number) => `Back to exercise ${number}`,
     showStep: "Show a step",
-    orPressStep: ", or press Show a step", // in the library's sentences
+    orStep: "If you are stuck, press Show a step.",
     showAnswer: "Show the answer",
     wouldHelp: "A step of the solution may help: press Show a step.",
     hint: "Hint",

@@ -8,7 +8,7 @@ import { chromium } from "playwright-core";
 import { instantiate, textOf } from "../../../lesson/border/module.mjs";
 
 /** @import { Argument, LessonFunction } from "../../../lesson/border/module.mjs" */
-/** @import { Exercise, KindInfo, Tables } from "../../src/types" */
+/** @import { Exercise, KindInfo, Span, Tables } from "../../src/types" */
 /** @import { Browser } from "playwright-core" */
 /** @typedef {import("playwright-core").Page & { problems?: string[], isShared?: boolean }} Page */
 /**
@@ -167,21 +167,39 @@ export async function openLesson() {
     const module = await instantiate(await readFile(process.env.LESSON));
     /** @type {(name: LessonFunction, ...args: Argument[]) => string} */
     const text = (name, ...args) => textOf(module, name, ...args);
-    const exerciseText = (/** @type {number} */ paper, /** @type {number} */ number, /** @type {string} */ kind) =>
-        text("lesson_exercise", `${paper}/${number}/${kind}`, null);
+    const exerciseText = (/** @type {number} */ paper, /** @type {number} */ number, /** @type {string} */ kind, writing = "") =>
+        text("lesson_exercise", `${paper}/${number}/${kind}`, writing);
     return {
         exerciseText,
         exportText: (/** @type {number} */ paper, /** @type {string} */ sheet, /** @type {string} */ format) =>
             text("lesson_export", `${paper}/${sheet}`, format, null),
         /** @returns {Exercise} */
-        exercise: (/** @type {number} */ paper, /** @type {number} */ number, /** @type {string} */ kind) =>
-            JSON.parse(exerciseText(paper, number, kind)),
+        exercise: (/** @type {number} */ paper, /** @type {number} */ number, /** @type {string} */ kind, writing = "") =>
+            JSON.parse(exerciseText(paper, number, kind, writing)),
         /** @returns {KindInfo[]} */
-        kinds: () => JSON.parse(text("lesson_kinds", null)),
+        kinds: (writing = "") => JSON.parse(text("lesson_kinds", writing)),
         /** @returns {Tables} */
-        tables: () => JSON.parse(text("lesson_tables", null)),
+        tables: (writing = "") => JSON.parse(text("lesson_tables", writing)),
     };
 }
+
+// A line as plain text, as it is seen but for its blanks.
+/** @type {(spans: Span[]) => string} */
+export const plainOf = (spans) =>
+    spans
+        .map((span) =>
+            "fraction" in span
+                ? span.fraction.map(plainOf).join("")
+                : "quantity" in span
+                  ? `${span.quantity}${span.index ?? ""}${span.of === undefined ? "" : `(${span.of})`}`
+                  : Object.values(span).join(""),
+        )
+        .join("");
+
+// How everything is written that can be written in another way than usual, as the device keeps it and as the
+// library is told.
+export const otherSettings = { volume: "cm3", per: "power", decimal: ",", names: "american", masses: "shown" };
+export const otherWriting = "en-US;decimal=,;volume=cm3;per=power";
 
 // An exercise of each form of answer, and one with each drawing.
 export const samples = [

@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { after, test } from "node:test";
-import { announced, go, leave, openChromium, openLesson, openPage, panel } from "./support.mjs";
+import { announced, go, leave, openChromium, openLesson, openPage, panel, plainOf } from "./support.mjs";
 
 /** @import { Page } from "./support.mjs" */
 
@@ -266,7 +266,7 @@ test("the rules are listed, as the library words them, in the reader's names", a
     assert.ok(tables.rules.length > 5);
     assert.deepEqual(
         await listed(),
-        tables.rules.map(({ sentence }) => sentence),
+        tables.rules.map(({ sentence }) => plainOf(sentence)),
     );
     await go(page, "#practice/4821/3/titration");
     await panel(page, "How it is written").click();

@@ -5,6 +5,8 @@ import type { KindInfo } from "../../src/types";
 
 const all: KindInfo[] = ["dilution", "solubility", "titration"].map((kind) => ({
     kind,
+    version: 1,
+    masses: false,
     title: kind.toUpperCase(),
     levels: ["one", "two", "three"],
 }));

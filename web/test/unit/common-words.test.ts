@@ -5,7 +5,19 @@ import type { Ask, Exercise, Span } from "../../src/types";
 
 function exercise(ask: Ask, prompt: Span[]): Exercise {
     const solution = ask.form === "number" ? [{ say: [], hint: [], math: [{ quantity: "M" }, { number: "1" }, { unit: "g/mol" }] }] : [];
-    return { version: 1, paper: 1, number: 1, kind: "", level: 1, prompt, ask, given: [], key: { text: "" }, solution, slips: [] };
+    return {
+        version: 1,
+        paper: 1,
+        number: 1,
+        kind: "",
+        level: 1,
+        prompt,
+        ask,
+        given: [],
+        key: { text: "", spans: [] },
+        solution,
+        slips: [],
+    };
 }
 
 const ion = (name: string) => exercise({ form: "ion" }, [{ text: "Write the formula of the " }, { name }, { text: " ion." }]);

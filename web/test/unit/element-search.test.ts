@@ -27,7 +27,8 @@ const rows: [number, string, string, string?][] = [
     [82, "Pb", "lead"],
     [97, "Bk", "berkelium"],
 ];
-const elements = rows.map(([number, symbol, name, american]) => ({ number, symbol, name, american }) as ElementInfo);
+const elements = rows.map(([number, symbol, name]) => ({ number, symbol, name }) as ElementInfo);
+const others = rows.map(([number, symbol, name, american = name]) => ({ number, symbol, name: american }) as ElementInfo);
 
 // What is typed, the symbols of what is meant, and what is none.
 const cases: [string, string, string?][] = [
@@ -88,7 +89,7 @@ const cases: [string, string, string?][] = [
 
 for (const [typed, symbols, unknown = ""] of cases) {
     test(`"${typed}" means ${symbols || "no element"}`, () => {
-        const meant = elementsMeant(typed, elements);
+        const meant = elementsMeant(typed, elements, others);
         assert.equal(meant.elements.map(({ symbol }) => symbol).join(" "), symbols);
         assert.equal(meant.unknown.join(" "), unknown);
     });

@@ -23,7 +23,7 @@ beforeEach(() => {
 });
 
 const at = (address: string) => routeOf(address) as PracticeRoute;
-const first: Done = { failed: 0, marked: "1.5", steps: 0, result: "first" };
+const first: Done = { failed: 0, marked: "1.5", decimal: ".", steps: 0, result: "first" };
 const spent = (now: number, worked = 1000) => ({ begun: 100, worked, now });
 
 const addresses = [
@@ -94,10 +94,13 @@ const damaged: [string, Done | null][] = [
     ['{"exercises":{"8":{"result":"first"},"0":{"result":"first"},"x":{"result":"first"}}}', null],
     ['{"exercises":{"3":{"result":"best","failed":-2}}}', null],
     ['{"exercises":{"3":7,"4":{"result":"later"}}}', null],
-    ['{"exercises":{"3":{"result":"later","failed":"2","marked":{}}}}', { failed: 0, marked: null, steps: 0, result: "later" }],
+    [
+        '{"exercises":{"3":{"result":"later","failed":"2","marked":{}}}}',
+        { failed: 0, marked: null, decimal: ".", steps: 0, result: "later" },
+    ],
     [
         '{"begun":"<b>","touched":null,"exercises":{"3":{"steps":2,"failed":1e99,"marked":"x"}}}',
-        { failed: 0, marked: "x", steps: 2, result: null },
+        { failed: 0, marked: "x", decimal: ".", steps: 2, result: null },
     ],
 ];
 

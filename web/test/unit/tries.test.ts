@@ -12,9 +12,9 @@ import {
 } from "../../src/practice/tries";
 import type { Mark, Verdict } from "../../src/types";
 
-const fresh: Progress = { typed: "", failed: 0, marked: null, steps: 0, result: null };
-const mark = (verdict: Verdict): Mark => ({ verdict, sentence: "" });
-const afterMark = (progress: Progress, given: Mark, text = "777") => afterMarkOf(progress, text, given);
+const fresh: Progress = { typed: "", failed: 0, marked: null, decimal: ".", steps: 0, result: null };
+const mark = (verdict: Verdict): Mark => ({ verdict, sentence: [] });
+const afterMark = (progress: Progress, given: Mark, text = "777") => afterMarkOf(progress, { text, decimal: "." }, given);
 
 test("right at once is solved at the first try", () => {
     assert.equal(afterMark(fresh, mark("correct")).result, "first");
@@ -84,4 +84,10 @@ test("typing on keeps all else, and the mark is stale until its own text stands 
         assert.equal(isMarkStale(typed(marked, text)), expected, `"${text}"`);
     }
     assert.equal(isMarkStale(typed(fresh, "0.1")), false, "nothing was marked");
+});
+
+test("a mark goes with the text that it was given for and the decimal sign by which that was read", () => {
+    const after = afterMarkOf(fresh, { text: "1,25", decimal: "," }, mark("wrong"));
+    assert.deepEqual([after.marked, after.decimal], ["1,25", ","]);
+    assert.equal(afterMark(after, mark("correct"), "1.25").decimal, ".");
 });

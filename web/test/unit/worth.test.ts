@@ -16,7 +16,7 @@ function exercise(ask: Ask, lines: Span[][], more: Partial<Exercise> = {}): Exer
         prompt: [],
         ask,
         given: [],
-        key: { text: "" },
+        key: { text: "", spans: [] },
         solution,
         slips: [],
         ...more,
