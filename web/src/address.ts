@@ -1,11 +1,16 @@
 // The address behind the "#", to a route and back. Whatever it holds, it stays text.
-import { countOf, isList, readList } from "./shared/exercise-list";
+import { countOf, isList, listOf, readList } from "./shared/exercise-list";
 import { sheetAddress, sheetOf } from "./sheet/address";
-import type { ExerciseLeft, PracticeRoute, Route, SheetRoute } from "./types";
+import type { ExerciseLeft, KindInfo, PracticeRoute, Route, SheetRoute } from "./types";
 import { texts } from "./words/texts";
 
-// Raised with the library's exercises: an address made for others says so.
-export const version = 1;
+// Of the exercises of each kind. An address tells those of the kinds that it names which are not the first.
+const versions = new Map<string, number>();
+
+export function knowVersions(kinds: Pick<KindInfo, "kind" | "version">[]): void {
+    kinds.forEach(({ kind, version }) => versions.set(kind, version));
+}
+
 const greatest = 999999;
 const longest = 30_000; // a sheet of 1000 exercises, each picked by hand
 
@@ -36,11 +41,31 @@ export function routeOf(hash: string): Route {
 
 export function addressOf(route: PracticeRoute | SheetRoute): string {
     if (route.view === "sheet") {
-        return sheetAddress(route, version);
+        return sheetAddress(route, versionsIn(listOf(route.entries)));
     }
     const set = route.set > 0 ? `set=${route.set}&` : "";
     const back = route.back === undefined ? "" : `back=${route.back.number}:${route.back.kinds}&`;
-    return `#practice/${route.paper}/${route.number}/${route.kinds}?${set}${back}v=${version}`;
+    return `#practice/${route.paper}/${route.number}/${route.kinds}?${set}${back}v=${versionsIn(kindsOf(route))}`;
+}
+
+function kindsOf({ kinds, back }: Pick<PracticeRoute, "kinds" | "back">): string {
+    return back === undefined ? kinds : `${kinds},${back.kinds}`;
+}
+
+// "1" where each is the first one, else "dilution:2,titration:3".
+function versionsIn(kinds: string): string {
+    const later = slugsIn(kinds).filter((kind) => versionOf(kind) > 1);
+    return later.length === 0 ? "1" : later.map((kind) => `${kind}:${versionOf(kind)}`).join(",");
+}
+
+function versionOf(kind: string): number {
+    return versions.get(kind) ?? 1;
+}
+
+// "4*titration:1,dilution@7" -> titration, dilution
+function slugsIn(kinds: string): string[] {
+    const named = kinds.split(",").map((one) => one.replace(/^\d+\*|[:@].*/g, ""));
+    return [...new Set(named.flatMap((kind) => (kind === "mixed" ? [...versions.keys()] : kind)))].sort();
 }
 
 // Under which name a tab keeps what an exercise has come to: in a set another one than outside of it.
@@ -88,17 +113,11 @@ function practice(parts: string[], options: URLSearchParams): Route {
     if (back !== null && (left === null || set > 0)) {
         return bad();
     }
-    if (isOfOtherVersion(options)) {
+    const chosen = { kinds, ...(left === null ? {} : { back: left }) };
+    if (isOfOtherVersion(kindsOf(chosen), options)) {
         return { view: "bad", of: "practice", message: texts.otherVersion };
     }
-    return {
-        view: "practice",
-        paper: Number(paper),
-        number: Number(number),
-        kinds,
-        set,
-        ...(left === null ? {} : { back: left }),
-    };
+    return { view: "practice", paper: Number(paper), number: Number(number), set, ...chosen };
 }
 
 // A list is a set of as many exercises as it names, whatever else the address says. Null where there are no
@@ -122,15 +141,18 @@ function sheet(parts: string[], options: URLSearchParams): Route {
     if (parts.length === 0) {
         return { view: "none", of: "sheet" };
     }
-    if (isOfOtherVersion(options)) {
+    if (isOfOtherVersion(parts[1] ?? "", options)) {
         return { view: "bad", of: "sheet", message: texts.otherVersion };
     }
     return sheetOf(parts, options) ?? { view: "bad", of: "sheet", message: texts.badSheet };
 }
 
-function isOfOtherVersion(options: URLSearchParams): boolean {
-    const made = options.get("v");
-    return made !== null && made !== String(version);
+// Of any of these kinds. An address that does not tell was made when each was the first one.
+function isOfOtherVersion(kinds: string, options: URLSearchParams): boolean {
+    const told = options.get("v") ?? "1";
+    const made = new Map(told.split(",").map((one) => splitAt(one, ":")));
+    const isKnown = told === "1" || [...made.values()].every((version) => isNumber(version));
+    return !isKnown || slugsIn(kinds).some((kind) => Number(made.get(kind) ?? 1) !== versionOf(kind));
 }
 
 function bad(): Route {

@@ -1,7 +1,7 @@
 // Wires the page together; imported by none.
 import packed from "lesson.bin";
 import { instantiate, type LessonModule } from "../../lesson/border/module.mjs";
-import { addressOf, mainRoad, routeOf } from "./address";
+import { addressOf, knowVersions, mainRoad, routeOf } from "./address";
 import { lessonOf } from "./lesson/lesson";
 import { withLists } from "./lesson/listed-exercises";
 import { showNotices } from "./notices";
@@ -210,6 +210,7 @@ async function start(): Promise<void> {
     const instantiated = instantiate(await unpacked(packed));
     storage.open(); // while the module is compiled
     const page = pageOf(await instantiated);
+    knowVersions(page.kinds);
     rememberPlaces();
     show(byId("home"), texts.title);
     render(page);

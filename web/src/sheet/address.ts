@@ -48,14 +48,14 @@ export function sheetOf(parts: string[], options: URLSearchParams): SheetRoute |
     return isFew(route) ? route : null;
 }
 
-export function sheetAddress(route: SheetRoute, version: number): string {
+export function sheetAddress(route: SheetRoute, versions: string): string {
     const options = new URLSearchParams();
     for (const key of written) {
         if (route[key] !== usualSheet[key]) {
             options.set(key, textOf(route[key]));
         }
     }
-    options.set("v", String(version));
+    options.set("v", versions);
     return `#sheet/${route.paper}/${listOf(route.entries)}?${options}`;
 }
 

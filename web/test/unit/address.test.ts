@@ -1,7 +1,8 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { addressOf, atNumber, mainRoad, routeOf, sideRoad } from "../../src/address";
-import type { PracticeRoute } from "../../src/types";
+import { addressOf, atNumber, knowVersions, mainRoad, routeOf, sideRoad } from "../../src/address";
+import { usualSheet } from "../../src/sheet/sheet";
+import type { PracticeRoute, SheetRoute } from "../../src/types";
 
 const route: PracticeRoute = { view: "practice", paper: 4821, number: 3, kinds: "titration:1,dilution", set: 0 };
 
@@ -25,6 +26,72 @@ test("an address without a version is of this one, and one of another version sa
     assert.equal(other.view, "bad");
     assert.match(other.view === "bad" ? other.message : "", /another version/);
 });
+
+// Tells the page of a version of titrations, does something, and takes it back.
+function withTitrations(version: number, act: () => void): void {
+    const kinds = ["titration", "dilution"];
+    knowVersions(kinds.map((kind) => ({ kind, version: kind === "titration" ? version : 1 })));
+    try {
+        act();
+    } finally {
+        knowVersions(kinds.map((kind) => ({ kind, version: 1 })));
+    }
+}
+
+const sheet: SheetRoute = { ...usualSheet, paper: 4821, entries: [{ kind: "titration", level: 1, count: 2 }] };
+
+test("an address tells the versions of its kinds that are not the first, and no others", () => {
+    assert.equal(addressOf(route), "#practice/4821/3/titration:1,dilution?v=1");
+    assert.equal(addressOf(sheet), "#sheet/4821/2*titration:1?v=1");
+    withTitrations(3, () => {
+        assert.equal(addressOf(route), "#practice/4821/3/titration:1,dilution?v=titration:3");
+        assert.equal(addressOf({ ...route, kinds: "dilution" }), "#practice/4821/3/dilution?v=1");
+        assert.equal(addressOf({ ...route, kinds: "mixed" }), "#practice/4821/3/mixed?v=titration:3");
+        assert.equal(addressOf({ ...route, kinds: "4*dilution,1*titration@7" }), "#practice/4821/3/4*dilution,1*titration@7?v=titration:3");
+        assert.equal(
+            addressOf({ ...route, kinds: "dilution", back: { number: 4, kinds: "titration" } }),
+            "#practice/4821/3/dilution?back=4:titration&v=titration:3",
+        );
+        const routes = [route, { ...route, kinds: "mixed" }, { ...route, kinds: "dilution" }, sheet];
+        routes.forEach((made) => assert.deepEqual(routeOf(addressOf(made)), made, addressOf(made)));
+    });
+});
+
+// The page's version of titrations, an address, and whether it names the same exercises still.
+const versionCases: [number, string, boolean][] = [
+    [1, "#practice/4821/3/titration", true],
+    [1, "#practice/4821/3/titration?v=1", true],
+    [1, "#practice/4821/3/titration?v=titration:1", true],
+    [1, "#practice/4821/3/titration?v=titration:2", false],
+    [1, "#practice/4821/3/alchemy?v=alchemy:2", false],
+    [1, "#practice/4821/3/dilution?v=titration:2", true],
+    [1, "#practice/4821/3/titration?v=", false],
+    [1, "#practice/4821/3/titration?v=titration:x", false],
+    [1, "#practice/4821/3/titration?v=titration:0", false],
+    [1, "#sheet/4821/2*titration:1?v=titration%3A2", false],
+    [2, "#practice/4821/3/titration", false],
+    [2, "#practice/4821/3/titration?v=1", false],
+    [2, "#practice/4821/3/titration?v=titration:2", true],
+    [2, "#practice/4821/3/titration?v=titration:3", false],
+    [2, "#practice/4821/3/mixed?v=1", false],
+    [2, "#practice/4821/3/dilution", true],
+    [2, "#practice/4821/3/dilution?v=1", true],
+    [2, "#practice/4821/3/dilution?back=4:titration&v=1", false],
+    [2, "#practice/4821/3/4*dilution,1*titration:3@7?v=1", false],
+    [2, "#sheet/4821/2*dilution?v=1", true],
+    [2, "#sheet/4821/2*titration:1", false],
+    [2, "#sheet/4821/2*titration:1?v=titration%3A2", true],
+];
+
+for (const [version, address, isSame] of versionCases) {
+    test(`with titrations of version ${version}, ${address} is ${isSame ? "what it was" : "of another version"}`, () => {
+        withTitrations(version, () => {
+            const read = routeOf(address);
+            assert.equal(read.view === "bad" ? "bad" : "read", isSame ? "read" : "bad");
+            assert.match(read.view === "bad" ? read.message : "another version", /another version/);
+        });
+    });
+}
 
 test("a side road leads far from what Next leads to, one further each time, and back to what was left", () => {
     for (const number of [1, 4, 499999, 500000, 999999]) {
