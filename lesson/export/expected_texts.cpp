@@ -10,6 +10,7 @@
 #include "lesson/text/scan.hpp"
 #include "lesson/words/render.hpp"
 #include "lesson/words/say.hpp"
+#include "lesson/words/typed.hpp"
 
 namespace lesson
 {
@@ -18,17 +19,6 @@ namespace
 {
 
 using Texts = std::vector<std::string>;
-
-constexpr std::string_view noneWords[] = {
-    "none",           "no",
-    "nothing",        "no precipitate",
-    "no ppt",         "no solid",
-    "no reaction",    "no precipitate forms",
-    "nothing forms",  "there is no precipitate",
-    "there is none",  "no precipitate is formed",
-    "none forms",     "nothing precipitates",
-    "none is formed", "-",
-};
 
 Texts rightIons(const IonRow& ion)
 {
@@ -69,10 +59,10 @@ void addAll(Texts& texts, const Texts& more)
     texts.insert(texts.end(), more.begin(), more.end());
 }
 
-Texts rightTexts(const Exercise& exercise, std::string_view key)
+Texts rightTexts(const Exercise& exercise, std::string_view key, const TypedWords& words)
 {
     if (isNone(exercise)) {
-        return {std::begin(noneWords), std::end(noneWords)};
+        return {words.usualNones.begin(), words.usualNones.end()};
     }
     Texts texts;
     for (const std::string& right : rightFormulas(exercise, key)) {
@@ -114,7 +104,7 @@ Texts withZeros(std::string_view key)
 
 // What shows a mistake, besides the slips: a charge below, capitals, and none where there is a
 // precipitate.
-Texts wrongTexts(const Exercise& exercise, std::string_view key)
+Texts wrongTexts(const Exercise& exercise, std::string_view key, const TypedWords& words)
 {
     Texts texts;
     for (const Slip& slip : exercise.slips) {
@@ -125,7 +115,7 @@ Texts wrongTexts(const Exercise& exercise, std::string_view key)
     if (!isNone(exercise)) {
         texts.push_back(lowerCase(key));
         addAll(texts, usualSpellings(inCapitals(std::string(key))));
-        texts.emplace_back(noneWords[0]);
+        texts.emplace_back(*words.usualNones.begin());
     }
     return texts;
 }
@@ -178,9 +168,10 @@ private:
 std::vector<Expected> expectedTexts(const Exercise& exercise, const Writing& writing)
 {
     const std::string key = keyText(exercise, writing);
+    const TypedWords& words = typedWordsOf(*writing.language);
     Answers answers(exercise, writing);
-    answers.add(rightTexts(exercise, key), {Verdict::correct});
-    answers.add(wrongTexts(exercise, key), {Verdict::slip, Verdict::wrong});
+    answers.add(rightTexts(exercise, key, words), {Verdict::correct});
+    answers.add(wrongTexts(exercise, key, words), {Verdict::slip, Verdict::wrong});
     if (!isNone(exercise) && key.find('O') != std::string::npos) {
         const Texts zeros = withZeros(key);
         answers.add(zeros, {Verdict::slip});

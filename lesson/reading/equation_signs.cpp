@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "lesson/text/scan.hpp"
+#include "lesson/words/language.hpp"
 
 namespace lesson
 {
@@ -14,21 +15,16 @@ namespace
 
 constexpr std::string_view slippedDashes = "_~"; // of an arrow: Shift was held too long
 
-struct WordSpelling {
-    std::string_view typed;
-    std::string_view sign;
-};
-// clang-format off
-// Between blanks; "à" and "è" are what a word processor makes of "-->" and "==>".
-constexpr WordSpelling words[] = {
-    {"to", "->"}, {"gives", "->"}, {"give", "->"}, {"yields", "->"}, {"yield", "->"},
-    {"makes", "->"}, {"make", "->"}, {"forms", "->"}, {"form", "->"}, {"produces", "->"},
-    {"equals", "->"}, {"becomes", "->"}, {"arrow", "->"}, {"à", "->"}, {"è", "->"},
-    {"and", "+"}, {"plus", "+"}, {"&", "+"},
-};
-// clang-format on
+// Between blanks, beside words; "à" and "è" are what a word processor makes of "-->" and "==>".
+constexpr Spelling signs[] = {{"à", "->"}, {"è", "->"}, {"&", "+"}};
 // With any capitals, perhaps behind a backslash; not in any formula.
 constexpr std::string_view arrowNames[] = {"rightarrow", "rarr"};
+
+std::string_view signOfWord(std::string_view word)
+{
+    const std::string_view sign = plainOf(signs, word);
+    return sign.empty() ? plainOf(&TypedWords::equations, word) : sign;
+}
 
 // Takes a word between two blanks, and the blank in front of it; empty where there is none.
 std::string_view takeWord(std::string_view& rest)
@@ -37,16 +33,10 @@ std::string_view takeWord(std::string_view& rest)
         return "";
     }
     const std::string_view behind = rest.substr(1);
-    const auto* const word =
-        std::find_if(std::begin(words), std::end(words), [behind](const WordSpelling& known) {
-            return startsWith(behind, known.typed) &&
-                   startsWith(behind.substr(known.typed.size()), " ");
-        });
-    if (word == std::end(words)) {
-        return "";
-    }
-    rest = behind.substr(word->typed.size());
-    return word->sign;
+    const std::string_view word = behind.substr(0, behind.find(' '));
+    const std::string_view sign = word.size() < behind.size() ? signOfWord(word) : "";
+    rest = sign.empty() ? rest : behind.substr(word.size());
+    return sign;
 }
 
 std::string_view takeArrowName(std::string_view& rest)

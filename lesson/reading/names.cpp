@@ -5,6 +5,7 @@
 #include <string>
 
 #include "lesson/text/scan.hpp"
+#include "lesson/words/language.hpp"
 
 namespace lesson
 {
@@ -14,8 +15,6 @@ namespace
 
 // Formulas without digits that are typed in small letters have four letters at most: "naoh".
 constexpr std::size_t lengthOfWords = 5;
-constexpr std::string_view shortWords[] = {"acid", "base", "salt", "zinc", "iron", "lead", "gas"};
-constexpr std::string_view noSubstances[] = {"heat", "energy", "light", "enthalpy"};
 
 // In small letters but perhaps the first one, or in capitals throughout: "NaOHaq" is no word.
 bool isWord(std::string_view letters)
@@ -35,10 +34,10 @@ bool isName(std::string_view text)
     while (!text.empty()) {
         const std::string_view letters = takeLetters(text);
         const std::string word = lowerCase(letters);
-        if (isAmong(noSubstances, word)) {
+        if (isTyped(&TypedWords::noSubstances, word)) {
             return false;
         }
-        hasWord = hasWord || isAmong(shortWords, word) ||
+        hasWord = hasWord || isTyped(&TypedWords::shortNames, word) ||
                   (letters.size() >= lengthOfWords && isWord(letters));
         takeLength(text, 1);
     }

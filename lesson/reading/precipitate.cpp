@@ -17,19 +17,6 @@ namespace lesson
 namespace
 {
 
-// clang-format off
-// In lower case, a word before its own end.
-constexpr std::string_view wordsBefore[] = {
-    "the ", "a ", "it is ", "it's ", "there is ", "precipitate", "ppt", "solid ", "answer", "of ",
-    "is ", ":", "=", " ",
-};
-constexpr std::string_view wordsBehind[] = {
-    " precipitates out", " precipitates", " is the precipitate", " precipitate", " is formed",
-    " formed", " forms", " form", " (ppt)", " ppt", " solid", " is insoluble", " is a", " as a", " a",
-    " will", ".", " ",
-};
-// clang-format on
-
 // "PbI2 s" has a state; "Ag2 s" and "Ag2(S)" have a sulfur.
 bool isStateBehind(std::string_view formula, std::string_view taken)
 {
@@ -64,31 +51,31 @@ std::string takeStates(std::string_view& text)
 
 constexpr int mostWords = 8;
 
-std::string_view withoutWordsBefore(std::string_view text)
+std::string_view withoutWordsBefore(std::string_view text, const WordList& words)
 {
     const std::string all = lowerCase(text);
     std::string_view lower = all;
     for (int i = 0; i < mostWords; ++i) {
         const auto* const word =
-            std::find_if(std::begin(wordsBefore), std::end(wordsBefore),
+            std::find_if(words.begin(), words.end(),
                          [lower](std::string_view known) { return startsWith(lower, known); });
-        lower.remove_prefix(word == std::end(wordsBefore) ? 0 : word->size());
+        lower.remove_prefix(word == words.end() ? 0 : word->size());
     }
     return text.substr(text.size() - lower.size());
 }
 
 // The text without the words at its ends, and its states.
-TypedPrecipitate withoutWords(std::string_view plain)
+TypedPrecipitate withoutWords(std::string_view plain, const TypedWords& words)
 {
-    std::string_view text = withoutWordsBefore(plain);
+    std::string_view text = withoutWordsBefore(plain, words.beforePrecipitate);
     const std::string lower = lowerCase(text);
     std::string state = takeStates(text);
     for (int i = 0; i < mostWords; ++i) {
         const std::string_view left = std::string_view(lower).substr(0, text.size());
         const auto* const word =
-            std::find_if(std::begin(wordsBehind), std::end(wordsBehind),
+            std::find_if(words.behindPrecipitate.begin(), words.behindPrecipitate.end(),
                          [left](std::string_view known) { return endsWith(left, known); });
-        text.remove_suffix(word == std::end(wordsBehind) ? 0 : word->size());
+        text.remove_suffix(word == words.behindPrecipitate.end() ? 0 : word->size());
         addState(state, takeStates(text));
     }
     return {std::string(text), state};
@@ -147,9 +134,11 @@ bool isWord(std::string_view letters)
 
 TypedPrecipitate readPrecipitate(std::string_view plain)
 {
-    TypedPrecipitate bare = withoutWords(plain);
-    if (isCompound(bare.formula) || isNameOfSalt(bare.formula)) {
-        return bare;
+    for (const TypedWords* const words : allTypedWords()) {
+        TypedPrecipitate bare = withoutWords(plain, *words);
+        if (isCompound(bare.formula) || isNameOfSalt(bare.formula)) {
+            return bare;
+        }
     }
     const std::string state = takeStates(plain);
     return {std::string(plain), state};

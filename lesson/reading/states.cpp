@@ -6,6 +6,7 @@
 #include <string>
 
 #include "lesson/text/scan.hpp"
+#include "lesson/words/language.hpp"
 
 namespace lesson
 {
@@ -13,27 +14,9 @@ namespace lesson
 namespace
 {
 
-struct Spelling {
-    std::string_view typed;
-    std::string_view state;
-};
-
 // Behind a formula; the last one is an arrow that points up.
 constexpr Spelling signs[] = {{"↓", "s"}, {"↑", "g"}, {" ^", "g"}};
 constexpr Spelling symbols[] = {{"s", "s"}, {"l", "l"}, {"g", "g"}, {"aq", "aq"}};
-constexpr Spelling otherWords[] = {
-    {"aq.", "aq"}, {"solid", "s"}, {"liquid", "l"}, {"gas", "g"}, {"aqueous", "aq"},
-};
-
-// Of a word in lower case.
-template <std::size_t N>
-std::string_view stateAmong(const Spelling (&spellings)[N], std::string_view word)
-{
-    const auto* const known =
-        std::find_if(std::begin(spellings), std::end(spellings),
-                     [word](const Spelling& spelling) { return spelling.typed == word; });
-    return known == std::end(spellings) ? "" : known->state;
-}
 
 std::string_view takeSign(std::string_view& formula)
 {
@@ -41,7 +24,7 @@ std::string_view takeSign(std::string_view& formula)
         std::find_if(std::begin(signs), std::end(signs), [&formula](const Spelling& spelling) {
             return takeEnd(formula, spelling.typed);
         });
-    return sign == std::end(signs) ? "" : sign->state;
+    return sign == std::end(signs) ? "" : sign->plain;
 }
 
 struct Brackets {
@@ -80,8 +63,8 @@ std::string_view stateIn(std::string_view brackets)
         brackets = trimmed(brackets.substr(1));
     }
     const std::string lower = lowerCase(brackets);
-    const std::string_view symbol = stateAmong(symbols, lower);
-    return symbol.empty() ? stateAmong(otherWords, lower) : symbol;
+    const std::string_view symbol = plainOf(symbols, lower);
+    return symbol.empty() ? plainOf(&TypedWords::states, lower) : symbol;
 }
 
 std::string_view takeState(std::string_view& formula)
@@ -111,7 +94,7 @@ std::string_view takeSymbolOfState(std::string_view& formula)
     std::string_view state = takeEnd(left, "↓") ? "s" : takeEnd(left, "↑") ? "g" : "";
     if (state.empty()) {
         const std::string_view typed = inside(left, rounded);
-        state = typed == "S" ? "" : stateAmong(symbols, lowerCase(typed));
+        state = typed == "S" ? "" : plainOf(symbols, lowerCase(typed));
         left = state.empty() ? left : without(left, typed, rounded);
     }
     if (state.empty() || (isInBraces && !takeEnd(left, "{"))) {

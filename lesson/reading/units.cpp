@@ -6,6 +6,7 @@
 #include <string>
 
 #include "lesson/text/scan.hpp"
+#include "lesson/words/language.hpp"
 
 namespace lesson
 {
@@ -13,33 +14,12 @@ namespace lesson
 namespace
 {
 
-struct Word {
-    std::string_view typed;
-    std::string_view plain;
-};
-
 struct UnitRow {
     std::string_view plain; // small letters, nothing between the factors
     Unit unit;
 };
 
 // clang-format off
-constexpr Word words[] = {
-    {"per", "/"},
-    {"mole", "mol"}, {"moles", "mol"}, {"mols", "mol"},
-    {"millimole", "mmol"}, {"millimoles", "mmol"},
-    {"molar", "mol/l"}, {"millimolar", "mmol/l"},
-    {"litre", "l"}, {"litres", "l"}, {"liter", "l"}, {"liters", "l"},
-    {"ltr", "l"}, {"ltrs", "l"},
-    {"millilitre", "ml"}, {"millilitres", "ml"}, {"milliliter", "ml"}, {"milliliters", "ml"},
-    {"centimetre", "cm"}, {"centimetres", "cm"}, {"centimeter", "cm"}, {"centimeters", "cm"},
-    {"decimetre", "dm"}, {"decimetres", "dm"}, {"decimeter", "dm"}, {"decimeters", "dm"},
-    {"mls", "ml"}, {"cc", "cm3"}, {"ccm", "cm3"},
-    {"gram", "g"}, {"grams", "g"}, {"gramme", "g"}, {"grammes", "g"}, {"gm", "g"}, {"gms", "g"},
-    {"gr", "g"},
-    {"milligram", "mg"}, {"milligrams", "mg"}, {"kilogram", "kg"}, {"kilograms", "kg"},
-};
-
 constexpr UnitRow units[] = {
     {"mol/l",      {Dimension::concentration,  0, "mol/L"}},
     {"moll-1",     {Dimension::concentration,  0, "mol/L"}},
@@ -88,9 +68,8 @@ std::string withoutJoins(std::string text)
 std::string plainWord(std::string_view typed)
 {
     std::string small = lowerCase(typed);
-    const auto* const word = std::find_if(std::begin(words), std::end(words),
-                                          [&](const Word& row) { return row.typed == small; });
-    return word == std::end(words) ? small : std::string(word->plain);
+    const std::string_view plain = plainOf(&TypedWords::units, small);
+    return plain.empty() ? small : std::string(plain);
 }
 
 std::string withPlainWords(std::string_view text)

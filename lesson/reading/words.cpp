@@ -4,14 +4,27 @@
 #include <cstddef>
 #include <vector>
 
+#include "lesson/reading/split_words.hpp"
 #include "lesson/reading/typed.hpp"
-#include "lesson/reading/word_lists.hpp"
 #include "lesson/text/scan.hpp"
 
 namespace lesson
 {
 
-std::vector<std::string> splitWords(const std::string& words)
+namespace
+{
+
+// "in soluble"
+bool isTypedInTwo(const std::string& first, const std::string& second, const TypedWords& known)
+{
+    return std::any_of(known.inTwo.begin(), known.inTwo.end(), [&](const Spelling& parts) {
+        return parts.typed == first && parts.plain == second;
+    });
+}
+
+} // namespace
+
+std::vector<std::string> splitWords(const std::string& words, const TypedWords& known)
 {
     constexpr std::string_view between = " ,;:.()-/\"";
     std::vector<std::string> split;
@@ -19,7 +32,7 @@ std::vector<std::string> splitWords(const std::string& words)
     while (begin != std::string::npos) {
         const std::size_t end = std::min(words.find_first_of(between, begin), words.size());
         const std::string word = words.substr(begin, end - begin);
-        const bool goesOn = word == "soluble" && !split.empty() && split.back() == "in";
+        const bool goesOn = !split.empty() && isTypedInTwo(split.back(), word, known);
         if (goesOn) {
             split.back() += word;
         } else {
@@ -30,11 +43,25 @@ std::vector<std::string> splitWords(const std::string& words)
     return split;
 }
 
-std::vector<std::string>::const_iterator reasonIn(const std::vector<std::string>& words)
+bool standsBefore(const std::vector<std::string>& words, const WordList& first,
+                  const WordList& second, const TypedWords& known)
+{
+    bool isBehindFirst = false;
+    for (const std::string& word : words) {
+        if (isBehindFirst && isAmong(second, word)) {
+            return true;
+        }
+        isBehindFirst = isAmong(first, word) || (isBehindFirst && isAmong(known.degrees, word));
+    }
+    return false;
+}
+
+std::vector<std::string>::const_iterator reasonIn(const std::vector<std::string>& words,
+                                                  const TypedWords& known)
 {
     const auto place = std::adjacent_find(
-        words.begin(), words.end(), [](const std::string& first, const std::string& second) {
-            return isAmong(words::reasons, second) && !isAmong(words::negations, first);
+        words.begin(), words.end(), [&known](const std::string& first, const std::string& second) {
+            return isAmong(known.reasons, second) && !isAmong(known.negations, first);
         });
     return place == words.end() ? place : place + 1;
 }
@@ -42,37 +69,34 @@ std::vector<std::string>::const_iterator reasonIn(const std::vector<std::string>
 namespace
 {
 
-using namespace words;
-
-bool isUnderstood(const std::string& word)
+bool isUnderstood(const std::string& word, const TypedWords& known)
 {
-    return isAmong(yes, word) || isAmong(no, word) || isAmong(soluble, word) ||
-           isAmong(insoluble, word) || isAmong(negations, word) || isAmong(fillers, word);
+    return isAmong(known.yes, word) || isAmong(known.no, word) || isAmong(known.soluble, word) ||
+           isAmong(known.insoluble, word) || isAmong(known.negations, word) ||
+           isAmong(known.fillers, word);
 }
 
 // The class of salts in "all nitrates are soluble"; "not all nitrates are soluble" tells nothing.
-bool isClass(const std::vector<std::string>& words, std::size_t i)
+bool isClass(const std::vector<std::string>& words, std::size_t i, const TypedWords& known)
 {
-    const bool isBetween =
-        i > 0 && i + 1 < words.size() && words[i - 1] == "all" && words[i + 1] == "are";
-    return isBetween && (i == 1 || isAmong(yes, words[i - 2]) || isAmong(no, words[i - 2]));
+    const bool isBetween = i > 0 && i + 1 < words.size() && isAmong(known.everyOne, words[i - 1]) &&
+                           isAmong(known.behindClass, words[i + 1]);
+    return isBetween &&
+           (i == 1 || isAmong(known.yes, words[i - 2]) || isAmong(known.no, words[i - 2]));
 }
 
 // A sentence may begin with the substance: "magnesium carbonate is insoluble".
-bool areUnderstood(const std::vector<std::string>& words)
+bool areUnderstood(const std::vector<std::string>& words, const TypedWords& known)
 {
-    constexpr std::string_view verbs[] = {
-        "is", "isn't", "isnt", "does", "doesn't", "doesnt", "dissolves", "will", "won't", "cannot",
-    };
     constexpr std::ptrdiff_t longestName = 3;
-    const auto verb = std::find_if(words.begin(), words.end(), [&verbs](const std::string& word) {
-        return isAmong(verbs, word);
+    const auto verb = std::find_if(words.begin(), words.end(), [&known](const std::string& word) {
+        return isAmong(known.verbs, word);
     });
     const bool hasName = verb != words.end() && verb - words.begin() <= longestName;
-    const bool skipsName = hasName && !isUnderstood(words.front());
+    const bool skipsName = hasName && !isUnderstood(words.front(), known);
     for (auto i = static_cast<std::size_t>(skipsName ? verb - words.begin() : 0); i < words.size();
          ++i) {
-        if (!isUnderstood(words[i]) && !isClass(words, i)) {
+        if (!isUnderstood(words[i], known) && !isClass(words, i, known)) {
             return false;
         }
     }
@@ -81,28 +105,30 @@ bool areUnderstood(const std::vector<std::string>& words)
 
 // "not insoluble", "not at all insoluble", "I don't think it is insoluble"; but "it isn't, it is
 // insoluble" denies once.
-bool isNegatedTwice(const std::vector<std::string>& words)
+bool isNegatedTwice(const std::vector<std::string>& words, const TypedWords& known)
 {
-    const auto doubt = std::adjacent_find(words.begin(), words.end(),
-                                          [](const std::string& first, const std::string& second) {
-                                              return isAmong(negations, first) && second == "think";
-                                          });
-    const bool isDoubted = std::any_of(
-        doubt, words.end(), [](const std::string& word) { return isAmong(insoluble, word); });
-    return isDoubted || standsBefore(words, negations, insoluble);
+    const auto doubt = std::adjacent_find(
+        words.begin(), words.end(), [&known](const std::string& first, const std::string& second) {
+            return isAmong(known.negations, first) && isAmong(known.opinions, second);
+        });
+    const bool isDoubted = std::any_of(doubt, words.end(), [&known](const std::string& word) {
+        return isAmong(known.insoluble, word);
+    });
+    return isDoubted || standsBefore(words, known.negations, known.insoluble, known);
 }
 
-Said saidBy(const std::vector<std::string>& words)
+Said saidBy(const std::vector<std::string>& words, const TypedWords& known)
 {
-    const bool isNegated = hasAny(words, negations);
-    const bool saysDissolves = hasAny(words, soluble) && !isNegated;
-    const bool saysNot = hasAny(words, insoluble) || isNegated;
-    const bool isNearly = saysDissolves && standsBefore(words, notQuite, soluble);
-    if (!areUnderstood(words) || isNegatedTwice(words) || isNearly) {
+    const bool isNegated = hasAny(words, known.negations);
+    const bool saysDissolves = hasAny(words, known.soluble) && !isNegated;
+    const bool saysNot = hasAny(words, known.insoluble) || isNegated;
+    const bool isNearly =
+        saysDissolves && standsBefore(words, known.notQuite, known.soluble, known);
+    if (!areUnderstood(words, known) || isNegatedTwice(words, known) || isNearly) {
         return Said::unclear;
     }
-    const bool isYes = hasAny(words, yes) || saysDissolves;
-    const bool isNo = hasAny(words, no) || saysNot;
+    const bool isYes = hasAny(words, known.yes) || saysDissolves;
+    const bool isNo = hasAny(words, known.no) || saysNot;
     if (isYes == isNo) { // neither, or both
         return Said::unclear;
     }
@@ -127,18 +153,32 @@ std::string wordsOf(std::string_view typed)
     return words;
 }
 
+namespace
+{
+
 // A reason counts only where it tells the opposite of the same substance: "no, because it is
 // soluble".
-Said saidOf(const std::string& typed)
+Said saidIn(const TypedWords& known, const std::string& typed)
 {
-    const std::vector<std::string> words = splitWords(typed);
-    const auto reason = reasonIn(words);
-    const Said said = saidBy({words.begin(), reason});
-    if (words.end() - reason < 2 || !isAmong(pronouns, *(reason + 1))) {
+    const std::vector<std::string> words = splitWords(typed, known);
+    const auto reason = reasonIn(words, known);
+    const Said said = saidBy({words.begin(), reason}, known);
+    if (words.end() - reason < 2 || !isAmong(known.pronouns, *(reason + 1))) {
         return said;
     }
-    const Said because = saidBy({reason + 1, words.end()});
+    const Said because = saidBy({reason + 1, words.end()}, known);
     return because == Said::unclear || because == said ? said : Said::unclear;
+}
+
+} // namespace
+
+Said saidOf(const std::string& typed)
+{
+    Said said = Said::unclear;
+    for (const TypedWords* const known : allTypedWords()) {
+        said = said == Said::unclear ? saidIn(*known, typed) : said;
+    }
+    return said;
 }
 
 } // namespace lesson

@@ -212,6 +212,7 @@ constexpr Language language = {
     {acidNames, std::size(acidNames)},
     {moleculeNames, std::size(moleculeNames)},
     "ammonia solution",
+    &typedEnglish,
 };
 
 static_assert(std::size(elementNames) == elementCount && std::size(ionNames) == ionCount,

@@ -86,6 +86,7 @@ const Language& americanEnglish()
         {acidNames, std::size(acidNames)},
         {nullptr, 0},
         "",
+        nullptr,
     };
     return language;
 }

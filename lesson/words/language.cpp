@@ -63,6 +63,52 @@ std::string_view patternIn(const Language& language, Sentence sentence)
     return textOf(language, &Language::sentences, sentence);
 }
 
+const TypedWords& typedWordsOf(const Language& language)
+{
+    return language.typed == nullptr ? typedWordsOf(*language.base) : *language.typed;
+}
+
+namespace
+{
+
+std::vector<const TypedWords*> findTypedWords()
+{
+    std::vector<const TypedWords*> all;
+    for (const auto& languageOf : languages) {
+        if (languageOf().typed != nullptr) {
+            all.push_back(languageOf().typed);
+        }
+    }
+    return all;
+}
+
+} // namespace
+
+const std::vector<const TypedWords*>& allTypedWords()
+{
+    static const std::vector<const TypedWords*> all = findTypedWords();
+    return all;
+}
+
+bool isTyped(WordList TypedWords::*list, std::string_view word)
+{
+    const auto& all = allTypedWords();
+    return std::any_of(all.begin(), all.end(), [list, word](const TypedWords* words) {
+        return isAmong(words->*list, word);
+    });
+}
+
+std::string_view plainOf(SpellingList TypedWords::*list, std::string_view word)
+{
+    for (const TypedWords* const words : allTypedWords()) {
+        const std::string_view plain = plainOf(words->*list, word);
+        if (!plain.empty()) {
+            return plain;
+        }
+    }
+    return "";
+}
+
 std::string nameIn(const Language& language, const Name& name)
 {
     switch (name.of) {

@@ -6,6 +6,7 @@
 
 #include "lesson/chemistry/name.hpp"
 #include "lesson/words/sentences.hpp"
+#include "lesson/words/typed.hpp"
 
 namespace lesson
 {
@@ -35,6 +36,7 @@ struct Language {
     Words<Acid> acids;
     Words<Molecule> molecules;
     std::string_view ammoniaSolution;
+    const TypedWords* typed;
 };
 
 const Language& britishEnglish();
@@ -45,6 +47,17 @@ const Language* findLanguage(std::string_view tag);
 
 // The pattern of a sentence, see pattern.hpp.
 std::string_view patternIn(const Language& language, Sentence sentence);
+
+// The words that are typed in a language, and those of every one, since a learner may type words of
+// another one than the reader's.
+const TypedWords& typedWordsOf(const Language& language);
+const std::vector<const TypedWords*>& allTypedWords();
+
+// Whether a word is in this list of any language, and what it stands for, empty where it is in
+// none:
+//   isTyped(&TypedWords::noSubstances, "heat")    plainOf(&TypedWords::units, "litres") -> "l"
+bool isTyped(WordList TypedWords::*list, std::string_view word);
+std::string_view plainOf(SpellingList TypedWords::*list, std::string_view word);
 
 // A name as it stands within a sentence: "copper(II) sulfate pentahydrate".
 std::string nameIn(const Language& language, const Name& name);
