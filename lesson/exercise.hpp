@@ -36,6 +36,13 @@ struct Ask {
     std::vector<Sentence> choices; // where the answer is one of a few words: yes, no
 };
 
+// What a volume is in a titration: what runs out of the burette, or what is pipetted.
+enum class Role {
+    none,
+    titre,
+    aliquot,
+};
+
 // What the answer rests on: a quantity, an ion or a compound.
 struct GivenQuantity {
     std::string quantity; // as in Ask
@@ -45,6 +52,7 @@ struct GivenQuantity {
     std::string shown;            // as the prompt shows it; empty where it does not
     std::string shownUnit;        // "mL"; empty with `shown`
     std::vector<int> titres = {}; // in hundredths of a millilitre, the rough one first
+    Role role = Role::none;
 };
 struct GivenIon {
     const IonRow* ion;

@@ -53,6 +53,20 @@ std::string_view nameOf(Verdict verdict)
     return "unreadable";
 }
 
+// Empty where there is none.
+std::string_view nameOf(Role role)
+{
+    switch (role) {
+    case Role::none:
+        break;
+    case Role::titre:
+        return "titre";
+    case Role::aliquot:
+        return "aliquot";
+    }
+    return "";
+}
+
 void add(Json& json, const Ask& ask, const Writing& writing)
 {
     json.object([&] {
@@ -84,6 +98,7 @@ void addMembers(Json& json, const GivenQuantity& given, const Writing& writing)
             json.number(plainText({hundredths, -2}));
         });
     }
+    addUnlessEmpty(json, "role", nameOf(given.role));
 }
 
 void addMembers(Json& json, const GivenIon& given, const Writing& writing)

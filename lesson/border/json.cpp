@@ -105,6 +105,11 @@ void Json::number(const std::string& decimal)
     out += decimal;
 }
 
+void Json::boolean(bool value)
+{
+    number(std::string(value ? "true" : "false"));
+}
+
 std::string Json::take()
 {
     return std::exchange(out, {});

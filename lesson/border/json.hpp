@@ -35,6 +35,7 @@ public:
     void number(Ratio value);
     // A decimal text that shows more than its value: "22.10".
     void number(const std::string& decimal);
+    void boolean(bool value);
 
     // `writeMembers` writes each by `key` and a value, or by `member`.
     template <typename WriteMembers>

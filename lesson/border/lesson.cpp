@@ -34,6 +34,20 @@ std::string errorJson(const Spans& error, const Writing& writing)
     return json.take();
 }
 
+// Empty where there is none.
+std::string_view nameOf(Drawing drawing)
+{
+    switch (drawing) {
+    case Drawing::none:
+        break;
+    case Drawing::dilution:
+        return "dilution";
+    case Drawing::titration:
+        return "titration";
+    }
+    return "";
+}
+
 std::string kindsJson(const Writing& writing)
 {
     const auto text = [&writing](Sentence sentence) { return plainText({say(sentence)}, writing); };
@@ -44,6 +58,10 @@ std::string kindsJson(const Writing& writing)
             json.member("version", static_cast<int>(kind->version));
             json.member("title", text(kind->title));
             json.key("levels").array(kind->levels, [&](Sentence level) { json.text(text(level)); });
+            if (kind->drawing != Drawing::none) {
+                json.member("drawing", nameOf(kind->drawing));
+            }
+            json.key("masses").boolean(kind->needsMasses);
         });
     });
     return json.take();

@@ -264,6 +264,8 @@ const Kind concentrationKind = {
     false,
     drawnExercise<draw, write, levelOf, make>,
     describedExercise<read, write, levelOf, make>,
+    Drawing::none,
+    true,
 };
 
 } // namespace lesson

@@ -332,6 +332,7 @@ const Kind dilutionKind = {
     false,
     drawnExercise<draw, write, levelOf, make>,
     describedExercise<read, write, levelOf, make>,
+    Drawing::dilution,
 };
 
 } // namespace lesson

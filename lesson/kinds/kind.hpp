@@ -10,6 +10,13 @@ namespace lesson
 
 constexpr int levelCount = 3;
 
+// What is drawn beside an exercise.
+enum class Drawing {
+    none,
+    dilution,
+    titration,
+};
+
 // A kind of exercise: all that the rest of the library, and front ends, know of it.
 struct Kind {
     // Its own for ever, whatever stands before or behind it in the list: all draws of its exercises
@@ -27,6 +34,8 @@ struct Kind {
     // Makes the one with the quantities of a description, of which it is given what stands behind
     // the slug.
     NamedExercise (*read)(const Kind& kind, std::string_view fields);
+    Drawing drawing = Drawing::none;
+    bool needsMasses = false; // whether a learner looks atomic masses up for some of its exercises
 };
 
 } // namespace lesson

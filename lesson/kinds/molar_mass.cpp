@@ -315,6 +315,8 @@ const Kind molarMassKind = {
     false,
     drawnExercise<draw, write, levelOf, make>,
     describedExercise<read, write, levelOf, make>,
+    Drawing::none,
+    true,
 };
 
 } // namespace lesson

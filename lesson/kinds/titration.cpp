@@ -42,13 +42,21 @@ GivenQuantity givenBurette(const Titration& drawn, std::string_view of)
 {
     GivenQuantity given = givenTitre(of, drawn.fromBurette);
     given.titres = drawn.titres;
+    given.role = Role::titre;
     return drawn.titres.empty() ? given : untold(given);
+}
+
+GivenQuantity givenFlask(const Titration& drawn, std::string_view of)
+{
+    GivenQuantity given = givenVolume("V", of, drawn.inFlask);
+    given.role = Role::aliquot;
+    return given;
 }
 
 Quantities quantitiesOf(const Titration& drawn, const Solutions& solutions)
 {
     return {givenConcentration("c", solutions.known->formula, drawn.concentration),
-            givenVolume("V", solutions.inFlask->formula, drawn.inFlask),
+            givenFlask(drawn, solutions.inFlask->formula),
             givenBurette(drawn, solutions.inBurette->formula)};
 }
 
@@ -141,6 +149,7 @@ const Kind titrationKind = {
     false,
     drawnExercise<drawTitration, descriptionOf, levelOf, make>,
     describedExercise<titrationFrom, descriptionOf, levelOf, make>,
+    Drawing::titration,
 };
 
 } // namespace lesson

@@ -23,7 +23,9 @@ Exercise titration()
     exercise.ask = {Form::number, "c", "Na2CO3", "mol/L", 3, {}};
     exercise.given = {
         GivenQuantity{"c", "HCl", ratio(105, 1000), "mol/L", "0.105", "mol/L"},
-        GivenQuantity{"V", "HCl", ratio(217, 10000), "L", "21.70", "mL", {2210, 2170, 2175}},
+        GivenQuantity{
+            "V", "HCl", ratio(217, 10000), "L", "21.70", "mL", {2210, 2170, 2175}, Role::titre},
+        GivenQuantity{"V", "Na2CO3", ratio(25, 1000), "L", "25.0", "mL", {}, Role::aliquot},
         GivenQuantity{"M", "HCl", ratio(36458, 1000), "g/mol", "", ""},
     };
     exercise.equation =
@@ -47,7 +49,9 @@ TEST(ExerciseJsonTest, ATitrationInItsOrder)
         "ask":{"form":"number","quantity":"c","of":"Na2CO3","unit":"mol/L","figures":3},
         "given":[{"quantity":"c","of":"HCl","value":0.105,"unit":"mol/L","shown":"0.105","shownUnit":"mol/L"},
                  {"quantity":"V","of":"HCl","value":0.0217,"unit":"L","shown":"21.70","shownUnit":"mL",
-                  "titres":[22.10,21.70,21.75]},
+                  "titres":[22.10,21.70,21.75],"role":"titre"},
+                 {"quantity":"V","of":"Na2CO3","value":0.025,"unit":"L","shown":"25.0","shownUnit":"mL",
+                  "role":"aliquot"},
                  {"quantity":"M","of":"HCl","value":36.458,"unit":"g/mol","shown":"","shownUnit":""}],
         "equation":{"left":[[2,"HCl"],[1,"Na2CO3"]],"right":[[2,"NaCl"],[1,"H2O"],[1,"CO2"]]},
         "key":{"text":"0.0456 mol/L","value":0.04557},

@@ -34,9 +34,13 @@ TEST(JsonTest, NestsAndSeparates)
             json.text("{");
             json.text(":");
         });
+        json.key("i").elements([&] {
+            json.boolean(true);
+            json.boolean(false);
+        });
     });
     EXPECT_EQ(json.take(), R"({"a":"text","b":-2,"c":{},"d":[],"e":[1,2,3],)"
-                           R"("f":[{"g":""},{"h":"["},"{",":"]})");
+                           R"("f":[{"g":""},{"h":"["},"{",":"],"i":[true,false]})");
     EXPECT_EQ(json.take(), "") << "nothing is left behind";
 }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <map>
 #include <set>
 #include <string>
 #include <thread>
@@ -44,12 +45,71 @@ TEST(InterfaceTest, TheKindsInOrderWithThreeLevelsEach)
     const Json rows = Json::parse(lesson_kinds(nullptr));
     ASSERT_EQ(rows.size(), allKinds().size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        EXPECT_EQ(members(rows[i]),
-                  (std::vector<std::string>{"kind", "version", "title", "levels"}));
+        Json bare = rows[i];
+        bare.erase("drawing");
+        EXPECT_EQ(members(bare),
+                  (std::vector<std::string>{"kind", "version", "title", "levels", "masses"}));
         EXPECT_EQ(rows[i]["kind"], std::string(allKinds()[i]->slug));
         EXPECT_FALSE(rows[i]["title"].get<std::string>().empty());
         EXPECT_EQ(rows[i]["levels"].size(), 3U) << rows[i];
     }
+}
+
+TEST(InterfaceTest, AKindTellsItsDrawingAndWhetherItNeedsMasses)
+{
+    struct Row {
+        const char* drawing; // null where there is none
+        bool masses;
+    };
+    const std::map<std::string, Row> expected = {
+        {"molar-mass", {nullptr, true}},      {"compound-formula", {nullptr, false}},
+        {"ion-formula", {nullptr, false}},    {"solubility", {nullptr, false}},
+        {"concentration", {nullptr, true}},   {"dilution", {"dilution", false}},
+        {"neutralisation", {nullptr, false}}, {"titration", {"titration", false}},
+    };
+    for (const Json& row : Json::parse(lesson_kinds(nullptr))) {
+        const auto& [drawing, masses] = expected.at(row["kind"]);
+        EXPECT_EQ(row.value("drawing", ""), drawing == nullptr ? "" : drawing) << row;
+        EXPECT_EQ(row.contains("drawing"), drawing != nullptr) << row;
+        EXPECT_EQ(row["masses"], Json(masses)) << row;
+    }
+}
+
+std::string fieldOf(const std::string& description, const std::string& name)
+{
+    const std::size_t from = description.find(";" + name + "=") + name.size() + 2;
+    return description.substr(from, description.find(';', from) - from);
+}
+
+// Of which substances the volumes with a role are.
+std::map<std::string, std::string> rolesIn(const Json& exercise)
+{
+    std::map<std::string, std::string> roles;
+    for (const Json& given : exercise["given"]) {
+        if (given.contains("role")) {
+            EXPECT_EQ(given["quantity"], "V") << given;
+            roles[given["role"].get<std::string>()] = given["of"].get<std::string>();
+        }
+    }
+    return roles;
+}
+
+// The titre runs out of the burette, the aliquot is pipetted, whatever figures they are told with.
+TEST(InterfaceTest, TheVolumesOfATitrationTellTheirRoles)
+{
+    for (const char* const kind : {"titration:1", "titration:2", "titration:3"}) {
+        for (unsigned number = 1; number <= 20; ++number) {
+            const Json made = exercise(4821, number, kind);
+            const std::string description = made["description"];
+            const bool isAcidInBurette = fieldOf(description, "burette") == "acid";
+            const std::map<std::string, std::string> expected = {
+                {"titre", fieldOf(description, isAcidInBurette ? "acid" : "base")},
+                {"aliquot", fieldOf(description, isAcidInBurette ? "base" : "acid")},
+            };
+            EXPECT_EQ(rolesIn(made), expected) << description;
+        }
+    }
+    EXPECT_TRUE(rolesIn(exercise(4821, 1, "dilution")).empty());
 }
 
 TEST(InterfaceTest, AnExerciseTellsWhichItIs)
