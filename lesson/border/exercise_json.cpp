@@ -98,7 +98,9 @@ void addMembers(Json& json, const GivenQuantity& given, const Writing& writing)
             json.number(plainText({hundredths, -2}));
         });
     }
-    addUnlessEmpty(json, "role", nameOf(given.role));
+    if (given.role != Role::none) {
+        json.member("role", nameOf(given.role));
+    }
 }
 
 void addMembers(Json& json, const GivenIon& given, const Writing& writing)

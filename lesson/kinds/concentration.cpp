@@ -131,28 +131,32 @@ std::vector<Given> givenOf(const Preparation& drawn, const Quantities& quantitie
     return {substance, mass, molarMass, volume};
 }
 
-// anhydrous sodium carbonate, Na2CO3 (M = 105.99 g/mol)
-Spans substanceOf(const Preparation& drawn, const GivenQuantity& molarMass)
+// Anhydrous sodium carbonate, or its name alone.
+Span nameOfWeighed(const SoluteRow& substance)
 {
-    const SoluteRow& substance = *drawn.substance;
-    return line(substance.weighed == Weighed::asAnhydrous ? "anhydrous " : "", nameOf(substance),
-                ", ", formula(substance.formula),
+    return substance.weighed == Weighed::asAnhydrous
+               ? say<Sentence::concentrationAnhydrous>(substance.name)
+               : name(substance.name);
+}
+
+// Na2CO3 (M = 105.99 g/mol)
+Spans formulaWithMolarMass(const Preparation& drawn, const GivenQuantity& molarMass)
+{
+    return line(formula(drawn.substance->formula),
                 drawn.isMolarMassTold ? line(" (", quantity("M"), " = ", told(molarMass), ")")
                                       : Spans());
 }
 
 Spans promptOf(const Preparation& drawn, const Quantities& quantities)
 {
-    const Spans substance = substanceOf(drawn, quantities.molarMass);
+    const Span substance = nameOfWeighed(*drawn.substance);
+    const Spans itsFormula = formulaWithMolarMass(drawn, quantities.molarMass);
+    const auto& [mass, molarMass, volume, concentration] = quantities;
     if (drawn.asksForMass) {
-        return line("Calculate the mass of ", substance, ", in ", unit("g"), ", needed to prepare ",
-                    told(quantities.volume), " of a ", told(quantities.concentration),
-                    " solution.");
+        return {say<Sentence::concentrationMassFor>(substance, itsFormula, told(volume),
+                                                    told(concentration))};
     }
-    return line(told(quantities.mass), " of ", substance, ", is dissolved in water and made up to ",
-                told(quantities.volume),
-                " of solution. Calculate the concentration of the solution in ", unit("mol/L"),
-                ".");
+    return {say<Sentence::concentrationOfMass>(told(mass), substance, itsFormula, told(volume))};
 }
 
 std::vector<Ratio> answersWithRoundedMasses(const Preparation& drawn)

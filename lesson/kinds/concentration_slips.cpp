@@ -1,12 +1,11 @@
 #include <algorithm>
 #include <numeric>
-#include <string>
 #include <string_view>
 #include <tuple>
 
 #include "lesson/chemistry/composition.hpp"
 #include "lesson/kinds/concentration_parts.hpp"
-#include "lesson/marking/number.hpp"
+#include "lesson/kinds/shared/quantities.hpp"
 
 namespace lesson
 {
@@ -14,28 +13,19 @@ namespace lesson
 namespace
 {
 
-constexpr const char* isAmount = "That is an amount. One step is left.";
-constexpr const char* isRelatedOtherwise =
-    "Check how amount, concentration and volume are related.";
-constexpr const char* isDividedOtherwise = "Which is divided by which? One mole has the mass M.";
-constexpr const char* isNoLitre = "How many mL are in a litre?";
-constexpr const char* isMassConcentration = "Turn the mass into moles first.";
-
 constexpr Ratio thousand = {1000, 1};
 
 // Of who miscounts the waters of a hydrate.
 void addSlipsOfWater(Exercise& exercise, const Preparation& drawn, const FormulaPart& water)
 {
-    const char* const isWholeMolecule = "The number before H2O counts whole water molecules.";
     const Ratio more = ratio(water.times - 1);
     const Ratio takenOnce = drawn.molarMass - more * massOf(water.atoms);
     const Ratio onHydrogenOnly = drawn.molarMass - more * molarMassOf("O");
     const Ratio salt = takenOnce - massOf(water.atoms);
-    addSlip(exercise, answerFor(drawn, salt), "The water in the crystals has mass too.");
-    addSlip(exercise, answerFor(drawn, takenOnce), isWholeMolecule);
-    addSlip(exercise, answerFor(drawn, onHydrogenOnly), isWholeMolecule);
-    addSlip(exercise, answerFor(drawn, salt * (drawn.molarMass - salt)),
-            "The dot adds the water: it does not multiply.");
+    addSlip(exercise, answerFor(drawn, salt), Sentence::slipMassOfWater);
+    addSlip(exercise, answerFor(drawn, takenOnce), Sentence::slipWaterNumber);
+    addSlip(exercise, answerFor(drawn, onHydrogenOnly), Sentence::slipWaterNumber);
+    addSlip(exercise, answerFor(drawn, salt * (drawn.molarMass - salt)), Sentence::slipDot);
 }
 
 // The molar mass with the numbers behind brackets left out, or the small ones.
@@ -71,7 +61,6 @@ std::string_view lastInBracket(std::string_view formula)
 
 void addSlipsOfBracket(Exercise& exercise, const Preparation& drawn, const Composition& composition)
 {
-    const char* const isForAll = "The number after the bracket counts everything inside.";
     const auto bracket =
         std::find_if(composition.parts.begin(), composition.parts.end(),
                      [](const FormulaPart& part) { return part.times > 1 && !part.isWater; });
@@ -80,8 +69,9 @@ void addSlipsOfBracket(Exercise& exercise, const Preparation& drawn, const Compo
     }
     const Ratio ignored = withoutBracketNumber(composition);
     const Ratio last = molarMassOf(lastInBracket(drawn.substance->formula));
-    addSlip(exercise, answerFor(drawn, ignored), isForAll);
-    addSlip(exercise, answerFor(drawn, ignored + ratio(bracket->times - 1) * last), isForAll);
+    addSlip(exercise, answerFor(drawn, ignored), Sentence::slipBracketNumber);
+    addSlip(exercise, answerFor(drawn, ignored + ratio(bracket->times - 1) * last),
+            Sentence::slipBracketNumber);
 }
 
 int atomicNumbersOf(const Atoms& atoms)
@@ -99,10 +89,10 @@ void addSlipsOfMolarMass(Exercise& exercise, const Preparation& drawn)
     addSlipsOfBracket(exercise, drawn, composition);
     for (const bool withThoseOfWater : {true, false}) {
         addSlip(exercise, answerFor(drawn, withoutSmallNumbers(composition, withThoseOfWater)),
-                "The small numbers count atoms: each of them has its mass.");
+                Sentence::slipSmallNumbers);
     }
     addSlip(exercise, answerFor(drawn, ratio(atomicNumbersOf(composition.atoms))),
-            "Use the relative masses, not the atomic numbers.");
+            Sentence::slipAtomicNumbers);
 }
 
 // Divided by 100 or by 10, the volume comes out too large, and the answer so many times too large
@@ -110,8 +100,8 @@ void addSlipsOfMolarMass(Exercise& exercise, const Preparation& drawn)
 void addSlipsOfLitre(Exercise& exercise, const Preparation& drawn, Ratio answer, Ratio times)
 {
     if (drawn.volume < ratio(1)) {
-        addSlip(exercise, answer * times, isNoLitre);
-        addSlip(exercise, answer * times * times, isNoLitre);
+        addSlip(exercise, answer * times, Sentence::slipMillilitres);
+        addSlip(exercise, answer * times * times, Sentence::slipMillilitres);
     }
 }
 
@@ -119,31 +109,31 @@ void addSlipsForConcentration(Exercise& exercise, const Preparation& drawn)
 {
     const auto& [m, M, V] = std::tie(drawn.mass, drawn.molarMass, drawn.volume);
     const Ratio n = m / M;
-    addSlip(exercise, m / V, std::string("That is in g/L. ") + isMassConcentration);
-    addSlip(exercise, n, isAmount);
+    addSlip(exercise, m / V, Sentence::slipGramsPerLitre);
+    addSlip(exercise, n, Sentence::slipAmount);
     addSlipsOfLitre(exercise, drawn, n / V, ratio(1, 10));
-    addSlip(exercise, n * V, isRelatedOtherwise);
+    addSlip(exercise, n * V, Sentence::slipRelation);
     for (const Ratio wrong : {m * M / V, m * M, M / m / V, M / m, m * M * V}) {
-        addSlip(exercise, wrong, isDividedOtherwise);
+        addSlip(exercise, wrong, Sentence::slipDividedOtherwise);
     }
-    addSlip(exercise, m / V / thousand, std::string("That is in g/mL. ") + isMassConcentration);
-    addSlip(exercise, n * V * thousand, isRelatedOtherwise);
-    addSlip(exercise, V / n, isRelatedOtherwise);
+    addSlip(exercise, m / V / thousand, Sentence::slipGramsPerMillilitre);
+    addSlip(exercise, n * V * thousand, Sentence::slipRelation);
+    addSlip(exercise, V / n, Sentence::slipRelation);
 }
 
 void addSlipsForMass(Exercise& exercise, const Preparation& drawn)
 {
     const auto& [c, M, V] = std::tie(drawn.concentration, drawn.molarMass, drawn.volume);
     const Ratio n = c * V;
-    addSlip(exercise, n, isAmount);
-    addSlip(exercise, c * M, "That is for one litre.");
+    addSlip(exercise, n, Sentence::slipAmount);
+    addSlip(exercise, c * M, Sentence::slipOneLitre);
     addSlipsOfLitre(exercise, drawn, n * M, ratio(10));
-    addSlip(exercise, c / V * M, isRelatedOtherwise);
-    addSlip(exercise, n / M, "One mole has the mass M.");
-    addSlip(exercise, M / n, "One mole has the mass M.");
-    addSlip(exercise, n * thousand, isAmount);
-    addSlip(exercise, V * M, "That is for a concentration of 1 mol/L.");
-    addSlip(exercise, V / c * M, isRelatedOtherwise);
+    addSlip(exercise, c / V * M, Sentence::slipRelation);
+    addSlip(exercise, n / M, Sentence::slipMassOfMole);
+    addSlip(exercise, M / n, Sentence::slipMassOfMole);
+    addSlip(exercise, n * thousand, Sentence::slipAmount);
+    addSlip(exercise, V * M, Sentence::slipOneMolePerLitre);
+    addSlip(exercise, V / c * M, Sentence::slipRelation);
 }
 
 } // namespace

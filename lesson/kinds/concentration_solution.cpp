@@ -5,6 +5,7 @@
 #include "lesson/kinds/molar_mass.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
 #include "lesson/numbers/decimal.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -28,23 +29,23 @@ Numbers numbersOf(const Preparation& drawn)
 
 Step molarMassStep(const Preparation& drawn)
 {
-    const char* const say =
-        isHydrate(drawn) ? "Molar mass; the water belongs to the crystal." : "Molar mass.";
-    const char* const hint =
-        isHydrate(drawn)
-            ? "How heavy is one mole of the crystals? Count the atoms, those of the water too."
-            : "How heavy is one mole? Count the atoms of each element.";
-    return {line(say),
-            line(quantity("M"), " = ", sumOfMasses(drawn.substance->formula), " = ",
-                 measure(shownMass(drawn.molarMass), "g/mol")),
-            line(hint)};
+    const Spans math = line(quantity("M"), " = ", sumOfMasses(drawn.substance->formula), " = ",
+                            measure(shownMass(drawn.molarMass), "g/mol"));
+    if (isHydrate(drawn)) {
+        return {{say<Sentence::concentrationMolarMassOfHydrate>()},
+                math,
+                {say<Sentence::hintConcentrationMolarMassOfHydrate>()}};
+    }
+    return {{say<Sentence::concentrationMolarMass>()},
+            math,
+            {say<Sentence::hintConcentrationMolarMass>()}};
 }
 
 Step volumeStep(const GivenQuantity& volume)
 {
-    return {line("Convert the volume."),
+    return {{say<Sentence::convertVolume>()},
             line(quantity("V"), " = ", told(volume), " = ", measure(shown(volume.value, 3), "L")),
-            line("The concentration counts moles in a litre. How many litres are there here?")};
+            {say<Sentence::hintConcentrationVolume>()}};
 }
 
 std::vector<Step> stepsToConcentration(const Preparation& drawn, const Spans& key)
@@ -52,14 +53,14 @@ std::vector<Step> stepsToConcentration(const Preparation& drawn, const Spans& ke
     const Ratio amount = drawn.mass / drawn.molarMass;
     const Numbers numbers = numbersOf(drawn);
     return {
-        {line("Amount from mass."),
+        {{say<Sentence::concentrationAmountFromMass>()},
          line(quantity("n"), " = ", fraction({quantity("m")}, {quantity("M")}), " = ",
               fraction({numbers.mass}, {numbers.molarMass}), " = ", between(amount), unit("mol")),
-         line("One mole has the mass ", quantity("M"), ". How many moles are weighed?")},
-        {line("Divide by the volume of solution."),
+         {say<Sentence::hintConcentrationAmountFromMass>()}},
+        {{say<Sentence::concentrationDivide>()},
          line(quantity("c"), " = ", fraction({quantity("n")}, {quantity("V")}), " = ",
               fraction({between(amount)}, {numbers.volume}), " = ", key),
-         line("A concentration tells how many moles there would be in one litre.")},
+         {say<Sentence::hintConcentrationDivide>()}},
     };
 }
 
@@ -68,15 +69,14 @@ std::vector<Step> stepsToMass(const Preparation& drawn, const Spans& key)
     const Ratio amount = drawn.concentration * drawn.volume;
     const Numbers numbers = numbersOf(drawn);
     return {
-        {line("Amount from concentration."),
+        {{say<Sentence::concentrationAmount>()},
          line(quantity("n"), " = ", quantity("c"), quantity("V"), " = ", numbers.concentration,
               " × ", numbers.volume, " = ", between(amount), unit("mol")),
-         line("The concentration tells how many moles a litre has. How many have to be in this "
-              "volume?")},
-        {line("Mass from amount."),
+         {say<Sentence::hintConcentrationAmount>()}},
+        {{say<Sentence::concentrationMassFromAmount>()},
          line(quantity("m"), " = ", quantity("n"), quantity("M"), " = ", between(amount), " × ",
               numbers.molarMass, " = ", key),
-         line("One mole has the mass ", quantity("M"), ". What do so many moles weigh?")},
+         {say<Sentence::hintConcentrationMassFromAmount>()}},
     };
 }
 

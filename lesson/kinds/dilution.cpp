@@ -211,26 +211,20 @@ std::vector<Given> givenOf(const Dilution& drawn, const Quantities& quantities)
 
 Spans promptOf(const Dilution& drawn, const Quantities& quantities)
 {
-    const Spans solution = solutionOf(*drawn.solute);
+    const Span solution = solutionOf(*drawn.solute);
     const auto& [c1, V1, c2, V2] = quantities;
     switch (drawn.asked) {
     case Asked::c2:
-        return line(told(V1), " of ", told(c1), " ", solution, " is diluted to ", told(V2),
-                    ". Calculate the concentration of the diluted solution in ", unit("mol/L"),
-                    ".");
+        return {say<Sentence::dilutionOfNewConcentration>(told(V1), told(c1), solution, told(V2))};
     case Asked::V1:
-        return line("Calculate the volume, in ", unit("mL"), ", of ", told(c1), " ", solution,
-                    " needed to make ", told(V2), " of a ", told(c2), " solution.");
+        return {say<Sentence::dilutionOfVolume>(told(c1), solution, told(V2), told(c2))};
     case Asked::c1:
-        return line(told(V1), " of ", solution, " is diluted to ", told(V2),
-                    ". The diluted solution has a concentration of ", told(c2),
-                    ". Calculate the original concentration in ", unit("mol/L"), ".");
+        return {
+            say<Sentence::dilutionOfOriginalConcentration>(told(V1), solution, told(V2), told(c2))};
     case Asked::water:
         break;
     }
-    return line("Calculate the volume of water, in ", unit("mL"), ", that has to be added to ",
-                told(V1), " of ", told(c1), " ", solution, " to bring its concentration down to ",
-                told(c2), ". Assume that the volumes add up.");
+    return {say<Sentence::dilutionOfWater>(told(V1), told(c1), solution, told(c2))};
 }
 
 // ---------------------------------------------------------------------- draw, write, read, make

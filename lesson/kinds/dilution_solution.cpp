@@ -3,6 +3,7 @@
 #include "lesson/kinds/dilution_parts.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
 #include "lesson/numbers/decimal.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -36,25 +37,20 @@ Numbers numbersOf(const Dilution& drawn)
             inMillilitres(drawn.V2), number(exactText(drawn.V2 / drawn.V1))};
 }
 
-constexpr const char* rearrange = "Rearrange; both volumes in the same unit.";
-
 Step amountStep()
 {
-    return {
-        line("The amount stays the same."),
-        line(before("c"), before("V"), " = ", after("c"), after("V")),
-        line("Water is added, but none of the dissolved substance. How is its amount worked out "
-             "from ",
-             quantity("c"), " and ", quantity("V"), "?")};
+    return {{say<Sentence::dilutionAmount>()},
+            line(before("c"), before("V"), " = ", after("c"), after("V")),
+            {say<Sentence::hintDilutionAmount>()}};
 }
 
 // A flask of a litre or two is told in litres, a pipette in millilitres.
 Step volumeStep(const Dilution& drawn)
 {
     const GivenQuantity volume = givenVolume("V2", drawn.solute->formula, drawn.V2);
-    return {line("Convert the volume."),
+    return {{say<Sentence::convertVolume>()},
             line(after("V"), " = ", told(volume), " = ", numbersOf(drawn).V2, unit("mL")),
-            line("Both volumes need the same unit. How many millilitres are in a litre?")};
+            {say<Sentence::hintDilutionVolume>()}};
 }
 
 bool isToldInLitres(const Dilution& drawn)
@@ -62,24 +58,20 @@ bool isToldInLitres(const Dilution& drawn)
     return drawn.asked != AskedOfDilution::water && ratio(1) <= drawn.V2;
 }
 
-Spans hintToRearrange()
+Step rearrangingStep(const Spans& math)
 {
-    return line("Three of the four are known. Bring the fourth alone to one side, then put in the "
-                "numbers.");
+    return {{say<Sentence::dilutionRearrange>()}, math, {say<Sentence::hintDilutionRearrange>()}};
 }
 
 std::vector<Step> stepsToNewConcentration(const Numbers& numbers, const Spans& key)
 {
     const auto& [c1, V1, c2, V2, factor] = numbers;
     return {
-        {line(rearrange),
-         line(after("c"), " = ", fraction({before("c"), before("V")}, {after("V")}), " = ",
-              fraction(line(c1, " × ", V1), {V2}), " = ", key),
-         hintToRearrange()},
-        {line("Check: ", factor, " times the volume, so the concentration is divided by ", factor,
-              "."),
+        rearrangingStep(line(after("c"), " = ", fraction({before("c"), before("V")}, {after("V")}),
+                             " = ", fraction(line(c1, " × ", V1), {V2}), " = ", key)),
+        {{say<Sentence::dilutionCheckNewConcentration>(factor)},
          line(after("c"), " = ", fraction({c1}, {factor}), " = ", key),
-         line("How many times has the volume grown? The concentration falls as many times.")},
+         {say<Sentence::hintDilutionCheckNewConcentration>()}},
     };
 }
 
@@ -87,14 +79,11 @@ std::vector<Step> stepsToOriginalConcentration(const Numbers& numbers, const Spa
 {
     const auto& [c1, V1, c2, V2, factor] = numbers;
     return {
-        {line(rearrange),
-         line(before("c"), " = ", fraction({after("c"), after("V")}, {before("V")}), " = ",
-              fraction(line(c2, " × ", V2), {V1}), " = ", key),
-         hintToRearrange()},
-        {line("Check: ", factor, " times the volume, so the concentration was ", factor,
-              " times as great."),
+        rearrangingStep(line(before("c"), " = ", fraction({after("c"), after("V")}, {before("V")}),
+                             " = ", fraction(line(c2, " × ", V2), {V1}), " = ", key)),
+        {{say<Sentence::dilutionCheckOriginalConcentration>(factor)},
          line(before("c"), " = ", factor, " × ", c2, " = ", key),
-         line("How many times has the volume grown? The concentration has fallen as many times.")},
+         {say<Sentence::hintDilutionCheckOriginalConcentration>()}},
     };
 }
 
@@ -102,14 +91,11 @@ std::vector<Step> stepsToOriginalVolume(const Numbers& numbers, const Spans& key
 {
     const auto& [c1, V1, c2, V2, factor] = numbers;
     return {
-        {line(rearrange),
-         line(before("V"), " = ", fraction({after("c"), after("V")}, {before("c")}), " = ",
-              fraction(line(c2, " × ", V2), {c1}), " = ", key),
-         hintToRearrange()},
-        {line("Check: the concentration is divided by ", factor, ", so the volume grows ", factor,
-              " times."),
+        rearrangingStep(line(before("V"), " = ", fraction({after("c"), after("V")}, {before("c")}),
+                             " = ", fraction(line(c2, " × ", V2), {c1}), " = ", key)),
+        {{say<Sentence::dilutionCheckVolume>(factor)},
          line(before("V"), " = ", fraction({V2}, {factor}), " = ", key),
-         line("How many times does the concentration fall? The volume grows as many times.")},
+         {say<Sentence::hintDilutionCheckVolume>()}},
     };
 }
 
@@ -117,18 +103,17 @@ std::vector<Step> stepsToWater(const Numbers& numbers, const Spans& key)
 {
     const auto& [c1, V1, c2, V2, factor] = numbers;
     return {
-        {line("Rearrange for the volume of the whole diluted solution."),
+        {{say<Sentence::dilutionRearrangeForWhole>()},
          line(after("V"), " = ", fraction({before("c"), before("V")}, {after("c")}), " = ",
               fraction(line(c1, " × ", V1), {c2}), " = ", V2, unit("mL")),
-         line("First find how large the diluted solution is as a whole.")},
-        {line("Check: the concentration is divided by ", factor, ", so the volume grows ", factor,
-              " times."),
+         {say<Sentence::hintDilutionRearrangeForWhole>()}},
+        {{say<Sentence::dilutionCheckVolume>(factor)},
          line(after("V"), " = ", factor, " × ", V1, " = ", V2, unit("mL")),
-         line("How many times does the concentration fall? The volume grows as many times.")},
-        {line("The water is the rest of the diluted solution."),
+         {say<Sentence::hintDilutionCheckVolume>()}},
+        {{say<Sentence::dilutionWaterIsTheRest>()},
          line(quantity("V", "H2O"), " = ", after("V"), " − ", before("V"), " = ", V2, " − ", V1,
               " = ", key),
-         line("Some of the diluted solution was there before any water.")},
+         {say<Sentence::hintDilutionWaterIsTheRest>()}},
     };
 }
 

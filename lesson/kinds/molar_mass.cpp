@@ -14,6 +14,7 @@
 #include "lesson/kinds/shared/classified.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
 #include "lesson/kinds/shared/record.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -42,8 +43,7 @@ Substance substanceOf(const Pair& pair)
 {
     const auto& [cation, anion] = pair;
     const std::string formula = compoundFormula(*cation, *anion);
-    return {formula, nameOf(*cation, *anion), weightOf(pair),
-            compositionOf(formula)};
+    return {formula, nameOf(*cation, *anion), weightOf(pair), compositionOf(formula)};
 }
 
 Substance substanceOf(const SubstanceRow& row)
@@ -143,17 +143,16 @@ Step countingStep(const Composition& composition)
 {
     const Spans atoms = atomLine(composition);
     if (composition.parts.back().isWater) {
-        return {line("Count the atoms; the water belongs to the crystal."), atoms,
-                line("The dot stands for “together with”. How many water molecules come with one "
-                     "unit of the salt?")};
+        return {{say<Sentence::molarMassCountWater>()},
+                atoms,
+                {say<Sentence::hintMolarMassCountWater>()}};
     }
     if (hasBracket(composition)) {
-        return {line("Count the atoms; the number after the bracket counts everything inside."),
-                atoms, line("What is in one bracket, and how many brackets are there?")};
+        return {{say<Sentence::molarMassCountBracket>()},
+                atoms,
+                {say<Sentence::hintMolarMassCountBracket>()}};
     }
-    return {line("Count the atoms."), atoms,
-            line("A small number belongs to the symbol in front of it. Where there is none, it is "
-                 "one atom.")};
+    return {{say<Sentence::molarMassCount>()}, atoms, {say<Sentence::hintMolarMassCount>()}};
 }
 
 // M = 249.69 = 249.7 g/mol, or M = 58.44 g/mol where two decimals are no more than is asked.
@@ -168,11 +167,12 @@ std::vector<Step> workedSolution(const Exercise& exercise, const Substance& draw
 {
     return {
         countingStep(drawn.composition),
-        {line("Put in the masses."), massLine(drawn.composition),
-         line("The periodic table has two numbers for each element. The one with decimals is the "
-              "mass.")},
-        {line("Add."), total(exercise, mass),
-         line("Multiply before you add, and round at the end.")},
+        {{say<Sentence::molarMassPutIn>()},
+         massLine(drawn.composition),
+         {say<Sentence::hintMolarMassPutIn>()}},
+        {{say<Sentence::molarMassAdd>()},
+         total(exercise, mass),
+         {say<Sentence::hintMolarMassAdd>()}},
     };
 }
 
@@ -296,8 +296,7 @@ Exercise make(const Place& place, const Substance& drawn)
     Exercise exercise =
         numberExercise(place, {Form::number, "M", drawn.formula, "g/mol", figures, {}},
                        {mass, roundedMolarMasses(drawn.formula), true, false});
-    exercise.prompt = line("Calculate the molar mass of ", drawn.name, ", ",
-                           formula(drawn.formula), ", in ", unit("g/mol"), ".");
+    exercise.prompt = {say<Sentence::molarMassAsked>(drawn.name, formula(drawn.formula))};
     exercise.given = {GivenCompound{drawn.formula, drawn.name}};
     exercise.solution = workedSolution(exercise, drawn, mass);
     addMolarMassSlips(exercise, drawn.formula);

@@ -8,7 +8,7 @@
 
 #include "lesson/chemistry/composition.hpp"
 #include "lesson/chemistry/elements.hpp"
-#include "lesson/marking/number.hpp"
+#include "lesson/kinds/shared/quantities.hpp"
 #include "lesson/text/scan.hpp"
 
 // A learner who miscounts works out the mass of another formula, so most slips are that formula:
@@ -18,15 +18,6 @@ namespace lesson
 
 namespace
 {
-
-constexpr std::string_view smallNumbers =
-    "The small numbers count atoms: each of them has its mass.";
-constexpr std::string_view bracketNumber = "The number after the bracket counts everything inside.";
-constexpr std::string_view waterNumber = "The number before H2O counts whole water molecules.";
-constexpr std::string_view dot = "The dot adds the water: it does not multiply.";
-constexpr std::string_view oneAtom = "In a compound each symbol is one atom.";
-constexpr std::string_view relativeMasses = "Use the relative masses, not the atomic numbers.";
-constexpr std::string_view countHydrogen = "Count the hydrogen atoms again.";
 
 // Elements of molecules of two atoms, but hydrogen, which has a slip of its own.
 constexpr int twoByThemselves[] = {elements::fluorine, elements::chlorine, elements::bromine,
@@ -109,12 +100,12 @@ public:
     }
 
 private:
-    void add(Ratio mass, std::string_view sentence)
+    void add(Ratio mass, Sentence sentence)
     {
-        addSlip(exercise, mass, std::string(sentence));
+        addSlip(exercise, mass, sentence);
     }
 
-    void add(const std::string& otherFormula, std::string_view sentence)
+    void add(const std::string& otherFormula, Sentence sentence)
     {
         add(molarMassOf(otherFormula), sentence);
     }
@@ -127,12 +118,12 @@ private:
         const FormulaPart& part = composition.parts.back();
         const Ratio molecules = ratio(part.times) * massOf(part.atoms);
         const std::string number = std::to_string(part.times);
-        add(salt, waterNumber);
-        add(salt + ".H2O", waterNumber);
-        add(salt + times("H2", part.times) + "O", waterNumber);
-        add(molarMassOf(salt) * molecules, dot);
-        add(salt + "." + number + "HO", smallNumbers);
-        add(molarMassOf(salt + ".H2O") * ratio(part.times), waterNumber);
+        add(salt, Sentence::slipWaterNumber);
+        add(salt + ".H2O", Sentence::slipWaterNumber);
+        add(salt + times("H2", part.times) + "O", Sentence::slipWaterNumber);
+        add(molarMassOf(salt) * molecules, Sentence::slipDot);
+        add(salt + "." + number + "HO", Sentence::slipSmallNumbers);
+        add(molarMassOf(salt + ".H2O") * ratio(part.times), Sentence::slipWaterNumber);
     }
 
     // With the number on nothing, on the last atom, on the first one, and on what stands in front.
@@ -153,12 +144,12 @@ private:
         const std::vector<std::string> terms = termsOf(inside);
         const std::size_t first = terms.front().size();
         const std::size_t last = inside.size() - terms.back().size();
-        add(before + inside + behind, bracketNumber);
+        add(before + inside + behind, Sentence::slipBracketNumber);
         add(before + inside.substr(0, last) + times(inside.substr(last), number) + behind,
-            bracketNumber);
+            Sentence::slipBracketNumber);
         add(before + times(inside.substr(0, first), number) + inside.substr(first) + behind,
-            bracketNumber);
-        add(times(before + inside, number) + behind, bracketNumber);
+            Sentence::slipBracketNumber);
+        add(times(before + inside, number) + behind, Sentence::slipBracketNumber);
     }
 
     void addSmallNumbers()
@@ -170,17 +161,17 @@ private:
             none = without(none, *run);
             bracketOnly = isOfBracket(*run) ? bracketOnly : without(bracketOnly, *run);
         }
-        add(bracketOnly + water, smallNumbers);
-        add(withoutBrackets(none) + water, smallNumbers);
-        add(eachElementOnce(), smallNumbers);
+        add(bracketOnly + water, Sentence::slipSmallNumbers);
+        add(withoutBrackets(none) + water, Sentence::slipSmallNumbers);
+        add(eachElementOnce(), Sentence::slipSmallNumbers);
         for (const Run& run : all) {
             if (!isOfBracket(run)) {
-                add(without(salt, run) + water, smallNumbers);
+                add(without(salt, run) + water, Sentence::slipSmallNumbers);
             }
         }
         for (const Run& run : all) {
             if (salt.find('(') >= run.begin) {
-                add(countingAll(salt, run) + water, smallNumbers);
+                add(countingAll(salt, run) + water, Sentence::slipSmallNumbers);
             }
         }
     }
@@ -207,8 +198,8 @@ private:
             all += atom.count * atom.element;
             eachOnce += atom.element;
         }
-        add(ratio(all), relativeMasses);
-        add(ratio(eachOnce), relativeMasses);
+        add(ratio(all), Sentence::slipAtomicNumbers);
+        add(ratio(eachOnce), Sentence::slipAtomicNumbers);
     }
 
     // As if an element that is Cl2 by itself were so in its compounds.
@@ -217,7 +208,7 @@ private:
         for (const AtomCount atom : composition.atoms) {
             if (std::find(std::begin(twoByThemselves), std::end(twoByThemselves), atom.element) !=
                 std::end(twoByThemselves)) {
-                add(massOf(composition.atoms) + massOf({atom}), oneAtom);
+                add(massOf(composition.atoms) + massOf({atom}), Sentence::slipOneAtom);
             }
         }
     }
@@ -226,7 +217,8 @@ private:
     {
         for (const AtomCount atom : composition.atoms) {
             if (atom.element == elements::hydrogen) {
-                add(massOf(composition.atoms) - massOf({{elements::hydrogen, 1}}), countHydrogen);
+                add(massOf(composition.atoms) - massOf({{elements::hydrogen, 1}}),
+                    Sentence::slipHydrogenAtoms);
             }
         }
     }

@@ -8,7 +8,7 @@
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
 #include "lesson/kinds/shared/record.hpp"
-#include "lesson/kinds/shared/salts.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -63,20 +63,33 @@ Quantities quantitiesOf(const Titration& drawn, const Solutions& solutions)
 // -------------------------------------------------------------------------------- the prompt
 
 // 0.105 mol/L hydrochloric acid, or its name alone.
-Spans withConcentration(const SoluteRow& solution, const Solutions& solutions,
-                        const GivenQuantity& concentration)
+Span withConcentration(const SoluteRow& solution, const Solutions& solutions,
+                       const GivenQuantity& concentration)
 {
-    return &solution == solutions.known ? line(told(concentration), " ", solutionOf(solution))
-                                        : solutionOf(solution);
+    return &solution == solutions.known
+               ? say<Sentence::solutionOfConcentration>(told(concentration), solutionOf(solution))
+               : solutionOf(solution);
+}
+
+Span nameOf(Indicator indicator)
+{
+    return say(indicator == Indicator::phenolphthalein ? Sentence::indicatorPhenolphthalein
+                                                       : Sentence::indicatorMethylOrange);
 }
 
 // Halfway a carbonate has become a hydrogencarbonate, which other indicators show.
-Spans endOf(const Titration& drawn)
+Span titrationSentence(const Titration& drawn, const Solutions& solutions,
+                       const Quantities& quantities)
 {
-    const Base base = baseOf(*drawn.pair);
+    const Spans volume = told(quantities.inFlask);
+    const Span flask = withConcentration(*solutions.inFlask, solutions, quantities.concentration);
+    const Span burette =
+        withConcentration(*solutions.inBurette, solutions, quantities.concentration);
+    const Span indicator = nameOf(drawn.indicator);
     return givesCarbonDioxide(drawn.pair->base)
-               ? line(", until the ", nameOf(*base.anion), " has reacted completely")
-               : Spans();
+               ? say<Sentence::titrationUntilReacted>(volume, flask, burette, indicator,
+                                                      nameOf(*baseOf(*drawn.pair).anion))
+               : say<Sentence::titrationOf>(volume, flask, burette, indicator);
 }
 
 Spans measureOfTitre(int hundredths)
@@ -84,35 +97,28 @@ Spans measureOfTitre(int hundredths)
     return measure(plainText({hundredths, -2}), "mL");
 }
 
-Spans titresSentence(const Titration& drawn)
+Span titresSentence(const Titration& drawn)
 {
     const std::vector<int>& titres = drawn.titres;
     if (titres.empty()) {
-        return line("The titre is ", told(givenTitre("", drawn.fromBurette)), ".");
+        return say<Sentence::titrationTitre>(told(givenTitre("", drawn.fromBurette)));
     }
-    Spans sentence = line("The rough titre is ", measureOfTitre(titres[0]), ", and the others are ",
-                          measureOfTitre(titres[1]));
-    for (std::size_t i = 2; i < titres.size(); ++i) {
-        const bool isLast = i + 1 == titres.size();
-        append(sentence, line(isLast ? " and " : ", ", measureOfTitre(titres[i])));
-    }
-    append(sentence, ".");
-    return sentence;
+    const Spans rough = measureOfTitre(titres[0]);
+    const Spans first = measureOfTitre(titres[1]);
+    const Spans second = measureOfTitre(titres[2]);
+    return titres.size() == 3 ? say<Sentence::titrationTwoTitres>(rough, first, second)
+                              : say<Sentence::titrationThreeTitres>(rough, first, second,
+                                                                    measureOfTitre(titres[3]));
 }
 
 Spans promptOf(const Titration& drawn, const Solutions& solutions, const Quantities& quantities,
                const Equation& equation)
 {
-    const Spans flask = withConcentration(*solutions.inFlask, solutions, quantities.concentration);
-    const Spans burette =
-        withConcentration(*solutions.inBurette, solutions, quantities.concentration);
     const bool isEquationGiven = drawn.titres.empty();
-    return line(told(quantities.inFlask), " of ", flask, " is titrated with ", burette,
-                " from the burette, with ", nameOf(drawn.indicator), " as the indicator",
-                endOf(drawn), ". ", titresSentence(drawn),
-                isEquationGiven ? line(" The equation is ", spansOf(equation), ".") : Spans(),
-                " Calculate the concentration of the ", solutionOf(*solutions.unknown), " in ",
-                unit("mol/L"), ".");
+    return line(titrationSentence(drawn, solutions, quantities), " ", titresSentence(drawn), " ",
+                isEquationGiven ? line(say<Sentence::titrationEquation>(spansOf(equation)), " ")
+                                : Spans(),
+                say<Sentence::titrationQuestion>(solutionOf(*solutions.unknown)));
 }
 
 std::vector<Given> givenOf(const Solutions& solutions, const Quantities& quantities)

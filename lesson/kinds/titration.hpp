@@ -46,8 +46,6 @@ Description descriptionOf(const Titration& drawn);
 Titration titrationFrom(FieldReader& fields);
 int levelOf(const Titration& titration);
 
-const char* nameOf(Indicator indicator);
-
 bool isKnownInBurette(const Titration& drawn);
 
 // Moles of the unknown for one of the known.

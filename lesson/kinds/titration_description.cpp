@@ -16,6 +16,11 @@ namespace
 constexpr std::string_view acidWord = "acid";
 constexpr std::string_view baseWord = "base";
 
+std::string_view wordOf(Indicator indicator)
+{
+    return indicator == Indicator::phenolphthalein ? "phenolphthalein" : "methyl orange";
+}
+
 std::string acidOrBase(bool isAcid)
 {
     return std::string(isAcid ? acidWord : baseWord);
@@ -85,7 +90,7 @@ Indicator indicatorFrom(FieldReader& fields, const TitrationRow& pair)
     const std::string_view name = fields.text("indicator");
     for (const Indicator indicator : {Indicator::phenolphthalein, Indicator::methylOrange}) {
         const bool suits = pair.indicator == Indicator::either || pair.indicator == indicator;
-        if (suits && name == nameOf(indicator)) {
+        if (suits && name == wordOf(indicator)) {
             return indicator;
         }
     }
@@ -105,11 +110,6 @@ bool isAcidInBurette(FieldReader& fields, const TitrationRow& pair)
 
 } // namespace
 
-const char* nameOf(Indicator indicator)
-{
-    return indicator == Indicator::phenolphthalein ? "phenolphthalein" : "methyl orange";
-}
-
 Description descriptionOf(const Titration& drawn)
 {
     return Description()
@@ -120,7 +120,7 @@ Description descriptionOf(const Titration& drawn)
         .with("burette", acidOrBase(drawn.isAcidInBurette))
         .with("titre", titresText(drawn))
         .with("pipette", inMillilitres(drawn.inFlask))
-        .with("indicator", nameOf(drawn.indicator));
+        .with("indicator", wordOf(drawn.indicator));
 }
 
 Titration titrationFrom(FieldReader& fields)

@@ -1,8 +1,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "lesson/kinds/shared/quantities.hpp"
 #include "lesson/kinds/titration.hpp"
-#include "lesson/marking/number.hpp"
 
 namespace lesson
 {
@@ -10,19 +10,9 @@ namespace lesson
 namespace
 {
 
-constexpr const char* aboutRatio =
-    "Look at the numbers in the equation: how many moles react with one?";
-constexpr const char* aboutRatioFirst =
-    "Two things went wrong, first the ratio. Look at the numbers in the equation: how many moles "
-    "react with one?";
-constexpr const char* aboutVolumes = "Which volume belongs to which solution?";
-constexpr const char* aboutRelation = "Check how amount, concentration and volume are related.";
-constexpr const char* isAmount = "That is an amount. One step is left.";
-constexpr const char* isAmountOfKnown = "That is the amount of the known. Use the equation next.";
-
 struct Mistake {
     Ratio answer; // with the right ratio
-    const char* sentence;
+    Sentence sentence;
 };
 
 // Those that are made with the ratio left out too, the commoner ones first.
@@ -32,14 +22,14 @@ std::vector<Mistake> mistakesOf(const Titration& drawn)
     const auto [known, unknown] = volumesOf(drawn);
     const Ratio amount = answer * unknown;
     std::vector<Mistake> mistakes = {
-        {amount / known * unknown / known, aboutVolumes},
-        {amount / known, aboutVolumes},
-        {amount / (known + unknown), "Use the volume of the unknown solution alone."},
-        {amount * unknown, aboutRelation},
+        {amount / known * unknown / known, Sentence::slipVolumesExchanged},
+        {amount / known, Sentence::slipVolumesExchanged},
+        {amount / (known + unknown), Sentence::slipBothVolumes},
+        {amount * unknown, Sentence::slipRelation},
     };
     if (!drawn.titres.empty()) {
-        mistakes.push_back({answerFor(drawn, meanWithRoughTitre(drawn)),
-                            "Leave the rough titre out of the mean."});
+        mistakes.push_back(
+            {answerFor(drawn, meanWithRoughTitre(drawn)), Sentence::slipRoughTitreInMean});
     }
     return mistakes;
 }
@@ -49,11 +39,11 @@ void addRatioSlips(Exercise& exercise, const Titration& drawn)
 {
     const Ratio answer = drawn.answer;
     const Ratio moles = ratioOf(drawn);
-    addSlip(exercise, answer / moles, aboutRatio);
-    addSlip(exercise, answer / moles / moles, aboutRatio);
+    addSlip(exercise, answer / moles, Sentence::slipRatio);
+    addSlip(exercise, answer / moles / moles, Sentence::slipRatio);
     if (moles == ratio(1) && protonsOf(rowOf(drawn.pair->acid)) > 1) {
-        addSlip(exercise, answer * ratio(2), aboutRatio);
-        addSlip(exercise, answer / ratio(2), aboutRatio);
+        addSlip(exercise, answer * ratio(2), Sentence::slipRatio);
+        addSlip(exercise, answer / ratio(2), Sentence::slipRatio);
     }
 }
 
@@ -64,19 +54,17 @@ void addAmountSlips(Exercise& exercise, const Titration& drawn)
     const Ratio moles = ratioOf(drawn);
     for (const Ratio scale : {ratio(1), ratio(1000)}) {
         if (moles != ratio(1)) {
-            addSlip(exercise, ofKnown * scale, isAmountOfKnown);
+            addSlip(exercise, ofKnown * scale, Sentence::slipAmountOfKnown);
         }
-        addSlip(exercise, ofKnown * moles * scale, isAmount);
+        addSlip(exercise, ofKnown * moles * scale, Sentence::slipAmount);
     }
 }
 
 void addTitreSlips(Exercise& exercise, const Titration& drawn)
 {
     const Ratio count = ratio(static_cast<std::int64_t>(drawn.titres.size()) - 1);
-    addSlip(exercise, answerFor(drawn, roughTitre(drawn)),
-            "The rough titre is only a first guess.");
-    addSlip(exercise, answerFor(drawn, drawn.fromBurette * count),
-            "Divide the sum of the titres by how many they are.");
+    addSlip(exercise, answerFor(drawn, roughTitre(drawn)), Sentence::slipRoughTitre);
+    addSlip(exercise, answerFor(drawn, drawn.fromBurette * count), Sentence::slipSumOfTitres);
 }
 
 // The ratio left out, and something else. Of a volume in millilitres marks tell only where all else
@@ -86,10 +74,10 @@ void addSlipsOfTwoMistakes(Exercise& exercise, const Titration& drawn)
     const Ratio moles = ratioOf(drawn);
     const Ratio withoutRatio = drawn.answer / moles;
     for (const Mistake& mistake : mistakesOf(drawn)) {
-        addSlip(exercise, mistake.answer / moles, aboutRatioFirst);
+        addSlip(exercise, mistake.answer / moles, Sentence::slipRatioFirst);
     }
-    addSlip(exercise, withoutRatio * ratio(1000), aboutRatioFirst);
-    addSlip(exercise, withoutRatio / ratio(1000), aboutRatioFirst);
+    addSlip(exercise, withoutRatio * ratio(1000), Sentence::slipRatioFirst);
+    addSlip(exercise, withoutRatio / ratio(1000), Sentence::slipRatioFirst);
 }
 
 } // namespace
@@ -106,8 +94,8 @@ void addTitrationSlips(Exercise& exercise, const Titration& drawn)
     }
     const auto [known, unknown] = volumesOf(drawn);
     const Ratio moles = ratioOf(drawn);
-    addSlip(exercise, drawn.concentration * moles / known / unknown, aboutRelation);
-    addSlip(exercise, ratio(1) / drawn.answer, aboutRelation);
+    addSlip(exercise, drawn.concentration * moles / known / unknown, Sentence::slipRelation);
+    addSlip(exercise, ratio(1) / drawn.answer, Sentence::slipRelation);
     if (moles != ratio(1)) {
         addSlipsOfTwoMistakes(exercise, drawn);
     }

@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "lesson/kinds/shared/quantities.hpp"
-#include "lesson/kinds/shared/salts.hpp"
 #include "lesson/kinds/titration.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -13,32 +13,33 @@ namespace
 {
 
 // Ammonia rather than ammonia solution, where moles of it are told.
-Span soluteOf(const SoluteRow& solution)
+Name soluteOf(const SoluteRow& solution)
 {
-    return solution.kind == SoluteKind::ammonia ? name("ammonia") : nameOf(solution);
+    return solution.kind == SoluteKind::ammonia ? nameOf(Molecule::ammonia) : solution.name;
 }
 
 // What an acid and such a base make.
-Spans productsOf(const Base& base)
+Span hintAtProducts(const Base& base)
 {
     switch (kindOf(base)) {
     case BaseKind::ammonia:
-        return line("An acid and ammonia make an ammonium salt and nothing else.");
+        return say<Sentence::hintTitrationAmmonia>();
     case BaseKind::hydroxide:
-        return line("An acid and a hydroxide make a salt and water.");
+        return say<Sentence::hintTitrationHydroxide>();
     case BaseKind::oxide:
-        return line("An acid and an oxide make a salt and water.");
+        return say<Sentence::hintTitrationOxide>();
     case BaseKind::carbonate:
     case BaseKind::hydrogencarbonate:
         break;
     }
-    return line("An acid and a ", nameOf(*base.anion), " make a salt, water and carbon dioxide.");
+    return say<Sentence::hintTitrationCarbonate>(nameOf(*base.anion));
 }
 
 Step equationStep(const Titration& drawn, const Equation& equation)
 {
-    return {line("Write the balanced equation."), spansOf(equation),
-            line(productsOf(baseOf(*drawn.pair)), " How many of each does it take?")};
+    return {{say<Sentence::titrationWriteEquation>()},
+            spansOf(equation),
+            {hintAtProducts(baseOf(*drawn.pair))}};
 }
 
 Step meanStep(const Titration& drawn, const SoluteRow& inBurette)
@@ -51,10 +52,10 @@ Step meanStep(const Titration& drawn, const SoluteRow& inBurette)
         append(sum, number(plainText({*titre, -2})));
     }
     const Span count = number(std::to_string(drawn.titres.size() - 1));
-    return {line("Take the mean, without the rough titre."),
+    return {{say<Sentence::titrationMean>()},
             line(quantity("V", inBurette.formula), " = ", fraction(sum, {count}), " = ",
                  between(drawn.fromBurette * ratio(1000)), unit("mL")),
-            line("Which titres agree within ", measure("0.10", "mL"), "? Only these count.")};
+            {say<Sentence::hintTitrationMean>()}};
 }
 
 // Titres have four figures, pipettes three.
@@ -72,9 +73,9 @@ Step conversionStep(const Titration& drawn, const Solutions& solutions)
 {
     const Spans flask = conversionOf(*solutions.inFlask, drawn.inFlask, figuresOfPipette);
     const Spans burette = conversionOf(*solutions.inBurette, drawn.fromBurette, figuresOfTitre);
-    return {line("Convert both volumes to litres."), line(flask, ", ", burette),
-            line("A concentration in ", unit("mol/L"),
-                 " goes with a volume in litres. One litre is ", measure("1000", "mL"), ".")};
+    return {{say<Sentence::titrationVolumes>()},
+            line(flask, ", ", burette),
+            {say<Sentence::hintTitrationVolumes>()}};
 }
 
 Span shownInLitres(const Titration& drawn, bool isFromBurette)
@@ -85,13 +86,12 @@ Span shownInLitres(const Titration& drawn, bool isFromBurette)
 
 Step amountStep(const Titration& drawn, const SoluteRow& known)
 {
-    return {line("Amount of ", soluteOf(known), ", whose concentration is known."),
+    return {{say<Sentence::titrationAmount>(soluteOf(known))},
             line(quantity("n", known.formula), " = ", quantity("c"), quantity("V"), " = ",
                  number(shown(drawn.concentration, askedFigures)), " × ",
                  shownInLitres(drawn, isKnownInBurette(drawn)), " = ",
                  between(drawn.concentration * volumesOf(drawn).known), unit("mol")),
-            line("Of which solution do you know both concentration and volume? Use ", quantity("n"),
-                 " = ", quantity("c"), quantity("V"), ".")};
+            {say<Sentence::hintTitrationAmount>()}};
 }
 
 // n, ½ n or 2 n, as many as the ratio tells.
@@ -107,38 +107,34 @@ Spans timesRatio(Ratio moles, const Span& amount)
 }
 
 // Two moles of hydrochloric acid react with one mole of sodium carbonate.
-Spans reactionSentence(Ratio unknownForOneKnown, const Solutions& solutions)
+Span reactionSentence(Ratio unknownForOneKnown, const Solutions& solutions)
 {
-    const bool isOneOfKnown = unknownForOneKnown.denominator == 1;
-    const bool isOneOfUnknown = unknownForOneKnown.numerator == 1;
-    return line(isOneOfKnown ? "One mole of " : "Two moles of ", soluteOf(*solutions.known),
-                isOneOfKnown ? " reacts with " : " react with ",
-                isOneOfUnknown ? "one mole of " : "two moles of ", soluteOf(*solutions.unknown),
-                ".");
+    const Sentence sentence = unknownForOneKnown == ratio(1)   ? Sentence::titrationOneToOne
+                              : unknownForOneKnown == ratio(2) ? Sentence::titrationOneToTwo
+                                                               : Sentence::titrationTwoToOne;
+    return say(sentence, soluteOf(*solutions.known), soluteOf(*solutions.unknown));
 }
 
 Step ratioStep(const Titration& drawn, const Solutions& solutions)
 {
     const Ratio moles = ratioOf(drawn);
     const Ratio amount = drawn.answer * volumesOf(drawn).unknown;
-    return {reactionSentence(moles, solutions),
+    return {{reactionSentence(moles, solutions)},
             line(quantity("n", solutions.unknown->formula), " = ",
                  timesRatio(moles, quantity("n", solutions.known->formula)), " = ", between(amount),
                  unit("mol")),
-            line("The numbers in front of the formulas in the equation tell how many moles react "
-                 "with how many.")};
+            {say<Sentence::hintTitrationRatio>()}};
 }
 
 Step divisionStep(const Titration& drawn, const SoluteRow& unknown, const Spans& key)
 {
     const Ratio amount = drawn.answer * volumesOf(drawn).unknown;
-    return {line("Divide the amount of ", soluteOf(unknown), " by the volume of its own solution."),
-            line(quantity("c", unknown.formula), " = ", fraction({quantity("n")}, {quantity("V")}),
-                 " = ",
+    const Span quotient = fraction({quantity("n")}, {quantity("V")});
+    return {{say<Sentence::titrationDivide>(soluteOf(unknown))},
+            line(quantity("c", unknown.formula), " = ", quotient, " = ",
                  fraction({between(amount)}, {shownInLitres(drawn, !isKnownInBurette(drawn))}),
                  " = ", key),
-            line("Amount and volume have to be of one and the same solution. Use ", quantity("c"),
-                 " = ", fraction({quantity("n")}, {quantity("V")}), ".")};
+            {say<Sentence::hintTitrationDivide>(line(quantity("c"), " = ", quotient))}};
 }
 
 } // namespace

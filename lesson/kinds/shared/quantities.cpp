@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "lesson/chemistry/composition.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -62,10 +63,10 @@ Spans told(const GivenQuantity& given)
     return measure(given.shown, given.shownUnit);
 }
 
-Spans solutionOf(const SoluteRow& solute)
+Span solutionOf(const SoluteRow& solute)
 {
-    return solute.weighed == Weighed::comesDissolved ? line(solute.name)
-                                                     : line(solute.name, " solution");
+    return solute.weighed == Weighed::comesDissolved ? name(solute.name)
+                                                     : say<Sentence::solutionOfSolute>(solute.name);
 }
 
 GivenCompound givenCompound(const SoluteRow& solute)
@@ -91,6 +92,11 @@ Exercise numberExercise(const Place& place, Ask ask, NumberAnswer answer)
     exercise.ask = std::move(ask);
     exercise.answer = std::move(answer);
     return exercise;
+}
+
+void addSlip(Exercise& exercise, Ratio value, Sentence sentence)
+{
+    addSlip(exercise, value, line(say(sentence)));
 }
 
 Span between(Ratio value)

@@ -36,7 +36,7 @@ GivenQuantity untold(GivenQuantity given);
 Spans told(const GivenQuantity& given);
 
 // A solution of a substance: "sodium chloride solution", "ammonia solution", "hydrochloric acid".
-Spans solutionOf(const SoluteRow& solute);
+Span solutionOf(const SoluteRow& solute);
 GivenCompound givenCompound(const SoluteRow& solute);
 
 // Litres from whole millilitres, and mol/L from whole tenths of a millimole per litre: the last
@@ -49,6 +49,9 @@ std::string inMillilitres(Ratio litres);
 
 // An exercise that asks for a number; prompt, given, solution and slips are still to be written.
 Exercise numberExercise(const Place& place, Ask ask, NumberAnswer answer);
+
+// The slip of a number, as marking/number.hpp has it, with a sentence that takes no arguments.
+void addSlip(Exercise& exercise, Ratio value, Sentence sentence);
 
 // A value that a solution goes on with: one figure more than answers of three figures have.
 Span between(Ratio value);
