@@ -215,7 +215,7 @@ std::vector<Step> workedSolution(const Mixture& mixture)
             {line(say<Sentence::solubilityPrecipitate>()), line(formula(formulaOf(first))), hint});
     } else {
         steps.push_back({line(say<Sentence::solubilityNoPrecipitate>()),
-                         line(say<Sentence::solubilityNone>()), hint});
+                         line(say<Sentence::answerNone>()), hint});
     }
     return steps;
 }

@@ -150,7 +150,6 @@ constexpr Word<Sentence> britishSentences[] = {
     {Sentence::solubilityPartners,           "Exchange the partners: these are the new pairs."},
     {Sentence::solubilityPrecipitate,        "So this is the precipitate."},
     {Sentence::solubilityNoPrecipitate,      "Both are soluble, so there is no precipitate."},
-    {Sentence::solubilityNone,               "none"},
     {Sentence::hintSolubilityIons,           "Each compound here is made of two ions. The negative one tells which rule holds."},
     {Sentence::hintSolubilityRule,           "What is the rule for {compounds}? Does it name {cation}?"},
     {Sentence::hintSolubilityIonsTogether,   "Each salt falls apart into its ions in water. Which four are in the mixture?"},

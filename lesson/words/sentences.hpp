@@ -147,7 +147,6 @@ enum class Sentence : std::uint16_t {
     solubilityPartners,
     solubilityPrecipitate,
     solubilityNoPrecipitate,
-    solubilityNone,
     hintSolubilityIons,
     hintSolubilityRule,
     hintSolubilityIonsTogether,

@@ -11,7 +11,7 @@
 
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/marking/number.hpp"
-#include "lesson/words/spans.hpp"
+#include "lesson/words/render.hpp"
 
 // What the tests of the calculations share: exercises as a learner reads them, and as he works them
 // out, on a calculator in floating point, with roundings on the way.
@@ -27,12 +27,12 @@ void forExercises(const Kind* kind, int level, unsigned count, Check check)
     }
 }
 
-// A line in plain text: a blank before a unit, a fraction with a slash.
+// A line in plain text, in British English: a blank before a unit, a fraction with a slash.
 //   c = n/V = 0.08556/0.250 = 0.342 mol/L
 inline std::string textOf(const Spans& line)
 {
     std::string text;
-    for (const Span& span : line) {
+    for (const Span& span : rendered(line, Writing())) {
         switch (span.kind) {
         case Span::Kind::unit:
             text += text.empty() || text.back() == ' ' ? "" : " ";
@@ -68,9 +68,9 @@ inline std::string pageOf(const Exercise& exercise)
     for (const Step& step : exercise.solution) {
         page += "  " + textOf(step.say) + " | " + textOf(step.math) + "\n";
     }
-    page += "= " + exercise.key + "\n";
+    page += "= " + textOf(exercise.key) + "\n";
     for (const Slip& slip : exercise.slips) {
-        page += "! " + slip.text + "  " + slip.sentence + "\n";
+        page += "! " + slip.text + "  " + textOf(slip.sentence) + "\n";
     }
     return page;
 }
