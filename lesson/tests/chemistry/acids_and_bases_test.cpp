@@ -10,6 +10,7 @@
 
 #include "lesson/chemistry/neutralisation.hpp"
 #include "lesson/chemistry/pairs_not_asked.hpp"
+#include "lesson/tests/support/plain.hpp"
 #include "support/atom_count.hpp"
 
 namespace lesson
@@ -30,7 +31,7 @@ std::vector<Base> everyBase()
     std::vector<Base> bases = {ammonia()};
     for (const IonRow* const cation : cations()) {
         for (const char* const anion : {"hydroxide", "oxide", "carbonate", "hydrogencarbonate"}) {
-            if (whyFormulaIsNotAsked({cation, findIon(anion)}).empty()) {
+            if (!whyFormulaIsNotAsked({cation, findIon(anion)})) {
                 bases.push_back({cation, findIon(anion)});
             }
         }
@@ -125,7 +126,7 @@ TEST(AcidsAndBasesTest, AcidsLoseTheirProtonsToBecomeTheirIons)
     for (const auto& row : rows) {
         const AcidRow* const acid = findAcid(row.acid);
         ASSERT_NE(acid, nullptr) << row.acid;
-        EXPECT_EQ(acid->name, row.name);
+        EXPECT_EQ(british(nameOf(*acid)), row.name);
         EXPECT_EQ(protonsOf(*acid), -row.charge) << row.acid;
         EXPECT_EQ(anionOf(*acid).formula, row.anion);
         EXPECT_EQ(anionOf(*acid).charge, row.charge) << row.acid;
@@ -174,23 +175,29 @@ TEST(AcidsAndBasesTest, OnlyFourAnionsMakeBases)
     EXPECT_EQ(formulas, "OH HCO3 O CO3 ");
 }
 
-TEST(AcidsAndBasesTest, NamesOfBasesAndSalts)
+TEST(AcidsAndBasesTest, NamesOfAcidsAndBasesInBothLanguages)
 {
-    const AcidRow& ethanoic = *findAcid("CH3COOH");
-    const AcidRow& ethanedioic = *findAcid("H2C2O4");
-    const Base soda = baseOf("sodium", "hydroxide");
-    EXPECT_EQ(ethanoic.american, "acetic acid");
-    EXPECT_EQ(saltName(ethanoic, soda), "sodium ethanoate");
-    EXPECT_EQ(americanSaltName(ethanoic, soda), "sodium acetate");
-    EXPECT_EQ(ethanedioic.american, "oxalic acid");
-    EXPECT_EQ(saltName(ethanedioic, soda), "sodium ethanedioate");
-    EXPECT_EQ(americanSaltName(ethanedioic, soda), "sodium oxalate");
-    EXPECT_EQ(americanSaltName(*findAcid("HCl"), soda), "");
-    EXPECT_EQ(nameOf(soda), "sodium hydroxide");
-    EXPECT_EQ(americanNameOf(soda), "");
-    EXPECT_EQ(nameOf(ammonia()), "ammonia solution");
-    EXPECT_EQ(saltName(*findAcid("H2SO4"), ammonia()), "ammonium sulfate");
-    EXPECT_EQ(americanNameOf(baseOf("aluminium", "oxide")), "aluminum oxide");
+    const struct {
+        Name name;
+        const char* british;
+        const char* american;
+    } rows[] = {
+        {nameOf(*findAcid("HCl")), "hydrochloric acid", "hydrochloric acid"},
+        {nameOf(*findAcid("CH3COOH")), "ethanoic acid", "acetic acid"},
+        {nameOf(*findAcid("H2C2O4")), "ethanedioic acid", "oxalic acid"},
+        {nameOf(*findAcid("H2C2O4"), 2), "ethanedioic acid dihydrate", "oxalic acid dihydrate"},
+        {nameOf(baseOf("sodium", "hydroxide")), "sodium hydroxide", "sodium hydroxide"},
+        {nameOf(baseOf("aluminium", "oxide")), "aluminium oxide", "aluminum oxide"},
+        {nameOf(ammonia()), "ammonia solution", "ammonia solution"},
+        {nameOf(rowOf(Ion::sodium), anionOf(*findAcid("CH3COOH"))), "sodium ethanoate",
+         "sodium acetate"},
+        {nameOf(rowOf(Ion::sodium), anionOf(*findAcid("H2C2O4"))), "sodium ethanedioate",
+         "sodium oxalate"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(british(row.name), row.british);
+        EXPECT_EQ(american(row.name), row.american);
+    }
 }
 
 TEST(AcidsAndBasesTest, AnEquationIsTypesetAsItIsTyped)

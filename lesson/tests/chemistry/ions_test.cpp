@@ -6,6 +6,7 @@
 #include <string>
 
 #include "lesson/chemistry/compounds.hpp"
+#include "lesson/tests/support/plain.hpp"
 
 namespace lesson
 {
@@ -112,9 +113,11 @@ TEST(LessonIonsTest, EveryCompoundIsNeutralInLowestTerms)
             const int positive = cationsIn(*cation, *anion);
             const int negative = anionsIn(*cation, *anion);
             EXPECT_EQ(positive * cation->charge + negative * anion->charge, 0)
-                << compoundName(*cation, *anion);
-            EXPECT_TRUE(positive == 1 || negative % positive != 0) << compoundName(*cation, *anion);
-            EXPECT_TRUE(negative == 1 || positive % negative != 0) << compoundName(*cation, *anion);
+                << british(nameOf(*cation, *anion));
+            EXPECT_TRUE(positive == 1 || negative % positive != 0)
+                << british(nameOf(*cation, *anion));
+            EXPECT_TRUE(negative == 1 || positive % negative != 0)
+                << british(nameOf(*cation, *anion));
         }
     }
 }
@@ -136,9 +139,12 @@ TEST(LessonIonsTest, ChargesOfFourAreCancelledToo)
 
 TEST(LessonIonsTest, AmericanNamesStandWhereTheyDiffer)
 {
-    EXPECT_EQ(americanName(*findIon("aluminium"), *findIon("sulfate")), "aluminum sulfate");
-    EXPECT_EQ(americanName(*findIon("lead(II)"), *findIon("ethanoate")), "lead(II) acetate");
-    EXPECT_EQ(americanName(*findIon("sodium"), *findIon("sulfate")), "");
+    const auto americanName = [](const char* cation, const char* anion) {
+        return american(nameOf(*findIon(cation), *findIon(anion)));
+    };
+    EXPECT_EQ(americanName("aluminium", "sulfate"), "aluminum sulfate");
+    EXPECT_EQ(americanName("lead(II)", "ethanoate"), "lead(II) acetate");
+    EXPECT_EQ(americanName("sodium", "sulfate"), "sodium sulfate");
 }
 
 // That of a cation is its charge; of manganate it is what its oxygens and its charge leave.

@@ -24,7 +24,7 @@ Exercise exerciseAbout(const std::string& compound)
 {
     for (const int level : {1, 2, 3}) {
         for (const Exercise& exercise : wholePool(level)) {
-            if (exercise.key == compound) {
+            if (plain(exercise.key) == compound) {
                 return exercise;
             }
         }
@@ -140,8 +140,8 @@ TEST(CompoundFormulaExerciseTest, APageOfEachLevel)
 TEST(CompoundFormulaExerciseTest, AmericanNamesAreTold)
 {
     const Exercise exercise = exerciseAbout("Ca(CH3COO)2");
-    EXPECT_EQ(exercise.prompt[1].detail, "calcium acetate");
-    EXPECT_EQ(exercise.solution[0].say[0].detail, "Calcium acetate");
+    EXPECT_EQ(plainAmerican(exercise.prompt), "Write the formula of calcium acetate.");
+    EXPECT_EQ(plainAmerican(exercise.solution[0].say), "Calcium acetate has these ions.");
 }
 
 // Sodium is written S, and potassium P; ammonium NH3.

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <set>
 #include <string>
 
 #include "lesson/chemistry/solubility.hpp"
@@ -12,19 +13,28 @@ namespace lesson
 namespace
 {
 
+// The rules that are learnt as one.
+std::string familyOf(const IonRow& anion)
+{
+    const std::string name = british(nameOf(anion));
+    return name == "bromide" || name == "iodide" ? "chloride"
+           : name == "phosphate"                 ? "carbonate"
+                                                 : name;
+}
+
 TEST(SolubilityExerciseTest, FamiliesOfRulesAreDrawnEquallyOften)
 {
     std::map<std::string, int> soluble;
     std::map<std::string, int> precipitates;
     for (unsigned paper = 1; paper <= 4000; ++paper) {
         const Exercise one = makeExercise({paper, 1, &solubilityKind, 1});
-        if (one.key == "yes") {
-            ++soluble[std::string(ruleFor(givenIon(one, 1))->family)];
+        if (plain(one.key) == "yes") {
+            ++soluble[familyOf(givenIon(one, 1))];
         }
         const Exercise three = makeExercise({paper, 1, &solubilityKind, 3});
-        if (three.key != "none") {
+        if (plain(three.key) != "none") {
             const auto& answer = std::get<PrecipitateAnswer>(three.answer);
-            ++precipitates[std::string(ruleFor(*answer.anion)->family)];
+            ++precipitates[familyOf(*answer.anion)];
         }
     }
     expectEqualShares(soluble, 5);
@@ -62,7 +72,8 @@ TEST(SolubilityExerciseTest, TheMarkQuotesTheRuleOfTheSolution)
 {
     for (const Exercise& exercise : saltExercises(12, &solubilityKind, 2, 153)) {
         const std::string rule = textOf(exercise.solution.back().say);
-        EXPECT_EQ(markTyped(exercise, exercise.key).sentence, "Correct. " + rule);
+        const Mark mark = markTyped(exercise, plain(exercise.key));
+        EXPECT_EQ(plain(mark.sentence), "Correct. " + rule);
     }
 }
 
@@ -125,16 +136,13 @@ TEST(SolubilityExerciseTest, APageOfMixedSolutions)
 
 TEST(SolubilityExerciseTest, AmericanNamesStandInTheRules)
 {
+    std::set<std::string> rules;
     for (const Exercise& exercise : saltExercises(12, &solubilityKind, 1, 134)) {
-        if (givenIon(exercise, 1).name == "ethanoate") {
-            const Span& first = exercise.solution.back().say.front();
-            EXPECT_EQ(first.text, "Ethanoate");
-            EXPECT_EQ(first.detail, "Acetate");
-        }
-        if (givenIon(exercise, 1).name == "hydrogencarbonate") {
-            EXPECT_EQ(exercise.solution.back().say.at(1).detail, "hydrogen carbonate");
-        }
+        rules.insert(plainAmerican(exercise.solution.back().say));
     }
+    EXPECT_EQ(rules.count("Acetates are soluble."), 1U);
+    EXPECT_EQ(rules.count("The hydrogen carbonates of sodium, potassium and ammonium are soluble."),
+              1U);
 }
 
 } // namespace

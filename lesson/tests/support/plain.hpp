@@ -8,7 +8,7 @@
 #include "lesson/words/language.hpp"
 #include "lesson/words/render.hpp"
 
-// Lines and names as plain text, in British English.
+// Lines and names as plain text, in British English unless they say American.
 namespace lesson
 {
 
@@ -17,9 +17,21 @@ inline std::string plain(const Spans& line)
     return plainText(line, Writing());
 }
 
+inline std::string plainAmerican(const Spans& line)
+{
+    Writing writing;
+    writing.language = &americanEnglish();
+    return plainText(line, writing);
+}
+
 inline std::string british(const Name& name)
 {
     return nameIn(britishEnglish(), name);
+}
+
+inline std::string american(const Name& name)
+{
+    return nameIn(americanEnglish(), name);
 }
 
 // The ion of a name, "copper(II)", "sulfate"; null where there is none.

@@ -9,6 +9,7 @@
 #include "lesson/marking/ion.hpp"
 #include "lesson/marking/solubility.hpp"
 #include "lesson/tests/support/calculation.hpp"
+#include "lesson/tests/support/plain.hpp"
 
 // What the tests of formulas, ions and solubility share.
 namespace lesson
@@ -48,7 +49,7 @@ struct MarkTyped {
     template <typename Other>
     Mark operator()(const Other& /*answer*/) const
     {
-        return {Verdict::unreadable, "no exercise of these kinds"};
+        return {Verdict::unreadable, line("no exercise of these kinds")};
     }
 };
 
