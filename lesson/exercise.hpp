@@ -37,7 +37,7 @@ struct Ask {
 };
 
 // What a volume is in a titration: what runs out of the burette, or what is pipetted.
-enum class Role {
+enum class VolumeRole {
     none,
     titre,
     aliquot,
@@ -52,7 +52,7 @@ struct GivenQuantity {
     std::string shown;            // as the prompt shows it; empty where it does not
     std::string shownUnit;        // "mL"; empty with `shown`
     std::vector<int> titres = {}; // in hundredths of a millilitre, the rough one first
-    Role role = Role::none;
+    VolumeRole role = VolumeRole::none;
 };
 struct GivenIon {
     const IonRow* ion;

@@ -54,14 +54,14 @@ std::string_view nameOf(Verdict verdict)
 }
 
 // Empty where there is none.
-std::string_view nameOf(Role role)
+std::string_view nameOf(VolumeRole role)
 {
     switch (role) {
-    case Role::none:
+    case VolumeRole::none:
         break;
-    case Role::titre:
+    case VolumeRole::titre:
         return "titre";
-    case Role::aliquot:
+    case VolumeRole::aliquot:
         return "aliquot";
     }
     return "";
@@ -98,7 +98,7 @@ void addMembers(Json& json, const GivenQuantity& given, const Writing& writing)
             json.number(plainText({hundredths, -2}));
         });
     }
-    if (given.role != Role::none) {
+    if (given.role != VolumeRole::none) {
         json.member("role", nameOf(given.role));
     }
 }

@@ -42,14 +42,14 @@ GivenQuantity givenBurette(const Titration& drawn, std::string_view of)
 {
     GivenQuantity given = givenTitre(of, drawn.fromBurette);
     given.titres = drawn.titres;
-    given.role = Role::titre;
+    given.role = VolumeRole::titre;
     return drawn.titres.empty() ? given : untold(given);
 }
 
 GivenQuantity givenFlask(const Titration& drawn, std::string_view of)
 {
     GivenQuantity given = givenVolume("V", of, drawn.inFlask);
-    given.role = Role::aliquot;
+    given.role = VolumeRole::aliquot;
     return given;
 }
 

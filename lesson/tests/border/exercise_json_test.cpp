@@ -21,11 +21,13 @@ Exercise titration()
     exercise.description = "titration;titre=21.70";
     exercise.prompt = line("Titrated with ", measure("0.105", "mol/L"), " ", formula("HCl"), ".");
     exercise.ask = {Form::number, "c", "Na2CO3", "mol/L", 3, {}};
+    GivenQuantity titre = {"V", "HCl", ratio(217, 10000), "L", "21.70", "mL"};
+    titre.titres = {2210, 2170, 2175};
+    titre.role = VolumeRole::titre;
     exercise.given = {
         GivenQuantity{"c", "HCl", ratio(105, 1000), "mol/L", "0.105", "mol/L"},
-        GivenQuantity{
-            "V", "HCl", ratio(217, 10000), "L", "21.70", "mL", {2210, 2170, 2175}, Role::titre},
-        GivenQuantity{"V", "Na2CO3", ratio(25, 1000), "L", "25.0", "mL", {}, Role::aliquot},
+        titre,
+        GivenQuantity{"V", "Na2CO3", ratio(25, 1000), "L", "25.0", "mL", {}, VolumeRole::aliquot},
         GivenQuantity{"M", "HCl", ratio(36458, 1000), "g/mol", "", ""},
     };
     exercise.equation =
