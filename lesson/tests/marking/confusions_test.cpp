@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "lesson/tests/support/plain.hpp"
+
 namespace lesson
 {
 
@@ -50,7 +52,7 @@ TEST(ConfusionsTest, AnIonOfTheTablesHasItsChargeThere)
                     return known->formula == other->formula;
                 });
             EXPECT_EQ(findIon(other->formula, other->charge) != nullptr, isInTables)
-                << other->formula << " for " << nameInFull(*ion);
+                << other->formula << " for " << british(nameOf(*ion));
         }
     }
 }
@@ -62,8 +64,8 @@ TEST(ConfusionsTest, MetalsOfSeveralChargesAreThoseWithNumerals)
         for (int charge = 1; charge <= 7; ++charge) {
             hasOther = hasOther || hasOtherCharge(*cation, charge);
         }
-        EXPECT_EQ(hasOther, hasRomanNumeral(*cation)) << nameInFull(*cation);
-        EXPECT_FALSE(hasOtherCharge(*cation, cation->charge)) << nameInFull(*cation);
+        EXPECT_EQ(hasOther, hasRomanNumeral(*cation)) << british(nameOf(*cation));
+        EXPECT_FALSE(hasOtherCharge(*cation, cation->charge)) << british(nameOf(*cation));
     }
 }
 

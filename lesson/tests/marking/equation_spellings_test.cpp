@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "lesson/chemistry/neutralisation.hpp"
+#include "lesson/tests/support/plain.hpp"
 
 namespace lesson
 {
@@ -130,7 +131,7 @@ TEST(EquationSpellingsTest, EverySpellingOfEverySubstanceIsRight)
             const EquationAnswer answer = {findAcid(acid), base};
             forEverySpelling(answer, [&answer](const std::string& typed) {
                 const Mark mark = markEquation(answer, typed);
-                EXPECT_EQ(mark.verdict, Verdict::correct) << typed << ": " << mark.sentence;
+                EXPECT_EQ(mark.verdict, Verdict::correct) << typed << ": " << plain(mark.sentence);
             });
         }
     }
@@ -155,7 +156,7 @@ TEST(EquationSpellingsTest, SpellingsOfSalts)
         const EquationAnswer answer = {findAcid(row.acid),
                                        {findIon(row.cation), findIon(row.anion)}};
         const Mark mark = markEquation(answer, row.typed);
-        EXPECT_EQ(mark.verdict, Verdict::correct) << row.typed << ": " << mark.sentence;
+        EXPECT_EQ(mark.verdict, Verdict::correct) << row.typed << ": " << plain(mark.sentence);
     }
 }
 
@@ -206,7 +207,7 @@ TEST(EquationSpellingsTest, TheRightAtomsInDisorder)
         const std::string typed = std::string(row.before) + row.formula + row.behind;
         const Mark mark = markEquation(row.answer, typed);
         EXPECT_EQ(mark.verdict, Verdict::slip) << typed;
-        EXPECT_EQ(mark.sentence, std::string(row.formula) + row.sentence) << typed;
+        EXPECT_EQ(plain(mark.sentence), std::string(row.formula) + row.sentence) << typed;
     }
 }
 

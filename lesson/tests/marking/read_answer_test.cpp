@@ -8,6 +8,7 @@
 
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/reading/typed_spans.hpp"
+#include "lesson/tests/support/plain.hpp"
 
 namespace lesson
 {
@@ -223,7 +224,7 @@ TEST(ReadAnswerTest, OfAPrecipitate)
 {
     const Exercise exercise = withAnswer(
         {Form::formula, "", "", "", 0, {}},
-        PrecipitateAnswer{findIon("silver"), findIon("chloride"), "Chlorides are soluble."});
+        PrecipitateAnswer{findIon("silver"), findIon("chloride"), line("Chlorides are soluble.")});
     // clang-format off
     const ReadCase cases[] = {
         {"AgCl(s)", "AgCl '(s)'"},

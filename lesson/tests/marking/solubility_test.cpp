@@ -4,14 +4,16 @@
 
 #include <string>
 
+#include "lesson/tests/support/plain.hpp"
+
 namespace lesson
 {
 
 namespace
 {
 
-const SolubilityAnswer dissolves = {true, "All nitrates are soluble."};
-const SolubilityAnswer doesNot = {false, "Carbonates are insoluble."};
+const SolubilityAnswer dissolves = {true, line("All nitrates are soluble.")};
+const SolubilityAnswer doesNot = {false, line("Carbonates are insoluble.")};
 
 TEST(SolubilityMarkTest, YesAndNoInTheirUsualWords)
 {
@@ -59,9 +61,10 @@ TEST(SolubilityMarkTest, YesAndNoInTheirUsualWords)
                                   "they're soluble",
                                   "soluble since carbonates are insoluble but this one is not"}) {
         EXPECT_EQ(markSolubility(dissolves, yes).verdict, Verdict::correct) << yes;
-        EXPECT_EQ(markSolubility(dissolves, yes).sentence, "Correct. All nitrates are soluble.");
+        EXPECT_EQ(plain(markSolubility(dissolves, yes).sentence),
+                  "Correct. All nitrates are soluble.");
         EXPECT_EQ(markSolubility(doesNot, yes).verdict, Verdict::wrong) << yes;
-        EXPECT_EQ(markSolubility(doesNot, yes).sentence,
+        EXPECT_EQ(plain(markSolubility(doesNot, yes).sentence),
                   "Not right yet. Carbonates are insoluble.");
     }
     for (const char* const no : {"n",
@@ -117,16 +120,17 @@ TEST(SolubilityMarkTest, YesAndNoInTheirUsualWords)
                                  "no - all carbonates are insoluble",
                                  "no, it does not dissolve, it is insoluble"}) {
         EXPECT_EQ(markSolubility(doesNot, no).verdict, Verdict::correct) << no;
-        EXPECT_EQ(markSolubility(doesNot, no).sentence, "Correct. Carbonates are insoluble.");
+        EXPECT_EQ(plain(markSolubility(doesNot, no).sentence),
+                  "Correct. Carbonates are insoluble.");
         EXPECT_EQ(markSolubility(dissolves, no).verdict, Verdict::wrong) << no;
     }
 }
 
 TEST(SolubilityMarkTest, OtherWordsAreAskedBack)
 {
-    EXPECT_EQ(markSolubility(dissolves, "").sentence, "Choose yes or no.");
-    EXPECT_EQ(markSolubility(dissolves, " . ").sentence, "Choose yes or no.");
-    EXPECT_EQ(markSolubility(dissolves, "maybe").sentence,
+    EXPECT_EQ(plain(markSolubility(dissolves, "").sentence), "Choose yes or no.");
+    EXPECT_EQ(plain(markSolubility(dissolves, " . ").sentence), "Choose yes or no.");
+    EXPECT_EQ(plain(markSolubility(dissolves, "maybe").sentence),
               "I can't read this part: 'maybe'. Choose yes or no.");
     for (const std::string& typed : {std::string("yesno"),
                                      std::string("not sure"),
@@ -166,12 +170,12 @@ TEST(SolubilityMarkTest, OtherWordsAreAskedBack)
 
 PrecipitateAnswer leadIodide()
 {
-    return {findIon("lead(II)"), findIon("iodide"), "Iodides are soluble, except some."};
+    return {findIon("lead(II)"), findIon("iodide"), line("Iodides are soluble, except some.")};
 }
 
-const PrecipitateAnswer nothing = {nullptr, nullptr, "All nitrates are soluble."};
+const PrecipitateAnswer nothing = {nullptr, nullptr, line("All nitrates are soluble.")};
 
-const std::vector<Slip> slips = {{"KNO3", std::nullopt, "That one stays in solution."}};
+const std::vector<Slip> slips = {{"KNO3", std::nullopt, line("That one stays in solution.")}};
 
 TEST(PrecipitateMarkTest, TheFormulaInItsSpellings)
 {
@@ -197,7 +201,7 @@ TEST(PrecipitateMarkTest, TheFormulaInItsSpellings)
                                     "PbI2 is the precipitate"}) {
         const Mark mark = markPrecipitate(leadIodide(), slips, typed);
         EXPECT_EQ(mark.verdict, Verdict::correct) << typed;
-        EXPECT_EQ(mark.sentence, "Correct. Iodides are soluble, except some.") << typed;
+        EXPECT_EQ(plain(mark.sentence), "Correct. Iodides are soluble, except some.") << typed;
     }
     struct Row {
         const char* typed;
@@ -266,7 +270,7 @@ TEST(PrecipitateMarkTest, TheFormulaInItsSpellings)
     for (const Row& row : rows) {
         const Mark mark = markPrecipitate(leadIodide(), slips, row.typed);
         EXPECT_EQ(mark.verdict, row.verdict) << row.typed;
-        EXPECT_EQ(mark.sentence, row.sentence) << row.typed;
+        EXPECT_EQ(plain(mark.sentence), row.sentence) << row.typed;
     }
 }
 
@@ -336,7 +340,7 @@ TEST(PrecipitateMarkTest, NoneInItsUsualWords)
                                     "nothing happens, both are soluble"}) {
         const Mark mark = markPrecipitate(nothing, slips, typed);
         EXPECT_EQ(mark.verdict, Verdict::correct) << typed;
-        EXPECT_EQ(mark.sentence, "Correct. All nitrates are soluble.") << typed;
+        EXPECT_EQ(plain(mark.sentence), "Correct. All nitrates are soluble.") << typed;
         EXPECT_EQ(markPrecipitate(leadIodide(), slips, typed).verdict, Verdict::wrong) << typed;
     }
 }
@@ -359,21 +363,21 @@ TEST(PrecipitateMarkTest, TheOppositeOfNoneIsAskedBack)
 // A sulfur at the end stays, whether in small letters or in brackets.
 TEST(PrecipitateMarkTest, SulfurIsNoState)
 {
-    const PrecipitateAnswer silver = {findIon("silver"), findIon("sulfide"), ""};
+    const PrecipitateAnswer silver = {findIon("silver"), findIon("sulfide"), {}};
     for (const char* const typed : {"Ag2S", "Ag2 S", "Ag2S s", "Ag2S (s)", "Ag2S(S)"}) {
         EXPECT_EQ(markPrecipitate(silver, {}, typed).verdict, Verdict::correct) << typed;
     }
-    EXPECT_EQ(markPrecipitate(silver, {}, "Ag2(S)").sentence,
+    EXPECT_EQ(plain(markPrecipitate(silver, {}, "Ag2(S)").sentence),
               "A bracket is needed only around a group of atoms that comes more than once.");
-    EXPECT_EQ(markPrecipitate(silver, {}, "ag2 s").sentence,
+    EXPECT_EQ(plain(markPrecipitate(silver, {}, "ag2 s").sentence),
               "Check the capitals: first letter large, second small.");
 }
 
 TEST(PrecipitateMarkTest, SulfateInBothSpellings)
 {
-    const PrecipitateAnswer barium = {findIon("barium"), findIon("sulfate"), ""};
+    const PrecipitateAnswer barium = {findIon("barium"), findIon("sulfate"), {}};
     for (const char* const typed : {"barium sulfate", "Barium Sulphate", "BARIUM SULPHATE (s)"}) {
-        EXPECT_EQ(markPrecipitate(barium, {}, typed).sentence,
+        EXPECT_EQ(plain(markPrecipitate(barium, {}, typed).sentence),
                   "That is its name. Type its formula.")
             << typed;
     }
@@ -388,7 +392,7 @@ TEST(PrecipitateMarkTest, NoneAndACompound)
           "none because Lead (II) sulphate"}) {
         const Mark mark = markPrecipitate(nothing, slips, typed);
         EXPECT_EQ(mark.verdict, Verdict::unreadable) << typed;
-        EXPECT_EQ(mark.sentence,
+        EXPECT_EQ(plain(mark.sentence),
                   "I can't read this part: '" + std::string(typed) + "'. Type a formula, or none.");
         EXPECT_EQ(markPrecipitate(leadIodide(), slips, typed).verdict, Verdict::unreadable);
     }
@@ -412,25 +416,27 @@ TEST(PrecipitateMarkTest, HostileTexts)
             text += piece;
         }
         for (const std::string& typed : {text, "none, " + text, text.substr(4)}) {
-            EXPECT_LT(markPrecipitate(leadIodide(), slips, typed).sentence.size(), 300U) << piece;
-            EXPECT_LT(markPrecipitate(nothing, slips, typed).sentence.size(), 300U) << piece;
+            EXPECT_LT(plain(markPrecipitate(leadIodide(), slips, typed).sentence).size(), 300U)
+                << piece;
+            EXPECT_LT(plain(markPrecipitate(nothing, slips, typed).sentence).size(), 300U) << piece;
         }
     }
 }
 
 TEST(PrecipitateMarkTest, AFormulaWhereThereIsNone)
 {
-    EXPECT_EQ(markPrecipitate(nothing, slips, "KNO₃").sentence, "That one stays in solution.");
+    EXPECT_EQ(plain(markPrecipitate(nothing, slips, "KNO₃").sentence),
+              "That one stays in solution.");
     EXPECT_EQ(markPrecipitate(nothing, slips, "AgCl").verdict, Verdict::wrong);
-    EXPECT_EQ(markPrecipitate(nothing, slips, "KNO3 (solid)").sentence,
+    EXPECT_EQ(plain(markPrecipitate(nothing, slips, "KNO3 (solid)").sentence),
               "That one stays in solution.");
     EXPECT_EQ(markPrecipitate(nothing, slips, "AgCl forms").verdict, Verdict::wrong);
-    EXPECT_EQ(markPrecipitate(nothing, slips, "silver chloride").sentence,
+    EXPECT_EQ(plain(markPrecipitate(nothing, slips, "silver chloride").sentence),
               "'silver chloride' is a name. Type a formula, or none.");
     EXPECT_EQ(markPrecipitate(nothing, slips, "").verdict, Verdict::unreadable);
-    EXPECT_EQ(markPrecipitate(nothing, slips, "CuCO3 + NH4Cl").sentence,
+    EXPECT_EQ(plain(markPrecipitate(nothing, slips, "CuCO3 + NH4Cl").sentence),
               "Type the formula of the precipitate alone, or none.");
-    EXPECT_EQ(markPrecipitate(nothing, slips, "?").sentence,
+    EXPECT_EQ(plain(markPrecipitate(nothing, slips, "?").sentence),
               "I can't read this part: '?'. Type a formula, or none.");
     EXPECT_EQ(markPrecipitate(nothing, slips, std::string(1000000, '[')).verdict,
               Verdict::unreadable);
