@@ -24,6 +24,12 @@ inline std::string plainAmerican(const Spans& line)
     return plainText(line, writing);
 }
 
+// The key as it is typed.
+inline std::string typedKey(const Exercise& exercise)
+{
+    return keyText(exercise, Writing());
+}
+
 inline std::string british(const Name& name)
 {
     return nameIn(britishEnglish(), name);
