@@ -43,7 +43,7 @@ std::vector<Line> linesOf(const Json& exercise)
         }
     }
     for (const Json& slip : exercise["slips"]) {
-        lines.push_back({slip["sentence"], true});
+        lines.push_back({textOf(slip["sentence"]), true});
     }
     return lines;
 }
