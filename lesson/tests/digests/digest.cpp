@@ -9,6 +9,7 @@
 #include "lesson/lesson.h"
 #include "lesson/paper/selection.hpp"
 #include "lesson/tests/support/reference.hpp"
+#include "lesson/words/render.hpp"
 
 namespace lesson
 {
@@ -54,7 +55,7 @@ private:
 std::vector<std::string> typedTexts(const Exercise& exercise)
 {
     std::vector<std::string> texts = {
-        exercise.key, "", "42", "Mg2O2", "SO4^2-", "no", "HCl + NaOH -> NaCl + H2O"};
+        keyText(exercise, Writing()), "", "42", "Mg2O2", "SO4^2-", "no", "HCl + NaOH -> NaCl + H2O"};
     for (const Slip& slip : exercise.slips) {
         texts.push_back(slip.text);
     }
