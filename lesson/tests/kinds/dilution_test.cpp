@@ -20,7 +20,8 @@ TEST(DilutionExerciseTest, TheWholeVolumeIsToldFromTheWater)
         const long double water = toFloat(answerOf(exercise).value);
         const long double whole = 1000 * givenValue(exercise, "V1") + water;
         const Mark mark = markOf(exercise, typedText(whole, 3));
-        EXPECT_EQ(mark.sentence, "Read again which volume is asked for.") << placeOf(exercise);
+        EXPECT_EQ(textOf(mark.sentence), "Read again which volume is asked for.")
+            << placeOf(exercise);
     });
 }
 

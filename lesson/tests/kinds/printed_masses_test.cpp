@@ -9,6 +9,7 @@
 
 #include "lesson/exercise.hpp"
 #include "lesson/kinds/kinds.hpp"
+#include "lesson/tests/support/plain.hpp"
 
 // Molar masses as learners work them out with the tables that examination boards print, retyped
 // here: whatever table is at hand, the answer is right.
@@ -143,8 +144,8 @@ TEST(PrintedMassesTest, EveryMolarMassIsRightByTheTableOfAnyBoard)
                 for (const std::string& typed : writtenBy(board, sum)) {
                     const Mark mark = markAnswer(exercise, typed);
                     EXPECT_EQ(mark.verdict, Verdict::correct)
-                        << typed << " for " << exercise.key << " of " << exercise.ask.of
-                        << " by masses of " << board.name << ": " << mark.sentence;
+                        << typed << " for " << plain(exercise.key) << " of " << exercise.ask.of
+                        << " by masses of " << board.name << ": " << plain(mark.sentence);
                 }
             }
         }

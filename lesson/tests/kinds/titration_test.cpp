@@ -56,7 +56,8 @@ TEST(TitrationExerciseTest, OneToOneLeavesNoRatioToForget)
         const bool mayMislead = exercise.equation->left[0].second == "H2SO4";
         bool isTold = false;
         for (const Slip& slip : exercise.slips) {
-            isTold = isTold || slip.sentence.find("ook at the numbers") != std::string::npos;
+            isTold =
+                isTold || textOf(slip.sentence).find("ook at the numbers") != std::string::npos;
         }
         EXPECT_EQ(isTold, mayMislead) << placeOf(exercise);
     });

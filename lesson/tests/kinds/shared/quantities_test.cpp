@@ -57,7 +57,7 @@ TEST(QuantitiesTest, ASolutionIsNamedAfterItsSolute)
         {"H2C2O4", "ethanedioic acid solution"},
     };
     for (const auto& [formula, name] : names) {
-        EXPECT_EQ(textOf(solutionOf(*findSolute(formula))), name);
+        EXPECT_EQ(textOf({solutionOf(*findSolute(formula))}), name);
     }
 }
 
