@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "lesson/tests/support/calculation.hpp"
+#include "lesson/tests/support/plain.hpp"
 
 namespace lesson
 {
@@ -58,6 +60,46 @@ TEST(QuantitiesTest, ASolutionIsNamedAfterItsSolute)
     };
     for (const auto& [formula, name] : names) {
         EXPECT_EQ(textOf({solutionOf(*findSolute(formula))}), name);
+    }
+}
+
+// All that an exercise says, line by line.
+std::vector<Spans> linesOf(const Exercise& exercise)
+{
+    std::vector<Spans> lines = {exercise.prompt};
+    for (const Step& step : exercise.solution) {
+        lines.insert(lines.end(), {step.say, step.hint});
+    }
+    for (const Slip& slip : exercise.slips) {
+        lines.push_back(slip.sentence);
+    }
+    return lines;
+}
+
+std::size_t countOf(const std::string& word, const std::string& text)
+{
+    std::size_t count = 0;
+    for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+TEST(QuantitiesTest, LitresInWordsAreLitersInAmerica)
+{
+    for (const Kind* const kind : {&concentrationKind, &dilutionKind, &titrationKind}) {
+        std::size_t litres = 0;
+        for (const int level : {1, 2, 3}) {
+            forExercises(kind, level, 50, [&](const Exercise& exercise) {
+                for (const Spans& line : linesOf(exercise)) {
+                    const std::size_t count = countOf("litre", plain(line));
+                    EXPECT_EQ(countOf("liter", plainAmerican(line)), count) << plain(line);
+                    EXPECT_EQ(countOf("litre", plainAmerican(line)), 0U) << plain(line);
+                    litres += count;
+                }
+            });
+        }
+        EXPECT_GT(litres, 0U) << kind->slug;
     }
 }
 
