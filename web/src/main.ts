@@ -1,5 +1,8 @@
 // Wires the page together; imported by none.
-import packed from "lesson.bin";
+
+import lesson from "lesson.bin";
+// Behind all that is text, which so stays together and is compressed better.
+import notices from "notices.bin";
 import { instantiate, type LessonModule } from "../../lesson/border/module.mjs";
 import { addressOf, knowVersions, mainRoad, routeOf } from "./address";
 import { lessonOf } from "./lesson/lesson";
@@ -126,7 +129,7 @@ function showView(route: Exclude<Route, { view: "none" }>, page: Page): Focus {
         case "tables":
             return showTables(main, page);
         case "notices":
-            return showNotices(main);
+            return showNotices(main, notices);
         case "sheet":
             return showSheet(route, page) ?? showBad("sheet", texts.badSheet, page);
         case "bad":
@@ -207,7 +210,7 @@ function keepClock(): void {
 
 // The page lives as long as its window, so nothing is ever taken off again.
 async function start(): Promise<void> {
-    const instantiated = instantiate(await unpacked(packed));
+    const instantiated = instantiate(await unpacked(lesson));
     storage.open(); // while the module is compiled
     const page = pageOf(await instantiated);
     knowVersions(page.kinds);

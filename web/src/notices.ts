@@ -1,5 +1,4 @@
 // What the page holds of the work of others, and under which licences.
-import packed from "notices.bin";
 import { element } from "./shared/dom";
 import { unpacked } from "./shared/unpacked";
 import { texts } from "./words/texts";
@@ -7,7 +6,7 @@ import { texts } from "./words/texts";
 // article.notices
 //   h1
 //   h2, p …
-export function showNotices(main: HTMLElement): () => void {
+export function showNotices(main: HTMLElement, packed: string): () => void {
     const heading = element("h1", { tabindex: -1 }, texts.notices);
     const article = element("article", { class: "notices" }, heading);
     main.replaceChildren(article);

@@ -21,9 +21,23 @@ const allowed = {
     address: ["types", "words", "shared", "sheet/address"],
     practice: ["types", "words", "shared", "text", "address"],
     sheet: ["types", "words", "shared", "text", "address", "practice"],
-    notices: ["words", "shared", "notices.bin"],
+    notices: ["words", "shared"],
     tables: ["types", "words", "shared", "text"],
-    main: ["types", "words", "shared", "text", "address", "practice", "sheet", "tables", "notices", "lesson", "lesson.bin", border],
+    main: [
+        "types",
+        "words",
+        "shared",
+        "text",
+        "address",
+        "practice",
+        "sheet",
+        "tables",
+        "notices",
+        "lesson",
+        "lesson.bin",
+        "notices.bin",
+        border,
+    ],
 };
 
 /** @returns {string[]} */

@@ -98,7 +98,6 @@ const saidSigns: [string, string][] = [
     ["+", " plus "],
     ["×", " times "],
     ["−", " minus "],
-    ["/", " over "],
 ];
 
 // What is over the line ends before it is divided: of a sum its last number alone, and of a power of ten its

@@ -26,7 +26,7 @@ after(() => browser.close());
 
 // Names and units of British English, mL, L and a slash, and a decimal point.
 const usualWords =
-    /alumini|caesium|ethanoate|ethanoic|hydrogencarbonate|hydrogensulf|manganate|neutralis|(lit|met)re|\bm?L\b|mol\/|\d\.\d/i;
+    /[Aa]lumini|[Cc]aesium|[Ee]thano|[Hh]ydrogen(carbon|sul|phos)|[Mm]anganate|[Nn]eutralis|(lit|met)re|\bm?L\b|mol\/|\d\.\d/;
 
 /** @type {(settings: object) => { before: () => void }} */
 const writtenAs = (settings) => ({
@@ -35,13 +35,25 @@ const writtenAs = (settings) => ({
     ),
 });
 
-// Of what is seen and of what is only heard.
-const textOf = (/** @type {Page} */ page, /** @type {string} */ of) =>
+// What of all that is seen or heard of some elements is not written as the reader wishes.
+async function usualIn(/** @type {Page} */ page, /** @type {string} */ of) {
+    return (await textsOf(page, of)).filter((text) => usualWords.test(text));
+}
+
+const textsOf = (/** @type {Page} */ page, /** @type {string} */ of) =>
     page.locator(of).evaluateAll((found) =>
-        found
-            .flatMap((one) => [one, ...one.querySelectorAll("[aria-label], [title]")])
-            .flatMap((one) => [one.textContent, one.getAttribute("aria-label"), one.getAttribute("title")])
-            .join("\n"),
+        found.flatMap((one) => {
+            const texts = [];
+            const walker = document.createTreeWalker(one, NodeFilter.SHOW_TEXT);
+            while (walker.nextNode()) {
+                texts.push(walker.currentNode.nodeValue);
+            }
+            const named = [...one.querySelectorAll("[aria-label], [title]")];
+            return [
+                ...texts,
+                ...named.flatMap((element) => [element.getAttribute("aria-label") ?? "", element.getAttribute("title") ?? ""]),
+            ];
+        }),
     );
 
 const plain = (/** @type {string} */ text) => text.replace(/\s/g, "").replaceAll("-", "−").replaceAll("·", ".");
@@ -54,12 +66,12 @@ for (const kind of samples) {
             for (const { text } of [...exercise.slips.slice(0, 4), exercise.key]) {
                 await type(page, text);
                 await check(page);
-                assert.doesNotMatch(await textOf(page, "main .exercise"), usualWords, text);
+                assert.deepEqual(await usualIn(page, "main .exercise"), [], text);
                 assert.doesNotMatch(await announced(page), usualWords, text);
             }
             assert.equal(await page.locator(".mark").getAttribute("data-verdict"), "correct", exercise.key.text);
             await page.getByRole("button", { name: "Show the answer" }).click();
-            assert.doesNotMatch(await textOf(page, "main .exercise"), usualWords);
+            assert.deepEqual(await usualIn(page, "main .exercise"), []);
             const answer = await page.locator(".key .line").evaluate((line) => (line.querySelector("[aria-hidden]") ?? line).textContent);
             assert.equal(plain(answer), plain(plainOf(exercise.key.spans)));
             await leave(page);
@@ -107,7 +119,7 @@ test("kinds and levels are told in the reader's language, what is chosen of them
     await box.check();
     await panel(page, "How it is written").click();
     await page.getByLabel("American").check();
-    const text = await textOf(page, ".choice");
+    const text = (await textsOf(page, ".choice")).join("\n");
     american.forEach((one) => assert.ok(text.includes(one), one));
     british.filter((one) => !american.includes(one)).forEach((one) => assert.ok(!text.includes(one), one));
     assert.deepEqual(
@@ -117,17 +129,17 @@ test("kinds and levels are told in the reader's language, what is chosen of them
     await leave(page);
 
     const sheet = await openMadeSheet(browser, "#sheet/4821/3*neutralisation,2*titration?v=1", writtenAs(otherSettings));
-    assert.doesNotMatch(await textOf(sheet, ".sheets form, .leaves"), usualWords);
+    assert.deepEqual(await usualIn(sheet, ".sheets form, .leaves"), []);
     await panel(sheet, "How it is written").click();
     await sheet.getByLabel("British").check();
-    const told = await textOf(sheet, ".sheets form");
+    const told = (await textsOf(sheet, ".sheets form")).join("\n");
     british.forEach((one) => assert.ok(told.includes(one), one));
     assert.equal(await sheet.locator("#count-neutralisation-2").inputValue(), "3");
     await leave(sheet);
 });
 
 // What is quoted of it.
-const quoted = (/** @type {string} */ mark) => [...mark.replace(/\s/g, " ").matchAll(/'([^']*)'/g)].map(([, text]) => text);
+const quoted = (/** @type {string} */ mark) => [...mark.replace(/\s/g, " ").matchAll(/ '([^']*)'/g)].map(([, text]) => text);
 
 for (const [kind, typed] of [
     ["compound-formula:2", "aluminium fluoride?"],
@@ -169,7 +181,6 @@ test("a mark stays what it was where another decimal sign would read another num
     const read = await mark.innerText();
     await panel(page, "How it is written").click();
     await page.getByLabel("Point: 0.5").check();
-    assert.equal(await mark.getAttribute("data-verdict"), "wrong");
     assert.equal(await mark.innerText(), read);
     await leave(page);
 });
