@@ -42,7 +42,8 @@ void mark(benchmark::State& state, const lesson::Kind* row, int level)
 {
     const std::string kind = std::string(row->slug) + ":" + std::to_string(level);
     const std::string exercise = drawn(1, 1, kind);
-    const std::string key = lesson::makeExercise({1, 1, row, level}).key;
+    const std::string key =
+        lesson::keyText(lesson::makeExercise({1, 1, row, level}), lesson::Writing());
     for (auto _ : state) {
         benchmark::DoNotOptimize(lesson_mark(exercise.c_str(), key.c_str(), nullptr));
     }

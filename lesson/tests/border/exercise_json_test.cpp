@@ -6,6 +6,9 @@
 
 #include <string>
 
+#include "lesson/tests/support/plain.hpp"
+#include "lesson/words/say.hpp"
+
 namespace lesson
 {
 
@@ -32,12 +35,12 @@ Exercise titration()
     };
     exercise.equation =
         Equation{{{2, "HCl"}, {1, "Na2CO3"}}, {{2, "NaCl"}, {1, "H2O"}, {1, "CO2"}}};
-    exercise.key = "0.0456 mol/L";
+    exercise.key = measure("0.0456", "mol/L");
     exercise.answer = NumberAnswer{ratio(45570, 1000000)};
     exercise.solution = {{line("Ratio."), line(quantity("n", "HCl"), " = ", number("2.28e-3")),
                           line("How many react with one?")},
                          {line("Check."), {}}};
-    exercise.slips = {{"0.182 mol/L", ratio(18228, 100000), "Look at the numbers."}};
+    exercise.slips = {{"0.182 mol/L", ratio(18228, 100000), line("Look at the numbers.")}};
     return exercise;
 }
 
@@ -56,14 +59,15 @@ TEST(ExerciseJsonTest, ATitrationInItsOrder)
                   "role":"aliquot"},
                  {"quantity":"M","of":"HCl","value":36.458,"unit":"g/mol","shown":"","shownUnit":""}],
         "equation":{"left":[[2,"HCl"],[1,"Na2CO3"]],"right":[[2,"NaCl"],[1,"H2O"],[1,"CO2"]]},
-        "key":{"text":"0.0456 mol/L","value":0.04557},
+        "key":{"text":"0.0456 mol/L","spans":[{"number":"0.0456"},{"unit":"mol/L"}],"value":0.04557},
         "solution":[{"say":[{"text":"Ratio."}],
                      "math":[{"quantity":"n","of":"HCl"},{"text":" = "},{"number":"2.28e-3"}],
                      "hint":[{"text":"How many react with one?"}]},
                     {"say":[{"text":"Check."}],"math":[],"hint":[]}],
-        "slips":[{"text":"0.182 mol/L","value":0.18228,"sentence":"Look at the numbers."}]})";
-    EXPECT_EQ(Json::parse(exerciseJson(titration())).dump(1), Json::parse(expected).dump(1));
-    EXPECT_NE(exerciseJson(titration()).find("[22.10,21.70,21.75]"), std::string::npos)
+        "slips":[{"text":"0.182 mol/L","value":0.18228,"sentence":[{"text":"Look at the numbers."}]}]})";
+    EXPECT_EQ(Json::parse(exerciseJson(titration(), Writing())).dump(1),
+              Json::parse(expected).dump(1));
+    EXPECT_NE(exerciseJson(titration(), Writing()).find("[22.10,21.70,21.75]"), std::string::npos)
         << "titres keep their two decimals";
 }
 
@@ -71,20 +75,21 @@ TEST(ExerciseJsonTest, IonsCompoundsAndChoices)
 {
     Exercise exercise;
     exercise.place = {1, 1, &solubilityKind, 1};
-    exercise.ask = {Form::solubility, "", "", "", 0, {"yes", "no"}};
-    exercise.given = {GivenIon{findIon("SO4", -2)}, GivenIon{findIon("aluminium")},
-                      GivenCompound{"CuSO4.5H2O", "copper(II) sulfate pentahydrate"}};
-    exercise.key = "yes";
-    exercise.answer = SolubilityAnswer{true, "rule"};
-    exercise.slips = {{"Al2SO43", {}, "sentence"}};
-    const Json json = Json::parse(exerciseJson(exercise));
+    exercise.ask = {Form::solubility, "", "", "", 0, {Sentence::answerYes, Sentence::answerNo}};
+    exercise.given = {
+        GivenIon{findIon("SO4", -2)}, GivenIon{findIon("aluminium")},
+        GivenCompound{"CuSO4.5H2O", nameOf(*findIon("copper(II)"), *findIon("sulfate"), 5)}};
+    exercise.key = {say<Sentence::answerYes>()};
+    exercise.answer = SolubilityAnswer{true, line("rule")};
+    exercise.slips = {{"Al2SO43", {}, line("sentence")}};
+    const Json json = Json::parse(exerciseJson(exercise, Writing()));
     EXPECT_EQ(json["ask"].dump(), R"({"form":"solubility","choices":["yes","no"]})");
     EXPECT_EQ(json["given"].dump(),
               R"([{"ion":"SO4","charge":-2,"name":"sulfate"},)"
               R"({"ion":"Al","charge":3,"name":"aluminium"},)"
               R"({"compound":"CuSO4.5H2O","name":"copper(II) sulfate pentahydrate"}])");
-    EXPECT_EQ(json["key"].dump(), R"({"text":"yes"})");
-    EXPECT_EQ(json["slips"].dump(), R"([{"text":"Al2SO43","sentence":"sentence"}])");
+    EXPECT_EQ(json["key"].dump(), R"({"text":"yes","spans":[{"text":"yes"}]})");
+    EXPECT_EQ(json["slips"].dump(), R"([{"text":"Al2SO43","sentence":[{"text":"sentence"}]}])");
     EXPECT_FALSE(json.contains("equation"));
 }
 
@@ -107,14 +112,14 @@ TEST(ExerciseJsonTest, EverySpanHasTheMembersThatApply)
         {fraction(line(quantity("m")), line(quantity("M"), " ", fraction(line("a"), {}))),
          R"({"fraction":[[{"quantity":"m"}],[{"quantity":"M"},{"text":" "},)"
          R"({"fraction":[[{"text":"a"}],[]]}]]})"},
-        {name("sulfate"), R"({"name":"sulfate"})"},
-        {name("aluminium", "aluminum"), R"({"name":"aluminium","american":"aluminum"})"},
+        {name(nameOf(*findIon("aluminium"))), R"({"name":"aluminium"})"},
+        {say<Sentence::answerYes>(), R"({"text":"yes"})"},
     };
     for (const Case& one : cases) {
         Exercise exercise;
         exercise.place = {1, 1, &molarMassKind, 1};
         exercise.prompt = {one.span};
-        EXPECT_EQ(Json::parse(exerciseJson(exercise))["prompt"][0].dump(), one.text);
+        EXPECT_EQ(Json::parse(exerciseJson(exercise, Writing()))["prompt"][0].dump(), one.text);
     }
 }
 
@@ -133,16 +138,17 @@ TEST(ExerciseJsonTest, EveryForm)
         Exercise exercise;
         exercise.place = {1, 1, &molarMassKind, 1};
         exercise.ask.form = one.form;
-        EXPECT_EQ(Json::parse(exerciseJson(exercise))["ask"]["form"], one.name);
+        EXPECT_EQ(Json::parse(exerciseJson(exercise, Writing()))["ask"]["form"], one.name);
     }
 }
 
 TEST(ReadJsonTest, SpansOrNone)
 {
-    EXPECT_EQ(readJson(line(number("4.5e-2"), unit("mol/L"))),
+    EXPECT_EQ(readJson(line(number("4.5e-2"), unit("mol/L")), Writing()),
               R"({"read":[{"number":"4.5e-2"},{"unit":"mol/L"}]})");
-    EXPECT_EQ(readJson(line(ionSpan("SO4", "2-"))), R"({"read":[{"ion":"SO4","charge":"2-"}]})");
-    EXPECT_EQ(readJson(std::nullopt), R"({"read":[]})");
+    EXPECT_EQ(readJson(line(ionSpan("SO4", "2-")), Writing()),
+              R"({"read":[{"ion":"SO4","charge":"2-"}]})");
+    EXPECT_EQ(readJson(std::nullopt, Writing()), R"({"read":[]})");
 }
 
 TEST(MarkJsonTest, EveryVerdict)
@@ -152,16 +158,16 @@ TEST(MarkJsonTest, EveryVerdict)
         const char* text;
     };
     const Case cases[] = {
-        {Verdict::correct, R"({"verdict":"correct","sentence":"s"})"},
-        {Verdict::figures, R"({"verdict":"figures","sentence":"s"})"},
-        {Verdict::slip, R"({"verdict":"slip","sentence":"s"})"},
-        {Verdict::powerOfTen, R"({"verdict":"power-of-ten","sentence":"s"})"},
-        {Verdict::close, R"({"verdict":"close","sentence":"s"})"},
-        {Verdict::wrong, R"({"verdict":"wrong","sentence":"s"})"},
-        {Verdict::unreadable, R"({"verdict":"unreadable","sentence":"s"})"},
+        {Verdict::correct, R"({"verdict":"correct","sentence":[{"text":"s"}]})"},
+        {Verdict::figures, R"({"verdict":"figures","sentence":[{"text":"s"}]})"},
+        {Verdict::slip, R"({"verdict":"slip","sentence":[{"text":"s"}]})"},
+        {Verdict::powerOfTen, R"({"verdict":"power-of-ten","sentence":[{"text":"s"}]})"},
+        {Verdict::close, R"({"verdict":"close","sentence":[{"text":"s"}]})"},
+        {Verdict::wrong, R"({"verdict":"wrong","sentence":[{"text":"s"}]})"},
+        {Verdict::unreadable, R"({"verdict":"unreadable","sentence":[{"text":"s"}]})"},
     };
     for (const Case& one : cases) {
-        EXPECT_EQ(markJson({one.verdict, "s"}), one.text);
+        EXPECT_EQ(markJson({one.verdict, line("s")}, Writing()), one.text);
     }
 }
 

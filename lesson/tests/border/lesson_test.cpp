@@ -191,9 +191,51 @@ TEST(InterfaceTest, BadArgumentsAreToldBySentences)
         const char* const name = one.exercise == nullptr ? "null" : one.exercise;
         EXPECT_EQ(Json::parse(lesson_exercise(one.exercise, nullptr)), expected) << name;
         EXPECT_EQ(Json::parse(lesson_mark(one.exercise, "1", nullptr)), expected) << name;
+        EXPECT_EQ(Json::parse(lesson_read(one.exercise, "1", nullptr)), expected) << name;
     }
     const Json expected = {{"error", "There is no typed text."}};
     EXPECT_EQ(Json::parse(lesson_mark("1/1/mixed", nullptr, nullptr)), expected);
+    EXPECT_EQ(Json::parse(lesson_read("1/1/mixed", nullptr, nullptr)), expected);
+}
+
+TEST(InterfaceTest, AnErrorIsWrittenAsTheReaderWrites)
+{
+    const Json error = Json::parse(lesson_exercise("concentration;substance=NaCl;m=5.84;V=250;M=58",
+                                                   "en-GB;decimal=,;per=power"));
+    EXPECT_EQ(error["error"], "The molar mass M of NaCl is 58,44 g mol-1.");
+}
+
+TEST(InterfaceTest, TitlesAndLevelsAreInTheLanguageOfTheReader)
+{
+    const Json british = Json::parse(lesson_kinds("en-GB")).at(6);
+    const Json american = Json::parse(lesson_kinds("en-US")).at(6);
+    EXPECT_EQ(british["title"], "Equations of neutralisation");
+    EXPECT_EQ(american["title"], "Equations of neutralization");
+    EXPECT_EQ(american["levels"][1], "Oxides, carbonates, hydrogen carbonates and ammonia");
+}
+
+TEST(InterfaceTest, WhatIsReadIsWrittenAsTheReaderWrites)
+{
+    const char* const made = "dilution;substance=HCl;c1=6.00;V1=25.0;V2=500";
+    struct Case {
+        const char* typed;
+        const char* writing;
+        const char* read;
+    };
+    const Case cases[] = {
+        {"0.300 mol/l", nullptr, R"([{"number":"0.300"},{"unit":"mol/L"}])"},
+        {"0,300 mol/l", "en-GB;decimal=,", R"([{"number":"0,300"},{"unit":"mol/L"}])"},
+        {"0.300 mol/l", "en-GB;volume=cm3", R"([{"number":"0.300"},{"unit":"mol/dm3"}])"},
+        {"c = 3e-1", nullptr, R"([{"number":"3e-1"}])"},
+        {"?", nullptr, "[]"},
+    };
+    for (const Case& one : cases) {
+        EXPECT_EQ(Json::parse(lesson_read(made, one.typed, one.writing))["read"].dump(), one.read)
+            << one.typed;
+    }
+    EXPECT_EQ(Json::parse(lesson_read("solubility;cation=Na^+;anion=Cl^-", "it dissolves", nullptr))
+                  .dump(),
+              R"({"read":[{"text":"yes"}]})");
 }
 
 TEST(InterfaceTest, BadWritingsAreToldBySentences)
@@ -211,6 +253,7 @@ TEST(InterfaceTest, BadWritingsAreToldBySentences)
         const Json expected = {{"error", one.error}};
         EXPECT_EQ(Json::parse(lesson_exercise("1/1/mixed", one.writing)), expected) << one.writing;
         EXPECT_EQ(Json::parse(lesson_mark("1/1/mixed", "1", one.writing)), expected) << one.writing;
+        EXPECT_EQ(Json::parse(lesson_read("1/1/mixed", "1", one.writing)), expected) << one.writing;
         EXPECT_EQ(Json::parse(lesson_kinds(one.writing)), expected) << one.writing;
         EXPECT_EQ(Json::parse(lesson_tables(one.writing)), expected) << one.writing;
         EXPECT_EQ(Json::parse(lesson_export("1/titration", "moodle", one.writing)), expected)
@@ -350,7 +393,7 @@ TEST(InterfaceTest, AnyTypedTextGetsAMark)
             const Json marked = mark(1, 1, kind, typed);
             ASSERT_EQ(members(marked), (std::vector<std::string>{"verdict", "sentence"}))
                 << kind << ": " << typed.size() << " bytes like " << typed.substr(0, 40);
-            ASSERT_LT(marked["sentence"].get<std::string>().size(), 1000U)
+            ASSERT_LT(marked["sentence"].dump().size(), 2000U)
                 << kind << ": " << typed.size() << " bytes like " << typed.substr(0, 40);
         }
     }

@@ -7,6 +7,8 @@
 #include "lesson/chemistry/ions.hpp"
 #include "lesson/export/expected.hpp"
 #include "lesson/kinds/kinds.hpp"
+#include "lesson/tests/support/plain.hpp"
+#include "lesson/words/say.hpp"
 
 namespace lesson
 {
@@ -14,20 +16,21 @@ namespace lesson
 namespace
 {
 
-Exercise askingForIon(const char* formula, int charge, std::string key)
+Exercise askingForIon(const char* formula, int charge, const std::string& key)
 {
     Exercise exercise = {};
     exercise.ask.form = Form::ion;
-    exercise.key = std::move(key);
+    const std::size_t at = key.find('^');
+    exercise.key = {ionSpan(key.substr(0, at), key.substr(at + 1))};
     exercise.answer = IonAnswer{findIon(formula, charge)};
     return exercise;
 }
 
-Exercise askingForFormula(const char* cation, const char* anion, std::string key)
+Exercise askingForFormula(const char* cation, const char* anion, const std::string& key)
 {
     Exercise exercise = {};
     exercise.ask.form = Form::formula;
-    exercise.key = std::move(key);
+    exercise.key = {formula(key)};
     exercise.answer = FormulaAnswer{findIon(cation), findIon(anion)};
     return exercise;
 }
@@ -47,7 +50,7 @@ int percentOf(const std::vector<Expected>& expected, const std::string& text)
 
 void expectRight(const Exercise& exercise, const std::vector<std::string>& texts)
 {
-    const std::vector<Expected> expected = expectedTexts(exercise);
+    const std::vector<Expected> expected = expectedTexts(exercise, Writing());
     EXPECT_EQ(expected.front().text, texts.front());
     for (const std::string& text : texts) {
         EXPECT_EQ(percentOf(expected, text), 100) << text;
@@ -82,20 +85,20 @@ TEST(ExpectedTextsTest, APrecipitateOrNone)
 {
     Exercise exercise = askingForFormula("lead(II)", "iodide", "PbI2");
     exercise.ask.form = Form::solubility;
-    exercise.answer = PrecipitateAnswer{findIon("lead(II)"), findIon("iodide"), "The rule."};
+    exercise.answer = PrecipitateAnswer{findIon("lead(II)"), findIon("iodide"), line("The rule.")};
     expectRight(exercise, {"PbI2", "PbI₂", "PbI2(s)", "PbI₂ (s)"});
-    EXPECT_EQ(find(expectedTexts(exercise), "PbI2")->sentence, "Correct. The rule.");
-    EXPECT_EQ(find(expectedTexts(exercise), "none")->percent, 0);
-    exercise.key = "none";
-    exercise.answer = PrecipitateAnswer{nullptr, nullptr, "The rule."};
+    EXPECT_EQ(find(expectedTexts(exercise, Writing()), "PbI2")->sentence, "Correct. The rule.");
+    EXPECT_EQ(find(expectedTexts(exercise, Writing()), "none")->percent, 0);
+    exercise.key = {say<Sentence::answerNone>()};
+    exercise.answer = PrecipitateAnswer{nullptr, nullptr, line("The rule.")};
     expectRight(exercise, {"none", "no", "nothing", "no precipitate", "no reaction"});
 }
 
 TEST(ExpectedTextsTest, MistakesAreTold)
 {
     Exercise exercise = askingForIon("Fe", 3, "Fe^3+");
-    exercise.slips = {{"Fe^2+", {}, "Another iron."}, {"Fe3", {}, "No charge."}};
-    const std::vector<Expected> expected = expectedTexts(exercise);
+    exercise.slips = {{"Fe^2+", {}, line("Another iron.")}, {"Fe3", {}, line("No charge.")}};
+    const std::vector<Expected> expected = expectedTexts(exercise, Writing());
     struct Case {
         const char* text;
         const char* sentence;
@@ -122,7 +125,7 @@ TEST(ExpectedTextsTest, ZerosForTheLetterOAndCapitalsAreTold)
         const char* sentence;
     };
     const auto expectTold = [](const Exercise& exercise, const std::vector<Case>& cases) {
-        const std::vector<Expected> expected = expectedTexts(exercise);
+        const std::vector<Expected> expected = expectedTexts(exercise, Writing());
         for (const Case& one : cases) {
             const Expected* const found = find(expected, one.text);
             ASSERT_NE(found, nullptr) << one.text;
@@ -142,14 +145,15 @@ TEST(ExpectedTextsTest, ZerosForTheLetterOAndCapitalsAreTold)
 
 TEST(ExpectedTextsTest, AChargeThatStandsBelowIsTold)
 {
-    const std::vector<Expected> sulfate = expectedTexts(askingForIon("SO4", -2, "SO4^2-"));
+    const std::vector<Expected> sulfate =
+        expectedTexts(askingForIon("SO4", -2, "SO4^2-"), Writing());
     for (const char* text : {"SO₄₂⁻", "SO_4_2^-", "SO_4_2-"}) {
         const Expected* const found = find(sulfate, text);
         ASSERT_NE(found, nullptr) << text;
         EXPECT_EQ(found->percent, 0) << text;
         EXPECT_EQ(found->sentence, "The charge stands above, not below.") << text;
     }
-    const std::vector<Expected> nitride = expectedTexts(askingForIon("N", -3, "N^3-"));
+    const std::vector<Expected> nitride = expectedTexts(askingForIon("N", -3, "N^3-"), Writing());
     for (const char* text : {"N₃⁻", "N_3^-", "N_3-"}) {
         EXPECT_EQ(percentOf(nitride, text), 0) << text;
         EXPECT_NE(find(nitride, text), nullptr) << text;
@@ -172,14 +176,14 @@ TEST(ExpectedTextsTest, TheKeyComesFirstEverySlipIsToldAndNothingStandsTwice)
             if (!isTypedInSymbols(exercise.ask)) {
                 continue;
             }
-            const std::vector<Expected> expected = expectedTexts(exercise);
-            EXPECT_EQ(expected.front().text, exercise.key);
-            EXPECT_EQ(expected.front().percent, 100) << exercise.key;
+            const std::vector<Expected> expected = expectedTexts(exercise, Writing());
+            EXPECT_EQ(expected.front().text, typedKey(exercise));
+            EXPECT_EQ(expected.front().percent, 100) << typedKey(exercise);
             for (const Slip& slip : exercise.slips) {
                 const Expected* const found = find(expected, slip.text);
-                ASSERT_NE(found, nullptr) << slip.text << " for " << exercise.key;
-                EXPECT_EQ(found->percent, 0) << slip.text << " for " << exercise.key;
-                EXPECT_EQ(found->sentence, slip.sentence) << slip.text;
+                ASSERT_NE(found, nullptr) << slip.text << " for " << typedKey(exercise);
+                EXPECT_EQ(found->percent, 0) << slip.text << " for " << typedKey(exercise);
+                EXPECT_EQ(found->sentence, plain(slip.sentence)) << slip.text;
             }
             for (const Expected& one : expected) {
                 EXPECT_EQ(find(expected, one.text), &one) << one.text << " stands twice";

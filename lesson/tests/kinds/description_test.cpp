@@ -7,6 +7,7 @@
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/paper/reference.hpp"
 #include "lesson/tests/support/calculation.hpp"
+#include "lesson/tests/support/plain.hpp"
 
 namespace lesson
 {
@@ -62,9 +63,9 @@ TEST(DescriptionTest, ThePromptTellsWhatIsDescribed)
     };
     for (const Case& one : cases) {
         const NamedExercise named = exerciseNamed(one.description);
-        EXPECT_EQ(named.error, "") << one.description;
-        EXPECT_EQ(textOf(named.exercise.prompt), one.prompt) << one.description;
-        EXPECT_EQ(named.exercise.key, one.key) << one.description;
+        EXPECT_EQ(plain(named.error), "") << one.description;
+        EXPECT_EQ(plain(named.exercise.prompt), one.prompt) << one.description;
+        EXPECT_EQ(typedKey(named.exercise), one.key) << one.description;
         EXPECT_EQ(named.exercise.place.paper, 0U) << one.description;
     }
 }
@@ -89,7 +90,7 @@ TEST(DescriptionTest, TheLevelIsToldByTheQuantitiesOrBesides)
     };
     for (const Case& one : cases) {
         const NamedExercise named = exerciseNamed(one.description);
-        EXPECT_EQ(named.error, "") << one.description;
+        EXPECT_EQ(plain(named.error), "") << one.description;
         EXPECT_EQ(named.exercise.place.level, one.level) << one.description;
         EXPECT_EQ(named.exercise.description, one.again) << one.description;
     }
@@ -149,7 +150,7 @@ TEST(DescriptionTest, WhatCannotBeReadIsToldInASentence)
          "Nothing is asked about 'litmus' as indicator."},
     };
     for (const Case& one : cases) {
-        EXPECT_EQ(exerciseNamed(one.description).error, one.error) << one.description;
+        EXPECT_EQ(plain(exerciseNamed(one.description).error), one.error) << one.description;
     }
 }
 

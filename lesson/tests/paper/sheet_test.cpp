@@ -1,4 +1,5 @@
 #include "lesson/paper/sheet.hpp"
+#include "lesson/tests/support/plain.hpp"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +20,7 @@ Sheet sheetNaming(const std::string& list)
 // "7:2*4 5:2*3@7 ", kinds by their numbers, or the error.
 std::string textOf(const Sheet& sheet)
 {
-    std::string text = sheet.error;
+    std::string text = plain(sheet.error);
     for (const SheetEntry& entry : sheet.entries) {
         text += std::to_string(entry.kind.kind->seed) + ":" + std::to_string(entry.kind.level) +
                 "*" + std::to_string(entry.count) +
@@ -131,7 +132,7 @@ TEST(SheetTest, WhatCannotBeReadIsToldInASentence)
         {"600*titration,401*titration@601", many},
     };
     for (const Case& one : cases) {
-        EXPECT_EQ(sheetNaming(one.list).error, one.error) << one.list;
+        EXPECT_EQ(plain(sheetNaming(one.list).error), one.error) << one.list;
     }
 }
 
@@ -140,7 +141,7 @@ TEST(SheetTest, ALongTextIsCutInTheSentence)
     for (const std::string& list :
          {std::string(1000000, 'x'), std::string(1000000, 'x') + "*",
           std::string(1000000, '9') + "*titration", "titration@" + std::string(1000000, '9')}) {
-        EXPECT_LT(sheetNaming(list).error.size(), 200U) << list.substr(0, 20);
+        EXPECT_LT(plain(sheetNaming(list).error).size(), 200U) << list.substr(0, 20);
     }
 }
 
@@ -150,7 +151,7 @@ TEST(SheetTest, ALongListIsReadToItsEnd)
     for (unsigned entry = 0; entry < 300000; ++entry) {
         list += "1000*titration@5,";
     }
-    EXPECT_EQ(sheetNaming(list + "titration").error, "A sheet has at most 1000 exercises.");
+    EXPECT_EQ(plain(sheetNaming(list + "titration").error), "A sheet has at most 1000 exercises.");
 }
 
 TEST(SheetTest, ExercisesNamedByTheirNumbersComeInTheOrderOfTheList)
@@ -182,7 +183,7 @@ TEST(SheetTest, DescriptionsStandInBracketsAmongTheOthersWithTheirCommas)
                                   "titre=15.35,14.45,14.55;pipette=25.0;"
                                   "indicator=phenolphthalein";
     const Sheet sheet = sheetNaming("dilution:1,[" + titration + "],[ion-formula;ion=Cl^-]");
-    EXPECT_EQ(sheet.error, "");
+    EXPECT_EQ(plain(sheet.error), "");
     std::string text;
     for (const auto& [place, description] : referencesOf(sheet)) {
         text += description.empty() ? nameOf({place.kind, place.level}) : description;
@@ -193,8 +194,8 @@ TEST(SheetTest, DescriptionsStandInBracketsAmongTheOthersWithTheirCommas)
 
 TEST(SheetTest, DescriptionsNeedNoPaper)
 {
-    EXPECT_EQ(readSheet("[ion-formula;ion=Cl^-],[ion-formula;ion=Cl^-]").error, "");
-    EXPECT_EQ(readSheet("[ion-formula;ion=Cl^-],titration").error,
+    EXPECT_EQ(plain(readSheet("[ion-formula;ion=Cl^-],[ion-formula;ion=Cl^-]").error), "");
+    EXPECT_EQ(plain(readSheet("[ion-formula;ion=Cl^-],titration").error),
               "The paper has to be a number from 1 to 999999.");
 }
 
