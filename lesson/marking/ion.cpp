@@ -32,12 +32,14 @@ constexpr std::string_view signs = "+-";
 bool isNameOf(std::string_view plain, const IonRow& ion)
 {
     const std::string typed = lowerCase(plain);
-    const auto isTyped = [&typed](std::string_view name) {
+    const auto isIts = [&typed](std::string_view name) {
         const std::string known = lowerCase(name);
-        return !known.empty() && (typed == known || typed == known + " ion");
+        std::string_view rest = typed;
+        return !known.empty() && take(rest, known) &&
+               (rest.empty() || (take(rest, " ") && isTyped(&TypedWords::ionNouns, rest)));
     };
     const auto names = namesOf(nameOf(ion));
-    return std::any_of(names.begin(), names.end(), isTyped);
+    return std::any_of(names.begin(), names.end(), isIts);
 }
 
 // What was typed, and all that it is compared with.

@@ -81,6 +81,7 @@ struct TypedWords {
 
     // ---- names, states, units, equations
     WordList shortNames;    // of substances, with less letters than other words: "acid"
+    WordList ionNouns;      // behind the name of an ion
     WordList noSubstances;  // "heat"
     SpellingList states;    // "aqueous": aq
     SpellingList units;     // "litres": l

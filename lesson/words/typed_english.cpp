@@ -97,6 +97,7 @@ constexpr std::string_view behindPrecipitate[] = {
 
 // ---- names, states, units, equations
 constexpr std::string_view shortNames[] = {"acid", "base", "salt", "zinc", "iron", "lead", "gas"};
+constexpr std::string_view ionNouns[] = {"ion"};
 constexpr std::string_view noSubstances[] = {"heat", "energy", "light", "enthalpy"};
 constexpr Spelling states[] = {
     {"aq.", "aq"}, {"solid", "s"}, {"liquid", "l"}, {"gas", "g"}, {"aqueous", "aq"},
@@ -161,6 +162,7 @@ const TypedWords typedEnglish = {
     beforePrecipitate,
     behindPrecipitate,
     shortNames,
+    ionNouns,
     noSubstances,
     states,
     units,
