@@ -149,7 +149,7 @@ test("each pair has its verdict, and its reason when it is pressed", async () =>
     );
     const wanted = tables.pairs.map(({ cation, anion, formula, verdict, reason }) => [
         `${cation} ${anion}: ${verdict}`,
-        `${formula ?? `${cation} ${anion}`}: ${verdict}. ${reason}`,
+        `${formula ?? `${cation} ${anion}`}: ${verdict}. ${plainOf(reason)}`,
     ]);
     assert.ok(shown.length > 200);
     assert.deepEqual(shown.sort(), wanted.sort());
