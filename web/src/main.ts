@@ -1,7 +1,5 @@
 // Wires the page together; imported by none.
-
 import lesson from "lesson.bin";
-// Behind all that is text, which so stays together and is compressed better.
 import notices from "notices.bin";
 import { instantiate, type LessonModule } from "../../lesson/border/module.mjs";
 import { addressOf, knowVersions, mainRoad, routeOf } from "./address";
