@@ -10,7 +10,18 @@ test("the module imports nothing and exports the interface", async () => {
         WebAssembly.Module.exports(module)
             .map((one) => one.name)
             .sort(),
-        ["_initialize", "free", "lesson_exercise", "lesson_export", "lesson_kinds", "lesson_mark", "lesson_read", "lesson_tables", "malloc", "memory"],
+        [
+            "_initialize",
+            "free",
+            "lesson_exercise",
+            "lesson_export",
+            "lesson_kinds",
+            "lesson_mark",
+            "lesson_read",
+            "lesson_tables",
+            "malloc",
+            "memory",
+        ],
     );
 });
 
