@@ -14,10 +14,10 @@ namespace
 enum class Of { these, allBut };
 
 struct NotAskedRow {
-    Ion anion;
-    Of of;
-    IonSet cations;
-    Sentence reason;
+    Ion anion = {};
+    Of of = Of::these;
+    IonSet cations = {};
+    Sentence reason = {};
 };
 
 // clang-format off

@@ -22,11 +22,11 @@ enum class Family {
 
 // What school tables say about the compounds of one anion.
 struct SolubilityRule {
-    Ion anion;
-    bool isSoluble;    // all but the exceptions
-    IonSet exceptions; // cations
-    Family family;
-    Sentence sentence; // for a learner; it takes the compounds: "chlorides"
+    Ion anion = {};
+    bool isSoluble = false; // all but the exceptions
+    IonSet exceptions = {}; // cations
+    Family family = {};
+    Sentence sentence = {}; // for a learner; it takes the compounds: "chlorides"
 };
 const std::vector<SolubilityRule>& solubilityRules();
 

@@ -252,30 +252,30 @@ std::string textOf(std::string_view formulaWithoutCharge, int charge)
 
 // Beside those that are taken for another in formulas too.
 struct Mistaken {
-    Ion of;
     std::string_view text; // with the charge
+    Ion of;
     Sentence sentence;
 };
 
 // clang-format off
 constexpr Mistaken mistakes[] = {
-    {Ion::hydrogen,            "H3O^+",       Sentence::slipIonFormulaHydronium},
-    {Ion::hydrogen,            "OH^-",        Sentence::slipIonFormulaHydroxide},
-    {Ion::ammonium,            "NH3",         Sentence::markAmmonia},
-    {Ion::ammonium,            "NH2^+",       Sentence::slipIonFormulaHydrogens},
-    {Ion::hydrogencarbonate,   "HCO3^2-",     Sentence::slipIonFormulaOwnCharge},
-    {Ion::hydrogensulfate,     "HSO4^2-",     Sentence::slipIonFormulaOwnCharge},
-    {Ion::oxide,               "O2^2-",       Sentence::slipIonFormulaPeroxide},
-    {Ion::ethanoate,           "HCOO^-",      Sentence::slipIonFormulaCarbons},
-    {Ion::ethanoate,           "C2H5COO^-",   Sentence::slipIonFormulaCarbons},
-    {Ion::ethanoate,           "CH3CH2COO^-", Sentence::slipIonFormulaCarbons},
-    {Ion::ethanoate,           "CH3COOH",     Sentence::slipIonFormulaAcid},
-    {Ion::manganate7,          "MnO4^7+",     Sentence::slipIonFormulaOxidationNumber},
-    {Ion::manganate7,          "MnO4^7-",     Sentence::slipIonFormulaOxidationNumber},
-    {Ion::dichromate,          "CrO4^2-",     Sentence::slipIonFormulaChromate},
-    {Ion::hydrogensulfite,     "HSO3^2-",     Sentence::slipIonFormulaOwnCharge},
-    {Ion::hydrogenphosphate,   "HPO4^3-",     Sentence::slipIonFormulaOwnCharge},
-    {Ion::dihydrogenphosphate, "H2PO4^3-",    Sentence::slipIonFormulaOwnCharge},
+    {"H3O^+",       Ion::hydrogen,            Sentence::slipIonFormulaHydronium},
+    {"OH^-",        Ion::hydrogen,            Sentence::slipIonFormulaHydroxide},
+    {"NH3",         Ion::ammonium,            Sentence::markAmmonia},
+    {"NH2^+",       Ion::ammonium,            Sentence::slipIonFormulaHydrogens},
+    {"HCO3^2-",     Ion::hydrogencarbonate,   Sentence::slipIonFormulaOwnCharge},
+    {"HSO4^2-",     Ion::hydrogensulfate,     Sentence::slipIonFormulaOwnCharge},
+    {"O2^2-",       Ion::oxide,               Sentence::slipIonFormulaPeroxide},
+    {"HCOO^-",      Ion::ethanoate,           Sentence::slipIonFormulaCarbons},
+    {"C2H5COO^-",   Ion::ethanoate,           Sentence::slipIonFormulaCarbons},
+    {"CH3CH2COO^-", Ion::ethanoate,           Sentence::slipIonFormulaCarbons},
+    {"CH3COOH",     Ion::ethanoate,           Sentence::slipIonFormulaAcid},
+    {"MnO4^7+",     Ion::manganate7,          Sentence::slipIonFormulaOxidationNumber},
+    {"MnO4^7-",     Ion::manganate7,          Sentence::slipIonFormulaOxidationNumber},
+    {"CrO4^2-",     Ion::dichromate,          Sentence::slipIonFormulaChromate},
+    {"HSO3^2-",     Ion::hydrogensulfite,     Sentence::slipIonFormulaOwnCharge},
+    {"HPO4^3-",     Ion::hydrogenphosphate,   Sentence::slipIonFormulaOwnCharge},
+    {"H2PO4^3-",    Ion::dihydrogenphosphate, Sentence::slipIonFormulaOwnCharge},
 };
 // clang-format on
 

@@ -246,7 +246,7 @@ Exercise twoSolutions(const Place& place, const Mixture& mixture)
     exercise.ask.form = Form::solubility;
     exercise.given = {GivenIon{a.cation}, GivenIon{a.anion}, GivenIon{b.cation}, GivenIon{b.anion}};
     exercise.key = {hasPrecipitate(mixture) ? formula(formulaOf(precipitate))
-                                           : say<Sentence::answerNone>()};
+                                            : say<Sentence::answerNone>()};
     exercise.answer =
         PrecipitateAnswer{hasPrecipitate(mixture) ? precipitate.cation : nullptr,
                           hasPrecipitate(mixture) ? precipitate.anion : nullptr, rulesFor(mixture)};
