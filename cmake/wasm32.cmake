@@ -7,5 +7,6 @@ set(CMAKE_CXX_COMPILER_TARGET wasm32-wasi)
 set(CMAKE_AR llvm-ar)
 set(CMAKE_RANLIB llvm-ranlib)
 # The libraries have nothing that could unwind, nor anything that destroys what is static: a module
-# has no end.
-set(CMAKE_CXX_FLAGS_INIT "-fno-exceptions -fno-c++-static-destructors")
+# has no end; and one thread, so that nothing has to guard what is made at its first use.
+set(CMAKE_CXX_FLAGS_INIT
+    "-fno-exceptions -fno-rtti -fno-c++-static-destructors -fno-threadsafe-statics")

@@ -519,13 +519,13 @@ constexpr Word<Sentence> britishSentences[] = {
 
 constexpr bool haveAllSentences()
 {
+    bool areAtTheirPlaces = true;
     std::size_t place = 0;
     for (const Word<Sentence>& row : britishSentences) {
-        if (row.id != static_cast<Sentence>(place++)) {
-            return false;
-        }
+        areAtTheirPlaces = areAtTheirPlaces && row.id == static_cast<Sentence>(place);
+        ++place;
     }
-    return static_cast<Sentence>(place) == Sentence::last;
+    return areAtTheirPlaces && static_cast<Sentence>(place) == Sentence::last;
 }
 static_assert(haveAllSentences(), "each sentence stands at its place");
 
