@@ -6,6 +6,7 @@
 #include "lesson/marking/number.hpp"
 #include "lesson/numbers/decimal.hpp"
 #include "lesson/numbers/ratio.hpp"
+#include "lesson/numbers/sort_few.hpp"
 #include "lesson/words/render.hpp"
 #include "lesson/words/say.hpp"
 
@@ -69,8 +70,7 @@ Range rangeOf(const Run& run)
 // Ranges that meet, or leave no step of the last figure between them, are one.
 std::vector<Range> joined(std::vector<Range> ranges, Ratio step)
 {
-    std::sort(ranges.begin(), ranges.end(),
-              [](const Range& one, const Range& other) { return one.low < other.low; });
+    sortFew(ranges, [](const Range& one, const Range& other) { return one.low < other.low; });
     std::vector<Range> all;
     for (const Range& range : ranges) {
         if (all.empty() || all.back().high + step < range.low) {

@@ -14,6 +14,7 @@
 #include "lesson/kinds/shared/classified.hpp"
 #include "lesson/kinds/shared/quantities.hpp"
 #include "lesson/kinds/shared/record.hpp"
+#include "lesson/numbers/sort_few.hpp"
 #include "lesson/words/say.hpp"
 
 namespace lesson
@@ -221,7 +222,7 @@ std::vector<int> printedMasses(const ElementRow& row)
 
 void sortOut(std::vector<int>& numbers)
 {
-    std::sort(numbers.begin(), numbers.end());
+    sortFew(numbers);
     numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
 }
 

@@ -6,6 +6,7 @@
 #include "lesson/chemistry/compounds.hpp"
 #include "lesson/chemistry/elements.hpp"
 #include "lesson/marking/spellings.hpp"
+#include "lesson/numbers/sort_few.hpp"
 
 namespace lesson
 {
@@ -67,8 +68,8 @@ std::string formulaForLists(Atoms atoms)
                : atom.element == elements::hydrogen ? std::string("0")
                                                     : std::string(element(atom.element).symbol);
     };
-    std::sort(atoms.begin(), atoms.end(),
-              [&place](const AtomCount& a, const AtomCount& b) { return place(a) < place(b); });
+    sortFew(atoms,
+            [&place](const AtomCount& a, const AtomCount& b) { return place(a) < place(b); });
     std::string formula;
     for (const AtomCount& atom : atoms) {
         formula += repeated(std::string(element(atom.element).symbol), false, atom.count);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "lesson/chemistry/elements.hpp"
+#include "lesson/numbers/sort_few.hpp"
 
 namespace lesson
 {
@@ -29,8 +30,7 @@ IonsIn countedIn(const Atoms& atoms, const Atoms& ofCation, const Atoms& ofAnion
 Atoms atomsOf(std::string_view formula)
 {
     Atoms atoms = compositionOf(formula).atoms;
-    std::sort(atoms.begin(), atoms.end(),
-              [](AtomCount a, AtomCount b) { return a.element < b.element; });
+    sortFew(atoms, [](AtomCount a, AtomCount b) { return a.element < b.element; });
     return atoms;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "lesson/chemistry/compounds.hpp"
+#include "lesson/numbers/sort_few.hpp"
 #include "lesson/reading/formula.hpp"
 #include "lesson/reading/states.hpp"
 #include "lesson/text/scan.hpp"
@@ -112,7 +113,7 @@ std::vector<std::string> makeNamesOfSalts()
             }
         }
     }
-    std::sort(names.begin(), names.end());
+    sortFew(names);
     return names;
 }
 

@@ -4,6 +4,8 @@
 #include <numeric>
 #include <tuple>
 
+#include "lesson/numbers/sort_few.hpp"
+
 namespace lesson
 {
 
@@ -26,8 +28,7 @@ Classes classesOf(const std::vector<ClassKey>& keys, int most)
 {
     Classes all = {std::vector<std::size_t>(keys.size()), {{}, most}};
     std::iota(all.order.begin(), all.order.end(), std::size_t{0});
-    std::stable_sort(all.order.begin(), all.order.end(),
-                     [&keys](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
+    sortFew(all.order, [&keys](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
     std::vector<PoolPart>& parts = all.pool.parts;
     const ClassKey* last = nullptr;
     for (const std::size_t i : all.order) {
