@@ -63,6 +63,19 @@ std::string htmlOfNumber(std::string_view shownText)
     return html;
 }
 
+// Powers are raised: "mol dm-3".
+std::string htmlOfUnit(std::string_view unit)
+{
+    const auto isOfPower = [](char c) { return isDigit(c) || c == '-'; };
+    std::string html;
+    while (!unit.empty()) {
+        html += escaped(takeAll(unit, [&](char c) { return !isOfPower(c); }));
+        const std::string_view power = takeAll(unit, isOfPower);
+        html += power.empty() ? "" : raised(power);
+    }
+    return html;
+}
+
 bool isSum(const Spans& line)
 {
     return std::any_of(line.begin(), line.end(), [](const Span& span) {
@@ -113,8 +126,9 @@ std::string htmlOfSpan(const Span& span)
         return htmlOfNumber(span.text);
     case Span::Kind::fraction:
         return htmlOfFraction(span);
-    case Span::Kind::text:
     case Span::Kind::unit:
+        return htmlOfUnit(span.text);
+    case Span::Kind::text:
     case Span::Kind::name:
     case Span::Kind::nameless: // what is rendered has none of these
     case Span::Kind::sentence:

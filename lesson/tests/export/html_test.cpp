@@ -33,6 +33,8 @@ TEST(HtmlTest, EachSpanIsTypeset)
         {line(measure("250", "mL"), " of ", Span(Span::Kind::name, "aluminium")),
          "250\u202FmL of aluminium"},
         {line("in ", unit("mol/L"), "."), "in mol/L."},
+        {line(measure("25.0", "cm3")), "25.0\u202Fcm<sup>3</sup>"},
+        {line(measure("0.500", "mol dm-3")), "0.500\u202Fmol dm<sup>−3</sup>"},
     };
     for (const Case& one : cases) {
         EXPECT_EQ(htmlOf(one.line), one.html);

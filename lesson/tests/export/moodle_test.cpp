@@ -116,6 +116,34 @@ TEST(MoodleTest, AGapTellsWhatIsDoubledOrHalved)
     EXPECT_FALSE(holds(file, "<defaultgrade>")) << "its gaps have the grade";
 }
 
+TEST(MoodleTest, WhatIsReadIsAsTheReaderWritesAndWhatIsComparedHasThePoint)
+{
+    const std::string file = lesson_export("[dilution;substance=HCl;c1=6.00;V1=25.0;V2=500]",
+                                           "moodle", "en-US;decimal=,;volume=cm3;per=power");
+    for (const char* const part : {
+             "25,0\u202Fcm<sup>3</sup>",
+             "6,00\u202Fmol dm<sup>−3</sup>",
+             "<text>0.300</text>",
+             "<tolerance>0.001</tolerance>",
+             "<unit_name>mol/L</unit_name>",
+         }) {
+        EXPECT_TRUE(holds(file, part)) << part << " in " << file;
+    }
+    const std::string last =
+        file.substr(file.rfind("<hint"), file.rfind("</hint>") - file.rfind("<hint"));
+    EXPECT_FALSE(holds(last, "0,300")) << "no hint gives the answer away: " << last;
+}
+
+TEST(MoodleTest, NamesAreThoseOfTheLanguage)
+{
+    const char* const sheet = "[compound-formula;cation=Al^3+;anion=SO4^2-]";
+    const std::string british = lesson_export(sheet, "moodle", "en-GB");
+    const std::string american = lesson_export(sheet, "moodle", "en-US");
+    EXPECT_TRUE(holds(british, "aluminium sulfate")) << british;
+    EXPECT_TRUE(holds(american, "aluminum sulfate")) << american;
+    EXPECT_FALSE(holds(american, "aluminium")) << american;
+}
+
 TEST(MoodleTest, AWrongTryCostsAThirdAndShowsAHint)
 {
     for (const char* const sheet : {"titration:3@1", "neutralisation:1@1"}) {
