@@ -173,7 +173,8 @@ void checkSlips(Problems& problems, const Json& exercise, const std::string& kin
     std::vector<std::string> texts;
     for (const Json& slip : exercise["slips"]) {
         const std::string text = slip["text"];
-        problems.expect(!slip["sentence"].empty(), "each slip has a sentence");
+        problems.expect(!slip["sentence"].empty() && isInPieces(slip["sentence"]),
+                        "each slip has a sentence, in pieces", slip.dump());
         problems.expect(text != exercise["key"]["text"], "no slip is the key", text);
         problems.expect(std::find(texts.begin(), texts.end(), text) == texts.end(),
                         "no slip comes twice", text);

@@ -117,7 +117,7 @@ void count(Told& told, const Route& route, const Asked& asked, const std::string
     const Json mark = asked.mark(typed);
     const std::string verdict = mark["verdict"];
     const bool isRight = verdict == "correct" || verdict == "figures";
-    const bool fits = !isRight && isAboutIt(route, mark["sentence"]);
+    const bool fits = !isRight && isAboutIt(route, textOf(mark["sentence"]));
     const bool isAnother = !fits && (verdict == "slip" || verdict == "power-of-ten");
     const bool isClose = !fits && verdict == "close";
     ++told.all;

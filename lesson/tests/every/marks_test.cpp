@@ -369,7 +369,7 @@ TEST(MarksTest, TheKeyIsRightInEachSpelling)
         for (const std::string& typed : spellingsOf(asked.exercise)) {
             const Json mark = asked.mark(typed);
             // Behind it there may be the rule of solubility.
-            const bool isPraised = mark["sentence"].get<std::string>().find("Correct.") == 0;
+            const bool isPraised = textOf(mark["sentence"]).find("Correct.") == 0;
             problems.expect(mark["verdict"] == "correct" && isPraised,
                             "the key is right in each spelling", typed + ": " + mark.dump());
         }

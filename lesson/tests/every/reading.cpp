@@ -53,11 +53,8 @@ std::string textOfSpan(const Json& span)
         return span["quantity"].get<std::string>() + memberOr(span, "index", "") +
                (of.empty() ? "" : "(" + of + ")");
     }
-    if (span.contains("unit")) {
-        return " " + span["unit"].get<std::string>();
-    }
-    // Text, formula, number or name.
-    return memberOr(span, "name", span.begin()->get<std::string>());
+    // Text, formula, number, unit or name.
+    return span.begin()->get<std::string>();
 }
 
 } // namespace
@@ -100,8 +97,10 @@ std::string verdictOn(const std::string& kind, unsigned paper, unsigned number,
 std::string textOf(const Json& spans)
 {
     std::string text;
+    bool isBehindNumber = false;
     for (const Json& span : spans) {
-        text += textOfSpan(span);
+        text += (isBehindNumber && span.contains("unit") ? " " : "") + textOfSpan(span);
+        isBehindNumber = span.contains("number");
     }
     return text;
 }

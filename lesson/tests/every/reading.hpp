@@ -18,7 +18,7 @@ Json exerciseAt(const std::string& kind, unsigned paper, unsigned number);
 // As it comes from the library: to look for one member in many exercises costs a fifth of reading
 // all.
 std::string exerciseText(const std::string& kind, unsigned paper, unsigned number);
-// {"verdict": …, "sentence": …}
+// {"verdict": …, "sentence": […]}, the sentence as spans.
 Json markOn(const std::string& kind, unsigned paper, unsigned number, const std::string& typed);
 std::string verdictOn(const std::string& kind, unsigned paper, unsigned number,
                       const std::string& typed);
