@@ -133,7 +133,7 @@ TEST(IonMarkTest, NoOtherIonIsEverRight)
             for (const std::string& charge : chargesTyped(*typed)) {
                 const std::string spelling = std::string(typed->formula).append(charge);
                 EXPECT_NE(markIon({asked}, {}, spelling).verdict, Verdict::correct)
-                    << spelling << " for " << asked->name;
+                    << spelling << " for " << british(nameOf(*asked));
             }
         }
     }

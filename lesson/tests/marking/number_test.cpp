@@ -170,7 +170,7 @@ TEST(AddSlipTest, LeavesOutWhatIsTheKeyToFewerFigures)
 TEST(AddSlipTest, IsForNumbersOnly)
 {
     Exercise exercise = {};
-    exercise.answer = SolubilityAnswer{true, ""};
+    exercise.answer = SolubilityAnswer{true, {}};
     addSlip(exercise, {1, 2}, line("none"));
     EXPECT_TRUE(exercise.slips.empty());
 }
