@@ -9,6 +9,7 @@
 #include "lesson/chemistry/ions.hpp"
 #include "lesson/marking/ion.hpp"
 #include "lesson/reading/typed.hpp"
+#include "lesson/tests/support/plain.hpp"
 
 namespace lesson
 {
@@ -154,10 +155,11 @@ TEST(IonPlacesTest, EveryDigitAndSignPlainLoweredOrRaisedInEachNotation)
                     const Mark mark = markIon({ion}, {}, text);
                     if (countsBehindTheSign(typed)) {
                         EXPECT_NE(mark.verdict, Verdict::correct)
-                            << text << " for " << nameInFull(*ion);
+                            << text << " for " << british(nameOf(*ion));
                         continue;
                     }
-                    EXPECT_EQ(mark.sentence, expected) << text << " for " << nameInFull(*ion);
+                    EXPECT_EQ(plain(mark.sentence), expected)
+                        << text << " for " << british(nameOf(*ion));
                     (expected == rightSentence   ? right
                      : expected == loweredCharge ? lowered
                                                  : raised)++;
@@ -184,7 +186,7 @@ TEST(IonPlacesTest, WhatIsMarkedThroughoutIsOneIonAlone)
             const std::string text = written(typed, notation);
             for (const IonRow* const asked : allIons()) {
                 EXPECT_EQ(markIon({asked}, {}, text).verdict == Verdict::correct, asked == typedIon)
-                    << text << " for " << asked->name;
+                    << text << " for " << british(nameOf(*asked));
             }
         }
     }
@@ -238,7 +240,7 @@ TEST(IonPlacesTest, UsualSpellingsOfWhatStandsBelowAndAbove)
     };
     for (const Row& row : rows) {
         for (const std::string& typed : row.typed) {
-            EXPECT_EQ(markIon({findIon(row.ion)}, {}, typed).sentence, row.sentence)
+            EXPECT_EQ(plain(markIon({findIon(row.ion)}, {}, typed).sentence), row.sentence)
                 << typed << " for " << row.ion;
         }
     }

@@ -6,6 +6,7 @@
 
 #include "lesson/exercise.hpp"
 #include "lesson/kinds/kinds.hpp"
+#include "lesson/tests/support/plain.hpp"
 
 namespace lesson
 {
@@ -60,7 +61,7 @@ TEST(MarkupTest, EveryFormOfAnswerMayBeWrapped)
             const Exercise exercise = makeExercise({7, number, kind, 3});
             for (const char* const begin : {"\\ce{", "$\\ce{", "\\mathrm{"}) {
                 const std::string end = begin[0] == '$' ? "}$" : "}";
-                const std::string typed = begin + exercise.key + end;
+                const std::string typed = begin + typedKey(exercise) + end;
                 EXPECT_EQ(markAnswer(exercise, typed).verdict, Verdict::correct) << typed;
             }
         }

@@ -402,9 +402,11 @@ TEST(NumberReaderTest, ReadsAsTheReaderWrites)
         {"c = 58,443 mL", "point or comma: 58.443", "58443e-6 (5)"},
     };
     // clang-format on
+    Writing comma;
+    comma.decimal = ',';
     for (const Case& c : cases) {
         EXPECT_EQ(read(c.typed, litres), c.withPoint) << c.typed << " with a point";
-        EXPECT_EQ(read(c.typed, litres, {','}), c.withComma) << c.typed << " with a comma";
+        EXPECT_EQ(read(c.typed, litres, comma), c.withComma) << c.typed << " with a comma";
     }
 }
 
