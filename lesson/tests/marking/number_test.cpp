@@ -732,7 +732,7 @@ TEST(MarkNumberTest, MarksAsTheReaderWrites)
     EXPECT_EQ(markNumber(answer, ask, {}, "58,443", comma).verdict, Verdict::correct);
     EXPECT_EQ(plain(markNumber(answer, ask, {}, "58,443").sentence),
               "Do you mean 58443 or 58.443?");
-    EXPECT_EQ(plain(markNumber(answer, ask, {}, "58.443", comma).sentence),
+    EXPECT_EQ(plainText(markNumber(answer, ask, {}, "58.443", comma).sentence, comma),
               "Do you mean 58443 or 58,443?");
     EXPECT_EQ(markNumber(answer, ask, {}, "58.443").verdict, Verdict::correct);
 }
