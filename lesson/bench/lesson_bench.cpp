@@ -8,6 +8,7 @@
 #include "lesson/kinds/kinds.hpp"
 #include "lesson/lesson.h"
 #include "lesson/tests/support/reference.hpp"
+#include "lesson/words/render.hpp"
 
 namespace
 {
