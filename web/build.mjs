@@ -31,8 +31,8 @@ const page = Object.entries({ POLICY: policy, STYLE: style, SCRIPT: script }).re
 );
 await writeFile(target, page);
 
-// By zopfli, which takes its time for a twentieth less, with the same bytes on every machine. Under which name a script imports them, and
-// where they are.
+// By zopfli, which takes its time for a twentieth less, with the same bytes on every machine. Gives the name
+// by which a script imports it, and where it is.
 async function packed(/** @type {string} */ name, /** @type {string} */ file) {
     const path = resolve(dirname(target), name);
     await writeFile(path, await zlibAsync(await readFile(file), {}));
