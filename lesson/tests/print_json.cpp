@@ -1,7 +1,7 @@
 // Prints what the lesson's interface gives, for checks in other languages:
 //
 //   print_json kinds                         one line
-//   print_json tables                        the same
+//   print_json tables [WRITING]              the same
 //   print_json exercises KIND PAPER COUNT    exercises 1 to COUNT of a paper, one a line
 //   print_json export FORMAT PAPER SHEET     the file, or the error
 //
@@ -19,9 +19,10 @@ namespace
 
 int tellUsage()
 {
-    std::fputs("usage: print_json kinds | print_json tables | print_json exercises KIND PAPER "
-               "COUNT | print_json export FORMAT PAPER SHEET\n",
-               stderr);
+    std::fputs(
+        "usage: print_json kinds | print_json tables [WRITING] | print_json exercises KIND PAPER "
+        "COUNT | print_json export FORMAT PAPER SHEET\n",
+        stderr);
     return 2;
 }
 
@@ -36,8 +37,8 @@ int main(int argc, char** argv)
 {
     if (argc == 2 && std::strcmp(argv[1], "kinds") == 0) {
         std::puts(lesson_kinds(nullptr));
-    } else if (argc == 2 && std::strcmp(argv[1], "tables") == 0) {
-        std::puts(lesson_tables(nullptr));
+    } else if ((argc == 2 || argc == 3) && std::strcmp(argv[1], "tables") == 0) {
+        std::puts(lesson_tables(argv[2])); // null behind the last one
     } else if (argc == 5 && std::strcmp(argv[1], "exercises") == 0) {
         const unsigned count = numberIn(argv[4]);
         for (unsigned number = 1; number <= count; ++number) {

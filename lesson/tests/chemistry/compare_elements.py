@@ -69,8 +69,7 @@ def compare_elements(elements):
         symbol, mass = row["symbol"], row["mass"]
         other = periodictable.elements[row["number"]]
         check(symbol == other.symbol, f"{row['number']} is {symbol}, there {other.symbol}")
-        name = row.get("american", row["name"])
-        check(name == other.name, f"{symbol} is {name}, there {other.name}")
+        check(row["name"] == other.name, f"{symbol} is {row['name']}, there {other.name}")
         there = mass_there(symbol, mass.startswith("["))
         if mass != there:
             needed.add(symbol)
@@ -158,7 +157,7 @@ def printed(*command):
 
 def main():
     print_json = sys.argv[1]
-    tables = json.loads(printed(print_json, "tables"))
+    tables = json.loads(printed(print_json, "tables", "en-US"))
     compare_elements(tables["elements"])
     compare_ions(tables["ions"])
 
