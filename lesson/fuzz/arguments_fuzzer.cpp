@@ -1,4 +1,4 @@
-// Any arguments: either both functions tell the same error, or there is an exercise, which its
+// Any arguments: either all functions tell the same error, or there is an exercise, which its
 // description makes again, and there is a mark. An input is a line for the exercise, one for the
 // writing and the rest for what is typed; one that begins with NUL is a null pointer.
 
@@ -28,7 +28,7 @@ bool isInRange(const nlohmann::json& number)
     return number >= 1 && number <= 999999;
 }
 
-void checkExercise(nlohmann::json exercise)
+void checkExercise(nlohmann::json exercise, const char* writing)
 {
     if (exercise.contains("paper")) {
         require(isInRange(exercise["paper"]), "the paper is in range");
@@ -37,7 +37,7 @@ void checkExercise(nlohmann::json exercise)
     const std::string description = textIn(exercise, "description");
     exercise.erase("paper");
     exercise.erase("number");
-    require(parsed(lesson_exercise(description.c_str(), nullptr)) == exercise,
+    require(parsed(lesson_exercise(description.c_str(), writing)) == exercise,
             "its description makes it again");
 }
 
@@ -52,12 +52,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const char* const typed = pointerTo(lines);
     const nlohmann::json exercise = parsed(lesson_exercise(name, pointerTo(writing)));
     const nlohmann::json mark = parsed(lesson_mark(name, typed, pointerTo(writing)));
+    const nlohmann::json read = parsed(lesson_read(name, typed, pointerTo(writing)));
     if (exercise.contains("error")) {
         require(!textIn(exercise, "error").empty(), "there is a sentence");
-        require(mark == exercise, "both functions tell the same error");
+        require(mark == exercise && read == exercise, "all functions tell the same error");
         return 0;
     }
-    checkExercise(exercise);
+    checkExercise(exercise, pointerTo(writing));
     require(mark.contains(typed == nullptr ? "error" : "verdict"), "what is typed gets a mark");
+    require(read.contains(typed == nullptr ? "error" : "read"), "what is typed is read");
     return 0;
 }
