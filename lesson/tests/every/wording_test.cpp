@@ -135,7 +135,7 @@ void checkNumberAskedFor(Problems& problems, const Asked& asked)
 {
     const Json& ask = asked.exercise["ask"];
     if (ask["form"] == "number") {
-        const std::string unit = "in  " + ask["unit"].get<std::string>(); // a blank of each span
+        const std::string unit = "in " + ask["unit"].get<std::string>();
         const bool isAsked = asked.prompt().find("Calculate the ") != std::string::npos;
         problems.expect(isAsked && asked.prompt().find(unit) != std::string::npos,
                         "a number is asked for in its unit", asked.prompt());
