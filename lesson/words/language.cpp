@@ -43,14 +43,17 @@ std::string_view ammoniaSolutionIn(const Language& language)
                                             : language.ammoniaSolution;
 }
 
-constexpr const Language& (*languages[])() = {britishEnglish, americanEnglish};
+const std::vector<const Language*>& allLanguages()
+{
+    static const std::vector<const Language*> all = {&britishEnglish(), &americanEnglish()};
+    return all;
+}
 
 } // namespace
 
 const Language* findLanguage(std::string_view tag)
 {
-    for (const auto& languageOf : languages) {
-        const Language* const language = &languageOf();
+    for (const Language* const language : allLanguages()) {
         if (language->tag == tag) {
             return language;
         }
@@ -74,9 +77,9 @@ namespace
 std::vector<const TypedWords*> findTypedWords()
 {
     std::vector<const TypedWords*> all;
-    for (const auto& languageOf : languages) {
-        if (languageOf().typed != nullptr) {
-            all.push_back(languageOf().typed);
+    for (const Language* const language : allLanguages()) {
+        if (language->typed != nullptr) {
+            all.push_back(language->typed);
         }
     }
     return all;
@@ -142,8 +145,8 @@ std::string nameIn(const Language& language, const Name& name)
 std::vector<std::string> namesOf(const Name& name)
 {
     std::vector<std::string> names;
-    for (const auto& language : languages) {
-        names.push_back(nameIn(language(), name));
+    for (const Language* const language : allLanguages()) {
+        names.push_back(nameIn(*language, name));
     }
     return names;
 }

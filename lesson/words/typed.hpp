@@ -12,7 +12,9 @@ template <typename Row>
 class List
 {
 public:
+    // A table is such a list by itself.
     template <std::size_t N>
+    // cppcheck-suppress noExplicitConstructor
     constexpr List(const Row (&rows)[N]) : first(rows), count(N)
     {
     }
