@@ -86,8 +86,8 @@ template <typename AnswerTo>
 std::string withExercise(const char* text, const char* writing, const AnswerTo& answerTo)
 {
     return withWriting(writing, [&](const Writing& written) {
-        const NamedExercise named = exerciseNamed(textIn(text));
-        return named.error.empty() ? answerTo(named.exercise, written)
+        NamedExercise named = exerciseNamed(textIn(text));
+        return named.error.empty() ? answerTo(std::move(named.exercise), written)
                                    : errorJson(named.error, written);
     });
 }

@@ -13,6 +13,7 @@ namespace
 {
 
 void addRendered(Spans& line, const Span& span, const Writing& writing);
+void render(Spans& line, const Writing& writing);
 
 // What a placeholder says itself: "unit mL", "quantity V 1".
 Span spanOf(std::string_view placeholder)
@@ -38,11 +39,11 @@ void capitalise(std::string& words)
     }
 }
 
-void addArgument(Spans& line, const Span& argument, bool isFirstWord, const Writing& writing)
+void addFirstWord(Spans& line, const Span& argument, const Writing& writing)
 {
     Spans spans;
     addRendered(spans, argument, writing);
-    if (isFirstWord && !spans.empty()) {
+    if (!spans.empty()) {
         capitalise(spans.front().text);
     }
     append(line, spans);
@@ -57,8 +58,8 @@ void addSentence(Spans& line, const Span& said, const Writing& writing)
         const Placeholder next = nextPlaceholder(pattern, from);
         append(line, std::string(pattern.substr(from, next.from - from)));
         if (next.isArgument()) {
-            addArgument(line, said.over[placeOfArgument(british, next.name)],
-                        isCapital(next.name.front()), writing);
+            const Span& argument = said.over[placeOfArgument(british, next.name)];
+            (isCapital(next.name.front()) ? addFirstWord : addRendered)(line, argument, writing);
         } else if (next.from != std::string_view::npos) {
             addRendered(line, spanOf(next.name), writing);
         }
@@ -73,6 +74,19 @@ void addAll(Spans& line, const Spans& spans, const Writing& writing)
     }
 }
 
+// A number or a unit as the reader writes it, also within a fraction.
+void rewrite(Span& span, const Writing& writing)
+{
+    if (span.kind == Span::Kind::number) {
+        span.text = numberIn(writing, span.text);
+    } else if (span.kind == Span::Kind::unit) {
+        span.text = unitIn(writing, span.text);
+    } else if (span.kind == Span::Kind::fraction) {
+        render(span.over, writing);
+        render(span.under, writing);
+    }
+}
+
 void addRendered(Spans& line, const Span& span, const Writing& writing)
 {
     switch (span.kind) {
@@ -81,25 +95,31 @@ void addRendered(Spans& line, const Span& span, const Writing& writing)
     case Span::Kind::line:
         return addAll(line, span.over, writing);
     case Span::Kind::nameless:
-        return append(line, Span(Span::Kind::name, nameIn(*writing.language, span.named)));
-    case Span::Kind::number:
-        return append(line, number(numberIn(writing, span.text)));
-    case Span::Kind::unit:
-        return append(line, unit(unitIn(writing, span.text)));
-    case Span::Kind::fraction:
-        return append(line, fraction(rendered(span.over, writing), rendered(span.under, writing)));
+        line.emplace_back(Span::Kind::name, nameIn(*writing.language, span.named));
+        return;
     case Span::Kind::text:
-    case Span::Kind::formula:
-    case Span::Kind::ion:
-    case Span::Kind::quantity:
-    case Span::Kind::name:
         return append(line, span);
+    default:
+        line.push_back(span);
+        rewrite(line.back(), writing);
     }
+}
+
+bool needsLanguage(const Span& span)
+{
+    return span.kind == Span::Kind::sentence || span.kind == Span::Kind::line ||
+           span.kind == Span::Kind::nameless;
 }
 
 void render(Spans& line, const Writing& writing)
 {
-    line = rendered(line, writing);
+    if (std::any_of(line.begin(), line.end(), needsLanguage)) {
+        line = rendered(line, writing);
+        return;
+    }
+    for (Span& span : line) {
+        rewrite(span, writing);
+    }
 }
 
 std::string cubic(std::string_view unit)
