@@ -26,8 +26,8 @@ using AcidSet = IdSet<Acid>;
 struct AcidRow {
     Acid id;
     std::string_view formula;
-    Ion anion;                 // what is left without the protons
-    int weight;                // how common it is in comparison with others, as IonRow has it
+    Ion anion;  // what is left without the protons
+    int weight; // how common it is in comparison with others, as IonRow has it
 };
 const AcidRow& rowOf(Acid acid);
 const std::vector<const AcidRow*>& acids();

@@ -13,8 +13,8 @@ struct ElementRow {
     int thousandths;   // relative atomic mass in thousandths, of four figures
     bool isMassNumber; // of one isotope, instead of the mean of nature's mixture
     std::string_view symbol;
-    int period;                // row of the periodic table, 1 to 7
-    int group;                 // column, 1 to 18; 0 for the lanthanides and actinides
+    int period; // row of the periodic table, 1 to 7
+    int group;  // column, 1 to 18; 0 for the lanthanides and actinides
 };
 
 // The 118 elements by atomic number, 1 to 118.

@@ -71,11 +71,11 @@ constexpr std::size_t ionCount = static_cast<std::size_t>(Ion::ethanedioate) + 1
 
 struct IonRow {
     Ion id;
-    std::string_view formula;  // without the charge: "Cu", "HCO3"
-    int charge;                // with its sign
-    bool isGroup;              // of several atoms, which takes brackets where it occurs repeatedly
-    int weight;                // how common it is in comparison with others, 1 to 6
-    int oxidationNumber;       // that the name tells: 2 of copper(II), 7 of manganate(VII); else 0
+    std::string_view formula; // without the charge: "Cu", "HCO3"
+    int charge;               // with its sign
+    bool isGroup;             // of several atoms, which takes brackets where it occurs repeatedly
+    int weight;               // how common it is in comparison with others, 1 to 6
+    int oxidationNumber;      // that the name tells: 2 of copper(II), 7 of manganate(VII); else 0
 };
 const IonRow& rowOf(Ion ion);
 

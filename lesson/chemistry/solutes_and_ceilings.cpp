@@ -129,12 +129,7 @@ SoluteRow soluteOf(const SaltRow& row)
     const IonRow& cation = rowOf(row.cation);
     const IonRow& anion = rowOf(row.anion);
     const std::string formula = compoundFormula(cation, anion);
-    return {SoluteKind::salt,
-            formula,
-            formula,
-            row.ceiling,
-            row.weighed,
-            row.greatestMass,
+    return {SoluteKind::salt,     formula, formula, row.ceiling, row.weighed, row.greatestMass,
             nameOf(cation, anion)};
 }
 
@@ -156,7 +151,7 @@ SoluteRow soluteOf(Acid acid, int ceiling, Weighed weighed)
 {
     const AcidRow& row = rowOf(acid);
     const std::string formula(row.formula);
-    return {SoluteKind::acid,         formula, formula, ceiling, weighed, 0, nameOf(row)};
+    return {SoluteKind::acid, formula, formula, ceiling, weighed, 0, nameOf(row)};
 }
 
 SoluteRow soluteOf(const AcidSolutionRow& row)
@@ -167,7 +162,7 @@ SoluteRow soluteOf(const AcidSolutionRow& row)
 SoluteRow ammoniaSolution()
 {
     const std::string formula = formulaOf(ammonia());
-    return {SoluteKind::ammonia,     formula, formula,           0,
+    return {SoluteKind::ammonia,     formula, formula,          0,
             Weighed::comesDissolved, 0,       nameOf(ammonia())};
 }
 

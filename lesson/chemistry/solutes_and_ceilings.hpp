@@ -30,7 +30,7 @@ struct SoluteRow {
     int ceiling; // greatest concentration, in hundredths of mol/L; 0 where titrations have
                  // a range of their own
     Weighed weighed;
-    int greatestMass;     // to weigh, in hundredths of a gram; 0 where the ceiling says enough
+    int greatestMass; // to weigh, in hundredths of a gram; 0 where the ceiling says enough
     Name name;
 };
 

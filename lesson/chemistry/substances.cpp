@@ -3,7 +3,6 @@
 #include <iterator>
 #include <string_view>
 
-
 namespace lesson
 {
 
@@ -61,7 +60,6 @@ constexpr CrystalRow crystalRows[] = {
 };
 static_assert(std::size(crystalRows) == 18);
 // clang-format on
-
 
 SubstanceRow substanceOf(const CrystalRow& row)
 {

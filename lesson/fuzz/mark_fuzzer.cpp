@@ -1,6 +1,7 @@
 // Any text as an answer of one form, which `markedKinds` names by the exercises that ask for it: it
-// gets a verdict and a sentence, of which blanks around it change neither, and is read. The first byte of an input
-// chooses kind and level, the second one the paper, the others are the answer up to the first NUL.
+// gets a verdict and a sentence, of which blanks around it change neither, and is read. The first
+// byte of an input chooses kind and level, the second one the paper, the others are the answer up
+// to the first NUL.
 
 #include <algorithm>
 #include <set>

@@ -17,9 +17,9 @@ namespace lesson
 // The names and their order are those of British English; the others name the same.
 
 struct Placeholder {
-    std::string_view name;       // without the brackets
-    std::size_t from;            // where its bracket stands; npos where there is none left
-    std::size_t behind;          // where the text goes on
+    std::string_view name; // without the brackets
+    std::size_t from;      // where its bracket stands; npos where there is none left
+    std::size_t behind;    // where the text goes on
     constexpr bool isArgument() const
     {
         return from != std::string_view::npos && name.find(' ') == std::string_view::npos;

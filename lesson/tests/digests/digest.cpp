@@ -55,7 +55,8 @@ private:
 std::vector<std::string> typedTexts(const Exercise& exercise)
 {
     std::vector<std::string> texts = {
-        keyText(exercise, Writing()), "", "42", "Mg2O2", "SO4^2-", "no", "HCl + NaOH -> NaCl + H2O"};
+        keyText(exercise, Writing()), "", "42", "Mg2O2", "SO4^2-", "no",
+        "HCl + NaOH -> NaCl + H2O"};
     for (const Slip& slip : exercise.slips) {
         texts.push_back(slip.text);
     }
