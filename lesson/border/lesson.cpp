@@ -78,7 +78,7 @@ template <typename AnswerTo>
 std::string withWriting(const char* name, const AnswerTo& answerTo)
 {
     const NamedWriting named = readWriting(textIn(name));
-    return named.error.empty() ? answerTo(named.writing) : errorJson(named.error, Writing());
+    return named.error.empty() ? answerTo(named.writing) : errorJson(named.error, named.writing);
 }
 
 // What `answerTo` makes of the exercise that a text names as well.

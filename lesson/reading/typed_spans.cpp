@@ -114,9 +114,9 @@ std::string_view signOf(const TypedEquation& equation)
     return equation.right.empty() ? "" : " - ";
 }
 
-bool hasReadTerm(const std::vector<TypedTerm>& terms)
+bool isAllRead(const std::vector<TypedTerm>& terms)
 {
-    return std::any_of(terms.begin(), terms.end(),
+    return std::all_of(terms.begin(), terms.end(),
                        [](const TypedTerm& term) { return term.unread.empty(); });
 }
 
@@ -195,7 +195,7 @@ std::vector<Spans> ionSpans(std::string_view marked)
 
 Spans equationSpans(const TypedEquation& equation)
 {
-    if (!hasReadTerm(equation.left) && !hasReadTerm(equation.right)) {
+    if (equation.left.empty() || !isAllRead(equation.left) || !isAllRead(equation.right)) {
         return {};
     }
     const bool isTurned = equation.arrow == Arrow::toTheLeft;

@@ -20,8 +20,7 @@ Spans measureSpans(const TypedMeasure& measure);
 // stands lowered or raised where it does not belong is a text that shows it so.
 std::vector<Spans> ionSpans(std::string_view marked);
 
-// Its terms and its arrow; those that could not be read as they were typed. Nothing where no term
-// could be read.
+// Its terms and its arrow. Nothing where a term could not be read, or there is none on the left.
 Spans equationSpans(const TypedEquation& equation);
 
 // Spans as they might be typed; they are read as what they are made from, in the writing with a

@@ -1,4 +1,4 @@
-#include "lesson/words/en_GB.hpp"
+#include "lesson/words/en_GB_sentences.hpp"
 
 #include <iterator>
 
@@ -213,9 +213,16 @@ constexpr Language language = {
     {moleculeNames, std::size(moleculeNames)},
     "ammonia solution",
     &typedEnglish,
+    &englishForms,
 };
 
-static_assert(std::size(elementNames) == elementCount && std::size(ionNames) == ionCount,
+static_assert(areInOrder(elementNames) && areInOrder(ionNames) && areInOrder(acidNames) &&
+                  areInOrder(moleculeNames),
+              "a name is looked up by its id");
+static_assert(std::size(elementNames) == elementCount && std::size(ionNames) == ionCount &&
+                  std::size(acidNames) == static_cast<std::size_t>(Acid::ethanedioic) + 1 &&
+                  std::size(moleculeNames) ==
+                      static_cast<std::size_t>(Molecule::hydrogenPeroxide) + 1,
               "everything has a name");
 
 } // namespace

@@ -11,6 +11,10 @@ namespace
 template <typename Id>
 const Word<Id>* find(const Words<Id>& words, Id id)
 {
+    const auto place = static_cast<std::size_t>(id);
+    if (place < words.count && words.rows[place].id == id) { // where nothing is left out
+        return words.rows + place;
+    }
     const Word<Id>* const end = words.rows + words.count;
     const Word<Id>* const found = std::lower_bound(
         words.rows, end, id, [](const Word<Id>& word, Id wanted) { return word.id < wanted; });
@@ -30,11 +34,14 @@ std::string_view ionIn(const Language& language, std::uint8_t id)
     return textOf(language, &Language::ions, static_cast<Ion>(id));
 }
 
-std::string withWater(std::string_view dry, int water)
+const NameForms& formsOf(const Language& language)
 {
-    constexpr const char* numbers[] = {"mono", "di",    "tri",  "tetra", "penta",
-                                       "hexa", "hepta", "octa", "nona",  "deca"};
-    return water == 0 ? std::string(dry) : std::string(dry) + " " + numbers[water - 1] + "hydrate";
+    return language.forms == nullptr ? formsOf(*language.base) : *language.forms;
+}
+
+std::string withWater(const Language& language, std::string_view dry, int water)
+{
+    return water == 0 ? std::string(dry) : formsOf(language).hydrate(dry, water);
 }
 
 std::string_view ammoniaSolutionIn(const Language& language)
@@ -43,13 +50,13 @@ std::string_view ammoniaSolutionIn(const Language& language)
                                             : language.ammoniaSolution;
 }
 
+} // namespace
+
 const std::vector<const Language*>& allLanguages()
 {
     static const std::vector<const Language*> all = {&britishEnglish(), &americanEnglish()};
     return all;
 }
-
-} // namespace
 
 const Language* findLanguage(std::string_view tag)
 {
@@ -126,13 +133,14 @@ std::string nameIn(const Language& language, const Name& name)
         return std::string(inFull.substr(0, inFull.find('(')));
     }
     case Name::Of::family:
-        return std::string(ionIn(language, name.id)) + "s";
+        return formsOf(language).family(ionIn(language, name.id));
     case Name::Of::compound:
-        return withWater(std::string(ionIn(language, name.id)) + " " +
-                             std::string(ionIn(language, name.anion)),
-                         name.water);
+        return withWater(
+            language,
+            formsOf(language).compound(ionIn(language, name.id), ionIn(language, name.anion)),
+            name.water);
     case Name::Of::acid:
-        return withWater(textOf(language, &Language::acids, static_cast<Acid>(name.id)),
+        return withWater(language, textOf(language, &Language::acids, static_cast<Acid>(name.id)),
                          name.water);
     case Name::Of::ammoniaSolution:
         return std::string(ammoniaSolutionIn(language));

@@ -25,8 +25,26 @@ struct Words {
     std::size_t count;
 };
 
-// What a language says. Where one has no row for something, it says what the one does that it rests
-// upon.
+template <typename Id, std::size_t N>
+constexpr bool areInOrder(const Word<Id> (&rows)[N])
+{
+    bool isAbove = true;
+    for (std::size_t i = 1; i < N; ++i) {
+        isAbove = isAbove && rows[i - 1].id < rows[i].id;
+    }
+    return isAbove;
+}
+
+// How a language makes names of names.
+struct NameForms {
+    std::string (*family)(std::string_view anion); // all compounds of it: "sulfates"
+    std::string (*compound)(std::string_view cation, std::string_view anion);
+    std::string (*hydrate)(std::string_view dry, int water); // of 1 to 10 molecules of water
+};
+extern const NameForms englishForms;
+
+// What a language says. Where one has nothing for something, it says what the one does that it
+// rests upon, as those of several countries do; another language rests upon none, and has all.
 struct Language {
     std::string_view tag; // "en-GB"
     const Language* base; // null where it has all itself
@@ -37,12 +55,14 @@ struct Language {
     Words<Molecule> molecules;
     std::string_view ammoniaSolution;
     const TypedWords* typed;
+    const NameForms* forms;
 };
 
 const Language& britishEnglish();
 const Language& americanEnglish();
 
-// The one of a tag, "en-US"; null where there is none.
+// All of them, and the one of a tag, "en-US"; null where there is none.
+const std::vector<const Language*>& allLanguages();
 const Language* findLanguage(std::string_view tag);
 
 // The pattern of a sentence, see pattern.hpp.

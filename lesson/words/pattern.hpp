@@ -87,4 +87,30 @@ constexpr bool haveSameArguments(std::string_view a, std::string_view b)
     return holdsAll(a, b) && holdsAll(b, a);
 }
 
+// Whether each bracket ends, and what is no argument is of one of the kinds of spans.
+constexpr bool isReadable(std::string_view pattern)
+{
+    constexpr std::string_view kinds[] = {"unit ", "formula ", "ion ", "quantity ", "number "};
+    bool isRead = true;
+    for (Placeholder one = nextPlaceholder(pattern, 0); one.from != std::string_view::npos;
+         one = nextPlaceholder(pattern, one.behind)) {
+        bool isKnown = one.isArgument();
+        for (const std::string_view kind : kinds) {
+            isKnown = isKnown || one.name.substr(0, kind.size()) == kind;
+        }
+        isRead = isRead && isKnown && !one.name.empty() && one.behind != 0;
+    }
+    return isRead;
+}
+
+template <typename Row, std::size_t N>
+constexpr bool areReadable(const Row (&rows)[N])
+{
+    bool areRead = true;
+    for (const Row& row : rows) {
+        areRead = areRead && isReadable(row.text);
+    }
+    return areRead;
+}
+
 } // namespace lesson

@@ -52,12 +52,12 @@ void addFirstWord(Spans& line, const Span& argument, const Writing& writing)
 void addSentence(Spans& line, const Span& said, const Writing& writing)
 {
     const std::string_view pattern = patternIn(*writing.language, said.says);
-    const std::string_view british = patternIn(britishEnglish(), said.says);
     std::size_t from = 0;
     while (from < pattern.size()) {
         const Placeholder next = nextPlaceholder(pattern, from);
-        append(line, std::string(pattern.substr(from, next.from - from)));
+        addWords(line, pattern.substr(from, next.from - from));
         if (next.isArgument()) {
+            const std::string_view british = patternIn(britishEnglish(), said.says);
             const Span& argument = said.over[placeOfArgument(british, next.name)];
             (isCapital(next.name.front()) ? addFirstWord : addRendered)(line, argument, writing);
         } else if (next.from != std::string_view::npos) {
@@ -98,7 +98,7 @@ void addRendered(Spans& line, const Span& span, const Writing& writing)
         line.emplace_back(Span::Kind::name, nameIn(*writing.language, span.named));
         return;
     case Span::Kind::text:
-        return append(line, span);
+        return addWords(line, span.text);
     default:
         line.push_back(span);
         rewrite(line.back(), writing);

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "lesson/words/en_GB.hpp"
+#include "lesson/words/en_GB_sentences.hpp"
 #include "lesson/words/spans.hpp"
 
 namespace lesson

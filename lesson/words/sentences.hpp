@@ -5,8 +5,8 @@
 namespace lesson
 {
 
-// Every sentence that the library says, in the order in which the languages list them; en_GB.hpp
-// has them in English.
+// Every sentence that the library says, in the order in which the languages list them;
+// en_GB_sentences.hpp has them in English.
 enum class Sentence : std::uint16_t {
     // ---- titles and levels of kinds
     molarMassTitle,

@@ -57,10 +57,6 @@ Span name(const Name& named)
     return span;
 }
 
-namespace
-{
-
-// Words join the words before them.
 void addWords(Spans& line, std::string_view words)
 {
     if (words.empty()) {
@@ -71,6 +67,9 @@ void addWords(Spans& line, std::string_view words)
     }
     line.back().text += words;
 }
+
+namespace
+{
 
 void addSpan(Spans& line, const Span& span)
 {

@@ -82,6 +82,8 @@ private:
 };
 
 void append(Spans& line, const Piece& piece);
+// Words join the words before them.
+void addWords(Spans& line, std::string_view words);
 
 Spans lineOf(const Piece* pieces, std::size_t count);
 

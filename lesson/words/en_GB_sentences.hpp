@@ -528,6 +528,7 @@ constexpr bool haveAllSentences()
     return areAtTheirPlaces && static_cast<Sentence>(place) == Sentence::last;
 }
 static_assert(haveAllSentences(), "each sentence stands at its place");
+static_assert(areReadable(britishSentences), "what stands in brackets can be read");
 
 // How many arguments a sentence takes.
 constexpr std::size_t argumentCount(Sentence sentence)
