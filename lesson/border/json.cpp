@@ -1,6 +1,7 @@
 #include "lesson/border/json.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <utility>
 
@@ -15,16 +16,25 @@ namespace
 
 constexpr std::string_view replacementCharacter = "\uFFFD";
 
-// Stands in a JSON string as it is, and is a whole character.
-bool isPlain(char c)
+// Which bytes stand in a JSON string as they are, and are whole characters: most of an exercise is
+// such text, so they are looked up.
+constexpr std::array<bool, 256> findPlain()
 {
-    return c >= ' ' && c <= '~' && c != '"' && c != '\\';
+    std::array<bool, 256> plain = {};
+    for (std::size_t c = ' '; c <= '~'; ++c) {
+        plain[c] = c != '"' && c != '\\';
+    }
+    return plain;
 }
+constexpr std::array<bool, 256> isPlain = findPlain();
 
 std::size_t plainLength(std::string_view text)
 {
-    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) -
-                                    text.begin());
+    std::size_t length = 0;
+    while (length < text.size() && isPlain[static_cast<unsigned char>(text[length])]) {
+        ++length;
+    }
+    return length;
 }
 
 std::string escaped(char c)
