@@ -176,7 +176,7 @@ std::string numberIn(const Writing& writing, std::string_view shownText)
 
 std::string unitIn(const Writing& writing, std::string_view unit)
 {
-    const std::string text = writing.isVolumeCubic ? cubic(unit) : std::string(unit);
+    std::string text = writing.isVolumeCubic ? cubic(unit) : std::string(unit);
     const std::size_t slash = text.find('/');
     if (!writing.isPerAPower || slash == std::string::npos) {
         return text;

@@ -98,8 +98,9 @@ TEST(WritingsTest, NoPointIsLeftInANumber)
         const Json json = Json::parse(lesson_exercise(exercise.c_str(), "en-GB;decimal=,"));
         const std::string said =
             json["prompt"].dump() + json["solution"].dump() + json["key"]["spans"].dump();
-        for (std::size_t at = said.find("\"number\":\""); at != std::string::npos;
-             at = said.find("\"number\":\"", at + 1)) {
+        const std::string member = R"("number":")";
+        for (std::size_t at = said.find(member); at != std::string::npos;
+             at = said.find(member, at + 1)) {
             const std::string number = said.substr(at + 10, said.find('"', at + 10) - at - 10);
             EXPECT_EQ(number.find('.'), std::string::npos) << exercise << ": " << number;
         }

@@ -41,11 +41,11 @@ std::function<bool(const std::string&)> holds(const std::string& part)
 // A given ion or compound: no span of a line has such members.
 std::function<bool(const std::string&)> hasIon(int charge, const std::string& name)
 {
-    return holds("\"charge\":" + std::to_string(charge) + ",\"name\":\"" + name + "\"");
+    return holds("\"charge\":" + std::to_string(charge) + R"(,"name":")" + name + "\"");
 }
 std::function<bool(const std::string&)> hasCompound(const std::string& formula)
 {
-    return holds("\"compound\":\"" + formula + "\"");
+    return holds(R"("compound":")" + formula + "\"");
 }
 
 // What stands between two members of an exercise's text.
