@@ -72,8 +72,7 @@ std::string_view textIn(const char* text)
     return text == nullptr ? "" : text;
 }
 
-// What `answerTo` makes of the way in which the reader writes, or the error in its name, which is
-// told in British English.
+// What `answerTo` makes of the way in which the reader writes, or the error in its name.
 template <typename AnswerTo>
 std::string withWriting(const char* name, const AnswerTo& answerTo)
 {
